@@ -1,0 +1,1051 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU" sourcelanguage="en_US">
+<context>
+    <name>bwaf::BModule</name>
+    <message>
+        <source>The data of the module %1 is incomplete: %2</source>
+        <translation>Данные модуля %1 неполны: %2</translation>
+    </message>
+</context>
+<context>
+    <name>controller::Texts</name>
+    <message>
+        <source>out of reach: the wrist would stand %1 mm from the shoulder, the arm reaches %2 mm</source>
+        <translation>вне досягаемости: запястье оказалось бы в %1 mm от плеча, рука достаёт на %2 mm</translation>
+    </message>
+    <message>
+        <source>joint %1 would stand at %2°, its limits are %3° and %4°</source>
+        <translation>ось %1 встала бы на %2°, её пределы %3° и %4°</translation>
+    </message>
+    <message>
+        <source>The panel speaks version %1 of the link, the controller version %2.</source>
+        <translation>Версия связи панели — %1, контроллера — %2.</translation>
+    </message>
+    <message>
+        <source>a Hello without a session</source>
+        <translation>приветствие Hello без сеанса</translation>
+    </message>
+    <message>
+        <source>serves another panel</source>
+        <translation>обслуживает другую панель</translation>
+    </message>
+    <message>
+        <source>nothing is done before a Hello was accepted</source>
+        <translation>до принятия Hello ничего не выполняется</translation>
+    </message>
+    <message>
+        <source>a panel sends no message of the kind %1</source>
+        <translation>панель не отправляет сообщений вида %1</translation>
+    </message>
+    <message>
+        <source>the controller ended the connection</source>
+        <translation>контроллер закрыл соединение</translation>
+    </message>
+    <message>
+        <source>signals cannot be caught</source>
+        <translation>сигналы нельзя перехватить</translation>
+    </message>
+    <message>
+        <source>after %1 % of the straight way joint %2 would turn by %3° at one place</source>
+        <translation>после %1 % прямого пути ось %2 повернулась бы на %3° на месте</translation>
+    </message>
+    <message>
+        <source>after %1 % of the straight way: %2</source>
+        <translation>после %1 % прямого пути: %2</translation>
+    </message>
+    <message>
+        <source>no recipe: %1</source>
+        <translation>не рецепт: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no recipe: %2</source>
+        <translation>«%1» — не рецепт: %2</translation>
+    </message>
+    <message>
+        <source>this is no list of recipes</source>
+        <translation>это не список рецептов</translation>
+    </message>
+    <message>
+        <source>the name is there twice</source>
+        <translation>имя повторяется</translation>
+    </message>
+    <message>
+        <source>entry %1: %2</source>
+        <translation>запись %1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;index&quot; is missing or no whole number</source>
+        <translation>«index» отсутствует или не целое число</translation>
+    </message>
+    <message>
+        <source>there is no recipe %1, there are %2</source>
+        <translation>рецепта %1 нет, всего рецептов: %2</translation>
+    </message>
+    <message>
+        <source>&quot;name&quot; is missing or no text</source>
+        <translation>«name» отсутствует или не текст</translation>
+    </message>
+    <message>
+        <source>recipe %1 has the name &quot;%2&quot; already</source>
+        <translation>имя «%2» уже есть у рецепта %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>«%1» отсутствует</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no list of %2 numbers</source>
+        <translation>«%1» — не список из %2 чисел</translation>
+    </message>
+    <message>
+        <source>&quot;%1.#%2&quot; is no number</source>
+        <translation>«%1.#%2» — не число</translation>
+    </message>
+    <message>
+        <source>in &quot;%1&quot;: %2</source>
+        <translation>в «%1»: %2</translation>
+    </message>
+    <message>
+        <source>this is no product with its points</source>
+        <translation>это не изделие с точками</translation>
+    </message>
+    <message>
+        <source>&quot;points.put&quot; is no list of layers</source>
+        <translation>«points.put» — не список слоёв</translation>
+    </message>
+    <message>
+        <source>&quot;points.put.#%1&quot; is no list of products</source>
+        <translation>«points.put.#%1» — не список изделий</translation>
+    </message>
+    <message>
+        <source>&quot;points.put.#%1.#%2&quot;: %3</source>
+        <translation>«points.put.#%1.#%2»: %3</translation>
+    </message>
+    <message>
+        <source>this is no record with names</source>
+        <translation>это не запись с именами</translation>
+    </message>
+    <message>
+        <source>&quot;points&quot; is missing</source>
+        <translation>«points» отсутствует</translation>
+    </message>
+    <message>
+        <source>&quot;layers&quot; is no list</source>
+        <translation>«layers» — не список</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is lost</source>
+        <translation>«%1» потеряно</translation>
+    </message>
+    <message>
+        <source>&quot;type&quot; is &quot;%1&quot;, neither &quot;l&quot; nor &quot;j&quot;</source>
+        <translation>«type» имеет значение «%1», а не «l» или «j»</translation>
+    </message>
+    <message>
+        <source>&quot;motion.speed&quot; is no speed: %1</source>
+        <translation>«motion.speed» — не скорость: %1</translation>
+    </message>
+    <message>
+        <source>&quot;point&quot; is missing</source>
+        <translation>«point» отсутствует</translation>
+    </message>
+    <message>
+        <source>in &quot;point&quot;: %1</source>
+        <translation>в «point»: %1</translation>
+    </message>
+    <message>
+        <source>the robot is moving already</source>
+        <translation>робот уже движется</translation>
+    </message>
+    <message>
+        <source>stopped: no sign from the held button for %1 ms</source>
+        <translation>остановлен: нет сигнала удерживаемой кнопки %1 ms</translation>
+    </message>
+    <message>
+        <source>this is no file of a controller</source>
+        <translation>это не файл контроллера</translation>
+    </message>
+    <message>
+        <source>length and checksum do not fit the content</source>
+        <translation>длина и контрольная сумма не соответствуют содержимому</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; cannot be made</source>
+        <translation>папку «%1» создать нельзя</translation>
+    </message>
+    <message>
+        <source>another controller uses the folder &quot;%1&quot;</source>
+        <translation>папку «%1» использует другой контроллер</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; cannot be written</source>
+        <translation>в папку «%1» нельзя писать</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged (%2) and was set aside as &quot;%3&quot;</source>
+        <translation>«%1» повреждён (%2) и отложен как «%3»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged (%2) and cannot be moved</source>
+        <translation>«%1» повреждён (%2), и его нельзя переместить</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: папку создать нельзя</translation>
+    </message>
+    <message>
+        <source>Simulated controller</source>
+        <translation>Имитатор контроллера</translation>
+    </message>
+    <message>
+        <source>nothing will be kept: %1</source>
+        <translation>ничего не будет сохранено: %1</translation>
+    </message>
+    <message>
+        <source>The controller cannot keep its state: %1</source>
+        <translation>Контроллер не может сохранить своё состояние: %1</translation>
+    </message>
+    <message>
+        <source>the panel does not write &quot;%1&quot;</source>
+        <translation>панель не записывает «%1»</translation>
+    </message>
+    <message>
+        <source>what was written at &quot;%1&quot; is nested too deep</source>
+        <translation>записанное в «%1» вложено слишком глубоко</translation>
+    </message>
+    <message>
+        <source>there is no place &quot;%1&quot;</source>
+        <translation>места «%1» нет</translation>
+    </message>
+    <message>
+        <source>there is no event &quot;%1&quot;</source>
+        <translation>события «%1» нет</translation>
+    </message>
+    <message>
+        <source>The project %1 cannot be built: there is no folder &quot;%2&quot;</source>
+        <translation>Проект %1 нельзя собрать: нет папки «%2»</translation>
+    </message>
+    <message>
+        <source>stopped: the link to the panel is lost</source>
+        <translation>остановлен: связь с панелью потеряна</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing or no text</source>
+        <translation>«%1» отсутствует или не текст</translation>
+    </message>
+    <message>
+        <source>the controller knows no request &quot;%1&quot;</source>
+        <translation>контроллер не знает запроса «%1»</translation>
+    </message>
+    <message>
+        <source>the robot is moving</source>
+        <translation>робот движется</translation>
+    </message>
+    <message>
+        <source>the controller does not answer</source>
+        <translation>контроллер не отвечает</translation>
+    </message>
+    <message>
+        <source>cannot listen on port %1: %2</source>
+        <translation>нельзя слушать порт %1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;load.mass&quot; is missing</source>
+        <translation>«load.mass» отсутствует</translation>
+    </message>
+    <message>
+        <source>&quot;load.mass&quot; is no mass: %1</source>
+        <translation>«load.mass» — не масса: %1</translation>
+    </message>
+    <message>
+        <source>&quot;name&quot; is no text</source>
+        <translation>«name» — не текст</translation>
+    </message>
+    <message>
+        <source>the name &quot;%1&quot; stands for no tool</source>
+        <translation>имя «%1» означает отсутствие инструмента</translation>
+    </message>
+    <message>
+        <source>no toolset: %1</source>
+        <translation>не набор инструмента: %1</translation>
+    </message>
+    <message>
+        <source>there are %1 tools already, no more are kept</source>
+        <translation>инструментов уже %1, больше не хранится</translation>
+    </message>
+    <message>
+        <source>there is no toolset &quot;%1&quot;</source>
+        <translation>набора инструмента «%1» нет</translation>
+    </message>
+    <message>
+        <source>there is no variable &quot;%1&quot;</source>
+        <translation>переменной «%1» нет</translation>
+    </message>
+    <message>
+        <source>the variable &quot;%1&quot; is not persistent</source>
+        <translation>переменная «%1» не сохраняемая</translation>
+    </message>
+    <message>
+        <source>the variable &quot;%1&quot; of type %2 does not take &quot;%3&quot;</source>
+        <translation>переменная «%1» типа %2 не принимает «%3»</translation>
+    </message>
+    <message>
+        <source>the variable &quot;%1&quot; has no place for a value</source>
+        <translation>у переменной «%1» нет места для значения</translation>
+    </message>
+    <message>
+        <source>this is no map of variables</source>
+        <translation>это не набор переменных</translation>
+    </message>
+    <message>
+        <source>%1 cannot be started: %2</source>
+        <translation>%1 нельзя запустить: %2</translation>
+    </message>
+    <message>
+        <source>%1 ended</source>
+        <translation>%1 завершил работу</translation>
+    </message>
+</context>
+<context>
+    <name>host::ControllerLink</name>
+    <message>
+        <source>Looking for the controller.</source>
+        <translation>Поиск контроллера.</translation>
+    </message>
+    <message>
+        <source>The link to the controller is closed.</source>
+        <translation>Связь с контроллером закрыта.</translation>
+    </message>
+    <message>
+        <source>The controller is being asked for its state.</source>
+        <translation>Запрашивается состояние контроллера.</translation>
+    </message>
+    <message>
+        <source>The link to the controller broke: %1. Edits stay in the panel and are sent when it is back. Check the cable and the controller.</source>
+        <translation>Связь с контроллером прервалась: %1. Изменения остаются в панели и будут отправлены после её восстановления. Проверьте кабель и контроллер.</translation>
+    </message>
+    <message>
+        <source>The controller cannot be reached: %1. Check the cable and whether it is switched on.</source>
+        <translation>Контроллер недоступен: %1. Проверьте кабель и включён ли контроллер.</translation>
+    </message>
+    <message>
+        <source>it did not answer the greeting</source>
+        <translation>он не ответил на приветствие</translation>
+    </message>
+    <message>
+        <source>it was silent for %1 s</source>
+        <translation>молчание в течение %1 s</translation>
+    </message>
+    <message>
+        <source>An edit cannot be sent to the controller: %1</source>
+        <translation>Изменение нельзя отправить контроллеру: %1</translation>
+    </message>
+    <message>
+        <source>the controller must not send such a message</source>
+        <translation>контроллер не должен отправлять такое сообщение</translation>
+    </message>
+    <message>
+        <source>The controller speaks version %1 of the link, this panel version %2. Update the older one.</source>
+        <translation>Версия связи контроллера — %1, этой панели — %2. Обновите более старую сторону.</translation>
+    </message>
+    <message>
+        <source>Controller %1 connected, software %2, robot %3.</source>
+        <translation>Контроллер %1 подключён, ПО %2, робот %3.</translation>
+    </message>
+    <message>
+        <source>The controller serves another panel. Close the link there; this panel asks again by itself.</source>
+        <translation>Контроллер обслуживает другую панель. Закройте связь там; эта панель повторит запрос сама.</translation>
+    </message>
+    <message>
+        <source>The controller refuses this panel&apos;s version of the link: %1. Update the older one.</source>
+        <translation>Контроллер не принимает версию связи этой панели: %1. Обновите более старую сторону.</translation>
+    </message>
+    <message>
+        <source>The controller sent something that cannot be read and was left out: %1.</source>
+        <translation>Контроллер отправил нечитаемое сообщение, оно пропущено: %1.</translation>
+    </message>
+    <message>
+        <source>This panel has no link to a controller.</source>
+        <translation>У этой панели нет связи с контроллером.</translation>
+    </message>
+    <message>
+        <source>The controller did not answer.</source>
+        <translation>Контроллер не ответил.</translation>
+    </message>
+    <message>
+        <source>The controller did not carry out &quot;%1&quot;: %2</source>
+        <translation>Контроллер не выполнил «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The controller is not connected.</source>
+        <translation>Контроллер не подключён.</translation>
+    </message>
+    <message>
+        <source>The link to the controller broke before it answered.</source>
+        <translation>Связь с контроллером прервалась до ответа.</translation>
+    </message>
+    <message>
+        <source>The controller did not answer within %1 s.</source>
+        <translation>Контроллер не ответил за %1 s.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no node that a controller may change</source>
+        <translation>«%1» — не узел, который вправе менять контроллер</translation>
+    </message>
+    <message>
+        <source>there is no place for &quot;%1&quot;</source>
+        <translation>нет места для «%1»</translation>
+    </message>
+    <message>
+        <source>a greeting without a state</source>
+        <translation>приветствие без состояния</translation>
+    </message>
+    <message>
+        <source>The controller did not take a message of the panel: %1.</source>
+        <translation>Контроллер не принял сообщение панели: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>host::HostSession</name>
+    <message>
+        <source>The panel cannot start</source>
+        <translation>Панель не может запуститься</translation>
+    </message>
+    <message>
+        <source>another session runs in this process</source>
+        <translation>в этом процессе уже идёт другой сеанс</translation>
+    </message>
+    <message>
+        <source>A folder cannot be made</source>
+        <translation>Папку создать нельзя</translation>
+    </message>
+    <message>
+        <source>nothing is stored there</source>
+        <translation>там ничего не сохраняется</translation>
+    </message>
+    <message>
+        <source>The stored data cannot be used</source>
+        <translation>Сохранённые данные нельзя использовать</translation>
+    </message>
+    <message>
+        <source>The data cannot be saved</source>
+        <translation>Данные нельзя сохранить</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s own nodes cannot be built</source>
+        <translation>Собственные узлы панели построить нельзя</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be used</source>
+        <translation>Модуль расширения нельзя использовать</translation>
+    </message>
+    <message>
+        <source>The plug-in is left out</source>
+        <translation>Модуль расширения пропущен</translation>
+    </message>
+    <message>
+        <source>a module &quot;%1&quot; is there already</source>
+        <translation>модуль «%1» уже есть</translation>
+    </message>
+    <message>
+        <source>its factory made no module &quot;%1&quot;</source>
+        <translation>его фабрика не создала модуль «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>host::LibraryFile</name>
+    <message>
+        <source>it is no library</source>
+        <translation>это не библиотека</translation>
+    </message>
+    <message>
+        <source>the file is incomplete: it has %1 bytes, %2 are needed</source>
+        <translation>файл неполный: в нём %1 байт, нужно %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::Link</name>
+    <message>
+        <source>a message of %1 bytes is longer than the %2 that are read</source>
+        <translation>сообщение в %1 байт длиннее читаемых %2</translation>
+    </message>
+    <message>
+        <source>no message is of the kind %1</source>
+        <translation>сообщений вида %1 не бывает</translation>
+    </message>
+    <message>
+        <source>the message is of version %1 of the link, only version %2 is read</source>
+        <translation>сообщение версии связи %1, читается только версия %2</translation>
+    </message>
+    <message>
+        <source>the message has %1 bytes where its head names %2</source>
+        <translation>в сообщении %1 байт, а в его заголовке указано %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of the wrong kind</source>
+        <translation>«%1» неверного вида</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is out of range</source>
+        <translation>«%1» вне диапазона</translation>
+    </message>
+    <message>
+        <source>the message is no map of keys</source>
+        <translation>сообщение — не набор ключей</translation>
+    </message>
+    <message>
+        <source>these bytes are no message of the link</source>
+        <translation>эти байты — не сообщение связи</translation>
+    </message>
+    <message>
+        <source>the message is cut off in its head</source>
+        <translation>сообщение обрывается в заголовке</translation>
+    </message>
+    <message>
+        <source>the message was damaged on its way</source>
+        <translation>сообщение повреждено при передаче</translation>
+    </message>
+</context>
+<context>
+    <name>host::LogKeeper</name>
+    <message>
+        <source>A log record cannot be kept: %1</source>
+        <translation>Запись журнала нельзя сохранить: %1</translation>
+    </message>
+    <message>
+        <source>it has no title</source>
+        <translation>у неё нет заголовка</translation>
+    </message>
+</context>
+<context>
+    <name>host::PluginLoader</name>
+    <message>
+        <source>it has no entry &quot;%1&quot;, so it is no plug-in of this panel</source>
+        <translation>в нём нет точки входа «%1», значит, это не расширение этой панели</translation>
+    </message>
+    <message>
+        <source>its entry &quot;%1&quot; tells nothing</source>
+        <translation>его точка входа «%1» ничего не сообщает</translation>
+    </message>
+    <message>
+        <source>it was built for interface %1 of the framework, this panel has interface %2</source>
+        <translation>он собран для интерфейса %1, а у этой панели интерфейс %2</translation>
+    </message>
+    <message>
+        <source>it tells no name</source>
+        <translation>он не сообщает имени</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>такого файла нет</translation>
+    </message>
+    <message>
+        <source>it has registered no module under the name &quot;%1&quot;</source>
+        <translation>он не зарегистрировал модуль под именем «%1»</translation>
+    </message>
+    <message>
+        <source>it has registered no version under the name &quot;%1&quot;</source>
+        <translation>он не зарегистрировал версию под именем «%1»</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be loaded</source>
+        <translation>Модуль расширения не загружается</translation>
+    </message>
+</context>
+<context>
+    <name>host::Store</name>
+    <message>
+        <source>a store is open already in this program</source>
+        <translation>в этой программе хранилище уже открыто</translation>
+    </message>
+    <message>
+        <source>files cannot be made there</source>
+        <translation>там нельзя создавать файлы</translation>
+    </message>
+    <message>
+        <source>The data folder &quot;%1&quot; is in use by %2 (process %3 on %4). End that program or choose another data folder.</source>
+        <translation>Папка данных «%1» занята: %2 (процесс %3 на %4). Завершите ту программу или выберите другую папку данных.</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>другая программа</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>папку создать нельзя</translation>
+    </message>
+    <message>
+        <source>another program has written it in the meantime</source>
+        <translation>тем временем её записала другая программа</translation>
+    </message>
+    <message>
+        <source>What the panel holds is stored anew.</source>
+        <translation>Данные панели сохраняются заново.</translation>
+    </message>
+    <message>
+        <source>The panel starts from its templates.</source>
+        <translation>Панель запускается с шаблонов.</translation>
+    </message>
+    <message>
+        <source>%1 entries in it were whole and were taken over.</source>
+        <translation>Перенесено целых записей: %1.</translation>
+    </message>
+    <message>
+        <source>%1 of its %2 entries were whole and were taken over.</source>
+        <translation>Перенесено целых записей: %1 из %2.</translation>
+    </message>
+    <message>
+        <source>The stored data in &quot;%1&quot; cannot be read: %2. The panel starts from its templates; the stored data will be kept aside.</source>
+        <translation>Данные в «%1» не читаются: %2. Панель запускается с шаблонов; прежние данные будут отложены.</translation>
+    </message>
+    <message>
+        <source>The stored data in &quot;%1&quot; is damaged: %2. %3 entries were whole and were taken over.</source>
+        <translation>Данные в «%1» повреждены: %2. Перенесено целых записей: %3.</translation>
+    </message>
+    <message>
+        <source>The stored data in &quot;%1&quot; could not be used: %2.</source>
+        <translation>Данные в «%1» нельзя использовать: %2.</translation>
+    </message>
+    <message>
+        <source>The file was kept as &quot;%1&quot;.</source>
+        <translation>Файл сохранён как «%1».</translation>
+    </message>
+    <message>
+        <source>All other entries were taken over.</source>
+        <translation>Все остальные записи перенесены.</translation>
+    </message>
+    <message>
+        <source>The stored data in &quot;%1&quot; is damaged: %2.</source>
+        <translation>Данные в «%1» повреждены: %2.</translation>
+    </message>
+    <message>
+        <source>entry %1 has no valid text</source>
+        <translation>в записи %1 недопустимый текст</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be stored: %2.</source>
+        <translation>«%1» нельзя сохранить: %2.</translation>
+    </message>
+    <message>
+        <source>The data folder &quot;%1&quot; cannot be written: %2. Changes are kept in memory, and saving is tried again every %3 seconds and at the end. Make the folder writable or free space on its disk; what is not saved is lost with the end of the program.</source>
+        <translation>В папку данных «%1» нельзя писать: %2. Изменения хранятся в памяти; сохранение повторяется каждые %3 s и при завершении. Разрешите запись в папку или освободите место на диске: несохранённое теряется с завершением программы.</translation>
+    </message>
+    <message>
+        <source>the SQLite driver of Qt is not installed</source>
+        <translation>драйвер SQLite для Qt не установлен</translation>
+    </message>
+    <message>
+        <source>it is no store of this panel</source>
+        <translation>это не хранилище этой панели</translation>
+    </message>
+    <message>
+        <source>it was written by a newer version of this panel (form %1)</source>
+        <translation>записано более новой версией панели (форма %1)</translation>
+    </message>
+    <message>
+        <source>its form %1 is unknown</source>
+        <translation>его форма %1 неизвестна</translation>
+    </message>
+    <message>
+        <source>the checksum of entry %1 is wrong</source>
+        <translation>неверная контрольная сумма записи %1</translation>
+    </message>
+    <message>
+        <source>its manifest is missing</source>
+        <translation>нет его описи</translation>
+    </message>
+    <message>
+        <source>the checksum of its manifest is wrong</source>
+        <translation>неверная контрольная сумма описи</translation>
+    </message>
+    <message>
+        <source>it holds %1 entries instead of %2, or others</source>
+        <translation>в нём записей %1 вместо %2 или записи другие</translation>
+    </message>
+    <message>
+        <source>the file cannot be renamed</source>
+        <translation>файл нельзя переименовать</translation>
+    </message>
+    <message>
+        <source>it cannot be renamed</source>
+        <translation>его нельзя переименовать</translation>
+    </message>
+</context>
+<context>
+    <name>host::TreeBinder</name>
+    <message>
+        <source>The template cannot be used: %1</source>
+        <translation>Шаблон нельзя использовать: %1</translation>
+    </message>
+    <message>
+        <source>The template %1 holds no map of keys</source>
+        <translation>В шаблоне %1 нет набора ключей</translation>
+    </message>
+    <message>
+        <source>Stored values do not fit the template and were left out: %1</source>
+        <translation>Сохранённые значения не подходят к шаблону и пропущены: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ix::calc</name>
+    <message>
+        <source>%1 are only %2 mm apart; at least %3 mm are needed.</source>
+        <translation>%1: расстояние лишь %2 mm, нужно не менее %3 mm.</translation>
+    </message>
+    <message>
+        <source>A calibration point holds no number.</source>
+        <translation>В точке калибровки нет числа.</translation>
+    </message>
+    <message>
+        <source>The origin and the point on X</source>
+        <translation>Начало координат и точка на X</translation>
+    </message>
+    <message>
+        <source>The origin and the point on the XY plane</source>
+        <translation>Начало координат и точка на плоскости XY</translation>
+    </message>
+    <message>
+        <source>The directions to the two points differ by only %1 degrees; at least %2 are needed.</source>
+        <translation>Направления на две точки различаются лишь на %1 градусов, нужно не менее %2.</translation>
+    </message>
+</context>
+<context>
+    <name>nexo::ManagerHelper</name>
+    <message>
+        <source>The translation %1 cannot be read.</source>
+        <translation>Перевод %1 не читается.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>nexo::SettingManager</name>
+    <message>
+        <source>%1 at byte %2</source>
+        <translation>%1, байт %2</translation>
+    </message>
+    <message>
+        <source>it holds no JSON object</source>
+        <translation>в нём нет объекта JSON</translation>
+    </message>
+    <message>
+        <source>the value of &quot;%1&quot; is no text</source>
+        <translation>значение «%1» — не текст</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>он больше %1 байт</translation>
+    </message>
+    <message>
+        <source>Cannot use the settings file %1: %2. Settings are not saved.</source>
+        <translation>Файл настроек %1 нельзя использовать: %2. Настройки не сохраняются.</translation>
+    </message>
+    <message>
+        <source>Cannot use the settings file %1: %2. It is kept as %3.</source>
+        <translation>Файл настроек %1 нельзя использовать: %2. Он сохранён как %3.</translation>
+    </message>
+    <message>
+        <source>Cannot save the settings file %1: %2</source>
+        <translation>Файл настроек %1 нельзя сохранить: %2</translation>
+    </message>
+</context>
+<context>
+    <name>orba::ModuleManager</name>
+    <message>
+        <source>%1 (at &quot;%2&quot;)</source>
+        <translation>%1 (в «%2»)</translation>
+    </message>
+    <message>
+        <source>lists and maps are nested more than %1 deep</source>
+        <translation>списки и наборы вложены глубже %1</translation>
+    </message>
+    <message>
+        <source>the file does not exist</source>
+        <translation>файл не существует</translation>
+    </message>
+    <message>
+        <source>this is no regular file</source>
+        <translation>это не обычный файл</translation>
+    </message>
+    <message>
+        <source>the file has %1 bytes, more than the %2 that are read</source>
+        <translation>в файле %1 байт, больше читаемых %2</translation>
+    </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <translation>не открывается: %1</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>не читается: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>не записывается: %1</translation>
+    </message>
+    <message>
+        <source>is written, but may be lost when the power fails: %1</source>
+        <translation>записано, но может пропасть при отключении питания: %1</translation>
+    </message>
+    <message>
+        <source>a whole number is outside of 64 bits</source>
+        <translation>целое число не помещается в 64 бита</translation>
+    </message>
+    <message>
+        <source>an item is {&quot;name&quot;: text, &quot;value&quot;: ...}, without &quot;name&quot; when it has none</source>
+        <translation>элемент имеет вид {&quot;name&quot;: текст, &quot;value&quot;: ...}, без &quot;name&quot;, если имени нет</translation>
+    </message>
+    <message>
+        <source>&quot;#utf16&quot; stands alone with one text</source>
+        <translation>«#utf16» стоит отдельно с одним текстом</translation>
+    </message>
+    <message>
+        <source>a mixed container is {&quot;#mixed&quot;: &quot;list&quot; or &quot;map&quot;, &quot;#items&quot;: [...]}</source>
+        <translation>смешанный контейнер имеет вид {&quot;#mixed&quot;: &quot;list&quot; или &quot;map&quot;, &quot;#items&quot;: [...]}</translation>
+    </message>
+    <message>
+        <source>a number is too large</source>
+        <translation>число слишком велико</translation>
+    </message>
+    <message>
+        <source>&quot;#utf16&quot; holds no base64 text of UTF-16</source>
+        <translation>в «#utf16» нет текста UTF-16 в base64</translation>
+    </message>
+    <message>
+        <source>keys that begin with one &quot;#&quot; are reserved, write &quot;##&quot;</source>
+        <translation>ключи с одним «#» в начале зарезервированы, пишите «##»</translation>
+    </message>
+    <message>
+        <source>a name is a text or {&quot;#utf16&quot;: ...}</source>
+        <translation>имя — это текст или {&quot;#utf16&quot;: ...}</translation>
+    </message>
+    <message>
+        <source>a zero byte stands outside of a text</source>
+        <translation>нулевой байт стоит вне текста</translation>
+    </message>
+    <message>
+        <source>the text has %1 bytes, more than the %2 that are read</source>
+        <translation>в тексте %1 байт, больше читаемых %2</translation>
+    </message>
+    <message>
+        <source>a number is not finite</source>
+        <translation>число не конечно</translation>
+    </message>
+    <message>
+        <source>the tree is too large to be written</source>
+        <translation>дерево слишком велико для записи</translation>
+    </message>
+    <message>
+        <source>there is no such node</source>
+        <translation>такого узла нет</translation>
+    </message>
+    <message>
+        <source>document types and entities are not accepted</source>
+        <translation>типы документа и сущности не принимаются</translation>
+    </message>
+    <message>
+        <source>the entity &quot;%1&quot; is unknown</source>
+        <translation>сущность «%1» неизвестна</translation>
+    </message>
+    <message>
+        <source>unknown element &quot;%1&quot;</source>
+        <translation>неизвестный элемент «%1»</translation>
+    </message>
+    <message>
+        <source>text stands between elements</source>
+        <translation>между элементами стоит текст</translation>
+    </message>
+    <message>
+        <source>the document is empty</source>
+        <translation>документ пуст</translation>
+    </message>
+    <message>
+        <source>unknown attribute %1=&quot;%2&quot;</source>
+        <translation>неизвестный атрибут %1=&quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>unknown type &quot;%1&quot;</source>
+        <translation>неизвестный тип «%1»</translation>
+    </message>
+    <message>
+        <source>the element has no type</source>
+        <translation>у элемента нет типа</translation>
+    </message>
+    <message>
+        <source>only a string has an encoding</source>
+        <translation>кодировка бывает только у строки</translation>
+    </message>
+    <message>
+        <source>there is no name to be decoded</source>
+        <translation>нет имени для декодирования</translation>
+    </message>
+    <message>
+        <source>the name is no base64 text of UTF-16</source>
+        <translation>имя — не текст UTF-16 в base64</translation>
+    </message>
+    <message>
+        <source>the string is no base64 text of UTF-16</source>
+        <translation>строка — не текст UTF-16 в base64</translation>
+    </message>
+    <message>
+        <source>a null holds no value</source>
+        <translation>null не содержит значения</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false</source>
+        <translation>«%1» — ни true, ни false</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no whole number of 64 bits</source>
+        <translation>«%1» — не целое 64-битное число</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no finite number</source>
+        <translation>«%1» — не конечное число</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>текст не в UTF-8</translation>
+    </message>
+</context>
+<context>
+    <name>panel::MessageDialog</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>panel::Navigator</name>
+    <message>
+        <source>Packages</source>
+        <translation>Пакеты</translation>
+    </message>
+    <message>
+        <source>Navigator</source>
+        <translation>Навигатор</translation>
+    </message>
+</context>
+<context>
+    <name>panel::NoticePage</name>
+    <message>
+        <source>Log</source>
+        <translation>Журнал</translation>
+    </message>
+</context>
+<context>
+    <name>panel::Options</name>
+    <message>
+        <source>Folder of the stored data, settings and logs.</source>
+        <translation>Папка данных, настроек и журналов.</translation>
+    </message>
+    <message>
+        <source>Controller workspace.</source>
+        <translation>Рабочая папка контроллера.</translation>
+    </message>
+    <message>
+        <source>en, cn, ru, jp or kr.</source>
+        <translation>en, cn, ru, jp или kr.</translation>
+    </message>
+    <message>
+        <source>Number fields open a keypad.</source>
+        <translation>Числовые поля открывают цифровую клавиатуру.</translation>
+    </message>
+    <message>
+        <source>Plug-in library to load; may be given several times.</source>
+        <translation>Загружаемая библиотека расширения; можно указать несколько раз.</translation>
+    </message>
+    <message>
+        <source>Recipes (file or folder) for an empty store; may be given several times.</source>
+        <translation>Рецепты (файл или папка) для пустого хранилища; можно указать несколько раз.</translation>
+    </message>
+    <message>
+        <source>Desktop panel of the palletizing workstation.</source>
+        <translation>Настольная панель станции паллетирования.</translation>
+    </message>
+    <message>
+        <source>Unknown argument &quot;%1&quot;.</source>
+        <translation>Неизвестный аргумент «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown language &quot;%1&quot;; there are %2.</source>
+        <translation>Неизвестный язык «%1»; есть %2.</translation>
+    </message>
+    <message>
+        <source>Robot controller: inprocess (simulated, the default), spawn (simulated, in a process of its own), HOST:PORT or none.</source>
+        <translation>Контроллер робота: inprocess (имитатор, по умолчанию), spawn (имитатор в отдельном процессе), HOST:PORT или none.</translation>
+    </message>
+    <message>
+        <source>Unknown controller &quot;%1&quot;; there are inprocess, spawn, none and HOST:PORT.</source>
+        <translation>Неизвестный контроллер «%1»; есть inprocess, spawn, none и HOST:PORT.</translation>
+    </message>
+</context>
+<context>
+    <name>panel::PanelWindow</name>
+    <message>
+        <source>Log</source>
+        <translation>Журнал</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Проблемы</translation>
+    </message>
+    <message>
+        <source>Robot panel</source>
+        <translation>Панель робота</translation>
+    </message>
+    <message>
+        <source>There is no page &quot;%1&quot;.</source>
+        <translation>Страницы «%1» нет.</translation>
+    </message>
+    <message>
+        <source>The data cannot be saved</source>
+        <translation>Данные нельзя сохранить</translation>
+    </message>
+    <message>
+        <source>Changes since the last saving are lost when the panel closes now.</source>
+        <translation>Если закрыть панель сейчас, изменения после последнего сохранения пропадут.</translation>
+    </message>
+    <message>
+        <source>Keep open</source>
+        <translation>Не закрывать</translation>
+    </message>
+</context>
+<context>
+    <name>panel::ProblemPage</name>
+    <message>
+        <source>The panel did not start completely</source>
+        <translation>Панель запустилась не полностью</translation>
+    </message>
+</context>
+<context>
+    <name>panel::StatusStrip</name>
+    <message>
+        <source>Controller</source>
+        <translation>Контроллер</translation>
+    </message>
+    <message>
+        <source>Last notice</source>
+        <translation>Последнее уведомление</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Controller %1</source>
+        <translation>Контроллер %1</translation>
+    </message>
+    <message>
+        <source>No controller</source>
+        <translation>Нет контроллера</translation>
+    </message>
+</context>
+</TS>

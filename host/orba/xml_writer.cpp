@@ -1,0 +1,190 @@
+#include "orba/format_detail.h"
+
+#include <QXmlStreamWriter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orba::format {
+
+namespace {
+
+enum class Place { Text, Attribute };
+
+/// XML has no form for most control characters and half surrogate pairs, and readers turn line ends into "\n" and, in
+/// attributes, white space into blanks.
+bool isHeldByXml(const QString &text, Place place)
+{
+    const bool allHeld = std::all_of(text.begin(), text.end(), [place](QChar c) {
+        const bool isLayout = c == QLatin1Char('\n') || c == QLatin1Char('\t');
+        return c.unicode() >= 0x20 ? c.unicode() < 0xfffe : isLayout && place == Place::Text;
+    });
+    return allHeld && text.isValidUtf16();
+}
+
+bool isWhiteSpaceMeant(const QString &text)
+{
+    return text != text.simplified();
+}
+
+bool isOfDoubles(const Node &list)
+{
+    if (list.isPacked() || list.kind() != Node::Kind::List || list.size() == 0)
+        return list.isPackedDoubles();
+    for (int i = 0; i < list.size(); ++i)
+        if (list.at(i)->kind() != Node::Kind::Double || !list.at(i)->name().isNull())
+            return false;
+    return true;
+}
+
+class XmlOut
+{
+public:
+    XmlOut(QByteArray *out, const Node &root) : writer_(out), root_(root)
+    {
+        writer_.setAutoFormatting(true);
+        writer_.setAutoFormattingIndent(1);
+    }
+
+    bool document()
+    {
+        writer_.writeStartDocument();
+        const bool done = element(root_);
+        writer_.writeEndDocument();
+        return done;
+    }
+    const QString &what() const { return what_; }
+
+private:
+    bool element(const Node &node);
+    bool container(const Node &node);
+    bool doubles(const Node &list);
+    void text(const QString &text);
+    void name(const QString &name);
+    bool refuse(const QString &why, const Node &node)
+    {
+        what_ = refusal(why, node, root_);
+        return false;
+    }
+    void type(const char *type) { writer_.writeAttribute(type_, QLatin1String(type)); }
+    void value(const QString &text) { writer_.writeCharacters(text); }
+
+    QXmlStreamWriter writer_;
+    const Node &root_;
+    const QString element_ = QStringLiteral("node"); // made once, not per element
+    const QString type_ = QStringLiteral("type");
+    const QString name_ = QStringLiteral("name");
+    QString what_;
+    QByteArray numbers_;
+    int depth_ = 0;
+};
+
+bool XmlOut::element(const Node &node)
+{
+    writer_.writeStartElement(element_);
+    if (!node.name().isNull())
+        name(node.name().toString());
+    bool done = true;
+    switch (node.kind()) {
+    case Node::Kind::Null:
+        type("null");
+        break;
+    case Node::Kind::Bool:
+        type("bool");
+        value(node.toBool() ? QStringLiteral("true") : QStringLiteral("false"));
+        break;
+    case Node::Kind::Int:
+        type("int");
+        value(QString::number(node.toInt()));
+        break;
+    case Node::Kind::Double: {
+        type("double");
+        char buffer[kNumberLength];
+        value(QString::fromLatin1(buffer, static_cast<int>(writeShortest(buffer, node.toDouble()) - buffer)));
+        done = std::isfinite(node.toDouble()) || refuse(Texts::tr("a number is not finite"), node);
+        break;
+    }
+    case Node::Kind::String:
+        text(node.toString());
+        break;
+    default:
+        done = container(node);
+    }
+    writer_.writeEndElement();
+    return done;
+}
+
+void XmlOut::name(const QString &name)
+{
+    if (isHeldByXml(name, Place::Attribute)) {
+        writer_.writeAttribute(name_, name);
+        return;
+    }
+    writer_.writeAttribute(name_, QString::fromLatin1(toBase64(name)));
+    writer_.writeAttribute(QStringLiteral("name-encoding"), QStringLiteral("base64"));
+}
+
+void XmlOut::text(const QString &text)
+{
+    type("string");
+    if (!isHeldByXml(text, Place::Text)) {
+        writer_.writeAttribute(QStringLiteral("encoding"), QStringLiteral("base64"));
+        value(QString::fromLatin1(toBase64(text)));
+        return;
+    }
+    if (isWhiteSpaceMeant(text))
+        writer_.writeAttribute(QStringLiteral("xml:space"), QStringLiteral("preserve"));
+    value(text);
+}
+
+bool XmlOut::container(const Node &node)
+{
+    if (++depth_ > ReadLimits::kMaxDepth)
+        return refuse(depthText(), node);
+    bool done = true;
+    if (isOfDoubles(node)) {
+        done = doubles(node);
+    } else {
+        type(node.kind() == Node::Kind::List ? "list" : "map");
+        const qint64 *ints = node.packedInts();
+        for (int i = 0; i < node.size() && done; ++i) {
+            if (!ints) {
+                done = element(*node.at(i));
+                continue;
+            }
+            writer_.writeStartElement(element_);
+            type("int");
+            value(QString::number(ints[i]));
+            writer_.writeEndElement();
+        }
+    }
+    --depth_;
+    return done;
+}
+
+bool XmlOut::doubles(const Node &list)
+{
+    type("doubles");
+    numbers_.clear();
+    for (int i = 0; i < list.size(); ++i) {
+        const double number = list.number(i);
+        if (!std::isfinite(number))
+            return refuse(Texts::tr("a number is not finite"), list);
+        char buffer[kNumberLength];
+        if (i > 0)
+            numbers_ += ' ';
+        numbers_.append(buffer, static_cast<int>(writeShortest(buffer, number) - buffer));
+    }
+    value(QString::fromLatin1(numbers_));
+    return true;
+}
+
+} // namespace
+
+bool writeXml(const Node &node, QByteArray *out, FormatError *error)
+{
+    XmlOut xml(out, node);
+    return xml.document() || fail(error, xml.what());
+}
+
+} // namespace orba::format
