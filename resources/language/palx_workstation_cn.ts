@@ -1,0 +1,1617 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en_US">
+<context>
+    <name>FieldText</name>
+    <message>
+        <source>%1 is outside of %2 to %3%4.</source>
+        <translation>%1 超出 %2 至 %3%4 的范围。</translation>
+    </message>
+    <message>
+        <source>With this margin no product fits on the pallet.</source>
+        <translation>采用此边距时，托盘上放不下任何产品。</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> kg</source>
+        <translation> kg</translation>
+    </message>
+    <message>
+        <source>The product is larger than the pallet; it will reach over the edge.</source>
+        <translation>产品大于托盘，将伸出托盘边缘。</translation>
+    </message>
+</context>
+<context>
+    <name>ItemTableModel</name>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中间</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>x
+mm</source>
+        <translation>x
+mm</translation>
+    </message>
+    <message>
+        <source>y
+mm</source>
+        <translation>y
+mm</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>dx
+mm</source>
+        <translation>dx
+mm</translation>
+    </message>
+    <message>
+        <source>dy
+mm</source>
+        <translation>dy
+mm</translation>
+    </message>
+    <message>
+        <source>dz
+mm</source>
+        <translation>dz
+mm</translation>
+    </message>
+</context>
+<context>
+    <name>Keypad</name>
+    <message>
+        <source>Number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Allowed values</source>
+        <translation>允许值</translation>
+    </message>
+    <message>
+        <source>7</source>
+        <translation>7</translation>
+    </message>
+    <message>
+        <source>8</source>
+        <translation>8</translation>
+    </message>
+    <message>
+        <source>9</source>
+        <translation>9</translation>
+    </message>
+    <message>
+        <source>4</source>
+        <translation>4</translation>
+    </message>
+    <message>
+        <source>5</source>
+        <translation>5</translation>
+    </message>
+    <message>
+        <source>6</source>
+        <translation>6</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>2</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>Decimal point</source>
+        <translation>小数点</translation>
+    </message>
+    <message>
+        <source>Change the sign</source>
+        <translation>改变正负号</translation>
+    </message>
+    <message>
+        <source>Delete the last digit</source>
+        <translation>删除最后一位</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Clear the value</source>
+        <translation>清除数值</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>%1 to %2 %3</source>
+        <translation>%1 至 %2 %3</translation>
+    </message>
+    <message>
+        <source>Not allowed. Enter %1.</source>
+        <translation>不允许。请输入 %1。</translation>
+    </message>
+    <message>
+        <source>Allowed: %1</source>
+        <translation>允许：%1</translation>
+    </message>
+</context>
+<context>
+    <name>LayerTableModel</name>
+    <message>
+        <source>Separator sheet</source>
+        <translation>隔板</translation>
+    </message>
+    <message>
+        <source>Empty (end of stack)</source>
+        <translation>空（垛结束）</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>（无）</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>垛型</translation>
+    </message>
+    <message>
+        <source>Boxes</source>
+        <translation>箱数</translation>
+    </message>
+    <message>
+        <source>From
+mm</source>
+        <translation>从
+mm</translation>
+    </message>
+    <message>
+        <source>To
+mm</source>
+        <translation>到
+mm</translation>
+    </message>
+</context>
+<context>
+    <name>LayerText</name>
+    <message>
+        <source>is a separator sheet, but the recipe has separator sheets switched off</source>
+        <translation>为隔板，但配方中已关闭隔板</translation>
+    </message>
+    <message>
+        <source>is a separator sheet, but the sheet has no height</source>
+        <translation>为隔板，但隔板没有高度</translation>
+    </message>
+    <message>
+        <source>has no pattern; this layer and those above it get no points</source>
+        <translation>没有垛型；该层及以上各层不生成点</translation>
+    </message>
+    <message>
+        <source>uses the pattern &quot;%1&quot;, which this recipe does not have</source>
+        <translation>使用了本配方中不存在的垛型“%1”</translation>
+    </message>
+    <message>
+        <source>uses the pattern &quot;%1&quot;, which holds no products</source>
+        <translation>使用的垛型“%1”中没有产品</translation>
+    </message>
+    <message>
+        <source>Layer %1 %2.</source>
+        <translation>第 %1 层%2。</translation>
+    </message>
+    <message>
+        <source>The recipe has no layers.</source>
+        <translation>配方没有层。</translation>
+    </message>
+    <message>
+        <source>Layer %1 lies on an empty layer; the stack ends at its first empty layer, so only empty layers may follow it.</source>
+        <translation>第 %1 层位于空层之上；垛在第一个空层处结束，其后只能是空层。</translation>
+    </message>
+</context>
+<context>
+    <name>LayersFrame</name>
+    <message>
+        <source>Layers from the pallet up</source>
+        <translation>自托盘向上的各层</translation>
+    </message>
+    <message>
+        <source>What is wrong with the layers</source>
+        <translation>层的问题</translation>
+    </message>
+    <message>
+        <source>Totals of the recipe</source>
+        <translation>配方合计</translation>
+    </message>
+    <message>
+        <source>Plan of the layer</source>
+        <translation>层平面图</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>垛型</translation>
+    </message>
+    <message>
+        <source>Height offset</source>
+        <translation>高度偏移</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Add a layer on top</source>
+        <translation>在顶部添加一层</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>插入</translation>
+    </message>
+    <message>
+        <source>Insert before the chosen layer</source>
+        <translation>在所选层之前插入</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Place the layer earlier</source>
+        <translation>将该层提前</translation>
+    </message>
+    <message>
+        <source>Place the layer later</source>
+        <translation>将该层推后</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>重复</translation>
+    </message>
+    <message>
+        <source>Repeat the whole sequence on top</source>
+        <translation>在顶部重复整个序列</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>第 %1 层</translation>
+    </message>
+    <message>
+        <source>No layer chosen</source>
+        <translation>未选择层</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBar</name>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Close the message</source>
+        <translation>关闭消息</translation>
+    </message>
+</context>
+<context>
+    <name>NameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Why the name is refused</source>
+        <translation>名称被拒绝的原因</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>PalletFrame</name>
+    <message>
+        <source>Pallet</source>
+        <translation>托盘</translation>
+    </message>
+    <message>
+        <source>Standard size</source>
+        <translation>标准尺寸</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>重量</translation>
+    </message>
+    <message>
+        <source>Margins</source>
+        <translation>边距</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Separator sheets</source>
+        <translation>隔板</translation>
+    </message>
+    <message>
+        <source>Sheet length</source>
+        <translation>隔板长度</translation>
+    </message>
+    <message>
+        <source>Sheet width</source>
+        <translation>隔板宽度</translation>
+    </message>
+    <message>
+        <source>Sheet height</source>
+        <translation>隔板高度</translation>
+    </message>
+    <message>
+        <source>Sheet weight</source>
+        <translation>隔板重量</translation>
+    </message>
+    <message>
+        <source>Place in the cell</source>
+        <translation>在工作站中的位置</translation>
+    </message>
+    <message>
+        <source>Pallet place</source>
+        <translation>托盘位置</translation>
+    </message>
+    <message>
+        <source>Post height</source>
+        <translation>角柱高度</translation>
+    </message>
+    <message>
+        <source>Shared tool</source>
+        <translation>共用工具</translation>
+    </message>
+    <message>
+        <source>Use the tool shared by all recipes</source>
+        <translation>使用所有配方共用的工具</translation>
+    </message>
+    <message>
+        <source>Corner posts</source>
+        <translation>角柱</translation>
+    </message>
+    <message>
+        <source>The pallet has corner posts</source>
+        <translation>托盘带有角柱</translation>
+    </message>
+    <message>
+        <source>Shared work object</source>
+        <translation>共用工件</translation>
+    </message>
+    <message>
+        <source>Use the work object shared by all recipes</source>
+        <translation>使用所有配方共用的工件</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Own size</source>
+        <translation>自定义尺寸</translation>
+    </message>
+</context>
+<context>
+    <name>Palx</name>
+    <message>
+        <source>W-Palletizing</source>
+        <translation>W-码垛</translation>
+    </message>
+</context>
+<context>
+    <name>PatternText</name>
+    <message>
+        <source>Name is empty!</source>
+        <translation>名称为空！</translation>
+    </message>
+    <message>
+        <source>Pattern name length is greater than 32!</source>
+        <translation>垛型名称长度超过 32！</translation>
+    </message>
+    <message>
+        <source>Only letters, digits, &quot;_&quot; and &quot;-&quot; are allowed in a pattern&apos;s name.</source>
+        <translation>垛型名称只能包含字母、数字、“_”和“-”。</translation>
+    </message>
+    <message>
+        <source>Name is repeated!</source>
+        <translation>名称重复！</translation>
+    </message>
+</context>
+<context>
+    <name>PatternsFrame</name>
+    <message>
+        <source>Pattern</source>
+        <translation>垛型</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新建</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Plan of the pattern</source>
+        <translation>垛型平面图</translation>
+    </message>
+    <message>
+        <source>What is wrong with the pattern</source>
+        <translation>垛型的问题</translation>
+    </message>
+    <message>
+        <source>Products of the pattern</source>
+        <translation>垛型中的产品</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Place the product earlier</source>
+        <translation>将该产品提前放置</translation>
+    </message>
+    <message>
+        <source>Place the product later</source>
+        <translation>将该产品推后放置</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>产品</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>x (across)</source>
+        <translation>x（横向）</translation>
+    </message>
+    <message>
+        <source>y (along)</source>
+        <translation>y（纵向）</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>dx</source>
+        <translation>dx</translation>
+    </message>
+    <message>
+        <source>dy</source>
+        <translation>dy</translation>
+    </message>
+    <message>
+        <source>dz</source>
+        <translation>dz</translation>
+    </message>
+    <message>
+        <source>New pattern</source>
+        <translation>新建垛型</translation>
+    </message>
+    <message>
+        <source>Copy of pattern %1</source>
+        <translation>垛型 %1 的副本</translation>
+    </message>
+    <message>
+        <source>New name for pattern %1</source>
+        <translation>垛型 %1 的新名称</translation>
+    </message>
+    <message>
+        <source>Pattern %1 (in %2 layers)</source>
+        <translation>垛型 %1（用于 %2 层）</translation>
+    </message>
+    <message>
+        <source>Product %1</source>
+        <translation>产品 %1</translation>
+    </message>
+    <message>
+        <source>No product chosen</source>
+        <translation>未选择产品</translation>
+    </message>
+    <message>
+        <source>The recipe was closed.</source>
+        <translation>配方已关闭。</translation>
+    </message>
+    <message>
+        <source>It is used in %1 layers, which will get no points.</source>
+        <translation>它用于 %1 层，这些层将不生成点。</translation>
+    </message>
+    <message>
+        <source>Delete the pattern %1? %2</source>
+        <translation>删除垛型 %1？%2</translation>
+    </message>
+    <message>
+        <source>Delete pattern</source>
+        <translation>删除垛型</translation>
+    </message>
+    <message>
+        <source>A pattern holds at most %1 products.</source>
+        <translation>一个垛型最多包含 %1 个产品。</translation>
+    </message>
+    <message>
+        <source>Use size</source>
+        <translation>采用尺寸</translation>
+    </message>
+    <message>
+        <source>Give every product the size of the recipe&apos;s product</source>
+        <translation>将配方产品的尺寸赋给所有产品</translation>
+    </message>
+</context>
+<context>
+    <name>PointGroup</name>
+    <message>
+        <source>Point</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>State of the point</source>
+        <translation>点的状态</translation>
+    </message>
+    <message>
+        <source>Enter the values of the point by hand</source>
+        <translation>手动输入点的数值</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Clear the point</source>
+        <translation>清除该点</translation>
+    </message>
+    <message>
+        <source>All zero</source>
+        <translation>全为零</translation>
+    </message>
+    <message>
+        <source>Not taught</source>
+        <translation>未示教</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>已计算</translation>
+    </message>
+    <message>
+        <source>Taught</source>
+        <translation>已示教</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>手动</translation>
+    </message>
+</context>
+<context>
+    <name>PointTableModel</name>
+    <message>
+        <source>Enter</source>
+        <translation>进入</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>准备</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>接近</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>放置</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>抓取</translation>
+    </message>
+    <message>
+        <source>Retract</source>
+        <translation>回退</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>离开</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Item</source>
+        <translation>产品</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>X
+mm</source>
+        <translation>X
+mm</translation>
+    </message>
+    <message>
+        <source>Y
+mm</source>
+        <translation>Y
+mm</translation>
+    </message>
+    <message>
+        <source>Z
+mm</source>
+        <translation>Z
+mm</translation>
+    </message>
+</context>
+<context>
+    <name>PointText</name>
+    <message>
+        <source>The place point is not taught.</source>
+        <translation>放置点未示教。</translation>
+    </message>
+    <message>
+        <source>The enter point of the place side is not taught.</source>
+        <translation>放置侧的进入点未示教。</translation>
+    </message>
+    <message>
+        <source>The pallet place is neither left nor right, so all place positions will be 0.</source>
+        <translation>托盘位置既不是左也不是右，因此所有放置位置都将为 0。</translation>
+    </message>
+    <message>
+        <source>The origin point of the shared work object for the left pallet is not taught.</source>
+        <translation>左托盘共用工件的原点未示教。</translation>
+    </message>
+    <message>
+        <source>The origin point of the shared work object for the right pallet is not taught.</source>
+        <translation>右托盘共用工件的原点未示教。</translation>
+    </message>
+    <message>
+        <source>The corner of the product on the conveyor is not taught.</source>
+        <translation>输送线上产品的角点未示教。</translation>
+    </message>
+    <message>
+        <source>The pick point is not taught.</source>
+        <translation>抓取点未示教。</translation>
+    </message>
+    <message>
+        <source>The enter point of the pick side is not taught.</source>
+        <translation>抓取侧的进入点未示教。</translation>
+    </message>
+</context>
+<context>
+    <name>PointsFrame</name>
+    <message>
+        <source>Generate points</source>
+        <translation>生成点</translation>
+    </message>
+    <message>
+        <source>State of the points</source>
+        <translation>点的状态</translation>
+    </message>
+    <message>
+        <source>Layer to show</source>
+        <translation>要显示的层</translation>
+    </message>
+    <message>
+        <source>Kind of point to show</source>
+        <translation>要显示的点类型</translation>
+    </message>
+    <message>
+        <source>Number of points shown</source>
+        <translation>显示的点数</translation>
+    </message>
+    <message>
+        <source>Copy table</source>
+        <translation>复制表格</translation>
+    </message>
+    <message>
+        <source>Copy the table to the clipboard</source>
+        <translation>将表格复制到剪贴板</translation>
+    </message>
+    <message>
+        <source>Generated points</source>
+        <translation>已生成的点</translation>
+    </message>
+    <message>
+        <source>All layers</source>
+        <translation>所有层</translation>
+    </message>
+    <message>
+        <source>Pick side</source>
+        <translation>抓取侧</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>第 %1 层</translation>
+    </message>
+    <message>
+        <source>All points</source>
+        <translation>所有点</translation>
+    </message>
+    <message>
+        <source>Points: %1</source>
+        <translation>点数：%1</translation>
+    </message>
+    <message>
+        <source>No points have been generated yet.</source>
+        <translation>尚未生成点。</translation>
+    </message>
+    <message>
+        <source>The recipe or the shared settings were changed: generate the points again.</source>
+        <translation>配方或共用设置已更改：请重新生成点。</translation>
+    </message>
+    <message>
+        <source>The points are up to date.</source>
+        <translation>点为最新。</translation>
+    </message>
+    <message>
+        <source>Points copied: %1</source>
+        <translation>已复制点数：%1</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemText</name>
+    <message>
+        <source>Products %1 and %2 overlap by %3 mm.</source>
+        <translation>产品 %1 与 %2 重叠 %3 mm。</translation>
+    </message>
+    <message>
+        <source>Product %1 reaches %2 mm over the pallet.</source>
+        <translation>产品 %1 伸出托盘 %2 mm。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 products have another size than the recipe&apos;s product.</source>
+        <translation>%2 个产品中有 %1 个的尺寸与配方的产品不同。</translation>
+    </message>
+    <message>
+        <source>Product %1 was stored with a value that cannot be used.</source>
+        <translation>产品 %1 存有无法使用的值。</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFrame</name>
+    <message>
+        <source>Size and weight</source>
+        <translation>尺寸和重量</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>重量</translation>
+    </message>
+    <message>
+        <source>Placing</source>
+        <translation>放置方式</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Orientation code</source>
+        <translation>朝向代码</translation>
+    </message>
+    <message>
+        <source>Along (dx)</source>
+        <translation>纵向 (dx)</translation>
+    </message>
+    <message>
+        <source>Across (dy)</source>
+        <translation>横向 (dy)</translation>
+    </message>
+    <message>
+        <source>Lift (dz)</source>
+        <translation>抬升 (dz)</translation>
+    </message>
+    <message>
+        <source>Picture of the recipe</source>
+        <translation>配方图片</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>配方</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Totals of the recipe</source>
+        <translation>配方合计</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeFrame</name>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>还有 %n 个</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RecipeText</name>
+    <message>
+        <source>The name is empty.</source>
+        <translation>名称为空。</translation>
+    </message>
+    <message>
+        <source>The name begins or ends with a blank.</source>
+        <translation>名称以空格开头或结尾。</translation>
+    </message>
+    <message>
+        <source>The name has %1 characters; at most %2 are allowed.</source>
+        <translation>名称有 %1 个字符，最多允许 %2 个。</translation>
+    </message>
+    <message>
+        <source>The name holds a line break or another control character.</source>
+        <translation>名称包含换行符或其他控制字符。</translation>
+    </message>
+    <message>
+        <source>There is a recipe &quot;%1&quot; already.</source>
+        <translation>配方“%1”已存在。</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeTexts</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Boxes: %1, layers: %2
+Product: %3
+Pallet: %4</source>
+        <translation>箱数：%1，层数：%2
+产品：%3
+托盘：%4</translation>
+    </message>
+    <message>
+        <source>Boxes: %1, layers: %2</source>
+        <translation>箱数：%1，层数：%2</translation>
+    </message>
+    <message>
+        <source>Separator sheets: %1</source>
+        <translation>隔板：%1</translation>
+    </message>
+    <message>
+        <source>Height: %1 mm (load %2 mm)</source>
+        <translation>高度：%1 mm（货物 %2 mm）</translation>
+    </message>
+    <message>
+        <source>Weight: %1 kg (load %2 kg)</source>
+        <translation>重量：%1 kg（货物 %2 kg）</translation>
+    </message>
+</context>
+<context>
+    <name>RowText</name>
+    <message>
+        <source>%1 x %2 x %3 mm</source>
+        <translation>%1 x %2 x %3 mm</translation>
+    </message>
+    <message>
+        <source>%1 kg</source>
+        <translation>%1 kg</translation>
+    </message>
+    <message>
+        <source>Separator sheet</source>
+        <translation>隔板</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>%1, %2 of them shown</source>
+        <translation>%1，其中显示 %2</translation>
+    </message>
+    <message>
+        <source>Products</source>
+        <translation>产品</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>%1/%2 by %3 mm</source>
+        <translation>%1/%2 重叠 %3 mm</translation>
+    </message>
+    <message>
+        <source>Overlap: %1 and %2 more</source>
+        <translation>重叠：%1，另有 %2 处</translation>
+    </message>
+    <message>
+        <source>Overlap: %1</source>
+        <translation>重叠：%1</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm</source>
+        <translation>%1 %2 mm</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Over the pallet: %1</source>
+        <translation>伸出托盘：%1</translation>
+    </message>
+    <message>
+        <source>Products with missing or unreadable values: %1</source>
+        <translation>数值缺失或无法读取的产品：%1</translation>
+    </message>
+    <message>
+        <source>Products with impossible sizes or positions: %1</source>
+        <translation>尺寸或位置不可能的产品：%1</translation>
+    </message>
+    <message>
+        <source>Products with an unknown direction: %1</source>
+        <translation>方向未知的产品：%1</translation>
+    </message>
+    <message>
+        <source>Products whose number is not their place in the order: %1</source>
+        <translation>编号与顺序不符的产品：%1</translation>
+    </message>
+    <message>
+        <source>The product&apos;s size is not valid</source>
+        <translation>产品尺寸无效</translation>
+    </message>
+    <message>
+        <source>The pallet&apos;s size is not valid</source>
+        <translation>托盘尺寸无效</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>配方</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>垛型</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>产品</translation>
+    </message>
+    <message>
+        <source>Pallet</source>
+        <translation>托盘</translation>
+    </message>
+    <message>
+        <source>Load of the layer</source>
+        <translation>层货物尺寸</translation>
+    </message>
+    <message>
+        <source>Height over the deck</source>
+        <translation>距托盘面高度</translation>
+    </message>
+    <message>
+        <source>%1 to %2 mm</source>
+        <translation>%1 至 %2 mm</translation>
+    </message>
+    <message>
+        <source>Layers of products</source>
+        <translation>产品层数</translation>
+    </message>
+    <message>
+        <source>Separator sheets</source>
+        <translation>隔板</translation>
+    </message>
+    <message>
+        <source>Height with the pallet</source>
+        <translation>含托盘高度</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Weight with the pallet</source>
+        <translation>含托盘重量</translation>
+    </message>
+</context>
+<context>
+    <name>StackHomePage</name>
+    <message>
+        <source>Recipes</source>
+        <translation>配方</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search recipes</source>
+        <translation>搜索配方</translation>
+    </message>
+    <message>
+        <source>Name of the recipe</source>
+        <translation>配方名称</translation>
+    </message>
+    <message>
+        <source>Description of the recipe</source>
+        <translation>配方说明</translation>
+    </message>
+    <message>
+        <source>Picture of the recipe</source>
+        <translation>配方图片</translation>
+    </message>
+    <message>
+        <source>Summary of the recipe</source>
+        <translation>配方概要</translation>
+    </message>
+    <message>
+        <source>Layers of the recipe</source>
+        <translation>配方的层</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新建</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>There are no recipes yet. Touch &quot;New&quot; to make one.</source>
+        <translation>还没有配方。点击“新建”即可创建。</translation>
+    </message>
+    <message>
+        <source>No recipe is called or described so.</source>
+        <translation>没有名称或说明与之相符的配方。</translation>
+    </message>
+    <message>
+        <source>New recipe</source>
+        <translation>新建配方</translation>
+    </message>
+    <message>
+        <source>Recipe %1</source>
+        <translation>配方 %1</translation>
+    </message>
+    <message>
+        <source>Copy of %1</source>
+        <translation>%1 的副本</translation>
+    </message>
+    <message>
+        <source>New name for %1</source>
+        <translation>%1 的新名称</translation>
+    </message>
+    <message>
+        <source>Delete recipe</source>
+        <translation>删除配方</translation>
+    </message>
+    <message>
+        <source>Delete the recipe &quot;%1&quot;?</source>
+        <translation>删除配方“%1”？</translation>
+    </message>
+    <message>
+        <source>The recipe &quot;%1&quot; was deleted.</source>
+        <translation>配方“%1”已删除。</translation>
+    </message>
+    <message>
+        <source>The recipe is back as &quot;%1&quot;; its name was taken.</source>
+        <translation>配方已恢复为“%1”，因为原名称已被占用。</translation>
+    </message>
+    <message>
+        <source>The recipe cannot be made: the list of recipes is missing.</source>
+        <translation>无法创建配方：缺少配方列表。</translation>
+    </message>
+</context>
+<context>
+    <name>StackPatternScene</name>
+    <message>
+        <source>Separator sheet, its size is not set</source>
+        <translation>隔板，未设置尺寸</translation>
+    </message>
+    <message>
+        <source>Separator sheet %1 x %2 x %3 mm</source>
+        <translation>隔板 %1 x %2 x %3 mm</translation>
+    </message>
+    <message>
+        <source>This recipe has no layers</source>
+        <translation>此配方没有层</translation>
+    </message>
+    <message>
+        <source>There is no layer %1; the recipe has %2</source>
+        <translation>没有第 %1 层；配方共有 %2 层</translation>
+    </message>
+    <message>
+        <source>The recipe has no pattern &quot;%1&quot;</source>
+        <translation>配方中没有垛型“%1”</translation>
+    </message>
+    <message>
+        <source>Empty layer: it is left out</source>
+        <translation>空层：将被跳过</translation>
+    </message>
+    <message>
+        <source>No pattern is chosen for this layer: the stack ends below it</source>
+        <translation>该层未选择垛型：垛在其下方结束</translation>
+    </message>
+    <message>
+        <source>Not placed: the stack ends at a layer below</source>
+        <translation>不放置：垛在下面的层结束</translation>
+    </message>
+    <message>
+        <source>The pattern &quot;%1&quot; is empty</source>
+        <translation>垛型“%1”为空</translation>
+    </message>
+</context>
+<context>
+    <name>StackSetupPage</name>
+    <message>
+        <source>Recipes</source>
+        <translation>配方</translation>
+    </message>
+    <message>
+        <source>Back to the recipes</source>
+        <translation>返回配方</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>配方</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Undo the last edit</source>
+        <translation>撤销上一次编辑</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Redo the undone edit</source>
+        <translation>重做已撤销的编辑</translation>
+    </message>
+    <message>
+        <source>No recipe is open. Choose one above or go to the recipes.</source>
+        <translation>没有打开的配方。请在上方选择，或转到配方列表。</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>产品</translation>
+    </message>
+    <message>
+        <source>Pallet</source>
+        <translation>托盘</translation>
+    </message>
+    <message>
+        <source>Patterns</source>
+        <translation>垛型</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Waypoints</source>
+        <translation>路径点</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>The margins left no room for a product and were set to 0.</source>
+        <translation>边距没有给产品留出空间，已设为 0。</translation>
+    </message>
+</context>
+<context>
+    <name>TitleText</name>
+    <message>
+        <source>%1 mm, 1 px = %2 mm</source>
+        <translation>%1 mm，1 px = %2 mm</translation>
+    </message>
+    <message>
+        <source>overlap</source>
+        <translation>重叠</translation>
+    </message>
+    <message>
+        <source>over the pallet</source>
+        <translation>伸出托盘</translation>
+    </message>
+    <message>
+        <source>label side</source>
+        <translation>标签面</translation>
+    </message>
+    <message>
+        <source>approach, to scale</source>
+        <translation>接近方向，按比例</translation>
+    </message>
+    <message>
+        <source>layer below</source>
+        <translation>下层</translation>
+    </message>
+</context>
+<context>
+    <name>WaypointsFrame</name>
+    <message>
+        <source>Place side</source>
+        <translation>放置侧</translation>
+    </message>
+    <message>
+        <source>Pick side</source>
+        <translation>抓取侧</translation>
+    </message>
+    <message>
+        <source>Offsets</source>
+        <translation>偏移</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Heights over the place point</source>
+        <translation>距放置点的高度</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>准备</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>接近</translation>
+    </message>
+    <message>
+        <source>Retract</source>
+        <translation>回退</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>离开</translation>
+    </message>
+    <message>
+        <source>Heights over the pick point</source>
+        <translation>距抓取点的高度</translation>
+    </message>
+    <message>
+        <source>Left pallet</source>
+        <translation>左托盘</translation>
+    </message>
+    <message>
+        <source>Enter X</source>
+        <translation>进入 X</translation>
+    </message>
+    <message>
+        <source>Enter Y</source>
+        <translation>进入 Y</translation>
+    </message>
+    <message>
+        <source>Enter height</source>
+        <translation>进入高度</translation>
+    </message>
+    <message>
+        <source>Ready height</source>
+        <translation>准备高度</translation>
+    </message>
+    <message>
+        <source>Approach height</source>
+        <translation>接近高度</translation>
+    </message>
+    <message>
+        <source>Retract height</source>
+        <translation>回退高度</translation>
+    </message>
+    <message>
+        <source>Exit height</source>
+        <translation>离开高度</translation>
+    </message>
+    <message>
+        <source>Right pallet</source>
+        <translation>右托盘</translation>
+    </message>
+    <message>
+        <source>Place point</source>
+        <translation>放置点</translation>
+    </message>
+    <message>
+        <source>Enter point</source>
+        <translation>进入点</translation>
+    </message>
+    <message>
+        <source>Pick point</source>
+        <translation>抓取点</translation>
+    </message>
+    <message>
+        <source>The shared work object gives the place points; the heights come from the shared offsets.</source>
+        <translation>放置点由共用工件给出；高度取自共用偏移。</translation>
+    </message>
+    <message>
+        <source>The first product of the first layer is placed at the place point&apos;s height; positions come from the pattern.</source>
+        <translation>第一层的第一个产品按放置点的高度放置；位置取自垛型。</translation>
+    </message>
+    <message>
+        <source>The shared tool gives the pick points and the approach height.</source>
+        <translation>抓取点和接近高度由共用工具给出。</translation>
+    </message>
+    <message>
+        <source>The robot picks every product at the pick point.</source>
+        <translation>机器人在抓取点抓取每个产品。</translation>
+    </message>
+    <message>
+        <source>Shared by all recipes on this work object.</source>
+        <translation>由使用此工件的所有配方共用。</translation>
+    </message>
+    <message>
+        <source>Kept with this recipe for the robot program; the points follow the shared offsets of the work object calibrated by one point.</source>
+        <translation>随此配方保存，供机器人程序使用；点遵循单点标定工件的共用偏移。</translation>
+    </message>
+</context>
+<context>
+    <name>palx</name>
+    <message>
+        <source>The way points have regenerated!</source>
+        <translation>路径点已重新生成！</translation>
+    </message>
+    <message>
+        <source>it holds something else</source>
+        <translation>其内容不符</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read and was kept as %2: %3</source>
+        <translation>%1 无法读取，已保存为 %2：%3</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>无法创建文件夹</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. The panel keeps the data; make room or give access, then change them once more</source>
+        <translation>%1 无法写入：%2。数据保留在面板中；请腾出空间或授予权限，然后再更改一次</translation>
+    </message>
+    <message>
+        <source>Product para is invalid</source>
+        <translation>产品参数无效</translation>
+    </message>
+    <message>
+        <source>Product length is invalid and is setted to default</source>
+        <translation>产品长度无效，已设为默认值</translation>
+    </message>
+    <message>
+        <source>Product width is invalid and is setted to default</source>
+        <translation>产品宽度无效，已设为默认值</translation>
+    </message>
+    <message>
+        <source>Pallet para is invalid</source>
+        <translation>托盘参数无效</translation>
+    </message>
+    <message>
+        <source>Pallet length is invalid and is setted to default</source>
+        <translation>托盘长度无效，已设为默认值</translation>
+    </message>
+    <message>
+        <source>Pallet width is invalid and is setted to default</source>
+        <translation>托盘宽度无效，已设为默认值</translation>
+    </message>
+    <message>
+        <source>Pallet&apos;length is less than product&apos;length</source>
+        <translation>托盘长度小于产品长度</translation>
+    </message>
+    <message>
+        <source>Pallet&apos;width is less than product&apos;width</source>
+        <translation>托盘宽度小于产品宽度</translation>
+    </message>
+</context>
+<context>
+    <name>palx::JogLabels</name>
+    <message>
+        <source>J1(%1)</source>
+        <translation>J1(%1)</translation>
+    </message>
+    <message>
+        <source>J2(%1)</source>
+        <translation>J2(%1)</translation>
+    </message>
+    <message>
+        <source>J3(%1)</source>
+        <translation>J3(%1)</translation>
+    </message>
+    <message>
+        <source>J4(%1)</source>
+        <translation>J4(%1)</translation>
+    </message>
+    <message>
+        <source>J5(%1)</source>
+        <translation>J5(%1)</translation>
+    </message>
+    <message>
+        <source>J6(%1)</source>
+        <translation>J6(%1)</translation>
+    </message>
+    <message>
+        <source>J7(%1)</source>
+        <translation>J7(%1)</translation>
+    </message>
+    <message>
+        <source>A(%1)</source>
+        <translation>A(%1)</translation>
+    </message>
+    <message>
+        <source>B(%1)</source>
+        <translation>B(%1)</translation>
+    </message>
+    <message>
+        <source>C(%1)</source>
+        <translation>C(%1)</translation>
+    </message>
+</context>
+</TS>

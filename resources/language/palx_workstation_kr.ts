@@ -1,0 +1,1617 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko_KR" sourcelanguage="en_US">
+<context>
+    <name>FieldText</name>
+    <message>
+        <source>%1 is outside of %2 to %3%4.</source>
+        <translation>%1은(는) %2 ~ %3%4 범위를 벗어났습니다.</translation>
+    </message>
+    <message>
+        <source>With this margin no product fits on the pallet.</source>
+        <translation>이 여백으로는 팔레트에 제품을 하나도 놓을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> kg</source>
+        <translation> kg</translation>
+    </message>
+    <message>
+        <source>The product is larger than the pallet; it will reach over the edge.</source>
+        <translation>제품이 팔레트보다 커서 가장자리 밖으로 나옵니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemTableModel</name>
+    <message>
+        <source>Top</source>
+        <translation>위</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>아래</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>왼쪽 위</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>오른쪽 위</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>왼쪽 아래</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>오른쪽 아래</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>가운데</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>번호</translation>
+    </message>
+    <message>
+        <source>x
+mm</source>
+        <translation>x
+mm</translation>
+    </message>
+    <message>
+        <source>y
+mm</source>
+        <translation>y
+mm</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>회전</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>방향</translation>
+    </message>
+    <message>
+        <source>dx
+mm</source>
+        <translation>dx
+mm</translation>
+    </message>
+    <message>
+        <source>dy
+mm</source>
+        <translation>dy
+mm</translation>
+    </message>
+    <message>
+        <source>dz
+mm</source>
+        <translation>dz
+mm</translation>
+    </message>
+</context>
+<context>
+    <name>Keypad</name>
+    <message>
+        <source>Number</source>
+        <translation>숫자</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>값</translation>
+    </message>
+    <message>
+        <source>Allowed values</source>
+        <translation>허용 값</translation>
+    </message>
+    <message>
+        <source>7</source>
+        <translation>7</translation>
+    </message>
+    <message>
+        <source>8</source>
+        <translation>8</translation>
+    </message>
+    <message>
+        <source>9</source>
+        <translation>9</translation>
+    </message>
+    <message>
+        <source>4</source>
+        <translation>4</translation>
+    </message>
+    <message>
+        <source>5</source>
+        <translation>5</translation>
+    </message>
+    <message>
+        <source>6</source>
+        <translation>6</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>2</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>Decimal point</source>
+        <translation>소수점</translation>
+    </message>
+    <message>
+        <source>Change the sign</source>
+        <translation>부호 바꾸기</translation>
+    </message>
+    <message>
+        <source>Delete the last digit</source>
+        <translation>마지막 숫자 지우기</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>지우기</translation>
+    </message>
+    <message>
+        <source>Clear the value</source>
+        <translation>값 지우기</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>%1 to %2 %3</source>
+        <translation>%1 ~ %2 %3</translation>
+    </message>
+    <message>
+        <source>Not allowed. Enter %1.</source>
+        <translation>허용되지 않습니다. %1 값을 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Allowed: %1</source>
+        <translation>허용: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LayerTableModel</name>
+    <message>
+        <source>Separator sheet</source>
+        <translation>간지</translation>
+    </message>
+    <message>
+        <source>Empty (end of stack)</source>
+        <translation>비어 있음 (적재 끝)</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(없음)</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>단</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>패턴</translation>
+    </message>
+    <message>
+        <source>Boxes</source>
+        <translation>박스</translation>
+    </message>
+    <message>
+        <source>From
+mm</source>
+        <translation>하단
+mm</translation>
+    </message>
+    <message>
+        <source>To
+mm</source>
+        <translation>상단
+mm</translation>
+    </message>
+</context>
+<context>
+    <name>LayerText</name>
+    <message>
+        <source>is a separator sheet, but the recipe has separator sheets switched off</source>
+        <translation>간지이지만 레시피에서 간지 사용이 꺼져 있습니다</translation>
+    </message>
+    <message>
+        <source>is a separator sheet, but the sheet has no height</source>
+        <translation>간지이지만 간지의 높이가 없습니다</translation>
+    </message>
+    <message>
+        <source>has no pattern; this layer and those above it get no points</source>
+        <translation>패턴이 없습니다. 이 단과 그 위의 단에는 포인트가 생성되지 않습니다</translation>
+    </message>
+    <message>
+        <source>uses the pattern &quot;%1&quot;, which this recipe does not have</source>
+        <translation>이 레시피에 없는 패턴 &quot;%1&quot;을(를) 사용합니다</translation>
+    </message>
+    <message>
+        <source>uses the pattern &quot;%1&quot;, which holds no products</source>
+        <translation>제품이 없는 패턴 &quot;%1&quot;을(를) 사용합니다</translation>
+    </message>
+    <message>
+        <source>Layer %1 %2.</source>
+        <translation>%1단: %2.</translation>
+    </message>
+    <message>
+        <source>The recipe has no layers.</source>
+        <translation>레시피에 단이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Layer %1 lies on an empty layer; the stack ends at its first empty layer, so only empty layers may follow it.</source>
+        <translation>%1단이 빈 단 위에 있습니다. 적재는 첫 번째 빈 단에서 끝나므로 그 뒤에는 빈 단만 올 수 있습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>LayersFrame</name>
+    <message>
+        <source>Layers from the pallet up</source>
+        <translation>팔레트부터 위로의 단</translation>
+    </message>
+    <message>
+        <source>What is wrong with the layers</source>
+        <translation>단의 문제점</translation>
+    </message>
+    <message>
+        <source>Totals of the recipe</source>
+        <translation>레시피 합계</translation>
+    </message>
+    <message>
+        <source>Plan of the layer</source>
+        <translation>단 평면도</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>단</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>패턴</translation>
+    </message>
+    <message>
+        <source>Height offset</source>
+        <translation>높이 오프셋</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>추가</translation>
+    </message>
+    <message>
+        <source>Add a layer on top</source>
+        <translation>맨 위에 단 추가</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>삽입</translation>
+    </message>
+    <message>
+        <source>Insert before the chosen layer</source>
+        <translation>선택한 단 앞에 삽입</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>제거</translation>
+    </message>
+    <message>
+        <source>Place the layer earlier</source>
+        <translation>단을 앞으로 이동</translation>
+    </message>
+    <message>
+        <source>Place the layer later</source>
+        <translation>단을 뒤로 이동</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>반복</translation>
+    </message>
+    <message>
+        <source>Repeat the whole sequence on top</source>
+        <translation>전체 순서를 위에 반복</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>%1단</translation>
+    </message>
+    <message>
+        <source>No layer chosen</source>
+        <translation>선택한 단 없음</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBar</name>
+    <message>
+        <source>Message</source>
+        <translation>메시지</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Close the message</source>
+        <translation>메시지 닫기</translation>
+    </message>
+</context>
+<context>
+    <name>NameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>설명</translation>
+    </message>
+    <message>
+        <source>Why the name is refused</source>
+        <translation>이름이 거부된 이유</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>PalletFrame</name>
+    <message>
+        <source>Pallet</source>
+        <translation>팔레트</translation>
+    </message>
+    <message>
+        <source>Standard size</source>
+        <translation>표준 크기</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>길이</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>너비</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>높이</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>무게</translation>
+    </message>
+    <message>
+        <source>Margins</source>
+        <translation>여백</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>위</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>아래</translation>
+    </message>
+    <message>
+        <source>Separator sheets</source>
+        <translation>간지</translation>
+    </message>
+    <message>
+        <source>Sheet length</source>
+        <translation>간지 길이</translation>
+    </message>
+    <message>
+        <source>Sheet width</source>
+        <translation>간지 너비</translation>
+    </message>
+    <message>
+        <source>Sheet height</source>
+        <translation>간지 높이</translation>
+    </message>
+    <message>
+        <source>Sheet weight</source>
+        <translation>간지 무게</translation>
+    </message>
+    <message>
+        <source>Place in the cell</source>
+        <translation>셀 내 위치</translation>
+    </message>
+    <message>
+        <source>Pallet place</source>
+        <translation>팔레트 위치</translation>
+    </message>
+    <message>
+        <source>Post height</source>
+        <translation>포스트 높이</translation>
+    </message>
+    <message>
+        <source>Shared tool</source>
+        <translation>공용 툴</translation>
+    </message>
+    <message>
+        <source>Use the tool shared by all recipes</source>
+        <translation>모든 레시피가 공유하는 툴 사용</translation>
+    </message>
+    <message>
+        <source>Corner posts</source>
+        <translation>코너 포스트</translation>
+    </message>
+    <message>
+        <source>The pallet has corner posts</source>
+        <translation>팔레트에 코너 포스트가 있음</translation>
+    </message>
+    <message>
+        <source>Shared work object</source>
+        <translation>공용 작업 객체</translation>
+    </message>
+    <message>
+        <source>Use the work object shared by all recipes</source>
+        <translation>모든 레시피가 공유하는 작업 객체 사용</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Own size</source>
+        <translation>사용자 지정 크기</translation>
+    </message>
+</context>
+<context>
+    <name>Palx</name>
+    <message>
+        <source>W-Palletizing</source>
+        <translation>W-팔레타이징</translation>
+    </message>
+</context>
+<context>
+    <name>PatternText</name>
+    <message>
+        <source>Name is empty!</source>
+        <translation>이름이 비어 있습니다!</translation>
+    </message>
+    <message>
+        <source>Pattern name length is greater than 32!</source>
+        <translation>패턴 이름이 32자를 초과합니다!</translation>
+    </message>
+    <message>
+        <source>Only letters, digits, &quot;_&quot; and &quot;-&quot; are allowed in a pattern&apos;s name.</source>
+        <translation>패턴 이름에는 문자, 숫자, &quot;_&quot;와 &quot;-&quot;만 사용할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Name is repeated!</source>
+        <translation>이름이 중복됩니다!</translation>
+    </message>
+</context>
+<context>
+    <name>PatternsFrame</name>
+    <message>
+        <source>Pattern</source>
+        <translation>패턴</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>신규</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Plan of the pattern</source>
+        <translation>패턴 평면도</translation>
+    </message>
+    <message>
+        <source>What is wrong with the pattern</source>
+        <translation>패턴의 문제점</translation>
+    </message>
+    <message>
+        <source>Products of the pattern</source>
+        <translation>패턴의 제품</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>추가</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>제거</translation>
+    </message>
+    <message>
+        <source>Place the product earlier</source>
+        <translation>제품을 먼저 놓기</translation>
+    </message>
+    <message>
+        <source>Place the product later</source>
+        <translation>제품을 나중에 놓기</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>제품</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>방향</translation>
+    </message>
+    <message>
+        <source>x (across)</source>
+        <translation>x (가로)</translation>
+    </message>
+    <message>
+        <source>y (along)</source>
+        <translation>y (세로)</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>회전</translation>
+    </message>
+    <message>
+        <source>dx</source>
+        <translation>dx</translation>
+    </message>
+    <message>
+        <source>dy</source>
+        <translation>dy</translation>
+    </message>
+    <message>
+        <source>dz</source>
+        <translation>dz</translation>
+    </message>
+    <message>
+        <source>New pattern</source>
+        <translation>새 패턴</translation>
+    </message>
+    <message>
+        <source>Copy of pattern %1</source>
+        <translation>패턴 %1의 복사본</translation>
+    </message>
+    <message>
+        <source>New name for pattern %1</source>
+        <translation>패턴 %1의 새 이름</translation>
+    </message>
+    <message>
+        <source>Pattern %1 (in %2 layers)</source>
+        <translation>패턴 %1 (%2개 단)</translation>
+    </message>
+    <message>
+        <source>Product %1</source>
+        <translation>제품 %1</translation>
+    </message>
+    <message>
+        <source>No product chosen</source>
+        <translation>선택한 제품 없음</translation>
+    </message>
+    <message>
+        <source>The recipe was closed.</source>
+        <translation>레시피가 닫혔습니다.</translation>
+    </message>
+    <message>
+        <source>It is used in %1 layers, which will get no points.</source>
+        <translation>%1개 단에서 사용 중이며, 이 단에는 포인트가 생성되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Delete the pattern %1? %2</source>
+        <translation>패턴 %1을(를) 삭제하시겠습니까? %2</translation>
+    </message>
+    <message>
+        <source>Delete pattern</source>
+        <translation>패턴 삭제</translation>
+    </message>
+    <message>
+        <source>A pattern holds at most %1 products.</source>
+        <translation>패턴에는 제품을 최대 %1개까지 넣을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Use size</source>
+        <translation>크기 적용</translation>
+    </message>
+    <message>
+        <source>Give every product the size of the recipe&apos;s product</source>
+        <translation>모든 제품에 레시피 제품의 크기 적용</translation>
+    </message>
+</context>
+<context>
+    <name>PointGroup</name>
+    <message>
+        <source>Point</source>
+        <translation>포인트</translation>
+    </message>
+    <message>
+        <source>State of the point</source>
+        <translation>포인트 상태</translation>
+    </message>
+    <message>
+        <source>Enter the values of the point by hand</source>
+        <translation>포인트 값을 직접 입력</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>지우기</translation>
+    </message>
+    <message>
+        <source>Clear the point</source>
+        <translation>포인트 지우기</translation>
+    </message>
+    <message>
+        <source>All zero</source>
+        <translation>모두 0</translation>
+    </message>
+    <message>
+        <source>Not taught</source>
+        <translation>미교시</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>계산됨</translation>
+    </message>
+    <message>
+        <source>Taught</source>
+        <translation>교시됨</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>수동</translation>
+    </message>
+</context>
+<context>
+    <name>PointTableModel</name>
+    <message>
+        <source>Enter</source>
+        <translation>진입</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>준비</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>접근</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>놓기</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>집기</translation>
+    </message>
+    <message>
+        <source>Retract</source>
+        <translation>후퇴</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>이탈</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>단</translation>
+    </message>
+    <message>
+        <source>Item</source>
+        <translation>제품</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>포인트</translation>
+    </message>
+    <message>
+        <source>X
+mm</source>
+        <translation>X
+mm</translation>
+    </message>
+    <message>
+        <source>Y
+mm</source>
+        <translation>Y
+mm</translation>
+    </message>
+    <message>
+        <source>Z
+mm</source>
+        <translation>Z
+mm</translation>
+    </message>
+</context>
+<context>
+    <name>PointText</name>
+    <message>
+        <source>The place point is not taught.</source>
+        <translation>놓기 포인트가 교시되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The enter point of the place side is not taught.</source>
+        <translation>놓기 측 진입 포인트가 교시되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The pallet place is neither left nor right, so all place positions will be 0.</source>
+        <translation>팔레트 위치가 왼쪽도 오른쪽도 아니므로 모든 놓기 위치가 0이 됩니다.</translation>
+    </message>
+    <message>
+        <source>The origin point of the shared work object for the left pallet is not taught.</source>
+        <translation>왼쪽 팔레트 공용 작업 객체의 원점이 교시되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The origin point of the shared work object for the right pallet is not taught.</source>
+        <translation>오른쪽 팔레트 공용 작업 객체의 원점이 교시되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The corner of the product on the conveyor is not taught.</source>
+        <translation>컨베이어 위 제품의 모서리가 교시되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The pick point is not taught.</source>
+        <translation>집기 포인트가 교시되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The enter point of the pick side is not taught.</source>
+        <translation>집기 측 진입 포인트가 교시되지 않았습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>PointsFrame</name>
+    <message>
+        <source>Generate points</source>
+        <translation>포인트 생성</translation>
+    </message>
+    <message>
+        <source>State of the points</source>
+        <translation>포인트 상태</translation>
+    </message>
+    <message>
+        <source>Layer to show</source>
+        <translation>표시할 단</translation>
+    </message>
+    <message>
+        <source>Kind of point to show</source>
+        <translation>표시할 포인트 종류</translation>
+    </message>
+    <message>
+        <source>Number of points shown</source>
+        <translation>표시된 포인트 수</translation>
+    </message>
+    <message>
+        <source>Copy table</source>
+        <translation>표 복사</translation>
+    </message>
+    <message>
+        <source>Copy the table to the clipboard</source>
+        <translation>표를 클립보드에 복사</translation>
+    </message>
+    <message>
+        <source>Generated points</source>
+        <translation>생성된 포인트</translation>
+    </message>
+    <message>
+        <source>All layers</source>
+        <translation>모든 단</translation>
+    </message>
+    <message>
+        <source>Pick side</source>
+        <translation>집기 측</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>%1단</translation>
+    </message>
+    <message>
+        <source>All points</source>
+        <translation>모든 포인트</translation>
+    </message>
+    <message>
+        <source>Points: %1</source>
+        <translation>포인트: %1</translation>
+    </message>
+    <message>
+        <source>No points have been generated yet.</source>
+        <translation>아직 생성된 포인트가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The recipe or the shared settings were changed: generate the points again.</source>
+        <translation>레시피 또는 공용 설정이 변경되었습니다. 포인트를 다시 생성하십시오.</translation>
+    </message>
+    <message>
+        <source>The points are up to date.</source>
+        <translation>포인트가 최신 상태입니다.</translation>
+    </message>
+    <message>
+        <source>Points copied: %1</source>
+        <translation>복사한 포인트: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemText</name>
+    <message>
+        <source>Products %1 and %2 overlap by %3 mm.</source>
+        <translation>제품 %1과(와) %2이(가) %3 mm 겹칩니다.</translation>
+    </message>
+    <message>
+        <source>Product %1 reaches %2 mm over the pallet.</source>
+        <translation>제품 %1이(가) 팔레트 밖으로 %2 mm 나옵니다.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 products have another size than the recipe&apos;s product.</source>
+        <translation>제품 %2개 중 %1개의 크기가 레시피의 제품과 다릅니다.</translation>
+    </message>
+    <message>
+        <source>Product %1 was stored with a value that cannot be used.</source>
+        <translation>제품 %1에 사용할 수 없는 값이 저장되어 있습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFrame</name>
+    <message>
+        <source>Size and weight</source>
+        <translation>크기와 무게</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>길이</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>너비</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>높이</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>무게</translation>
+    </message>
+    <message>
+        <source>Placing</source>
+        <translation>배치</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>방향</translation>
+    </message>
+    <message>
+        <source>Orientation code</source>
+        <translation>자세 코드</translation>
+    </message>
+    <message>
+        <source>Along (dx)</source>
+        <translation>세로 (dx)</translation>
+    </message>
+    <message>
+        <source>Across (dy)</source>
+        <translation>가로 (dy)</translation>
+    </message>
+    <message>
+        <source>Lift (dz)</source>
+        <translation>상승 (dz)</translation>
+    </message>
+    <message>
+        <source>Picture of the recipe</source>
+        <translation>레시피 그림</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>레시피</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>설명</translation>
+    </message>
+    <message>
+        <source>Totals of the recipe</source>
+        <translation>레시피 합계</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>경고</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeFrame</name>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n개 더</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RecipeText</name>
+    <message>
+        <source>The name is empty.</source>
+        <translation>이름이 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>The name begins or ends with a blank.</source>
+        <translation>이름이 공백으로 시작하거나 끝납니다.</translation>
+    </message>
+    <message>
+        <source>The name has %1 characters; at most %2 are allowed.</source>
+        <translation>이름이 %1자입니다. 최대 %2자까지 허용됩니다.</translation>
+    </message>
+    <message>
+        <source>The name holds a line break or another control character.</source>
+        <translation>이름에 줄 바꿈이나 다른 제어 문자가 있습니다.</translation>
+    </message>
+    <message>
+        <source>There is a recipe &quot;%1&quot; already.</source>
+        <translation>레시피 &quot;%1&quot;이(가) 이미 있습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeTexts</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Boxes: %1, layers: %2
+Product: %3
+Pallet: %4</source>
+        <translation>박스: %1, 단: %2
+제품: %3
+팔레트: %4</translation>
+    </message>
+    <message>
+        <source>Boxes: %1, layers: %2</source>
+        <translation>박스: %1, 단: %2</translation>
+    </message>
+    <message>
+        <source>Separator sheets: %1</source>
+        <translation>간지: %1</translation>
+    </message>
+    <message>
+        <source>Height: %1 mm (load %2 mm)</source>
+        <translation>높이: %1 mm (적재물 %2 mm)</translation>
+    </message>
+    <message>
+        <source>Weight: %1 kg (load %2 kg)</source>
+        <translation>무게: %1 kg (적재물 %2 kg)</translation>
+    </message>
+</context>
+<context>
+    <name>RowText</name>
+    <message>
+        <source>%1 x %2 x %3 mm</source>
+        <translation>%1 x %2 x %3 mm</translation>
+    </message>
+    <message>
+        <source>%1 kg</source>
+        <translation>%1 kg</translation>
+    </message>
+    <message>
+        <source>Separator sheet</source>
+        <translation>간지</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>비어 있음</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>%1, %2 of them shown</source>
+        <translation>%1, 그중 %2개 표시</translation>
+    </message>
+    <message>
+        <source>Products</source>
+        <translation>제품</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>%1/%2 by %3 mm</source>
+        <translation>%1/%2 %3 mm</translation>
+    </message>
+    <message>
+        <source>Overlap: %1 and %2 more</source>
+        <translation>겹침: %1 외 %2건</translation>
+    </message>
+    <message>
+        <source>Overlap: %1</source>
+        <translation>겹침: %1</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm</source>
+        <translation>%1 %2 mm</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>위</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>아래</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>Over the pallet: %1</source>
+        <translation>팔레트 밖: %1</translation>
+    </message>
+    <message>
+        <source>Products with missing or unreadable values: %1</source>
+        <translation>값이 없거나 읽을 수 없는 제품: %1</translation>
+    </message>
+    <message>
+        <source>Products with impossible sizes or positions: %1</source>
+        <translation>크기나 위치가 불가능한 제품: %1</translation>
+    </message>
+    <message>
+        <source>Products with an unknown direction: %1</source>
+        <translation>방향을 알 수 없는 제품: %1</translation>
+    </message>
+    <message>
+        <source>Products whose number is not their place in the order: %1</source>
+        <translation>번호가 순서와 다른 제품: %1</translation>
+    </message>
+    <message>
+        <source>The product&apos;s size is not valid</source>
+        <translation>제품 크기가 유효하지 않습니다</translation>
+    </message>
+    <message>
+        <source>The pallet&apos;s size is not valid</source>
+        <translation>팔레트 크기가 유효하지 않습니다</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>레시피</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>단</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>패턴</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>제품</translation>
+    </message>
+    <message>
+        <source>Pallet</source>
+        <translation>팔레트</translation>
+    </message>
+    <message>
+        <source>Load of the layer</source>
+        <translation>단 적재 크기</translation>
+    </message>
+    <message>
+        <source>Height over the deck</source>
+        <translation>상판 위 높이</translation>
+    </message>
+    <message>
+        <source>%1 to %2 mm</source>
+        <translation>%1 ~ %2 mm</translation>
+    </message>
+    <message>
+        <source>Layers of products</source>
+        <translation>제품 단 수</translation>
+    </message>
+    <message>
+        <source>Separator sheets</source>
+        <translation>간지</translation>
+    </message>
+    <message>
+        <source>Height with the pallet</source>
+        <translation>팔레트 포함 높이</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Weight with the pallet</source>
+        <translation>팔레트 포함 무게</translation>
+    </message>
+</context>
+<context>
+    <name>StackHomePage</name>
+    <message>
+        <source>Recipes</source>
+        <translation>레시피</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>검색</translation>
+    </message>
+    <message>
+        <source>Search recipes</source>
+        <translation>레시피 검색</translation>
+    </message>
+    <message>
+        <source>Name of the recipe</source>
+        <translation>레시피 이름</translation>
+    </message>
+    <message>
+        <source>Description of the recipe</source>
+        <translation>레시피 설명</translation>
+    </message>
+    <message>
+        <source>Picture of the recipe</source>
+        <translation>레시피 그림</translation>
+    </message>
+    <message>
+        <source>Summary of the recipe</source>
+        <translation>레시피 요약</translation>
+    </message>
+    <message>
+        <source>Layers of the recipe</source>
+        <translation>레시피의 단</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>새로 만들기</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>이름 변경</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>열기</translation>
+    </message>
+    <message>
+        <source>There are no recipes yet. Touch &quot;New&quot; to make one.</source>
+        <translation>아직 레시피가 없습니다. &quot;새로 만들기&quot;를 눌러 만드십시오.</translation>
+    </message>
+    <message>
+        <source>No recipe is called or described so.</source>
+        <translation>해당 이름이나 설명의 레시피가 없습니다.</translation>
+    </message>
+    <message>
+        <source>New recipe</source>
+        <translation>새 레시피</translation>
+    </message>
+    <message>
+        <source>Recipe %1</source>
+        <translation>레시피 %1</translation>
+    </message>
+    <message>
+        <source>Copy of %1</source>
+        <translation>%1의 복사본</translation>
+    </message>
+    <message>
+        <source>New name for %1</source>
+        <translation>%1의 새 이름</translation>
+    </message>
+    <message>
+        <source>Delete recipe</source>
+        <translation>레시피 삭제</translation>
+    </message>
+    <message>
+        <source>Delete the recipe &quot;%1&quot;?</source>
+        <translation>레시피 &quot;%1&quot;을(를) 삭제하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>The recipe &quot;%1&quot; was deleted.</source>
+        <translation>레시피 &quot;%1&quot;을(를) 삭제했습니다.</translation>
+    </message>
+    <message>
+        <source>The recipe is back as &quot;%1&quot;; its name was taken.</source>
+        <translation>원래 이름이 사용 중이어서 레시피를 &quot;%1&quot;(으)로 되돌렸습니다.</translation>
+    </message>
+    <message>
+        <source>The recipe cannot be made: the list of recipes is missing.</source>
+        <translation>레시피를 만들 수 없습니다: 레시피 목록이 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>StackPatternScene</name>
+    <message>
+        <source>Separator sheet, its size is not set</source>
+        <translation>간지, 크기가 설정되지 않음</translation>
+    </message>
+    <message>
+        <source>Separator sheet %1 x %2 x %3 mm</source>
+        <translation>간지 %1 x %2 x %3 mm</translation>
+    </message>
+    <message>
+        <source>This recipe has no layers</source>
+        <translation>이 레시피에는 단이 없습니다</translation>
+    </message>
+    <message>
+        <source>There is no layer %1; the recipe has %2</source>
+        <translation>%1단이 없습니다. 레시피는 %2단입니다</translation>
+    </message>
+    <message>
+        <source>The recipe has no pattern &quot;%1&quot;</source>
+        <translation>레시피에 패턴 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>Empty layer: it is left out</source>
+        <translation>빈 단: 건너뜁니다</translation>
+    </message>
+    <message>
+        <source>No pattern is chosen for this layer: the stack ends below it</source>
+        <translation>이 단에 패턴이 선택되지 않았습니다. 적재는 그 아래에서 끝납니다</translation>
+    </message>
+    <message>
+        <source>Not placed: the stack ends at a layer below</source>
+        <translation>놓지 않음: 적재가 아래 단에서 끝납니다</translation>
+    </message>
+    <message>
+        <source>The pattern &quot;%1&quot; is empty</source>
+        <translation>패턴 &quot;%1&quot;이(가) 비어 있습니다</translation>
+    </message>
+</context>
+<context>
+    <name>StackSetupPage</name>
+    <message>
+        <source>Recipes</source>
+        <translation>레시피</translation>
+    </message>
+    <message>
+        <source>Back to the recipes</source>
+        <translation>레시피로 돌아가기</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>레시피</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Undo the last edit</source>
+        <translation>마지막 편집 취소</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>다시 실행</translation>
+    </message>
+    <message>
+        <source>Redo the undone edit</source>
+        <translation>취소한 편집 다시 실행</translation>
+    </message>
+    <message>
+        <source>No recipe is open. Choose one above or go to the recipes.</source>
+        <translation>열린 레시피가 없습니다. 위에서 선택하거나 레시피 목록으로 이동하십시오.</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>제품</translation>
+    </message>
+    <message>
+        <source>Pallet</source>
+        <translation>팔레트</translation>
+    </message>
+    <message>
+        <source>Patterns</source>
+        <translation>패턴</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>단</translation>
+    </message>
+    <message>
+        <source>Waypoints</source>
+        <translation>경유점</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>포인트</translation>
+    </message>
+    <message>
+        <source>The margins left no room for a product and were set to 0.</source>
+        <translation>여백 때문에 제품을 놓을 공간이 없어 0으로 설정했습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>TitleText</name>
+    <message>
+        <source>%1 mm, 1 px = %2 mm</source>
+        <translation>%1 mm, 1 px = %2 mm</translation>
+    </message>
+    <message>
+        <source>overlap</source>
+        <translation>겹침</translation>
+    </message>
+    <message>
+        <source>over the pallet</source>
+        <translation>팔레트 밖</translation>
+    </message>
+    <message>
+        <source>label side</source>
+        <translation>라벨 면</translation>
+    </message>
+    <message>
+        <source>approach, to scale</source>
+        <translation>접근, 축척대로</translation>
+    </message>
+    <message>
+        <source>layer below</source>
+        <translation>아래 단</translation>
+    </message>
+</context>
+<context>
+    <name>WaypointsFrame</name>
+    <message>
+        <source>Place side</source>
+        <translation>놓기 측</translation>
+    </message>
+    <message>
+        <source>Pick side</source>
+        <translation>집기 측</translation>
+    </message>
+    <message>
+        <source>Offsets</source>
+        <translation>오프셋</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>참고</translation>
+    </message>
+    <message>
+        <source>Heights over the place point</source>
+        <translation>놓기 포인트 위 높이</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>준비</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>접근</translation>
+    </message>
+    <message>
+        <source>Retract</source>
+        <translation>후퇴</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>이탈</translation>
+    </message>
+    <message>
+        <source>Heights over the pick point</source>
+        <translation>집기 포인트 위 높이</translation>
+    </message>
+    <message>
+        <source>Left pallet</source>
+        <translation>왼쪽 팔레트</translation>
+    </message>
+    <message>
+        <source>Enter X</source>
+        <translation>진입 X</translation>
+    </message>
+    <message>
+        <source>Enter Y</source>
+        <translation>진입 Y</translation>
+    </message>
+    <message>
+        <source>Enter height</source>
+        <translation>진입 높이</translation>
+    </message>
+    <message>
+        <source>Ready height</source>
+        <translation>준비 높이</translation>
+    </message>
+    <message>
+        <source>Approach height</source>
+        <translation>접근 높이</translation>
+    </message>
+    <message>
+        <source>Retract height</source>
+        <translation>후퇴 높이</translation>
+    </message>
+    <message>
+        <source>Exit height</source>
+        <translation>이탈 높이</translation>
+    </message>
+    <message>
+        <source>Right pallet</source>
+        <translation>오른쪽 팔레트</translation>
+    </message>
+    <message>
+        <source>Place point</source>
+        <translation>놓기 포인트</translation>
+    </message>
+    <message>
+        <source>Enter point</source>
+        <translation>진입 포인트</translation>
+    </message>
+    <message>
+        <source>Pick point</source>
+        <translation>집기 포인트</translation>
+    </message>
+    <message>
+        <source>The shared work object gives the place points; the heights come from the shared offsets.</source>
+        <translation>놓기 포인트는 공용 작업 객체에서, 높이는 공용 오프셋에서 정해집니다.</translation>
+    </message>
+    <message>
+        <source>The first product of the first layer is placed at the place point&apos;s height; positions come from the pattern.</source>
+        <translation>첫 단의 첫 제품은 놓기 포인트의 높이에 놓이며, 위치는 패턴에서 정해집니다.</translation>
+    </message>
+    <message>
+        <source>The shared tool gives the pick points and the approach height.</source>
+        <translation>집기 포인트와 접근 높이는 공용 툴에서 정해집니다.</translation>
+    </message>
+    <message>
+        <source>The robot picks every product at the pick point.</source>
+        <translation>로봇은 모든 제품을 집기 포인트에서 집습니다.</translation>
+    </message>
+    <message>
+        <source>Shared by all recipes on this work object.</source>
+        <translation>이 작업 객체를 쓰는 모든 레시피가 공유합니다.</translation>
+    </message>
+    <message>
+        <source>Kept with this recipe for the robot program; the points follow the shared offsets of the work object calibrated by one point.</source>
+        <translation>로봇 프로그램용으로 이 레시피에 저장됩니다. 포인트는 한 점으로 보정한 작업 객체의 공용 오프셋을 따릅니다.</translation>
+    </message>
+</context>
+<context>
+    <name>palx</name>
+    <message>
+        <source>The way points have regenerated!</source>
+        <translation>경유점을 다시 생성했습니다!</translation>
+    </message>
+    <message>
+        <source>it holds something else</source>
+        <translation>다른 내용이 들어 있습니다</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read and was kept as %2: %3</source>
+        <translation>%1을(를) 읽을 수 없어 %2(으)로 보관했습니다: %3</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>폴더를 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. The panel keeps the data; make room or give access, then change them once more</source>
+        <translation>%1에 쓸 수 없습니다: %2. 데이터는 패널에 남아 있습니다. 공간을 확보하거나 권한을 준 뒤 다시 변경하십시오</translation>
+    </message>
+    <message>
+        <source>Product para is invalid</source>
+        <translation>제품 매개변수가 유효하지 않습니다</translation>
+    </message>
+    <message>
+        <source>Product length is invalid and is setted to default</source>
+        <translation>제품 길이가 유효하지 않아 기본값으로 설정했습니다</translation>
+    </message>
+    <message>
+        <source>Product width is invalid and is setted to default</source>
+        <translation>제품 너비가 유효하지 않아 기본값으로 설정했습니다</translation>
+    </message>
+    <message>
+        <source>Pallet para is invalid</source>
+        <translation>팔레트 매개변수가 유효하지 않습니다</translation>
+    </message>
+    <message>
+        <source>Pallet length is invalid and is setted to default</source>
+        <translation>팔레트 길이가 유효하지 않아 기본값으로 설정했습니다</translation>
+    </message>
+    <message>
+        <source>Pallet width is invalid and is setted to default</source>
+        <translation>팔레트 너비가 유효하지 않아 기본값으로 설정했습니다</translation>
+    </message>
+    <message>
+        <source>Pallet&apos;length is less than product&apos;length</source>
+        <translation>팔레트 길이가 제품 길이보다 짧습니다</translation>
+    </message>
+    <message>
+        <source>Pallet&apos;width is less than product&apos;width</source>
+        <translation>팔레트 너비가 제품 너비보다 작습니다</translation>
+    </message>
+</context>
+<context>
+    <name>palx::JogLabels</name>
+    <message>
+        <source>J1(%1)</source>
+        <translation>J1(%1)</translation>
+    </message>
+    <message>
+        <source>J2(%1)</source>
+        <translation>J2(%1)</translation>
+    </message>
+    <message>
+        <source>J3(%1)</source>
+        <translation>J3(%1)</translation>
+    </message>
+    <message>
+        <source>J4(%1)</source>
+        <translation>J4(%1)</translation>
+    </message>
+    <message>
+        <source>J5(%1)</source>
+        <translation>J5(%1)</translation>
+    </message>
+    <message>
+        <source>J6(%1)</source>
+        <translation>J6(%1)</translation>
+    </message>
+    <message>
+        <source>J7(%1)</source>
+        <translation>J7(%1)</translation>
+    </message>
+    <message>
+        <source>A(%1)</source>
+        <translation>A(%1)</translation>
+    </message>
+    <message>
+        <source>B(%1)</source>
+        <translation>B(%1)</translation>
+    </message>
+    <message>
+        <source>C(%1)</source>
+        <translation>C(%1)</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1619 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU" sourcelanguage="en_US">
+<context>
+    <name>FieldText</name>
+    <message>
+        <source>%1 is outside of %2 to %3%4.</source>
+        <translation>%1 вне пределов от %2 до %3%4.</translation>
+    </message>
+    <message>
+        <source>With this margin no product fits on the pallet.</source>
+        <translation>С таким отступом на паллету не помещается ни одно изделие.</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> kg</source>
+        <translation> kg</translation>
+    </message>
+    <message>
+        <source>The product is larger than the pallet; it will reach over the edge.</source>
+        <translation>Изделие больше паллеты и будет выступать за её край.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemTableModel</name>
+    <message>
+        <source>Top</source>
+        <translation>Верх</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Низ</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Лево</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Право</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Верх слева</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Верх справа</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Низ слева</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Низ справа</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Центр</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>№</translation>
+    </message>
+    <message>
+        <source>x
+mm</source>
+        <translation>x
+mm</translation>
+    </message>
+    <message>
+        <source>y
+mm</source>
+        <translation>y
+mm</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Угол</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Напр.</translation>
+    </message>
+    <message>
+        <source>dx
+mm</source>
+        <translation>dx
+mm</translation>
+    </message>
+    <message>
+        <source>dy
+mm</source>
+        <translation>dy
+mm</translation>
+    </message>
+    <message>
+        <source>dz
+mm</source>
+        <translation>dz
+mm</translation>
+    </message>
+</context>
+<context>
+    <name>Keypad</name>
+    <message>
+        <source>Number</source>
+        <translation>Число</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <source>Allowed values</source>
+        <translation>Допустимые значения</translation>
+    </message>
+    <message>
+        <source>7</source>
+        <translation>7</translation>
+    </message>
+    <message>
+        <source>8</source>
+        <translation>8</translation>
+    </message>
+    <message>
+        <source>9</source>
+        <translation>9</translation>
+    </message>
+    <message>
+        <source>4</source>
+        <translation>4</translation>
+    </message>
+    <message>
+        <source>5</source>
+        <translation>5</translation>
+    </message>
+    <message>
+        <source>6</source>
+        <translation>6</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>2</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>Decimal point</source>
+        <translation>Десятичная точка</translation>
+    </message>
+    <message>
+        <source>Change the sign</source>
+        <translation>Сменить знак</translation>
+    </message>
+    <message>
+        <source>Delete the last digit</source>
+        <translation>Удалить последнюю цифру</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Clear the value</source>
+        <translation>Очистить значение</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>%1 to %2 %3</source>
+        <translation>от %1 до %2 %3</translation>
+    </message>
+    <message>
+        <source>Not allowed. Enter %1.</source>
+        <translation>Недопустимо. Введите %1.</translation>
+    </message>
+    <message>
+        <source>Allowed: %1</source>
+        <translation>Допустимо: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LayerTableModel</name>
+    <message>
+        <source>Separator sheet</source>
+        <translation>Прокладка</translation>
+    </message>
+    <message>
+        <source>Empty (end of stack)</source>
+        <translation>Пусто (конец штабеля)</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(нет)</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Слой</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Схема</translation>
+    </message>
+    <message>
+        <source>Boxes</source>
+        <translation>Шт.</translation>
+    </message>
+    <message>
+        <source>From
+mm</source>
+        <translation>От
+mm</translation>
+    </message>
+    <message>
+        <source>To
+mm</source>
+        <translation>До
+mm</translation>
+    </message>
+</context>
+<context>
+    <name>LayerText</name>
+    <message>
+        <source>is a separator sheet, but the recipe has separator sheets switched off</source>
+        <translation>это прокладка, но в рецепте прокладки отключены</translation>
+    </message>
+    <message>
+        <source>is a separator sheet, but the sheet has no height</source>
+        <translation>это прокладка, но её высота не задана</translation>
+    </message>
+    <message>
+        <source>has no pattern; this layer and those above it get no points</source>
+        <translation>не выбрана схема укладки; этот слой и слои выше останутся без точек</translation>
+    </message>
+    <message>
+        <source>uses the pattern &quot;%1&quot;, which this recipe does not have</source>
+        <translation>используется схема «%1», которой нет в этом рецепте</translation>
+    </message>
+    <message>
+        <source>uses the pattern &quot;%1&quot;, which holds no products</source>
+        <translation>используется схема «%1», в которой нет изделий</translation>
+    </message>
+    <message>
+        <source>Layer %1 %2.</source>
+        <translation>Слой %1: %2.</translation>
+    </message>
+    <message>
+        <source>The recipe has no layers.</source>
+        <translation>В рецепте нет слоёв.</translation>
+    </message>
+    <message>
+        <source>Layer %1 lies on an empty layer; the stack ends at its first empty layer, so only empty layers may follow it.</source>
+        <translation>Слой %1 лежит на пустом слое; штабель кончается на первом пустом слое, и после него могут идти только пустые слои.</translation>
+    </message>
+</context>
+<context>
+    <name>LayersFrame</name>
+    <message>
+        <source>Layers from the pallet up</source>
+        <translation>Слои от паллеты вверх</translation>
+    </message>
+    <message>
+        <source>What is wrong with the layers</source>
+        <translation>Ошибки в слоях</translation>
+    </message>
+    <message>
+        <source>Totals of the recipe</source>
+        <translation>Итоги рецепта</translation>
+    </message>
+    <message>
+        <source>Plan of the layer</source>
+        <translation>План слоя</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Слой</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Схема</translation>
+    </message>
+    <message>
+        <source>Height offset</source>
+        <translation>Смещение по высоте</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Add a layer on top</source>
+        <translation>Добавить слой сверху</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Вставить</translation>
+    </message>
+    <message>
+        <source>Insert before the chosen layer</source>
+        <translation>Вставить перед выбранным слоем</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Place the layer earlier</source>
+        <translation>Уложить слой раньше</translation>
+    </message>
+    <message>
+        <source>Place the layer later</source>
+        <translation>Уложить слой позже</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Repeat the whole sequence on top</source>
+        <translation>Повторить всю последовательность сверху</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Слой %1</translation>
+    </message>
+    <message>
+        <source>No layer chosen</source>
+        <translation>Слой не выбран</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBar</name>
+    <message>
+        <source>Message</source>
+        <translation>Сообщение</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Close the message</source>
+        <translation>Закрыть сообщение</translation>
+    </message>
+</context>
+<context>
+    <name>NameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <source>Why the name is refused</source>
+        <translation>Почему имя не принято</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>PalletFrame</name>
+    <message>
+        <source>Pallet</source>
+        <translation>Паллета</translation>
+    </message>
+    <message>
+        <source>Standard size</source>
+        <translation>Стандартный размер</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Длина</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Ширина</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Высота</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Масса</translation>
+    </message>
+    <message>
+        <source>Margins</source>
+        <translation>Отступы</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Лево</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Право</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Верх</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Низ</translation>
+    </message>
+    <message>
+        <source>Separator sheets</source>
+        <translation>Прокладки</translation>
+    </message>
+    <message>
+        <source>Sheet length</source>
+        <translation>Длина листа</translation>
+    </message>
+    <message>
+        <source>Sheet width</source>
+        <translation>Ширина листа</translation>
+    </message>
+    <message>
+        <source>Sheet height</source>
+        <translation>Толщина листа</translation>
+    </message>
+    <message>
+        <source>Sheet weight</source>
+        <translation>Масса листа</translation>
+    </message>
+    <message>
+        <source>Place in the cell</source>
+        <translation>Место в ячейке</translation>
+    </message>
+    <message>
+        <source>Pallet place</source>
+        <translation>Место паллеты</translation>
+    </message>
+    <message>
+        <source>Post height</source>
+        <translation>Высота стоек</translation>
+    </message>
+    <message>
+        <source>Shared tool</source>
+        <translation>Общий инструмент</translation>
+    </message>
+    <message>
+        <source>Use the tool shared by all recipes</source>
+        <translation>Использовать инструмент, общий для всех рецептов</translation>
+    </message>
+    <message>
+        <source>Corner posts</source>
+        <translation>Стойки</translation>
+    </message>
+    <message>
+        <source>The pallet has corner posts</source>
+        <translation>У паллеты есть угловые стойки</translation>
+    </message>
+    <message>
+        <source>Shared work object</source>
+        <translation>Общий рабочий объект</translation>
+    </message>
+    <message>
+        <source>Use the work object shared by all recipes</source>
+        <translation>Использовать рабочий объект, общий для всех рецептов</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>Own size</source>
+        <translation>Свой размер</translation>
+    </message>
+</context>
+<context>
+    <name>Palx</name>
+    <message>
+        <source>W-Palletizing</source>
+        <translation>W-Укладка</translation>
+    </message>
+</context>
+<context>
+    <name>PatternText</name>
+    <message>
+        <source>Name is empty!</source>
+        <translation>Имя не задано!</translation>
+    </message>
+    <message>
+        <source>Pattern name length is greater than 32!</source>
+        <translation>Имя схемы длиннее 32 символов!</translation>
+    </message>
+    <message>
+        <source>Only letters, digits, &quot;_&quot; and &quot;-&quot; are allowed in a pattern&apos;s name.</source>
+        <translation>В имени схемы допустимы только буквы, цифры, «_» и «-».</translation>
+    </message>
+    <message>
+        <source>Name is repeated!</source>
+        <translation>Такое имя уже есть!</translation>
+    </message>
+</context>
+<context>
+    <name>PatternsFrame</name>
+    <message>
+        <source>Pattern</source>
+        <translation>Схема</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Новая</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копия</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Plan of the pattern</source>
+        <translation>План схемы</translation>
+    </message>
+    <message>
+        <source>What is wrong with the pattern</source>
+        <translation>Ошибки в схеме</translation>
+    </message>
+    <message>
+        <source>Products of the pattern</source>
+        <translation>Изделия схемы</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Place the product earlier</source>
+        <translation>Уложить изделие раньше</translation>
+    </message>
+    <message>
+        <source>Place the product later</source>
+        <translation>Уложить изделие позже</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Изделие</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Напр.</translation>
+    </message>
+    <message>
+        <source>x (across)</source>
+        <translation>x (поперёк)</translation>
+    </message>
+    <message>
+        <source>y (along)</source>
+        <translation>y (вдоль)</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Угол</translation>
+    </message>
+    <message>
+        <source>dx</source>
+        <translation>dx</translation>
+    </message>
+    <message>
+        <source>dy</source>
+        <translation>dy</translation>
+    </message>
+    <message>
+        <source>dz</source>
+        <translation>dz</translation>
+    </message>
+    <message>
+        <source>New pattern</source>
+        <translation>Новая схема</translation>
+    </message>
+    <message>
+        <source>Copy of pattern %1</source>
+        <translation>Копия схемы %1</translation>
+    </message>
+    <message>
+        <source>New name for pattern %1</source>
+        <translation>Новое имя схемы %1</translation>
+    </message>
+    <message>
+        <source>Pattern %1 (in %2 layers)</source>
+        <translation>Схема %1 (в слоях: %2)</translation>
+    </message>
+    <message>
+        <source>Product %1</source>
+        <translation>Изделие %1</translation>
+    </message>
+    <message>
+        <source>No product chosen</source>
+        <translation>Изделие не выбрано</translation>
+    </message>
+    <message>
+        <source>The recipe was closed.</source>
+        <translation>Рецепт закрыт.</translation>
+    </message>
+    <message>
+        <source>It is used in %1 layers, which will get no points.</source>
+        <translation>Она используется в слоях (%1), и они останутся без точек.</translation>
+    </message>
+    <message>
+        <source>Delete the pattern %1? %2</source>
+        <translation>Удалить схему %1? %2</translation>
+    </message>
+    <message>
+        <source>Delete pattern</source>
+        <translation>Удаление схемы</translation>
+    </message>
+    <message>
+        <source>A pattern holds at most %1 products.</source>
+        <translation>Схема вмещает не более %1 изделий.</translation>
+    </message>
+    <message>
+        <source>Use size</source>
+        <translation>Взять размер</translation>
+    </message>
+    <message>
+        <source>Give every product the size of the recipe&apos;s product</source>
+        <translation>Задать всем изделиям размер изделия рецепта</translation>
+    </message>
+</context>
+<context>
+    <name>PointGroup</name>
+    <message>
+        <source>Point</source>
+        <translation>Точка</translation>
+    </message>
+    <message>
+        <source>State of the point</source>
+        <translation>Состояние точки</translation>
+    </message>
+    <message>
+        <source>Enter the values of the point by hand</source>
+        <translation>Ввести значения точки вручную</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Clear the point</source>
+        <translation>Очистить точку</translation>
+    </message>
+    <message>
+        <source>All zero</source>
+        <translation>Все нули</translation>
+    </message>
+    <message>
+        <source>Not taught</source>
+        <translation>Не обучена</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Рассчитана</translation>
+    </message>
+    <message>
+        <source>Taught</source>
+        <translation>Обучена</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>Вручную</translation>
+    </message>
+</context>
+<context>
+    <name>PointTableModel</name>
+    <message>
+        <source>Enter</source>
+        <translation>Вход</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Ожидание</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>Подход</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Укладка</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>Захват</translation>
+    </message>
+    <message>
+        <source>Retract</source>
+        <translation>Отвод</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Слой</translation>
+    </message>
+    <message>
+        <source>Item</source>
+        <translation>№</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Точка</translation>
+    </message>
+    <message>
+        <source>X
+mm</source>
+        <translation>X
+mm</translation>
+    </message>
+    <message>
+        <source>Y
+mm</source>
+        <translation>Y
+mm</translation>
+    </message>
+    <message>
+        <source>Z
+mm</source>
+        <translation>Z
+mm</translation>
+    </message>
+</context>
+<context>
+    <name>PointText</name>
+    <message>
+        <source>The place point is not taught.</source>
+        <translation>Точка укладки не обучена.</translation>
+    </message>
+    <message>
+        <source>The enter point of the place side is not taught.</source>
+        <translation>Точка входа на стороне укладки не обучена.</translation>
+    </message>
+    <message>
+        <source>The pallet place is neither left nor right, so all place positions will be 0.</source>
+        <translation>Место паллеты не левое и не правое, поэтому все положения укладки будут 0.</translation>
+    </message>
+    <message>
+        <source>The origin point of the shared work object for the left pallet is not taught.</source>
+        <translation>Начальная точка общего рабочего объекта левой паллеты не обучена.</translation>
+    </message>
+    <message>
+        <source>The origin point of the shared work object for the right pallet is not taught.</source>
+        <translation>Начальная точка общего рабочего объекта правой паллеты не обучена.</translation>
+    </message>
+    <message>
+        <source>The corner of the product on the conveyor is not taught.</source>
+        <translation>Угол изделия на конвейере не обучен.</translation>
+    </message>
+    <message>
+        <source>The pick point is not taught.</source>
+        <translation>Точка захвата не обучена.</translation>
+    </message>
+    <message>
+        <source>The enter point of the pick side is not taught.</source>
+        <translation>Точка входа на стороне захвата не обучена.</translation>
+    </message>
+</context>
+<context>
+    <name>PointsFrame</name>
+    <message>
+        <source>Generate points</source>
+        <translation>Рассчитать точки</translation>
+    </message>
+    <message>
+        <source>State of the points</source>
+        <translation>Состояние точек</translation>
+    </message>
+    <message>
+        <source>Layer to show</source>
+        <translation>Показываемый слой</translation>
+    </message>
+    <message>
+        <source>Kind of point to show</source>
+        <translation>Вид показываемых точек</translation>
+    </message>
+    <message>
+        <source>Number of points shown</source>
+        <translation>Число показанных точек</translation>
+    </message>
+    <message>
+        <source>Copy table</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Copy the table to the clipboard</source>
+        <translation>Копировать таблицу в буфер обмена</translation>
+    </message>
+    <message>
+        <source>Generated points</source>
+        <translation>Рассчитанные точки</translation>
+    </message>
+    <message>
+        <source>All layers</source>
+        <translation>Все слои</translation>
+    </message>
+    <message>
+        <source>Pick side</source>
+        <translation>Сторона захвата</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Слой %1</translation>
+    </message>
+    <message>
+        <source>All points</source>
+        <translation>Все точки</translation>
+    </message>
+    <message>
+        <source>Points: %1</source>
+        <translation>Точек: %1</translation>
+    </message>
+    <message>
+        <source>No points have been generated yet.</source>
+        <translation>Точки ещё не рассчитаны.</translation>
+    </message>
+    <message>
+        <source>The recipe or the shared settings were changed: generate the points again.</source>
+        <translation>Рецепт или общие настройки изменены: рассчитайте точки заново.</translation>
+    </message>
+    <message>
+        <source>The points are up to date.</source>
+        <translation>Точки актуальны.</translation>
+    </message>
+    <message>
+        <source>Points copied: %1</source>
+        <translation>Скопировано точек: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemText</name>
+    <message>
+        <source>Products %1 and %2 overlap by %3 mm.</source>
+        <translation>Изделия %1 и %2 перекрываются на %3 mm.</translation>
+    </message>
+    <message>
+        <source>Product %1 reaches %2 mm over the pallet.</source>
+        <translation>Изделие %1 выступает за паллету на %2 mm.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 products have another size than the recipe&apos;s product.</source>
+        <translation>%1 из %2 изделий отличаются размером от изделия рецепта.</translation>
+    </message>
+    <message>
+        <source>Product %1 was stored with a value that cannot be used.</source>
+        <translation>Изделие %1 сохранено с недопустимым значением.</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFrame</name>
+    <message>
+        <source>Size and weight</source>
+        <translation>Размер и масса</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Длина</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Ширина</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Высота</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Масса</translation>
+    </message>
+    <message>
+        <source>Placing</source>
+        <translation>Укладка</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Направление</translation>
+    </message>
+    <message>
+        <source>Orientation code</source>
+        <translation>Ориентация</translation>
+    </message>
+    <message>
+        <source>Along (dx)</source>
+        <translation>Вдоль (dx)</translation>
+    </message>
+    <message>
+        <source>Across (dy)</source>
+        <translation>Поперёк (dy)</translation>
+    </message>
+    <message>
+        <source>Lift (dz)</source>
+        <translation>Подъём (dz)</translation>
+    </message>
+    <message>
+        <source>Picture of the recipe</source>
+        <translation>Рисунок рецепта</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>Рецепт</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <source>Totals of the recipe</source>
+        <translation>Итоги рецепта</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeFrame</name>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>ещё %n</numerusform>
+            <numerusform>ещё %n</numerusform>
+            <numerusform>ещё %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RecipeText</name>
+    <message>
+        <source>The name is empty.</source>
+        <translation>Имя не задано.</translation>
+    </message>
+    <message>
+        <source>The name begins or ends with a blank.</source>
+        <translation>Имя начинается или кончается пробелом.</translation>
+    </message>
+    <message>
+        <source>The name has %1 characters; at most %2 are allowed.</source>
+        <translation>В имени символов: %1; допускается не более %2.</translation>
+    </message>
+    <message>
+        <source>The name holds a line break or another control character.</source>
+        <translation>В имени есть перевод строки или другой управляющий символ.</translation>
+    </message>
+    <message>
+        <source>There is a recipe &quot;%1&quot; already.</source>
+        <translation>Рецепт «%1» уже есть.</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeTexts</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Boxes: %1, layers: %2
+Product: %3
+Pallet: %4</source>
+        <translation>Коробок: %1, слоёв: %2
+Изделие: %3
+Паллета: %4</translation>
+    </message>
+    <message>
+        <source>Boxes: %1, layers: %2</source>
+        <translation>Коробок: %1, слоёв: %2</translation>
+    </message>
+    <message>
+        <source>Separator sheets: %1</source>
+        <translation>Прокладок: %1</translation>
+    </message>
+    <message>
+        <source>Height: %1 mm (load %2 mm)</source>
+        <translation>Высота: %1 mm (груз %2 mm)</translation>
+    </message>
+    <message>
+        <source>Weight: %1 kg (load %2 kg)</source>
+        <translation>Масса: %1 kg (груз %2 kg)</translation>
+    </message>
+</context>
+<context>
+    <name>RowText</name>
+    <message>
+        <source>%1 x %2 x %3 mm</source>
+        <translation>%1 x %2 x %3 mm</translation>
+    </message>
+    <message>
+        <source>%1 kg</source>
+        <translation>%1 kg</translation>
+    </message>
+    <message>
+        <source>Separator sheet</source>
+        <translation>Прокладка</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Пусто</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>%1, %2 of them shown</source>
+        <translation>%1, из них показано %2</translation>
+    </message>
+    <message>
+        <source>Products</source>
+        <translation>Изделия</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>%1/%2 by %3 mm</source>
+        <translation>%1/%2 на %3 mm</translation>
+    </message>
+    <message>
+        <source>Overlap: %1 and %2 more</source>
+        <translation>Перекрытие: %1 и ещё %2</translation>
+    </message>
+    <message>
+        <source>Overlap: %1</source>
+        <translation>Перекрытие: %1</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm</source>
+        <translation>%1 %2 mm</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>сверху</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>снизу</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>слева</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>справа</translation>
+    </message>
+    <message>
+        <source>Over the pallet: %1</source>
+        <translation>За паллетой: %1</translation>
+    </message>
+    <message>
+        <source>Products with missing or unreadable values: %1</source>
+        <translation>Изделий с отсутствующими или нечитаемыми значениями: %1</translation>
+    </message>
+    <message>
+        <source>Products with impossible sizes or positions: %1</source>
+        <translation>Изделий с невозможными размерами или положениями: %1</translation>
+    </message>
+    <message>
+        <source>Products with an unknown direction: %1</source>
+        <translation>Изделий с неизвестным направлением: %1</translation>
+    </message>
+    <message>
+        <source>Products whose number is not their place in the order: %1</source>
+        <translation>Изделий, номер которых не совпадает с порядком: %1</translation>
+    </message>
+    <message>
+        <source>The product&apos;s size is not valid</source>
+        <translation>Недопустимый размер изделия</translation>
+    </message>
+    <message>
+        <source>The pallet&apos;s size is not valid</source>
+        <translation>Недопустимый размер паллеты</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>Рецепт</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Слой</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Схема</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Изделие</translation>
+    </message>
+    <message>
+        <source>Pallet</source>
+        <translation>Паллета</translation>
+    </message>
+    <message>
+        <source>Load of the layer</source>
+        <translation>Груз слоя</translation>
+    </message>
+    <message>
+        <source>Height over the deck</source>
+        <translation>Высота над настилом</translation>
+    </message>
+    <message>
+        <source>%1 to %2 mm</source>
+        <translation>от %1 до %2 mm</translation>
+    </message>
+    <message>
+        <source>Layers of products</source>
+        <translation>Слои изделий</translation>
+    </message>
+    <message>
+        <source>Separator sheets</source>
+        <translation>Прокладки</translation>
+    </message>
+    <message>
+        <source>Height with the pallet</source>
+        <translation>Высота с паллетой</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Weight with the pallet</source>
+        <translation>Масса с паллетой</translation>
+    </message>
+</context>
+<context>
+    <name>StackHomePage</name>
+    <message>
+        <source>Recipes</source>
+        <translation>Рецепты</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Search recipes</source>
+        <translation>Поиск рецептов</translation>
+    </message>
+    <message>
+        <source>Name of the recipe</source>
+        <translation>Имя рецепта</translation>
+    </message>
+    <message>
+        <source>Description of the recipe</source>
+        <translation>Описание рецепта</translation>
+    </message>
+    <message>
+        <source>Picture of the recipe</source>
+        <translation>Рисунок рецепта</translation>
+    </message>
+    <message>
+        <source>Summary of the recipe</source>
+        <translation>Сводка рецепта</translation>
+    </message>
+    <message>
+        <source>Layers of the recipe</source>
+        <translation>Слои рецепта</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Создать</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Переименовать</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>There are no recipes yet. Touch &quot;New&quot; to make one.</source>
+        <translation>Рецептов пока нет. Нажмите «Создать», чтобы добавить первый.</translation>
+    </message>
+    <message>
+        <source>No recipe is called or described so.</source>
+        <translation>Нет рецепта с таким именем или описанием.</translation>
+    </message>
+    <message>
+        <source>New recipe</source>
+        <translation>Новый рецепт</translation>
+    </message>
+    <message>
+        <source>Recipe %1</source>
+        <translation>Рецепт %1</translation>
+    </message>
+    <message>
+        <source>Copy of %1</source>
+        <translation>Копия %1</translation>
+    </message>
+    <message>
+        <source>New name for %1</source>
+        <translation>Новое имя для %1</translation>
+    </message>
+    <message>
+        <source>Delete recipe</source>
+        <translation>Удаление рецепта</translation>
+    </message>
+    <message>
+        <source>Delete the recipe &quot;%1&quot;?</source>
+        <translation>Удалить рецепт «%1»?</translation>
+    </message>
+    <message>
+        <source>The recipe &quot;%1&quot; was deleted.</source>
+        <translation>Рецепт «%1» удалён.</translation>
+    </message>
+    <message>
+        <source>The recipe is back as &quot;%1&quot;; its name was taken.</source>
+        <translation>Рецепт возвращён как «%1»: его имя было занято.</translation>
+    </message>
+    <message>
+        <source>The recipe cannot be made: the list of recipes is missing.</source>
+        <translation>Рецепт создать нельзя: нет списка рецептов.</translation>
+    </message>
+</context>
+<context>
+    <name>StackPatternScene</name>
+    <message>
+        <source>Separator sheet, its size is not set</source>
+        <translation>Прокладка, размер не задан</translation>
+    </message>
+    <message>
+        <source>Separator sheet %1 x %2 x %3 mm</source>
+        <translation>Прокладка %1 x %2 x %3 mm</translation>
+    </message>
+    <message>
+        <source>This recipe has no layers</source>
+        <translation>В этом рецепте нет слоёв</translation>
+    </message>
+    <message>
+        <source>There is no layer %1; the recipe has %2</source>
+        <translation>Слоя %1 нет; слоёв в рецепте: %2</translation>
+    </message>
+    <message>
+        <source>The recipe has no pattern &quot;%1&quot;</source>
+        <translation>В рецепте нет схемы «%1»</translation>
+    </message>
+    <message>
+        <source>Empty layer: it is left out</source>
+        <translation>Пустой слой: пропускается</translation>
+    </message>
+    <message>
+        <source>No pattern is chosen for this layer: the stack ends below it</source>
+        <translation>Для слоя не выбрана схема: штабель кончается под ним</translation>
+    </message>
+    <message>
+        <source>Not placed: the stack ends at a layer below</source>
+        <translation>Не укладывается: штабель кончается на слое ниже</translation>
+    </message>
+    <message>
+        <source>The pattern &quot;%1&quot; is empty</source>
+        <translation>Схема «%1» пуста</translation>
+    </message>
+</context>
+<context>
+    <name>StackSetupPage</name>
+    <message>
+        <source>Recipes</source>
+        <translation>Рецепты</translation>
+    </message>
+    <message>
+        <source>Back to the recipes</source>
+        <translation>Назад к рецептам</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>Рецепт</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Undo the last edit</source>
+        <translation>Отменить последнее изменение</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Redo the undone edit</source>
+        <translation>Повторить отменённое изменение</translation>
+    </message>
+    <message>
+        <source>No recipe is open. Choose one above or go to the recipes.</source>
+        <translation>Рецепт не открыт. Выберите его выше или перейдите к рецептам.</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Изделие</translation>
+    </message>
+    <message>
+        <source>Pallet</source>
+        <translation>Паллета</translation>
+    </message>
+    <message>
+        <source>Patterns</source>
+        <translation>Схемы</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Слои</translation>
+    </message>
+    <message>
+        <source>Waypoints</source>
+        <translation>Путь</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Точки</translation>
+    </message>
+    <message>
+        <source>The margins left no room for a product and were set to 0.</source>
+        <translation>Отступы не оставляли места для изделия и сброшены в 0.</translation>
+    </message>
+</context>
+<context>
+    <name>TitleText</name>
+    <message>
+        <source>%1 mm, 1 px = %2 mm</source>
+        <translation>%1 mm, 1 px = %2 mm</translation>
+    </message>
+    <message>
+        <source>overlap</source>
+        <translation>перекрытие</translation>
+    </message>
+    <message>
+        <source>over the pallet</source>
+        <translation>за паллетой</translation>
+    </message>
+    <message>
+        <source>label side</source>
+        <translation>сторона этикетки</translation>
+    </message>
+    <message>
+        <source>approach, to scale</source>
+        <translation>подход, в масштабе</translation>
+    </message>
+    <message>
+        <source>layer below</source>
+        <translation>слой ниже</translation>
+    </message>
+</context>
+<context>
+    <name>WaypointsFrame</name>
+    <message>
+        <source>Place side</source>
+        <translation>Сторона укладки</translation>
+    </message>
+    <message>
+        <source>Pick side</source>
+        <translation>Сторона захвата</translation>
+    </message>
+    <message>
+        <source>Offsets</source>
+        <translation>Смещения</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Примечание</translation>
+    </message>
+    <message>
+        <source>Heights over the place point</source>
+        <translation>Высоты над точкой укладки</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Ожидание</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>Подход</translation>
+    </message>
+    <message>
+        <source>Retract</source>
+        <translation>Отвод</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>Heights over the pick point</source>
+        <translation>Высоты над точкой захвата</translation>
+    </message>
+    <message>
+        <source>Left pallet</source>
+        <translation>Левая паллета</translation>
+    </message>
+    <message>
+        <source>Enter X</source>
+        <translation>Вход X</translation>
+    </message>
+    <message>
+        <source>Enter Y</source>
+        <translation>Вход Y</translation>
+    </message>
+    <message>
+        <source>Enter height</source>
+        <translation>Высота входа</translation>
+    </message>
+    <message>
+        <source>Ready height</source>
+        <translation>Высота ожидания</translation>
+    </message>
+    <message>
+        <source>Approach height</source>
+        <translation>Высота подхода</translation>
+    </message>
+    <message>
+        <source>Retract height</source>
+        <translation>Высота отвода</translation>
+    </message>
+    <message>
+        <source>Exit height</source>
+        <translation>Высота выхода</translation>
+    </message>
+    <message>
+        <source>Right pallet</source>
+        <translation>Правая паллета</translation>
+    </message>
+    <message>
+        <source>Place point</source>
+        <translation>Точка укладки</translation>
+    </message>
+    <message>
+        <source>Enter point</source>
+        <translation>Точка входа</translation>
+    </message>
+    <message>
+        <source>Pick point</source>
+        <translation>Точка захвата</translation>
+    </message>
+    <message>
+        <source>The shared work object gives the place points; the heights come from the shared offsets.</source>
+        <translation>Точки укладки задаёт общий рабочий объект; высоты берутся из общих смещений.</translation>
+    </message>
+    <message>
+        <source>The first product of the first layer is placed at the place point&apos;s height; positions come from the pattern.</source>
+        <translation>Первое изделие первого слоя укладывается на высоте точки укладки; положения берутся из схемы.</translation>
+    </message>
+    <message>
+        <source>The shared tool gives the pick points and the approach height.</source>
+        <translation>Точки захвата и высоту подхода задаёт общий инструмент.</translation>
+    </message>
+    <message>
+        <source>The robot picks every product at the pick point.</source>
+        <translation>Робот берёт каждое изделие в точке захвата.</translation>
+    </message>
+    <message>
+        <source>Shared by all recipes on this work object.</source>
+        <translation>Общее для всех рецептов с этим рабочим объектом.</translation>
+    </message>
+    <message>
+        <source>Kept with this recipe for the robot program; the points follow the shared offsets of the work object calibrated by one point.</source>
+        <translation>Хранится в этом рецепте для программы робота; точки следуют общим смещениям рабочего объекта, калиброванного по одной точке.</translation>
+    </message>
+</context>
+<context>
+    <name>palx</name>
+    <message>
+        <source>The way points have regenerated!</source>
+        <translation>Путевые точки рассчитаны заново!</translation>
+    </message>
+    <message>
+        <source>it holds something else</source>
+        <translation>в нём другие данные</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read and was kept as %2: %3</source>
+        <translation>%1 не читается и сохранён как %2: %3</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>папку создать нельзя</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. The panel keeps the data; make room or give access, then change them once more</source>
+        <translation>%1 не записывается: %2. Данные остаются в панели; освободите место или дайте доступ и измените их ещё раз</translation>
+    </message>
+    <message>
+        <source>Product para is invalid</source>
+        <translation>Недопустимые параметры изделия</translation>
+    </message>
+    <message>
+        <source>Product length is invalid and is setted to default</source>
+        <translation>Недопустимая длина изделия; установлено значение по умолчанию</translation>
+    </message>
+    <message>
+        <source>Product width is invalid and is setted to default</source>
+        <translation>Недопустимая ширина изделия; установлено значение по умолчанию</translation>
+    </message>
+    <message>
+        <source>Pallet para is invalid</source>
+        <translation>Недопустимые параметры паллеты</translation>
+    </message>
+    <message>
+        <source>Pallet length is invalid and is setted to default</source>
+        <translation>Недопустимая длина паллеты; установлено значение по умолчанию</translation>
+    </message>
+    <message>
+        <source>Pallet width is invalid and is setted to default</source>
+        <translation>Недопустимая ширина паллеты; установлено значение по умолчанию</translation>
+    </message>
+    <message>
+        <source>Pallet&apos;length is less than product&apos;length</source>
+        <translation>Длина паллеты меньше длины изделия</translation>
+    </message>
+    <message>
+        <source>Pallet&apos;width is less than product&apos;width</source>
+        <translation>Ширина паллеты меньше ширины изделия</translation>
+    </message>
+</context>
+<context>
+    <name>palx::JogLabels</name>
+    <message>
+        <source>J1(%1)</source>
+        <translation>J1(%1)</translation>
+    </message>
+    <message>
+        <source>J2(%1)</source>
+        <translation>J2(%1)</translation>
+    </message>
+    <message>
+        <source>J3(%1)</source>
+        <translation>J3(%1)</translation>
+    </message>
+    <message>
+        <source>J4(%1)</source>
+        <translation>J4(%1)</translation>
+    </message>
+    <message>
+        <source>J5(%1)</source>
+        <translation>J5(%1)</translation>
+    </message>
+    <message>
+        <source>J6(%1)</source>
+        <translation>J6(%1)</translation>
+    </message>
+    <message>
+        <source>J7(%1)</source>
+        <translation>J7(%1)</translation>
+    </message>
+    <message>
+        <source>A(%1)</source>
+        <translation>A(%1)</translation>
+    </message>
+    <message>
+        <source>B(%1)</source>
+        <translation>B(%1)</translation>
+    </message>
+    <message>
+        <source>C(%1)</source>
+        <translation>C(%1)</translation>
+    </message>
+</context>
+</TS>
