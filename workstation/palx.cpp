@@ -1,0 +1,105 @@
+#include "workstation/palx.h"
+
+#include "ix/paths.h"
+#include "ix/xnav.h"
+#include "nexo/manager_helper.h"
+#include "stack/recipe_file.h"
+#include "ui/stackhomepage.h"
+#include "ui/stacksetuppage.h"
+#include "workstation/hidden_project.h"
+#include "workstation/plugin_log.h"
+#include "workstation/plugin_node.h"
+
+#include <QEvent>
+
+namespace {
+
+constexpr int kVersionNumber = 11;
+const char *const kMajor = "2";
+const char *const kMinor = "0";
+
+// Runs while the library is loaded; the host finds the plug-in through these.
+const bool registered = [] {
+    const QString name = palx::getPluginName();
+    bfactory().regist(name, [](QObject *parent) -> bwaf::BModule * { return new Palx(parent); });
+    return orba::pluginManager().regist(name, [] { return kVersionNumber; });
+}();
+
+QString pageKey(const char *page)
+{
+    return mName(palx::getPluginName(), QLatin1String(page));
+}
+
+/// For a panel that is looked at for the first time: an empty store gets the recipes of those files.
+QStringList loadExamples(const QStringList &files)
+{
+    return palx::stacksNode()->cmobjCount() > 0 ? QStringList()
+                                                : palx::loadRecipeFiles(palx::pluginNode(), files);
+}
+
+} // namespace
+
+extern "C" const orba::PluginApi *orba_plugin_api()
+{
+    static const orba::PluginApi entry{orba::kPluginAbi, "palx_workstation", &loadExamples};
+    return &entry;
+}
+
+namespace palx_workstation {
+
+QString version()
+{
+    const int number = orba::pluginManager().create(palx::getPluginName());
+    return mName(QLatin1String(kMajor), QLatin1String(kMinor), QString::number(number - 1));
+}
+
+const orba::PluginApi *api()
+{
+    return orba_plugin_api();
+}
+
+} // namespace palx_workstation
+
+Palx::Palx(QObject *parent) : bwaf::BModule(parent)
+{
+    const QString name = palx::getPluginName();
+    palx::writePluginLog(name + QStringLiteral(" v ") + palx_workstation::version());
+    nexo::ManagerHelper::instance()->registQrcAlias(name);
+    bindMobjJson(name, ix::templatePath(name, name), true);
+    mobj()->set(this, "version", palx_workstation::version(), true);
+}
+
+Palx::~Palx() = default;
+
+QString Palx::name() const
+{
+    return palx::getPluginName();
+}
+
+void Palx::init()
+{
+    entry_ = ix::xnav::registerPage(this, tr("W-Palletizing"), QStringLiteral("robot.pack"), QString());
+    entry_->set(this, "nav", pageKey("home_page"), true);
+    entry_->set(this, "key", QStringLiteral("pallet_workstation, maduo_workstation"), true);
+    new palx::HiddenProject(this);
+}
+
+void Palx::setup()
+{
+    bwaf::CenterWidget *center = instantiatedCenterWidget(this);
+    auto *homePage = new StackHomePage(center, this);
+    auto *setupPage = new StackSetupPage(center, this);
+    connect(homePage, &StackHomePage::reFreshPageDate, setupPage, &StackSetupPage::pageDateRefresh);
+    addSubmodule(homePage);
+    addSubmodule(setupPage);
+    homePage->wgt()->installEventFilter(this);
+    center->addPage(homePage->wgt(), pageKey("home_page"));
+    center->addPage(setupPage->wgt(), pageKey("setup_page"));
+}
+
+bool Palx::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        entry_->set(this, "title", tr("W-Palletizing"), true);
+    return BModule::eventFilter(watched, event);
+}
