@@ -1,0 +1,50 @@
+#pragma once
+
+#include "orba/module_object.h"
+
+#include <QStringList>
+
+/// Rules for the plane patterns of a recipe and the products (items) in them. No widgets.
+///
+/// An item's "x" is its centre across the pallet's width, "y" its centre along the pallet's length; an item
+/// without rotation covers "w" across and "h" along. Millimetres and degrees. Points follow the order of a
+/// pattern's children, so every change of order renumbers "index" from 1.
+namespace palx {
+
+constexpr int kMaxPatternName = 32;
+constexpr int kMaxItems = 200; // per pattern, a limit of the controller's pallet data
+
+/// Names of the feeding directions in the order of their codes.
+PALX_API const QStringList &directionNames();
+/// The name as it stands in `directionNames`, whatever its case; empty when there is none.
+PALX_API QString directionName(const QString &text);
+
+/// Why a pattern must not be called `name`; empty when it may.
+PALX_API QString patternNameProblem(const orba::Node &stack, const QString &name);
+/// The first free single letter from "A", then "A1", "A2", ...
+PALX_API QString proposePatternName(const orba::Node &stack);
+PALX_API QStringList patternNames(const orba::Node &stack);
+/// How many layers use the pattern.
+PALX_API int patternUse(const orba::Node &stack, const QString &name);
+
+/// A new pattern, empty or with the items of `cloneOf`; the empty node when the name is refused.
+PALX_API orba::ModuleObject *addPattern(orba::ModuleObject *stack, const QString &name,
+                                        const QString &cloneOf = QString());
+/// Renames the pattern and every layer that uses it; false when there is none or the new name is refused.
+PALX_API bool renamePattern(orba::ModuleObject *stack, const QString &name, const QString &newName);
+/// Removes the pattern; layers that use it keep its name and are reported by `layerProblems`.
+PALX_API bool removePattern(orba::ModuleObject *stack, const QString &name);
+
+/// Appends a product of the recipe's size at the next place of a row by row filling; -1 when the pattern is
+/// full.
+PALX_API int addItem(orba::ModuleObject *stack, const QString &pattern);
+PALX_API bool removeItem(orba::ModuleObject *stack, const QString &pattern, int index);
+PALX_API bool moveItem(orba::ModuleObject *stack, const QString &pattern, int from, int to);
+/// How many items have another size than the recipe's product, as after the product was changed.
+PALX_API int otherSizedItems(const orba::Node &stack, const QString &pattern);
+/// Gives every item the size of the recipe's product; places and turns stay.
+PALX_API void applyProductSize(orba::ModuleObject *stack, const QString &pattern);
+/// Numbers the items 1, 2, ... in their order.
+PALX_API void renumberItems(orba::ModuleObject *pattern);
+
+} // namespace palx

@@ -1,0 +1,96 @@
+#include "stack/recipe_points.h"
+
+#include "stack/place_frame.h"
+
+#include <QCoreApplication>
+
+namespace palx {
+
+namespace {
+
+using orba::Node;
+
+struct PointText
+{
+    Q_DECLARE_TR_FUNCTIONS(PointText)
+};
+
+/// Own points of the recipe when the work object is not calibrated by one point.
+QStringList untaughtPlaceSide(const Node &stack)
+{
+    QStringList texts;
+    if (!isTaught(stack.find(u"put.put_p")))
+        texts << PointText::tr("The place point is not taught.");
+    if (!isTaught(stack.find(u"put.enter_p")))
+        texts << PointText::tr("The enter point of the place side is not taught.");
+    return texts;
+}
+
+QStringList untaughtOrigin(const Node &stack, const Node &plugin)
+{
+    const PalletPlace place = palletPlace(stack);
+    if (place == PalletPlace::Unknown)
+        return {
+            PointText::tr("The pallet place is neither left nor right, so all place positions will be 0.")};
+    if (!isTaught(taughtOriginPoint(stack, plugin)))
+        return {place == PalletPlace::Left
+                    ? PointText::tr(
+                          "The origin point of the shared work object for the left pallet is not taught.")
+                    : PointText::tr(
+                          "The origin point of the shared work object for the right pallet is not taught.")};
+    return {};
+}
+
+QStringList untaughtPickSide(const Node &stack, const Node &plugin)
+{
+    QStringList texts;
+    if (stack.getBool(u"use_global_tool")) {
+        const Node *incoming = plugin.find(u"global_tool.#2.incoming_settings");
+        const bool left = !incoming || incoming->getInt(u"origin_position") == 0;
+        if (!incoming || !isTaught(incoming->find(left ? u"bottom_left_node" : u"bottom_right_node")))
+            texts << PointText::tr("The corner of the product on the conveyor is not taught.");
+        return texts;
+    }
+    if (!isTaught(stack.find(u"get.get_p")))
+        texts << PointText::tr("The pick point is not taught.");
+    if (!isTaught(stack.find(u"get.enter_p")))
+        texts << PointText::tr("The enter point of the pick side is not taught.");
+    return texts;
+}
+
+} // namespace
+
+bool isTaught(const Node *point)
+{
+    if (!point)
+        return false;
+    for (const char16_t *key : {u"trans", u"rot"}) {
+        const Node *numbers = point->child(key);
+        for (int i = 0; numbers && i < numbers->size(); ++i) {
+            if (numbers->number(i) != 0)
+                return true;
+        }
+    }
+    return false;
+}
+
+QStringList untaughtPoints(const Node &stack, const Node &plugin)
+{
+    const QStringList place =
+        isOnePointCalibrated(stack, plugin) ? untaughtOrigin(stack, plugin) : untaughtPlaceSide(stack);
+    return place + untaughtPickSide(stack, plugin);
+}
+
+PalletPlace palletPlace(const Node &stack)
+{
+    switch (stack.getInt(u"pallet_position")) {
+    case 0:
+        return PalletPlace::Left;
+    case 1:
+        return PalletPlace::Right;
+    default:
+        return PalletPlace::Unknown;
+    }
+}
+
+} // namespace palx

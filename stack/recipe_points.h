@@ -1,0 +1,20 @@
+#pragma once
+
+#include "orba/node.h"
+
+#include <QStringList>
+
+namespace palx {
+
+/// Whether a point record was taught or typed in: it holds some number other than 0.
+PALX_API bool isTaught(const orba::Node *point);
+
+/// Taught points that generation will need and that are not there, one sentence each. `plugin` holds the
+/// global lists.
+PALX_API QStringList untaughtPoints(const orba::Node &stack, const orba::Node &plugin);
+
+/// Which pallet's offsets and origin the recipe uses: "pallet_position" 0 is left, 1 right.
+enum class PalletPlace { Left, Right, Unknown };
+PALX_API PalletPlace palletPlace(const orba::Node &stack);
+
+} // namespace palx
