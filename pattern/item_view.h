@@ -1,0 +1,46 @@
+#pragma once
+
+#include "pattern/rules/approach.h"
+#include "pattern/rules/item_geometry.h"
+
+#include <QGraphicsItem>
+
+namespace palx {
+
+/// One product on the plan: a view of an item's record, in the plan's millimetres, placed at the item's
+/// centre. Every attribute has its own update; an equal value repaints nothing.
+class ItemView : public QGraphicsItem
+{
+public:
+    explicit ItemView(const PatternItem &item);
+
+    const PatternItem &item() const { return item_; }
+    void setCentre(const QPointF &centre);
+    void setSize(const QSizeF &size);
+    void setTurn(int degrees);
+    void setNumber(int number);
+    void setOrient(int orient);
+    void setApproach(const Approach &approach);
+    void setFlaws(bool overlaps, bool overhangs, ItemFaults faults);
+
+    QRectF boundingRect() const override;
+    QPainterPath shape() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+    /// Number and approach arrow, which lie over all products. The painter is set to the plan.
+    void paintMarks(QPainter *painter) const;
+
+private:
+    QPolygonF outline() const;
+    void paintFill(QPainter *painter, const QPolygonF &outline) const;
+    void paintLabelSide(QPainter *painter, const QPolygonF &outline) const;
+    void paintOutline(QPainter *painter, const QPolygonF &outline) const;
+    void paintNumber(QPainter *painter, double scale) const;
+    void paintApproach(QPainter *painter, double scale) const;
+
+    PatternItem item_;
+    Approach approach_;
+    bool overlaps_ = false;
+    bool overhangs_ = false;
+};
+
+} // namespace palx

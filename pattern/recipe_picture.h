@@ -1,0 +1,18 @@
+#pragma once
+
+#include "orba/node.h"
+
+#include <QImage>
+
+/// Pictures of recipes. They need a QGuiApplication (plans a QApplication) and never fail: a recipe that
+/// lacks something gets a picture that says so. `pixels` is bounded to 1..16384 on each side.
+namespace palx {
+
+/// The whole stack seen from a corner, on a transparent ground, for lists of recipes.
+PALX_API QImage recipePicture(const orba::Node &stack, const QSize &pixels);
+/// The whole stack with a block of figures beside it, on paper.
+PALX_API QImage stackPicture(const orba::Node &stack, const QSize &pixels);
+/// The plan of a layer (from 0) to scale, with a title block.
+PALX_API QImage planPicture(const orba::Node &stack, int layer, const QSize &pixels);
+
+} // namespace palx

@@ -1,0 +1,180 @@
+#include "pattern/rules/item_geometry.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+
+namespace palx {
+
+namespace {
+
+/// Shadow of a figure on an axis.
+struct Span
+{
+    double low, high;
+};
+
+double dot(const QPointF &a, const QPointF &b)
+{
+    return a.x() * b.x() + a.y() * b.y();
+}
+
+Span shadow(const Corners &figure, const QPointF &axis)
+{
+    Span span{dot(figure[0], axis), dot(figure[0], axis)};
+    for (const QPointF &corner : figure) {
+        span.low = std::min(span.low, dot(corner, axis));
+        span.high = std::max(span.high, dot(corner, axis));
+    }
+    return span;
+}
+
+/// Unit vectors along the two sides of a rectangle.
+std::array<QPointF, 2> axesOf(const Corners &figure)
+{
+    std::array<QPointF, 2> axes{figure[1] - figure[0], figure[3] - figure[0]};
+    for (QPointF &axis : axes)
+        axis /= std::max(std::hypot(axis.x(), axis.y()), kContactMm);
+    return axes;
+}
+
+QRectF boundsOf(const Corners &corners)
+{
+    const Span across = shadow(corners, QPointF(1, 0));
+    const Span along = shadow(corners, QPointF(0, 1));
+    return QRectF(QPointF(across.low, along.low), QPointF(across.high, along.high));
+}
+
+double over(double distance)
+{
+    return distance > kContactMm ? distance : 0;
+}
+
+/// Calls `pair(i, j)` for the rectangles that may meet, sweeping them from left to right.
+template <typename Pair> void eachNearPair(const QVector<QRectF> &bounds, Pair pair)
+{
+    QVector<int> order(bounds.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::sort(order.begin(), order.end(), [&](int a, int b) { return bounds[a].left() < bounds[b].left(); });
+    for (int i = 0; i < order.size(); ++i) {
+        for (int j = i + 1; j < order.size() && bounds[order[j]].left() < bounds[order[i]].right(); ++j)
+            pair(std::min(order[i], order[j]), std::max(order[i], order[j]));
+    }
+}
+
+void widen(Overhang *worst, const Overhang &one)
+{
+    worst->left = std::max(worst->left, one.left);
+    worst->top = std::max(worst->top, one.top);
+    worst->right = std::max(worst->right, one.right);
+    worst->bottom = std::max(worst->bottom, one.bottom);
+}
+
+void findOverlaps(const QVector<Corners> &corners, const QVector<QRectF> &bounds, LayoutFindings *findings)
+{
+    eachNearPair(bounds, [&](int first, int second) {
+        const bool known = findings->overlapping[first] && findings->overlapping[second];
+        if (known && findings->overlaps.size() >= kMaxListedOverlaps)
+            return;
+        const double depth = overlapMm(corners[first], corners[second]);
+        if (depth <= 0)
+            return;
+        findings->overlaps.append({first, second, depth});
+        findings->overlapping[first] = findings->overlapping[second] = true;
+    });
+    std::sort(findings->overlaps.begin(), findings->overlaps.end(), [](const Overlap &a, const Overlap &b) {
+        return a.first != b.first ? a.first < b.first : a.second < b.second;
+    });
+}
+
+} // namespace
+
+QPointF turned(const QPointF &vector, int degrees)
+{
+    switch ((degrees % 360 + 360) % 360) {
+    case 0:
+        return vector;
+    case 90:
+        return QPointF(-vector.y(), vector.x());
+    case 180:
+        return -vector;
+    case 270:
+        return QPointF(vector.y(), -vector.x());
+    default:
+        break;
+    }
+    const double angle = degrees * 3.141592653589793 / 180;
+    return QPointF(vector.x() * std::cos(angle) - vector.y() * std::sin(angle),
+                   vector.x() * std::sin(angle) + vector.y() * std::cos(angle));
+}
+
+Corners itemCorners(const PatternItem &item)
+{
+    const QPointF centre(item.x, item.y);
+    const QPointF across = turned(QPointF(item.w / 2, 0), item.r);
+    const QPointF along = turned(QPointF(0, item.h / 2), item.r);
+    return {centre - across - along, centre + across - along, centre + across + along,
+            centre - across + along};
+}
+
+QRectF itemBounds(const PatternItem &item)
+{
+    return boundsOf(itemCorners(item));
+}
+
+QRectF itemsBounds(const QVector<PatternItem> &items)
+{
+    QRectF all;
+    for (const PatternItem &item : items)
+        all |= itemBounds(item);
+    return all;
+}
+
+bool isUpright(const PatternItem &item)
+{
+    return item.r % 90 == 0;
+}
+
+double overlapMm(const Corners &a, const Corners &b)
+{
+    double depth = std::numeric_limits<double>::infinity();
+    for (const Corners *figure : {&a, &b}) {
+        for (const QPointF &axis : axesOf(*figure)) {
+            const Span one = shadow(a, axis);
+            const Span other = shadow(b, axis);
+            depth = std::min({depth, one.high - other.low, other.high - one.low});
+        }
+    }
+    return over(depth);
+}
+
+Overhang overhangOf(const QRectF &bounds, const QSizeF &pallet)
+{
+    return {over(-bounds.left()), over(-bounds.top()), over(bounds.right() - pallet.width()),
+            over(bounds.bottom() - pallet.height())};
+}
+
+int LayoutFindings::overhangCount() const
+{
+    return static_cast<int>(
+        std::count_if(overhangs.begin(), overhangs.end(), [](const Overhang &o) { return o.any(); }));
+}
+
+LayoutFindings judgeLayout(const QVector<PatternItem> &items, const QSizeF &pallet)
+{
+    LayoutFindings findings;
+    QVector<Corners> corners;
+    QVector<QRectF> bounds;
+    for (const PatternItem &item : items) {
+        corners.append(itemCorners(item));
+        bounds.append(boundsOf(corners.last()));
+        findings.overhangs.append(overhangOf(bounds.last(), pallet));
+        findings.overlapping.append(false);
+        widen(&findings.worst, findings.overhangs.last());
+    }
+    findOverlaps(corners, bounds, &findings);
+    return findings;
+}
+
+} // namespace palx
