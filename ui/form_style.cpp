@@ -1,0 +1,47 @@
+#include "ui/form_style.h"
+
+#include <QAbstractItemView>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QScroller>
+#include <QTableView>
+
+void setupTable(QTableView *table, int stretched, bool compact)
+{
+    constexpr int kTouchRow = 44; // a row is a large target by its width
+    constexpr int kReadRow = 30;
+    constexpr int kNarrowest = 48;
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setAlternatingRowColors(true);
+    table->setWordWrap(false);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(compact ? kReadRow : kTouchRow);
+    const auto mode = stretched < 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents;
+    table->horizontalHeader()->setSectionResizeMode(mode);
+    if (stretched >= 0)
+        table->horizontalHeader()->setSectionResizeMode(stretched, QHeaderView::Stretch);
+    table->horizontalHeader()->setMinimumSectionSize(kNarrowest);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setTouchScrolling(table);
+}
+
+void setFieldMargins(QWidget *form)
+{
+    constexpr int kPixels = 6;
+    for (QLineEdit *field : form->findChildren<QLineEdit *>())
+        field->setTextMargins(kPixels, 0, kPixels, 0);
+}
+
+void setTouchScrolling(QAbstractScrollArea *area)
+{
+    QScroller::grabGesture(area->viewport(), QScroller::TouchGesture);
+    QScrollerProperties properties = QScroller::scroller(area->viewport())->scrollerProperties();
+    properties.setScrollMetric(QScrollerProperties::VerticalOvershootPolicy,
+                               QScrollerProperties::OvershootAlwaysOff);
+    properties.setScrollMetric(QScrollerProperties::HorizontalOvershootPolicy,
+                               QScrollerProperties::OvershootAlwaysOff);
+    QScroller::scroller(area->viewport())->setScrollerProperties(properties);
+}

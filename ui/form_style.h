@@ -1,0 +1,15 @@
+#pragma once
+
+class QAbstractScrollArea;
+class QTableView;
+class QWidget;
+
+/// Whole rows are selected one at a time; cells are not edited. Rows are as high as a finger needs, `compact` ones as a
+/// text needs. Columns fit their contents and `stretched` takes the rest; -1 shares the width alike.
+void setupTable(QTableView *table, int stretched, bool compact);
+
+/// Keeps the text of every line edit and spin box of a form off its border.
+void setFieldMargins(QWidget *form);
+
+/// Lets a finger move the contents; a mouse keeps its own ways.
+void setTouchScrolling(QAbstractScrollArea *area);

@@ -1,0 +1,260 @@
+#include "ui/patterns_frame.h"
+
+#include "ix/xtheme.h"
+#include "nexo/manager_helper.h"
+#include "pattern/patternscene.h"
+#include "stack/recipe_fields.h"
+#include "stack/recipe_patterns.h"
+#include "ui/form_style.h"
+#include "ui/name_dialog.h"
+#include "ui/pattern_problems.h"
+#include "ui_patterns_frame.h"
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+
+PatternsFrame::PatternsFrame(QWidget *parent)
+    : RecipeFrame(parent), ui_(std::make_unique<Ui::PatternsFrame>()), scene_(new PatternScene(this)),
+      items_(new ItemTableModel(this)), itemBinder_(new NodeBinder(this))
+{
+    ui_->setupUi(this);
+    ui_->view->showPlan(scene_);
+    ui_->tblItems->setModel(items_);
+    setupTable(ui_->tblItems, ItemTableModel::kDirection, false);
+    fillDirections(ui_->cmbDirection);
+    bindItemFields();
+    connect(ui_->cmbPattern, QOverload<int>::of(&QComboBox::activated), this, &PatternsFrame::showPattern);
+    connect(ui_->tblItems->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &PatternsFrame::showItem);
+    connect(items_, &QAbstractItemModel::modelReset, this, &PatternsFrame::showItem);
+    connect(ui_->view, &PlanView::itemTouched, this, &PatternsFrame::selectItem);
+    connectButtons();
+    setStack(nullptr);
+}
+
+PatternsFrame::~PatternsFrame()
+{
+    ui_->view->setScene(nullptr); // the scene ends before the view
+}
+
+void PatternsFrame::bindItemFields()
+{
+    const auto bindItem = [this](auto *field, const char *key) {
+        setupNumberField(field, QLatin1String(key));
+        itemBinder_->bind(field, QLatin1String(key));
+    };
+    bindItem(ui_->spnX, "x");
+    bindItem(ui_->spnY, "y");
+    bindItem(ui_->spnR, "r");
+    bindItem(ui_->spnDx, "dx");
+    bindItem(ui_->spnDy, "dy");
+    bindItem(ui_->spnDz, "dz");
+    itemBinder_->bind(ui_->cmbDirection, QStringLiteral("direction"));
+    itemBinder_->setCheck([this](const QString &path, const QVariant &value) {
+        return stack() && path != QLatin1String("direction")
+                   ? palx::fieldProblem(stack()->node(), path, value.toDouble())
+                   : QString();
+    });
+    connect(itemBinder_, &NodeBinder::edited, this, &RecipeFrame::edited);
+    connect(itemBinder_, &NodeBinder::refused, this,
+            [this](QWidget *, const QString &reason) { Q_EMIT refused(reason); });
+}
+
+void PatternsFrame::connectButtons()
+{
+    connect(ui_->btnAdd, &QPushButton::clicked, this, [this] {
+        askName(tr("New pattern"), palx::proposePatternName(stack()->node()), &PatternsFrame::addPattern);
+    });
+    connect(ui_->btnCopy, &QPushButton::clicked, this, [this] {
+        askName(tr("Copy of pattern %1").arg(pattern()), palx::proposePatternName(stack()->node()),
+                &PatternsFrame::copyPattern);
+    });
+    connect(ui_->btnRename, &QPushButton::clicked, this, [this] {
+        askName(tr("New name for pattern %1").arg(pattern()), pattern(), &PatternsFrame::renamePattern);
+    });
+    connect(ui_->btnDelete, &QPushButton::clicked, this, &PatternsFrame::deletePattern);
+    connect(ui_->btnResize, &QPushButton::clicked, this, [this] {
+        palx::applyProductSize(stack(), pattern());
+        showPattern();
+        Q_EMIT edited();
+    });
+    connect(ui_->btnAddItem, &QPushButton::clicked, this, &PatternsFrame::addItem);
+    connect(ui_->btnRemoveItem, &QPushButton::clicked, this, &PatternsFrame::removeItem);
+    ui_->btnUpItem->setIcon(ix::xtheme::icon(ix::xtheme::Glyph::Up));
+    ui_->btnDownItem->setIcon(ix::xtheme::icon(ix::xtheme::Glyph::Down));
+    connect(ui_->btnUpItem, &QPushButton::clicked, this, [this] { moveItem(-1); });
+    connect(ui_->btnDownItem, &QPushButton::clicked, this, [this] { moveItem(1); });
+}
+
+QString PatternsFrame::pattern() const
+{
+    return ui_->cmbPattern->currentData().toString();
+}
+
+void PatternsFrame::choosePattern(const QString &name)
+{
+    ui_->cmbPattern->setCurrentIndex(ui_->cmbPattern->findData(name));
+    showPattern();
+}
+
+void PatternsFrame::stackChanged()
+{
+    scene_->setStack(stack());
+    items_->setStack(stack());
+    ui_->cmbPattern->clear(); // the choice belongs to the recipe
+}
+
+void PatternsFrame::refresh()
+{
+    fillPatterns();
+    showPattern();
+}
+
+/// Keeps the choice while the pattern is there.
+void PatternsFrame::fillPatterns()
+{
+    const QString chosen = pattern();
+    ui_->cmbPattern->clear();
+    for (const QString &name : stack() ? palx::patternNames(stack()->node()) : QStringList()) {
+        const int layers = palx::patternUse(stack()->node(), name);
+        ui_->cmbPattern->addItem(tr("Pattern %1 (in %2 layers)").arg(name).arg(layers), name);
+    }
+    ui_->cmbPattern->setCurrentIndex(
+        ui_->cmbPattern->count() == 0 ? -1 : std::max(0, ui_->cmbPattern->findData(chosen)));
+}
+
+void PatternsFrame::showPattern()
+{
+    orba::ModuleObject *node = stack() ? stack()->r("patterns")->c(pattern()) : nullptr;
+    scene_->setPattern(node);
+    const int selected = item();
+    items_->setPattern(pattern());
+    selectItem(std::min(std::max(selected, 0), items_->rowCount() - 1));
+    showWarnings(ui_->lblProblems,
+                 stack() ? palx::patternProblems(stack()->node(), pattern()) : QStringList());
+    showItem();
+}
+
+int PatternsFrame::item() const
+{
+    return ui_->tblItems->currentIndex().row();
+}
+
+void PatternsFrame::selectItem(int index)
+{
+    ui_->tblItems->setCurrentIndex(items_->index(index, 0));
+}
+
+void PatternsFrame::showItem()
+{
+    orba::ModuleObject *node =
+        stack() && item() >= 0 ? stack()->r("patterns")->c(pattern())->c(item()) : nullptr;
+    itemBinder_->setRoot(node);
+    ui_->view->markItem(item());
+    ui_->lblItem->setText(item() >= 0 ? tr("Product %1").arg(item() + 1) : tr("No product chosen"));
+    updateButtons();
+}
+
+void PatternsFrame::updateButtons()
+{
+    const bool hasPattern = stack() && ui_->cmbPattern->currentIndex() >= 0;
+    const bool hasItem = hasPattern && item() >= 0;
+    ui_->cmbPattern->setEnabled(hasPattern);
+    ui_->btnAdd->setEnabled(stack() != nullptr);
+    for (QWidget *button : {ui_->btnCopy, ui_->btnRename, ui_->btnDelete, ui_->btnAddItem})
+        button->setEnabled(hasPattern);
+    ui_->btnResize->setVisible(hasPattern && palx::otherSizedItems(stack()->node(), pattern()) > 0);
+    ui_->btnRemoveItem->setEnabled(hasItem);
+    ui_->btnUpItem->setEnabled(hasItem && item() > 0);
+    ui_->btnDownItem->setEnabled(hasItem && item() + 1 < items_->rowCount());
+}
+
+void PatternsFrame::askName(const QString &title, const QString &proposal,
+                            void (PatternsFrame::*act)(const QString &))
+{
+    const auto check = [this](const QString &name) {
+        return stack() ? palx::patternNameProblem(stack()->node(), name) : tr("The recipe was closed.");
+    };
+    auto *dialog = new NameDialog(title, check, window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setName(proposal);
+    connect(dialog, &QDialog::accepted, this, [=] {
+        if (stack())
+            (this->*act)(dialog->name());
+    });
+    dialog->open();
+}
+
+void PatternsFrame::addPattern(const QString &name)
+{
+    palx::addPattern(stack(), name);
+    fillPatterns();
+    choosePattern(name);
+    Q_EMIT edited();
+}
+
+void PatternsFrame::copyPattern(const QString &name)
+{
+    palx::addPattern(stack(), name, pattern());
+    fillPatterns();
+    choosePattern(name);
+    Q_EMIT edited();
+}
+
+void PatternsFrame::renamePattern(const QString &name)
+{
+    palx::renamePattern(stack(), pattern(), name);
+    fillPatterns();
+    choosePattern(name);
+    Q_EMIT edited();
+}
+
+void PatternsFrame::deletePattern()
+{
+    const QString name = pattern();
+    const int layers = palx::patternUse(stack()->node(), name);
+    const QString use =
+        layers > 0 ? tr("It is used in %1 layers, which will get no points.").arg(layers) : QString();
+    const QString question = tr("Delete the pattern %1? %2").arg(name, use).trimmed();
+    if (!nexo::ManagerHelper::instance()->execMsgOk(tr("Delete pattern"), question) || !stack())
+        return;
+    palx::removePattern(stack(), name);
+    refresh();
+    Q_EMIT edited();
+}
+
+void PatternsFrame::addItem()
+{
+    const int index = palx::addItem(stack(), pattern());
+    if (index < 0) {
+        Q_EMIT refused(tr("A pattern holds at most %1 products.").arg(palx::kMaxItems));
+        return;
+    }
+    showPattern();
+    selectItem(index);
+    Q_EMIT edited();
+}
+
+void PatternsFrame::removeItem()
+{
+    palx::removeItem(stack(), pattern(), item());
+    showPattern();
+    Q_EMIT edited();
+}
+
+void PatternsFrame::moveItem(int by)
+{
+    const int target = item() + by;
+    if (!palx::moveItem(stack(), pattern(), item(), target))
+        return;
+    showPattern();
+    selectItem(target);
+    Q_EMIT edited();
+}
+
+void PatternsFrame::retranslate()
+{
+    ui_->retranslateUi(this);
+    fillDirections(ui_->cmbDirection);
+    itemBinder_->reload();
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "stack/recipe_layers.h"
+#include "ui/record_table_model.h"
+
+#include <QVector>
+
+/// The layers of a recipe from the pallet up: number, pattern, products, bottom and top above the pallet's
+/// deck.
+class PALX_API LayerTableModel : public RecordTableModel
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kPattern = 1; ///< column
+    static constexpr int kBottom = 3;  ///< column
+
+    using RecordTableModel::RecordTableModel;
+
+protected:
+    int readRows() override;
+    QStringList columns() const override;
+    QString text(int row, int column) const override;
+    bool isNumber(int column) const override { return column != kPattern; }
+
+private:
+    QVector<palx::LayerFacts> layers_;
+};
+
+/// The products of one pattern in placing order, with their places and offsets.
+class PALX_API ItemTableModel : public RecordTableModel
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kDirection = 4; ///< column
+
+    using RecordTableModel::RecordTableModel;
+
+    void setPattern(const QString &name);
+
+protected:
+    int readRows() override;
+    QStringList columns() const override;
+    QString text(int row, int column) const override;
+    bool isNumber(int column) const override { return column != kDirection; }
+
+private:
+    const orba::Node *pattern() const;
+    QString name_;
+};
+
+/// What a layer's pattern name says to the operator.
+PALX_API QString shownPattern(const QString &pattern);
+/// What a direction name says to the operator; unknown names as they stand.
+PALX_API QString shownDirection(const QString &direction);

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "bwaf/bmodule.h"
+#include "stack/recipe_edit.h"
+
+#include <QPointer>
+#include <QStringList>
+
+#include <memory>
+
+class LayerTableModel;
+class QModelIndex;
+class QSortFilterProxyModel;
+class RecipeListModel;
+namespace Ui {
+class StackHomePage;
+}
+
+/// The plug-in's home page: the list of recipes with names, pictures and figures, and what can be done with
+/// them.
+///
+/// Reloads its list on the trigger "refresh_table" and when the list of stacks changes, and raises
+/// "refresh_cmb" when the names have become others; shows its choice again on "refresh_cmb". Raises
+/// "refresh_table" after it made or brought back a recipe. Pictures are drawn after the page is shown.
+class PALX_API StackHomePage : public bwaf::BModule
+{
+    Q_OBJECT
+
+public:
+    /// The page's widget becomes a child of `parent`, which owns it; the page belongs to `module`.
+    StackHomePage(QWidget *parent, bwaf::BModule *module);
+    ~StackHomePage() override;
+
+    QString name() const override;
+    QWidget *wgt() override;
+
+    /// The chosen recipe; the empty node when there is none.
+    orba::ModuleObject *chosenStack() const;
+    void chooseRecipe(const QString &name);
+
+Q_SIGNALS:
+    /// The current recipe is another one, or has another name.
+    void reFreshPageDate();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void setupList();
+    void connectActions();
+    void followTriggers();
+    void reload();
+    void showChoice();
+    void showDetails(orba::ModuleObject *stack);
+    void retranslate();
+
+    void newRecipe();
+    void copyRecipe();
+    void renameRecipe();
+    void deleteRecipe();
+    void undoDelete();
+    void openRecipe();
+    void listChanged(const QString &choose);
+
+    bwaf::BModule *module_;
+    QPointer<QWidget> wgt_;
+    std::unique_ptr<Ui::StackHomePage> ui_;
+    RecipeListModel *recipes_;
+    QSortFilterProxyModel *found_;
+    LayerTableModel *layers_;
+    QStringList names_; ///< as last announced by "refresh_cmb"
+    palx::RemovedStack removed_;
+};

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "bwaf/bmodule.h"
+#include "ui/recipe_history.h"
+
+#include <QPointer>
+
+#include <memory>
+
+class QAbstractButton;
+class RecipeFrame;
+namespace Ui {
+class StackSetupPage;
+}
+
+/// The plug-in's set-up page: edits the current recipe in frames for product, pallet, patterns, layers,
+/// waypoints and points, with undo and redo.
+///
+/// Opening a recipe repairs what must not be (each repair is recorded) and adds keys that recipes of older
+/// versions lack. After an edit it raises "refresh_data", "refresh_pallet_data" and "refresh_margin_data" for
+/// what was changed, and "reset_margin_data" when margins leave no room on a smaller pallet; "refresh_table"
+/// when the operator leaves the recipe.
+class PALX_API StackSetupPage : public bwaf::BModule
+{
+    Q_OBJECT
+
+public:
+    /// The page's widget becomes a child of `parent`, which owns it; the page belongs to `module`.
+    StackSetupPage(QWidget *parent, bwaf::BModule *module);
+    ~StackSetupPage() override;
+
+    QString name() const override;
+    QWidget *wgt() override;
+
+    /// The recipe that is shown, or null.
+    orba::ModuleObject *stack() const { return stack_; }
+    /// The frames in the order of their buttons.
+    const QList<RecipeFrame *> &frames() const { return frames_; }
+    void showFrame(int index);
+
+public Q_SLOTS:
+    /// Shows the current recipe, which may be another one, renamed or gone.
+    void pageDateRefresh();
+    void undo();
+    void redo();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void makeFrames();
+    void connectHeader();
+    void setStack(orba::ModuleObject *stack);
+    void fillRecipes();
+    void saveEdits();
+    void leaveRecipe();
+    void finishField();
+    void onEdited();
+    void afterStep();
+    void announce() const;
+    void updateHeader();
+    void retranslate();
+
+    bwaf::BModule *module_;
+    QPointer<QWidget> wgt_;
+    std::unique_ptr<Ui::StackSetupPage> ui_;
+    QList<RecipeFrame *> frames_;
+    QList<QAbstractButton *> buttons_; ///< one for each frame
+    QPointer<orba::ModuleObject> stack_;
+    RecipeHistory history_;
+    bool isEdited_ = false; ///< since the recipe was last sent
+};
