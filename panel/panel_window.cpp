@@ -1,0 +1,119 @@
+#include "panel/panel_window.h"
+
+#include "bwaf/center_widget.h"
+#include "ix/xtheme.h"
+#include "panel/message_dialog.h"
+#include "panel/navigator.h"
+#include "panel/notice_page.h"
+#include "panel/problem_page.h"
+#include "panel/status_strip.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace panel {
+
+namespace {
+
+const QString kNoticePage = QStringLiteral("panel.notices");
+const QString kProblemPage = QStringLiteral("panel.problems");
+
+} // namespace
+
+PanelWindow::PanelWindow(host::HostSession *session, PanelPresenter *presenter, QWidget *parent)
+    : QWidget(parent), session_(session), center_(session->centerWidget()),
+      navigator_(new Navigator(m("ix.nav"), this)), status_(new StatusStrip(this)), notices_(new NoticePage)
+{
+    setObjectName(QStringLiteral("panelWindow"));
+    resize(kWidth, kHeight);
+    auto *row = new QHBoxLayout;
+    row->addWidget(navigator_);
+    row->addWidget(center_, 1);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(row, 1);
+    column->addWidget(status_);
+    addOwnPages();
+    connect(presenter, &PanelPresenter::noticed, this, &PanelWindow::showNotice);
+    connect(session, &host::HostSession::problemFound, this,
+            [this](const QString &text) { showNotice(QStringLiteral("error"), text); });
+    connect(navigator_, &Navigator::pageChosen, this, &PanelWindow::openPage);
+    connect(status_, &StatusStrip::noticesWanted, this, [this] { openPage(kNoticePage); });
+    connect(center_, &bwaf::CenterWidget::currentPageChanged, navigator_, &Navigator::setCurrentPage);
+    presenter->setWindow(this);
+    openFirstPage();
+}
+
+PanelWindow::~PanelWindow()
+{
+    if (session_->centerWidget())
+        center_->setParent(nullptr); // the session ends it
+}
+
+void PanelWindow::addOwnPages()
+{
+    using namespace ix::xtheme;
+    center_->addPage(notices_, kNoticePage);
+    navigator_->addOwnEntry({tr("Log"), QString(), QString(), kNoticePage, -1}, icon(Glyph::Log));
+    const QList<host::Problem> &problems = session_->problems();
+    if (problems.isEmpty())
+        return;
+    problems_ = new ProblemPage(problems);
+    center_->addPage(problems_, kProblemPage);
+    navigator_->addOwnEntry({tr("Problems"), QString(), QString(), kProblemPage, -1}, icon(Glyph::Warning));
+    for (const host::Problem &problem : problems)
+        showNotice(QStringLiteral("error"), problem.text());
+}
+
+void PanelWindow::openFirstPage()
+{
+    setWindowTitle(tr("Robot panel"));
+    openPage(session_->modules().isEmpty() ? kProblemPage : navigator_->firstPage());
+}
+
+void PanelWindow::openPage(const QString &key)
+{
+    if (!center_->setCurrentPage(key))
+        showNotice(QStringLiteral("warning"), tr("There is no page \"%1\".").arg(key));
+    navigator_->setCurrentPage(center_->currentPage());
+}
+
+void PanelWindow::showNotice(const QString &level, const QString &text)
+{
+    notices_->add(level, text);
+    status_->showNotice(level, text);
+}
+
+void PanelWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
+}
+
+void PanelWindow::retranslate()
+{
+    setWindowTitle(tr("Robot panel"));
+    navigator_->setOwnTitle(kNoticePage, tr("Log"));
+    navigator_->setOwnTitle(kProblemPage, tr("Problems"));
+    status_->retranslate();
+    notices_->retranslate();
+    if (problems_)
+        problems_->retranslate();
+}
+
+void PanelWindow::closeEvent(QCloseEvent *event)
+{
+    if (session_->save()) {
+        event->accept();
+        return;
+    }
+    const bool close = nexo::ManagerHelper::instance()->execMsgOk(
+        tr("The data cannot be saved"),
+        tr("Changes since the last saving are lost when the panel closes now."), tr("Keep open"));
+    event->setAccepted(close);
+}
+
+} // namespace panel
