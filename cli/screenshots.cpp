@@ -1,0 +1,274 @@
+#include "screenshots.h"
+
+#include "bwaf/bmodule.h"
+#include "ix/xtheme.h"
+#include "nexo/setting_manager.h"
+#include "panel/message_dialog.h"
+#include "panel/panel_window.h"
+#include "recipe_commands.h"
+#include "stack/way_points.h"
+#include "ui/stackhomepage.h"
+#include "workstation/plugin_node.h"
+
+#include <QAbstractButton>
+#include <QAbstractEventDispatcher>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QTimer>
+
+#include <functional>
+
+namespace cli {
+namespace {
+
+/// The recipe that the pages show, when it is among the examples: the one with the most to see.
+const QString kShownRecipe = QStringLiteral("Interlocked 1200x800");
+
+/// Lets everything happen that is due now: layouts, pictures drawn one by one. Bounded, so that a page that
+/// never comes to rest cannot keep the command.
+void settle()
+{
+    constexpr int kMostTurns = 2000;
+    for (int i = 0; i < kMostTurns; ++i) {
+        QCoreApplication::sendPostedEvents();
+        if (!QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents))
+            return;
+    }
+}
+
+/// Takes the pictures and keeps the first thing that went wrong.
+class Camera
+{
+public:
+    Camera(panel::PanelWindow *window, const QDir &folder) : window_(window), folder_(folder) {}
+
+    void takePage(const QString &key, const QString &name)
+    {
+        window_->openPage(key);
+        take(window_, name);
+    }
+
+    /// The page as it looks after a button was pressed.
+    void takeAfter(QAbstractButton *button, const QString &name)
+    {
+        button->click();
+        take(window_, name);
+    }
+
+    /// The dialog that `open` brings up, whether or not it waits for the answer; it is refused afterwards.
+    void takeDialog(const std::function<void()> &open, const QString &name)
+    {
+        bool taken = false;
+        const auto shoot = [this, name, &taken] {
+            auto *dialog = taken ? nullptr : qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            taken = true;
+            dialog->grab(); // lays it out
+            take(dialog, name);
+            dialog->reject();
+        };
+        QTimer::singleShot(0, window_, shoot); // for a dialog that waits inside `open`
+        open();
+        shoot();
+        settle();
+        if (!taken)
+            fail(QStringLiteral("no dialog came up for ") + name);
+    }
+
+    void fail(const QString &reason)
+    {
+        if (error_.isEmpty())
+            error_ = reason;
+    }
+    int count() const { return count_; }
+    QString error() const { return error_; }
+    panel::PanelWindow *window() const { return window_; }
+
+private:
+    void take(QWidget *widget, const QString &name)
+    {
+        settle();
+        const QString file = folder_.filePath(name + QStringLiteral(".png"));
+        if (widget->grab().save(file, "PNG"))
+            ++count_;
+        else
+            fail(QStringLiteral("cannot write ") + file);
+    }
+
+    panel::PanelWindow *window_;
+    QDir folder_;
+    int count_ = 0;
+    QString error_;
+};
+
+/// A control of the page that is shown; null, with the reason kept, when there is none of that name.
+template <typename Control> Control *control(Camera &camera, const QString &name)
+{
+    for (Control *found : camera.window()->findChildren<Control *>(name)) {
+        if (found->isVisible())
+            return found;
+    }
+    camera.fail(QStringLiteral("the page has no control ") + name);
+    return nullptr;
+}
+
+void takeDialogOf(Camera &camera, const QString &buttonName, const QString &name)
+{
+    if (auto *button = control<QAbstractButton>(camera, buttonName))
+        camera.takeDialog([button] { button->click(); }, name);
+}
+
+void takeHome(Camera &camera)
+{
+    camera.takePage(mName(palx::getPluginName(), QStringLiteral("home_page")), QStringLiteral("home"));
+    takeDialogOf(camera, QStringLiteral("btnNew"), QStringLiteral("new-recipe"));
+    takeDialogOf(camera, QStringLiteral("btnDelete"), QStringLiteral("delete-recipe"));
+}
+
+/// What a touch on a number field brings up.
+void takeKeypad(Camera &camera)
+{
+    auto *settings = nexo::SettingManager::instance();
+    settings->setOverride(QStringLiteral("touch"), QStringLiteral("true"));
+    if (auto *field = control<QAbstractSpinBox>(camera, QStringLiteral("spnLength"))) {
+        camera.takeDialog(
+            [field] {
+                QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 5), Qt::LeftButton, Qt::NoButton,
+                                    Qt::NoModifier);
+                QApplication::sendEvent(field->findChild<QLineEdit *>(), &release);
+            },
+            QStringLiteral("keypad"));
+    }
+    settings->setOverride(QStringLiteral("touch"), QString());
+}
+
+/// The shown buttons of which one is down: those that choose a frame, or a part of one.
+QList<QAbstractButton *> choosers(const Camera &camera)
+{
+    QList<QAbstractButton *> buttons;
+    for (QAbstractButton *button : camera.window()->findChildren<QAbstractButton *>()) {
+        if (button->isVisible() && button->isCheckable() && button->autoExclusive())
+            buttons.append(button);
+    }
+    return buttons;
+}
+
+/// "btnProduct" becomes "product".
+QString stem(const QAbstractButton *button)
+{
+    return button->objectName().mid(3).toLower();
+}
+
+void takeDialogsOfFrame(Camera &camera, const QString &frame)
+{
+    if (frame == QLatin1String("product"))
+        takeKeypad(camera);
+    if (frame == QLatin1String("patterns"))
+        takeDialogOf(camera, QStringLiteral("btnAdd"), QStringLiteral("new-pattern"));
+}
+
+/// Every frame of the set-up page, every part of a frame, and the dialogs of frames.
+void takeSetup(Camera &camera)
+{
+    auto *open = control<QAbstractButton>(camera, QStringLiteral("btnOpen"));
+    if (!open)
+        return;
+    open->click();
+    settle();
+    const QList<QAbstractButton *> frames = choosers(camera);
+    for (QAbstractButton *frame : frames) {
+        const QString name = QStringLiteral("setup-") + stem(frame);
+        camera.takeAfter(frame, name);
+        takeDialogsOfFrame(camera, stem(frame));
+        for (QAbstractButton *part : choosers(camera)) {
+            if (!frames.contains(part) && !part->isChecked())
+                camera.takeAfter(part, name + QLatin1Char('-') + stem(part));
+        }
+    }
+}
+
+/// The panel's own pages.
+void takeOthers(Camera &camera, bwaf::CenterWidget *center)
+{
+    for (const QString &key : center->pageKeys()) {
+        if (!key.startsWith(palx::getPluginName()))
+            camera.takePage(key, QString(key).replace(QLatin1Char('.'), QLatin1Char('-')));
+    }
+}
+
+bool fillPages(const QString &examples)
+{
+    QString error;
+    for (const QString &file : exampleFiles(examples, &error)) {
+        if (!loadRecipes(file))
+            return false;
+    }
+    if (!error.isEmpty())
+        say(error);
+    for (orba::ModuleObject *stack : palx::stacksNode()->cmobjs())
+        palx::genStackWayPoints(stack);
+    return error.isEmpty();
+}
+
+void chooseRecipe(host::HostSession &host)
+{
+    for (bwaf::BModule *page : host.module(palx::getPluginName())->submodules()) {
+        if (auto *home = qobject_cast<StackHomePage *>(page))
+            home->chooseRecipe(kShownRecipe);
+    }
+}
+
+QString takeAll(Session &session, const ScreenshotRequest &request, int *count)
+{
+    panel::PanelPresenter presenter;
+    panel::PanelWindow window(&session.host(), &presenter);
+    window.resize(request.size);
+    session.host().render();
+    window.show();
+    settle();
+    session.host().idle();
+    chooseRecipe(session.host());
+    Camera camera(&window, QDir(request.folder));
+    takeHome(camera);
+    takeSetup(camera);
+    takeOthers(camera, session.host().centerWidget());
+    *count = camera.count();
+    return camera.error();
+}
+
+} // namespace
+
+QStringList exampleFiles(const QString &folder, QString *error)
+{
+    QStringList files;
+    for (const QString &name :
+         QDir(folder).entryList({QStringLiteral("*.xml"), QStringLiteral("*.json")}, QDir::Files, QDir::Name))
+        files.append(QDir(folder).filePath(name));
+    if (files.isEmpty())
+        *error = folder + QStringLiteral(": no example recipes (*.xml, *.json) there");
+    return files;
+}
+
+int runScreenshots(const ScreenshotRequest &request)
+{
+    if (!QDir().mkpath(request.folder))
+        return refuse(request.folder + QStringLiteral(": the folder cannot be made"));
+    ix::xtheme::apply(qobject_cast<QApplication *>(QCoreApplication::instance()));
+    Session session(Session::Pages::With, request.language);
+    if (!session.start() || !fillPages(request.examples))
+        return kRefused;
+    int count = 0;
+    const QString error = takeAll(session, request, &count);
+    if (!error.isEmpty())
+        return refuse(error);
+    return putResult(QStringLiteral("pages  %1 pictures of pages and dialogs\n").arg(count).toUtf8())
+               ? kDone
+               : kRefused;
+}
+
+} // namespace cli
