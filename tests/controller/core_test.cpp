@@ -1,0 +1,576 @@
+#include "core_panel.h"
+#include "recipes.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace controller;
+using orba::Node;
+using Kind = host::LinkMessage::Kind;
+using Message = host::LinkMessage;
+
+namespace {
+
+const QString kCurrent = QStringLiteral("quill.project.cur_project");
+const QString kVariables = QStringLiteral("quill.project.var._list");
+const QString kTasks = QStringLiteral("quill.project.task._list");
+const QString kMonitor = QStringLiteral("quill.project.var_monitor._list");
+
+class CoreTest : public ::testing::Test
+{
+protected:
+    CoreTest()
+    {
+        options.workspaceFolder = folder.filePath("workspace");
+        restart();
+    }
+    void restart()
+    {
+        core.reset(); // the folder serves one at a time
+        core = std::make_unique<Core>(options);
+        panel = std::make_unique<CorePanel>(core.get(), 1);
+    }
+    /// Keeps state and starts again, as after switching the power off and on.
+    void saveAndRestart()
+    {
+        EXPECT_TRUE(core->station().save());
+        restart();
+        panel->hello();
+    }
+    void makeProject(const QString &name) { QDir().mkpath(options.workspaceFolder + "/SIM-0001/" + name); }
+
+    QTemporaryDir folder;
+    StationOptions options;
+    std::unique_ptr<Core> core;
+    std::unique_ptr<CorePanel> panel;
+};
+
+Message plain(Kind kind)
+{
+    Message message;
+    message.kind = kind;
+    return message;
+}
+
+Node listOf(const Node &only)
+{
+    Node list;
+    list.add()->assign(only);
+    return list;
+}
+
+} // namespace
+
+// ---------------------------------------------------------------- greeting
+
+TEST_F(CoreTest, GreetsWithItsWholeState)
+{
+    options.version = "2.4.1";
+    options.id = "R7";
+    restart();
+    const Message hello = panel->hello(5);
+    EXPECT_EQ(Kind::Hello, hello.kind);
+    EXPECT_EQ(0u, hello.id);
+    EXPECT_EQ(5u, hello.knows) << "it was started anew and goes on with the panel's count";
+    EXPECT_EQ("Simulated controller 2.4.1", hello.payload.getString(u"controller"));
+    EXPECT_EQ("2.4.1", panel->tree.getString(u"nexo.r.version"));
+    EXPECT_EQ("R7", panel->tree.getString(u"nexo.r.id"));
+    EXPECT_EQ(6, panel->tree.find(u"nexo.robot.joints")->size());
+    EXPECT_NEAR(1.35, panel->tree.getDouble(u"nexo.robot.pose.trans.#0"), 1e-9);
+    EXPECT_EQ("main", panel->tree.getString(u"quill.project.task.default.files.#0.name"));
+    EXPECT_EQ("MOD", panel->tree.getString(u"quill.project.task.default.files.#0.type"));
+    EXPECT_EQ("no use", panel->tree.getString(u"quill.body.toolset"));
+}
+
+TEST_F(CoreTest, DoesNothingBeforeAHello)
+{
+    Message request = plain(Kind::Request);
+    request.name = "pallet.get.list";
+    for (Message message : {request, plain(Kind::Write), plain(Kind::Trigger), plain(Kind::Update)}) {
+        panel->send(message);
+        EXPECT_EQ(Kind::Error, panel->last().kind);
+        EXPECT_EQ("frame", panel->last().name);
+    }
+    panel->send(plain(Kind::Ping));
+    panel->wait(3);
+    EXPECT_TRUE(panel->received.empty()) << "nor is anybody told anything";
+}
+
+TEST_F(CoreTest, AnswersWhatItCannotReadAndGoesOn)
+{
+    panel->hello();
+    Message request = plain(Kind::Request);
+    request.name = "link.info";
+    const std::string good = host::encodeFrame(request);
+    std::string damaged = good;
+    damaged.back() = '!';
+    std::string unknown = good;
+    unknown[6] = 77;
+    for (const std::string &frame :
+         {std::string(), std::string("nonsense"), damaged, unknown, good.substr(0, 20)}) {
+        panel->sendFrame(frame);
+        EXPECT_EQ(Kind::Error, panel->last().kind);
+        EXPECT_EQ("frame", panel->last().name);
+        EXPECT_NE(QString(), panel->last().text);
+    }
+    panel->send(plain(Kind::Update));
+    EXPECT_EQ("a panel sends no message of the kind 4", panel->last().text);
+    EXPECT_EQ(host::status::kDone, panel->request("link.info").status);
+}
+
+TEST_F(CoreTest, NamesBothVersionsWhenTheyDiffer)
+{
+    Message hello = plain(Kind::Hello);
+    hello.version = 9;
+    hello.payload.ensure(u"session")->setString("x");
+    panel->send(hello);
+    EXPECT_EQ("version", panel->last().name);
+    EXPECT_EQ("The panel speaks version 9 of the link, the controller version 1.", panel->last().text);
+    hello.version = host::kLinkVersion;
+    hello.payload = Node();
+    panel->send(hello);
+    EXPECT_EQ("frame", panel->last().name) << "a Hello without a session";
+}
+
+TEST_F(CoreTest, ServesOnePanelAtATime)
+{
+    panel->hello();
+    CorePanel second(core.get(), 2, "panel-2");
+    EXPECT_EQ("busy", second.hello().name);
+    EXPECT_EQ("serves another panel", second.last().text);
+    EXPECT_EQ(host::status::kDone, panel->request("link.info").status) << "the first is not disturbed";
+    core->peerGone(1);
+    EXPECT_EQ(Kind::Hello, second.hello().kind);
+}
+
+TEST_F(CoreTest, ASilentPanelLosesItsPlace)
+{
+    panel->hello();
+    CorePanel second(core.get(), 2, "panel-2");
+    for (int i = 0; i < 9; ++i) {
+        panel->wait(1);
+        EXPECT_EQ("busy", second.hello().name);
+    }
+    EXPECT_FALSE(panel->isClosed);
+    panel->wait(1.1);
+    EXPECT_TRUE(panel->isClosed);
+    EXPECT_EQ(Kind::Hello, second.hello().kind);
+}
+
+TEST_F(CoreTest, TheSamePanelOnANewWayGoesOn)
+{
+    panel->hello();
+    panel->write(kCurrent, "SIM-0001/A");
+    CorePanel again(core.get(), 2, "panel-1");
+    EXPECT_EQ(1u, again.hello(0).knows) << "the count that it has, not the one that the panel remembers";
+    panel->wait(0.005);
+    EXPECT_EQ(0u, core->takeOutgoing().size());
+    CorePanel other(core.get(), 3, "panel-2");
+    EXPECT_EQ("busy", other.hello().name);
+    core->peerGone(2);
+    EXPECT_EQ(7u, other.hello(7).knows) << "another panel counts for itself";
+}
+
+TEST_F(CoreTest, PingsWhenItHasNothingToSay)
+{
+    panel->hello();
+    panel->write(kCurrent, "SIM-0001/A");
+    panel->wait(3.5);
+    ASSERT_EQ(3, panel->count(Kind::Ping));
+    EXPECT_EQ(1u, panel->last().knows);
+    EXPECT_EQ(panel->updates, panel->last().id);
+}
+
+// ---------------------------------------------------------------- requests
+
+TEST_F(CoreTest, RefusesUnknownRequestsByName)
+{
+    panel->hello();
+    for (const char *name : {"", "pallet", "pallet.set.two", "motion.startle"}) {
+        const Message reply = panel->request(name);
+        EXPECT_EQ(host::status::kRefused, reply.status);
+        EXPECT_EQ(QStringLiteral("the controller knows no request \"%1\"").arg(QLatin1String(name)),
+                  reply.text);
+    }
+}
+
+TEST_F(CoreTest, EveryRequestRefusesNonsenseAndChangesNothing)
+{
+    panel->hello();
+    panel->request("pallet.set.one", makeRecipe("A", 1, 1));
+    const char *names[] = {"pallet.set.one", "pallet.data",         "pallet.set.name",
+                           "sys.toolset",    "project.remove_task", "project.overview.set_autoload",
+                           "motion.start"};
+    for (const char *name : names)
+        for (const char *payload :
+             {"null", "3", "\"x\"", "[]", "[1,2,3]", "{}", R"({"name":{"a":1}})", "[[[]]]"}) {
+            if (name == names[1] && !std::strcmp(payload, "[]"))
+                continue; // no recipes at all is an answer
+            const Message reply = panel->request(name, nodeFromJson(payload));
+            EXPECT_EQ(host::status::kRefused, reply.status) << name << payload;
+            EXPECT_NE(QString(), reply.text);
+            EXPECT_EQ(QStringList(), panel->updatePaths()) << name << payload;
+        }
+    EXPECT_EQ(1, core->station().pallets().count());
+}
+
+TEST_F(CoreTest, ListsTheRecipesThatItHolds)
+{
+    panel->hello();
+    EXPECT_EQ(0, panel->request("pallet.get.list").payload.size());
+    Node all = listOf(makeRecipe("A", 2, 3));
+    all.add()->assign(makeRecipe("B", 1, 1));
+    EXPECT_EQ(host::status::kDone, panel->request("pallet.data", all).status);
+    EXPECT_EQ(host::status::kDone, panel->request("pallet.set.one", makeRecipe("B", 3, 3)).status);
+    EXPECT_EQ(host::status::kDone,
+              panel->request("pallet.set.name", nodeFromJson(R"({"index":0,"name":"C","desc":"d"})")).status);
+    const Node list = panel->request("pallet.get.list").payload;
+    Node expected = host::summaryOf(makeRecipe("C", 2, 3)).toNode();
+    expected.set(u"desc", QStringLiteral("d"));
+    EXPECT_EQ(expected, *list.at(0));
+    EXPECT_EQ(host::summaryOf(makeRecipe("B", 3, 3)).toNode(), *list.at(1));
+}
+
+TEST_F(CoreTest, SwitchesTheTool)
+{
+    panel->hello();
+    const char *tool = R"({"name":"grip","end":{"trans":[0,0,0.2],"rot":[0,0,0]},
+        "ref":{"trans":[0,0,0],"rot":[0,0,0]},"load":{"mass":4,"cog":[0,0,0],"inertia":[0,0,0]}})";
+    const Message reply = panel->request("sys.toolset", nodeFromJson(tool));
+    EXPECT_EQ(Node::Kind::Int, reply.payload.kind());
+    EXPECT_EQ(0, reply.payload.toInt());
+    EXPECT_EQ("grip", panel->tree.getString(u"quill.body.toolset"));
+    EXPECT_EQ("grip", panel->tree.getString(u"nexo.robot.toolset"));
+    EXPECT_EQ(-1, panel->request("sys.toolset", nodeFromJson("{}")).payload.toInt(5));
+    EXPECT_EQ("grip", panel->tree.getString(u"quill.body.toolset"));
+}
+
+// ---------------------------------------------------------------- edits
+
+TEST_F(CoreTest, TakesEditsInOrderAndOnce)
+{
+    panel->hello();
+    panel->write(kVariables, listOf(makeVariable("a", "int", "1")));
+    EXPECT_EQ(1u, panel->last().knows);
+    EXPECT_EQ(QStringList(), panel->updatePaths()) << "the panel has that already";
+    Message early = plain(Kind::Write);
+    early.id = 3;
+    early.name = kCurrent;
+    early.payload.setString("X");
+    panel->send(early);
+    EXPECT_EQ(Kind::Ping, panel->last().kind);
+    EXPECT_EQ(1u, panel->last().knows) << "number 2 is missing";
+    Message again = early;
+    again.id = 1;
+    panel->send(again);
+    EXPECT_EQ(1u, panel->last().knows);
+    EXPECT_EQ("", core->station().tree().getString(u"quill.project.cur_project"));
+    EXPECT_EQ(host::status::kBehind, panel->request("pallet.set.one", makeRecipe("A", 1, 1), 2).status);
+    EXPECT_EQ(0, core->station().pallets().count()) << "nothing was done";
+    EXPECT_EQ(host::status::kDone, panel->request("pallet.set.one", makeRecipe("A", 1, 1), 1).status);
+}
+
+TEST_F(CoreTest, RefusesWritesWhereThePanelMayNotWrite)
+{
+    panel->hello();
+    const Node before = core->station().tree();
+    Node deep;
+    Node *node = &deep;
+    for (int i = 0; i < 150; ++i)
+        node = node->add();
+    struct Case
+    {
+        QString path;
+        Node value;
+    };
+    const Case cases[] = {
+        {"nexo.r.id", nodeFromJson("\"evil\"")},
+        {"quill.body.toolset", nodeFromJson("\"evil\"")},
+        {"quill.projector", nodeFromJson("1")},
+        {"quill.project", nodeFromJson("1")},
+        {"", nodeFromJson("{}")},
+        {"quill.project.cur_project.below", nodeFromJson("1")},
+        {"quill.project.task._list.#7", nodeFromJson("1")},
+        {"quill.project..x", nodeFromJson("1")},
+        {"quill.project.deep", deep},
+        {"quill.project" + QString(".a").repeated(600), nodeFromJson("1")},
+    };
+    for (const Case &c : cases) {
+        panel->write(c.path, c.value);
+        ASSERT_EQ(1, panel->count(Kind::Error)) << c.path;
+        EXPECT_EQ((QStringList{"quill.project"}), panel->updatePaths())
+            << "so that the panel has what is there";
+        EXPECT_EQ(panel->edits, panel->last().knows) << "taken: it would not become better";
+        EXPECT_EQ(before, core->station().tree()) << c.path;
+    }
+    panel->trigger("quill.project.rsync.explode");
+    EXPECT_EQ("there is no event \"quill.project.rsync.explode\"", panel->received[0].text);
+    EXPECT_EQ(host::status::kDone, panel->request("link.info", Node(), panel->edits).status);
+}
+
+TEST_F(CoreTest, BearsAnyShapeThatThePanelGivesTheProject)
+{
+    panel->hello();
+    for (const char *path :
+         {"task", "var", "var._list", "var_monitor", "cur_project", "autoload_prj_path", "_list"})
+        for (const char *value : {"null", "5", "[1,2]", "[]", "{}", R"([{"name":[]}])"}) {
+            panel->write(QStringLiteral("quill.project.") + QLatin1String(path), nodeFromJson(value));
+            panel->request("monitor.pers.modify", nodeFromJson(R"({"a":1})"));
+            panel->request("project.remove_task", nodeFromJson(R"({"name":"A"})"));
+            panel->trigger("quill.project.rsync.build");
+            panel->trigger("quill.project.rsync.push");
+            panel->trigger("quill.project.refresh_project");
+            panel->write(kCurrent, "SIM-0001/A");
+            EXPECT_EQ(*core->station().tree().find(u"quill.project"), *panel->tree.find(u"quill.project"));
+        }
+    EXPECT_TRUE(core->station().save());
+    EXPECT_EQ(Kind::Hello, panel->hello().kind);
+}
+
+TEST_F(CoreTest, TellsTheSmallestPartThatDiffers)
+{
+    panel->hello();
+    Node list = listOf(makeVariable("a.b", "int", "1"));
+    list.add()->assign(makeVariable("n", "int", "1"));
+    panel->write(kVariables, list);
+    panel->request("monitor.pers.modify", nodeFromJson(R"({"n":5})"));
+    EXPECT_EQ((QStringList{kVariables + ".#1.value.[0][0][0]"}), panel->updatePaths());
+    EXPECT_EQ("5", panel->received[0].payload.toString());
+    EXPECT_EQ(1u, panel->received[0].knows);
+    panel->request("monitor.pers.modify", nodeFromJson(R"({"n":5})"));
+    EXPECT_EQ(QStringList(), panel->updatePaths());
+    // A name that no path can hold: what lies there is told with the node above.
+    panel->write("quill.project.var._list.#1.value", nodeFromJson(R"({"x.y":"1"})"));
+    panel->request("monitor.pers.modify", nodeFromJson(R"({"n":7})"));
+    EXPECT_EQ((QStringList{kVariables + ".#1.value"}), panel->updatePaths());
+}
+
+// ---------------------------------------------------------------- projects
+
+TEST_F(CoreTest, ASwitchExchangesTheLists)
+{
+    panel->hello();
+    const QStringList lists{kTasks, kVariables, kMonitor};
+    panel->write(kCurrent, "SIM-0001/A");
+    EXPECT_EQ(lists, panel->updatePaths()) << "told also when they did not change";
+    EXPECT_EQ(Kind::Ping, panel->last().kind) << "and before the edit is confirmed";
+    panel->write(kTasks, listOf(nodeFromJson(R"({"name":"task0"})")));
+    panel->write(kVariables, listOf(makeVariable("a", "int", "1")));
+    panel->request("monitor.pers.modify", nodeFromJson(R"({"a":5})"));
+    panel->write(kCurrent, "SIM-0001/B");
+    EXPECT_EQ(0, panel->tree.find(kTasks)->size());
+    EXPECT_EQ(0, panel->tree.find(kVariables)->size());
+    EXPECT_EQ(host::status::kRefused,
+              panel->request("monitor.pers.modify", nodeFromJson(R"({"a":6})")).status);
+    panel->write(kCurrent, "SIM-0001/A");
+    EXPECT_EQ("task0", panel->tree.getString(kTasks + ".#0.name"));
+    EXPECT_EQ("5", panel->tree.getString(kVariables + ".#0.value.[0][0][0]"));
+}
+
+TEST_F(CoreTest, AnEditOfTheCurrentProjectKeepsItsVariables)
+{
+    panel->hello();
+    panel->write(kCurrent, "SIM-0001/A");
+    panel->write(kTasks, listOf(nodeFromJson(R"({"name":"task0"})")));
+    panel->write(kVariables, listOf(makeVariable("a", "int", "1")));
+    panel->request("project.remove_task", nodeFromJson(R"({"name":"A"})"));
+    EXPECT_EQ((QStringList{kTasks}), panel->updatePaths());
+    EXPECT_EQ(0, panel->tree.find(kTasks)->size());
+    EXPECT_EQ(1, panel->tree.find(kVariables)->size());
+    panel->write(kTasks, listOf(nodeFromJson(R"({"name":"task0"})")));
+    panel->write(kCurrent, "SIM-0001/B");
+    panel->write(kCurrent, "SIM-0001/A");
+    EXPECT_EQ(1, panel->tree.find(kVariables)->size());
+}
+
+TEST_F(CoreTest, ADeletedProjectStartsAfresh)
+{
+    panel->hello();
+    for (const bool isCurrent : {true, false}) {
+        panel->write(kCurrent, "SIM-0001/A");
+        panel->write(kTasks, listOf(nodeFromJson(R"({"name":"task0"})")));
+        panel->write(kVariables, listOf(makeVariable("a", "int", "1")));
+        if (!isCurrent)
+            panel->write(kCurrent, "SIM-0001/B");
+        panel->request("project.remove_task", nodeFromJson(R"({"name":"A"})"));
+        panel->write(kCurrent, "");
+        panel->write(kCurrent, "SIM-0001/A");
+        EXPECT_EQ(0, panel->tree.find(kVariables)->size()) << (isCurrent ? "current" : "not current");
+        EXPECT_EQ(0, panel->tree.find(kTasks)->size());
+    }
+}
+
+TEST_F(CoreTest, BuildsAProjectThatHasItsFolder)
+{
+    makeProject("A");
+    panel->hello();
+    const auto built = [this] { return panel->tree.getBool(u"quill.project.task.built"); };
+    panel->write(kCurrent, "SIM-0001/A");
+    EXPECT_FALSE(built());
+    panel->trigger("quill.project.rsync.build");
+    EXPECT_TRUE(built());
+    for (const char *name : {"SIM-0001/missing", "../../../../../../../../usr"}) {
+        panel->write(kCurrent, QLatin1String(name));
+        EXPECT_FALSE(built()) << "another project";
+        panel->trigger("quill.project.rsync.build");
+        EXPECT_FALSE(built()) << name;
+        ASSERT_EQ(1, panel->count(Kind::Event));
+        EXPECT_EQ("controller.notice", panel->received[0].name);
+        EXPECT_EQ("error", panel->received[0].payload.getString(u"level"));
+        EXPECT_TRUE(
+            panel->received[0].payload.getString(u"text").contains("cannot be built: it has no folder"));
+    }
+    panel->write(kCurrent, "");
+    panel->trigger("quill.project.rsync.build");
+    EXPECT_TRUE(built()) << "no project is built at once";
+}
+
+TEST_F(CoreTest, WithoutAWorkspaceNothingOfTheWorkingFolderIsTaken)
+{
+    options.workspaceFolder.clear();
+    options.id = "tmp";
+    restart();
+    panel->hello();
+    panel->write(kCurrent, "tmp");
+    panel->trigger("quill.project.rsync.build");
+    EXPECT_FALSE(panel->tree.getBool(u"quill.project.task.built"));
+    EXPECT_EQ(0, panel->tree.find(u"quill.project._list")->size());
+}
+
+TEST_F(CoreTest, ReadsTheListOfProjectsAnew)
+{
+    for (const char *name : {"B", "A", "_build", "palx_default", ".palx-staging"})
+        makeProject(name);
+    panel->hello();
+    panel->trigger("quill.project.refresh_project");
+    EXPECT_EQ(nodeFromJson(R"(["A","B"])"), *panel->tree.find(u"quill.project._list"));
+    makeProject("C");
+    panel->trigger("quill.project.refresh_project");
+    EXPECT_EQ(nodeFromJson(R"(["A","B","C"])"), *panel->tree.find(u"quill.project._list"));
+}
+
+// ---------------------------------------------------------------- robot
+
+TEST_F(CoreTest, TellsTheRobotFiftyTimesASecondWhileItMoves)
+{
+    panel->hello();
+    const Node move = nodeFromJson(R"({"type":"l","motion":{"toolset":"no use","speed":250},
+        "point":{"trans":[1.2,0.4,0.8],"rot":[3.141592653589793,0,0]}})");
+    EXPECT_EQ(host::status::kDone, panel->request("motion.start", move).status);
+    EXPECT_TRUE(panel->tree.getBool(u"nexo.robot.moving")) << "told before the answer";
+    double progress = 0;
+    for (int i = 0; i < 5; ++i) {
+        panel->wait(0.2);
+        EXPECT_EQ(10, panel->updatePaths().count("nexo.robot"));
+        EXPECT_GT(panel->tree.getDouble(u"nexo.robot.progress"), progress);
+        progress = panel->tree.getDouble(u"nexo.robot.progress");
+        panel->request("motion.hold");
+    }
+    panel->request("motion.stop");
+    panel->wait(1);
+    EXPECT_FALSE(panel->tree.getBool(u"nexo.robot.moving"));
+    EXPECT_EQ("", panel->tree.getString(u"nexo.robot.fault"));
+    panel->wait(1);
+    EXPECT_EQ(QStringList(), panel->updatePaths());
+    EXPECT_EQ(host::status::kRefused, panel->request("motion.start").status);
+}
+
+TEST_F(CoreTest, StopsTheRobotWithThePanel)
+{
+    panel->hello();
+    const Node move = nodeFromJson(R"({"type":"l","motion":{"toolset":"no use","speed":250},
+        "point":{"trans":[1.2,0.4,0.8],"rot":[3.141592653589793,0,0]}})");
+    panel->request("motion.start", move);
+    panel->wait(0.1);
+    core->peerGone(1);
+    CorePanel second(core.get(), 2, "panel-2");
+    second.hello();
+    EXPECT_EQ("stopped: the link to the panel is lost", second.tree.getString(u"nexo.robot.fault"));
+    second.wait(0.2);
+    EXPECT_FALSE(second.tree.getBool(u"nexo.robot.moving"));
+}
+
+// ---------------------------------------------------------------- restart
+
+TEST_F(CoreTest, ComesBackAfterARestart)
+{
+    options.dataFolder = folder.filePath("data");
+    restart();
+    panel->hello();
+    panel->request("pallet.set.one", makeRecipe("A", 2, 2));
+    panel->write(kCurrent, "SIM-0001/Line 1");
+    panel->write(kTasks, listOf(nodeFromJson(R"({"name":"task0"})")));
+    Node list = listOf(makeVariable("kept", "int", "1"));
+    list.add()->assign(makeVariable("loose", "int", "1", false));
+    panel->write(kVariables, list);
+    panel->request("monitor.pers.modify", nodeFromJson(R"({"kept":42})"));
+    core->station().assignVariable("loose", nodeFromJson("42"));
+    const char *tool = R"({"name":"grip","end":{"trans":[0,0,0.2],"rot":[0,0,0]},
+        "ref":{"trans":[0,0,0],"rot":[0,0,0]},"load":{"mass":4}})";
+    panel->request("sys.toolset", nodeFromJson(tool));
+    saveAndRestart();
+    EXPECT_EQ("SIM-0001/Line 1", panel->tree.getString(kCurrent));
+    EXPECT_EQ("task0", panel->tree.getString(kTasks + ".#0.name"));
+    EXPECT_EQ("42", panel->tree.getString(kVariables + ".#0.value.[0][0][0]"));
+    EXPECT_EQ("1", panel->tree.getString(kVariables + ".#1.value.[0][0][0]")) << "not persistent";
+    EXPECT_EQ("grip", panel->tree.getString(u"quill.body.toolset"));
+    EXPECT_EQ(host::summaryOf(makeRecipe("A", 2, 2)).toNode(),
+              *panel->request("pallet.get.list").payload.at(0));
+    EXPECT_FALSE(core->station().isChanged());
+}
+
+TEST_F(CoreTest, StartsWithTheProjectThatIsSetForIt)
+{
+    options.dataFolder = folder.filePath("data");
+    restart();
+    panel->hello();
+    panel->write(kCurrent, "SIM-0001/A");
+    panel->write(kTasks, listOf(nodeFromJson(R"({"name":"a"})")));
+    panel->write(kCurrent, "SIM-0001/B");
+    panel->request("project.overview.set_autoload",
+                   nodeFromJson(R"({"autoload_prj_path":"A/_build/A.prj"})"));
+    EXPECT_EQ((QStringList{"quill.project.autoload_prj_path"}), panel->updatePaths());
+    saveAndRestart();
+    EXPECT_EQ("A/_build/A.prj", panel->tree.getString(u"quill.project.autoload_prj_path"));
+    EXPECT_EQ("SIM-0001/A", panel->tree.getString(kCurrent));
+    EXPECT_EQ("a", panel->tree.getString(kTasks + ".#0.name"));
+    panel->request("project.overview.set_autoload", nodeFromJson(R"({"autoload_prj_path":""})"));
+    panel->write(kCurrent, "");
+    saveAndRestart();
+    EXPECT_EQ("", panel->tree.getString(kCurrent));
+    EXPECT_EQ(0, panel->tree.find(kTasks)->size());
+}
+
+TEST_F(CoreTest, ReportsDamagedStateToThePanel)
+{
+    options.dataFolder = folder.filePath("data");
+    restart();
+    EXPECT_TRUE(core->station().save());
+    core.reset();
+    QFile file(options.dataFolder + "/controller.state");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("palx_controller 1 7 0\n{\"id\":");
+    file.close();
+    restart();
+    panel->hello();
+    const Node *report = panel->tree.find(u"nexo.r.report");
+    ASSERT_EQ(1, report->size());
+    EXPECT_TRUE(report->at(0)->toString().startsWith("\"controller.state\" is damaged"))
+        << report->at(0)->toString();
+    EXPECT_EQ(1, panel->count(Kind::Event));
+    EXPECT_EQ("SIM-0001", panel->tree.getString(u"nexo.r.id"));
+}
+
+TEST_F(CoreTest, WorksWithoutAFolderAndSaysSo)
+{
+    options.dataFolder = folder.filePath("data");
+    const Core first(options);
+    restart();
+    panel->hello();
+    EXPECT_EQ(QStringLiteral("nothing will be kept: another controller uses the folder \"%1\"")
+                  .arg(options.dataFolder),
+              panel->tree.getString(u"nexo.r.report.#0"));
+    EXPECT_EQ(host::status::kDone, panel->request("pallet.set.one", makeRecipe("A", 1, 1)).status);
+    EXPECT_TRUE(core->station().save());
+}

@@ -1,0 +1,189 @@
+#include "controller/motion_plan.h"
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace controller;
+
+namespace {
+
+constexpr double kTick = 0.002; // [s]
+
+Pose poseAt(double x, double y, double z, double c = 0)
+{
+    return poseOf({x, y, z}, {kPi, 0, c});
+}
+
+Joints postureAt(const Pose &pose)
+{
+    Joints joints = arm::kHome;
+    QString why;
+    EXPECT_TRUE(arm::inverse(pose, arm::kHome, &joints, &why)) << why;
+    return joints;
+}
+
+/// The largest speed and acceleration that a value showed, from its samples.
+class Peaks
+{
+public:
+    void add(double value)
+    {
+        if (count_ > 0) {
+            const double speed = (value - last_) / kTick;
+            if (count_ > 1)
+                acceleration = std::max(acceleration, std::abs(speed - lastSpeed_) / kTick);
+            topSpeed = std::max(topSpeed, std::abs(speed));
+            lastSpeed_ = speed;
+        }
+        last_ = value;
+        ++count_;
+    }
+    double topSpeed = 0;
+    double acceleration = 0;
+
+private:
+    double last_ = 0;
+    double lastSpeed_ = 0;
+    int count_ = 0;
+};
+
+/// Runs a plan and checks every limit on the way.
+void expectWithinLimits(const MotionPlan &plan, double speed)
+{
+    Peaks joints[6];
+    Vector last = Vector::Zero();
+    const Trapezoid &profile = plan.profile();
+    for (double t = 0; t <= profile.duration() + kTick; t += kTick) {
+        const Joints now = plan.jointsAt(profile.position(t));
+        for (std::size_t i = 0; i < now.size(); ++i)
+            joints[i].add(now[i]);
+        const Vector tool = (arm::forward(now) * plan.wish().tool).translation();
+        if (t > 0) {
+            EXPECT_LE((tool - last).norm() / kTick, speed * 1.001) << "at " << t << " s";
+        }
+        last = tool;
+    }
+    for (std::size_t i = 0; i < 6; ++i) {
+        EXPECT_LE(joints[i].topSpeed, arm::kAxes[i].maxSpeed) << "joint " << i + 1;
+        EXPECT_LE(joints[i].acceleration, arm::kAxes[i].maxAcceleration) << "joint " << i + 1;
+    }
+}
+
+} // namespace
+
+TEST(Trapezoid, KeepsItsLimitsAndEndsExactly)
+{
+    struct Case
+    {
+        double length, speed, acceleration, duration;
+    };
+    const Case cases[] = {
+        {1, 0.5, 1, 2.5},       // speeds up, runs, brakes
+        {1, 1, 1, 2},           // just reaches its speed
+        {0.25, 10, 1, 1},       // a triangle
+        {1e-9, 1, 4, 3.162e-5}, // next to nothing
+        {1000, 2.5, 4, 400.625},
+    };
+    for (const Case &c : cases) {
+        const Trapezoid way(c.length, c.speed, c.acceleration);
+        EXPECT_NEAR(c.duration, way.duration(), 1e-3 * c.duration);
+        EXPECT_EQ(0, way.position(0));
+        EXPECT_EQ(c.length, way.position(way.duration()));
+        EXPECT_EQ(0, way.speed(way.duration()));
+        const double step = way.duration() / 1000;
+        double last = 0;
+        double lastSpeed = 0;
+        for (int i = 1; i <= 1000; ++i) {
+            const double now = way.position(i * step);
+            const double speed = (now - last) / step;
+            EXPECT_GE(now, last);
+            EXPECT_LE(speed, c.speed * (1 + 1e-9));
+            EXPECT_LE(std::abs(speed - lastSpeed) / step, c.acceleration * (1 + 1e-5));
+            EXPECT_NEAR(way.speed((i - 0.5) * step), speed, c.acceleration * step);
+            last = now;
+            lastSpeed = speed;
+        }
+    }
+    EXPECT_EQ(0, Trapezoid(0, 1, 1).duration());
+}
+
+TEST(Motion, RunsStraightAndAsFastAsAsked)
+{
+    const Joints from = postureAt(poseAt(1.2, -0.8, 0.6));
+    MotionWish wish{true, poseAt(1.5, 0.9, 1.0, radians(60)), poseAt(0.1, 0, 0.25), 0.8};
+    wish.tool = poseOf({0.1, 0, 0.25}, {0, 0, radians(30)});
+    MotionPlan plan;
+    QString why;
+    ASSERT_TRUE(MotionPlan::make(wish, from, &plan, &why)) << why;
+    expectWithinLimits(plan, 0.8);
+    const Vector a = (arm::forward(from) * wish.tool).translation();
+    const Vector b = wish.target.translation();
+    EXPECT_NEAR(0.8, plan.profile().topSpeed() * (b - a).norm(), 1e-9) << "nothing hinders it";
+    for (double share = 0; share <= 1; share += 0.01) {
+        const Vector tool = (arm::forward(plan.jointsAt(share)) * wish.tool).translation();
+        EXPECT_LT((tool - (a + share * (b - a))).norm(), 1e-6) << "off the line at " << share;
+    }
+    const Pose end = arm::forward(plan.jointsAt(1)) * wish.tool;
+    EXPECT_LT((end.translation() - b).norm(), 1e-9);
+    EXPECT_LT(angleBetween(end.linear(), wish.target.linear()), 1e-6);
+}
+
+TEST(Motion, KeepsTheLimitsOfTheJointsOnAnyWay)
+{
+    std::mt19937 random(11);
+    const auto between = [&random](double a, double b) {
+        return std::uniform_real_distribution<>(a, b)(random);
+    };
+    int runs = 0;
+    for (int i = 0; i < 30; ++i) {
+        const Joints from = postureAt(poseAt(between(0.9, 1.6), between(-1, 1), between(0.3, 1.3)));
+        const MotionWish wish{i % 2 == 0,
+                              poseAt(between(0.9, 1.6), between(-1, 1), between(0.3, 1.3), between(-3, 3)),
+                              Pose::Identity(), between(0.5, 5)};
+        MotionPlan plan;
+        QString why;
+        if (!MotionPlan::make(wish, from, &plan, &why))
+            continue; // past the axis, or the wrist over its head
+        expectWithinLimits(plan, std::min(wish.speed, MotionPlan::kMaxSpeed));
+        ++runs;
+    }
+    EXPECT_GT(runs, 20);
+}
+
+TEST(Motion, RefusesWaysThatTheArmCannotRun)
+{
+    const Joints from = postureAt(poseAt(1.2, 0.8, 0.6));
+    struct Case
+    {
+        const char *what;
+        MotionWish wish;
+        const char *why;
+    };
+    const Case cases[] = {
+        {"far away", {true, poseAt(4, 0, 1), Pose::Identity(), 1}, "out of reach"},
+        {"far away, by joints", {false, poseAt(4, 0, 1), Pose::Identity(), 1}, "out of reach"},
+        {"through the column", {true, poseAt(-1.2, -0.8, 0.6), Pose::Identity(), 1}, "of the straight way"},
+        {"looking up from below", {false, poseOf({1.9, 0, 0.05}, {0, 0, 0}), Pose::Identity(), 1}, "joint "},
+    };
+    for (const Case &c : cases) {
+        MotionPlan plan;
+        QString why;
+        EXPECT_FALSE(MotionPlan::make(c.wish, from, &plan, &why)) << c.what;
+        EXPECT_TRUE(why.contains(QLatin1String(c.why))) << c.what << ": " << why;
+    }
+    MotionPlan plan;
+    QString why;
+    EXPECT_TRUE(MotionPlan::make({false, poseAt(-1.2, -0.8, 0.6), Pose::Identity(), 1}, from, &plan, &why))
+        << "by joints it can go round: " << why;
+}
+
+TEST(Motion, IsOverAtOnceWhereItIsAlready)
+{
+    const Joints from = postureAt(poseAt(1.2, 0.8, 0.6));
+    MotionPlan plan;
+    QString why;
+    ASSERT_TRUE(MotionPlan::make({true, arm::forward(from), Pose::Identity(), 1}, from, &plan, &why)) << why;
+    EXPECT_LT(plan.profile().duration(), 1e-3);
+}

@@ -1,0 +1,302 @@
+#include "controller/pallet_store.h"
+#include "controller/state_keeper.h"
+#include "recipes.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace controller;
+using orba::Node;
+
+namespace {
+
+QStringList namesOf(const PalletStore &store)
+{
+    QStringList names;
+    const Node list = store.summaries();
+    for (int i = 0; i < list.size(); ++i)
+        names.append(list.at(i)->getString(u"name"));
+    return names;
+}
+
+Node listOf(std::initializer_list<Node> recipes)
+{
+    Node list;
+    list.reset(Node::Kind::List);
+    for (const Node &recipe : recipes)
+        list.add()->assign(recipe);
+    return list;
+}
+
+QString setOne(PalletStore &store, Node recipe)
+{
+    return store.setOne(recipe);
+}
+
+QString setAll(PalletStore &store, Node list)
+{
+    return store.setAll(list);
+}
+
+} // namespace
+
+TEST(PalletStore, StoresByNameAndKeepsTheOrder)
+{
+    PalletStore store;
+    EXPECT_EQ(QString(), setAll(store, listOf({makeRecipe("A", 1, 2), makeRecipe("B", 2, 3)})));
+    EXPECT_EQ(QString(), setOne(store, makeRecipe("C", 1, 1)));
+    EXPECT_EQ(QString(), setOne(store, makeRecipe("A", 3, 4, 9)));
+    EXPECT_EQ((QStringList{"A", "B", "C"}), namesOf(store));
+    EXPECT_EQ(makeRecipe("A", 3, 4, 9), *store.find("A"));
+    EXPECT_EQ(nullptr, store.find("D"));
+    const Node summaries = store.summaries();
+    EXPECT_EQ(3, summaries.getInt(u"#0.layers"));
+    EXPECT_EQ(12, summaries.getInt(u"#0.products"));
+    EXPECT_EQ(QString(), setAll(store, listOf({makeRecipe("B", 1, 1)})));
+    EXPECT_EQ((QStringList{"B"}), namesOf(store));
+}
+
+TEST(PalletStore, TheChecksumTellsPointsApartAndNothingElse)
+{
+    const host::RecipeSummary summary = host::summaryOf(makeRecipe("A", 2, 2));
+    Node other = makeRecipe("other", 2, 2);
+    other.find(u"points.put")->at(0)->at(0)->find(u"put_p.rot")->at(0); // no more a block of numbers
+    other.find(u"layers")->clear();
+    EXPECT_EQ(summary.checksum, host::summaryOf(other).checksum);
+    other.find(u"points.put.#1.#1.exit_p.trans")->setNumber(2, 0.2500001);
+    EXPECT_NE(summary.checksum, host::summaryOf(other).checksum);
+    Node swapped = makeRecipe("A", 2, 2);
+    swapped.find(u"points.put")->move(0, 1);
+    EXPECT_NE(summary.checksum, host::summaryOf(swapped).checksum);
+}
+
+TEST(PalletStore, RefusesWhatIsNoRecipe)
+{
+    const auto broken = [](const char *path, const char *json) {
+        Node recipe = makeRecipe("A", 2, 2);
+        Node *place = recipe.find(QString::fromLatin1(path));
+        place->assign(nodeFromJson(json));
+        return recipe;
+    };
+    struct Case
+    {
+        Node recipe;
+        const char *why;
+    };
+    const Case cases[] = {
+        {Node(), "no recipe: this is no record with names"},
+        {nodeFromJson("[1,2]"), "no recipe: this is no record with names"},
+        {nodeFromJson(R"({"desc":"x"})"), "no recipe: \"name\" is missing or no text"},
+        {broken("name", "7"), "\"7\" is no recipe: \"name\" is missing or no text"},
+        {broken("name", "\" \""), "\" \" is no recipe: \"name\" is missing or no text"},
+        {broken("points", "3"), "\"A\" is no recipe: \"points\" is missing"},
+        {broken("layers", "\"x\""), "\"A\" is no recipe: \"layers\" is no list"},
+        {broken("points.put", "{}"), "\"A\" is no recipe: \"points.put\" is no list of layers"},
+        {broken("points.put", "[1,2]"), "\"A\" is no recipe: \"points.put.#0\" is no list of products"},
+        {broken("points.put.#1", "5"), "\"A\" is no recipe: \"points.put.#1\" is no list of products"},
+        {broken("points.put.#1.#0", "[]"),
+         "\"A\" is no recipe: \"points.put.#1.#0\": this is no product with its points"},
+        {broken("points.put.#1.#1", "{}"),
+         "\"A\" is no recipe: \"points.put.#1.#1\": \"enter_p\" is missing"},
+        {broken("points.put.#0.#1.put_p.rot", "[0,0]"),
+         "\"A\" is no recipe: \"points.put.#0.#1\": in \"put_p\": \"rot\" is no list of 3 numbers"},
+        {broken("points.put.#0.#1.put_p.trans", R"([0,"x",0])"),
+         "\"A\" is no recipe: \"points.put.#0.#1\": in \"put_p\": \"trans.#1\" is no number"},
+    };
+    PalletStore store;
+    ASSERT_EQ(QString(), setOne(store, makeRecipe("A", 1, 1)));
+    for (const Case &c : cases) {
+        EXPECT_EQ(QLatin1String(c.why), setOne(store, c.recipe));
+        EXPECT_EQ(QStringLiteral("entry 2: ") + QLatin1String(c.why),
+                  setAll(store, listOf({makeRecipe("B", 1, 1), c.recipe})));
+        EXPECT_EQ((QStringList{"A"}), namesOf(store)) << "a refusal changes nothing";
+    }
+    EXPECT_EQ("entry 2: \"B\" is no recipe: the name is there twice",
+              setAll(store, listOf({makeRecipe("B", 1, 1), makeRecipe("B", 1, 2)})));
+    EXPECT_EQ("this is no list of recipes", setAll(store, Node()));
+    EXPECT_EQ("this is no list of recipes", setAll(store, makeRecipe("B", 1, 1)));
+    EXPECT_EQ(QString(), setOne(store, broken("points.put", "null"))) << "not generated yet";
+}
+
+TEST(PalletStore, NamesARecipeByItsIndex)
+{
+    PalletStore store;
+    setAll(store, listOf({makeRecipe("A", 1, 1), makeRecipe("B", 1, 1)}));
+    struct Case
+    {
+        const char *json;
+        const char *why;
+    };
+    const Case cases[] = {
+        {"null", "\"index\" is missing or no whole number"},
+        {R"({"index":"0","name":"C"})", "\"index\" is missing or no whole number"},
+        {R"({"index":2,"name":"C"})", "there is no recipe 2, there are 2"},
+        {R"({"index":-1,"name":"C"})", "there is no recipe -1, there are 2"},
+        {R"({"index":0})", "\"name\" is missing or no text"},
+        {R"({"index":0,"name":"B"})", "recipe 1 has the name \"B\" already"},
+        {R"({"index":0,"name":"C","desc":"cans"})", ""},
+        {R"({"index":1,"name":"B","desc":"bags"})", ""},
+    };
+    for (const Case &c : cases)
+        EXPECT_EQ(QLatin1String(c.why), store.setName(nodeFromJson(c.json))) << c.json;
+    EXPECT_EQ((QStringList{"C", "B"}), namesOf(store));
+    EXPECT_EQ("cans", store.at(0)->getString(u"desc"));
+    EXPECT_EQ("bags", store.summaries().getString(u"#1.desc"));
+}
+
+// ---------------------------------------------------------------- on disk
+
+class PalletFiles : public ::testing::Test
+{
+protected:
+    std::unique_ptr<StateKeeper> open()
+    {
+        QString why;
+        auto state = StateFolder::open(folder.path(), &why);
+        EXPECT_TRUE(state) << why;
+        return std::make_unique<StateKeeper>(std::move(state));
+    }
+    static bool keep(StateKeeper &keeper, const PalletStore &store, QString *why)
+    {
+        return keeper.save({std::make_shared<Node>(nodeFromJson("{}")), store.snapshot(), {}}, why);
+    }
+    void save(std::initializer_list<Node> recipes)
+    {
+        const auto keeper = open();
+        PalletStore store(keeper->load().recipes);
+        setAll(store, listOf(recipes));
+        QString why;
+        EXPECT_TRUE(keep(*keeper, store, &why)) << why;
+    }
+    QStringList namesAfterStart(QStringList *reports = nullptr)
+    {
+        const auto keeper = open();
+        const PalletStore store(keeper->load().recipes);
+        if (reports)
+            *reports = keeper->reports();
+        return namesOf(store);
+    }
+    QString file(const char *name) const { return folder.filePath(QLatin1String(name)); }
+    void spoil(const char *name)
+    {
+        QFile damaged(file(name));
+        ASSERT_TRUE(damaged.open(QIODevice::ReadWrite));
+        damaged.seek(damaged.size() / 2);
+        damaged.write("#");
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(PalletFiles, ComeBackAsTheyWere)
+{
+    const Node a = makeRecipe("A", 2, 3, 0.123456789);
+    save({a, makeRecipe("B", 1, 1), makeRecipe("C", 1, 1)});
+    {
+        const auto keeper = open();
+        PalletStore store(keeper->load().recipes);
+        EXPECT_EQ(a, *store.find("A"));
+        setOne(store, makeRecipe("B", 4, 4));
+        setOne(store, a);
+        QFile::remove(file("recipes/1.state")); // would be missed if it were not kept as it is
+        QString why;
+        EXPECT_TRUE(keep(*keeper, store, &why)) << why;
+        EXPECT_FALSE(QFile::exists(file("recipes/1.state"))) << "written although it did not change";
+        setOne(store, makeRecipe("A", 1, 1));
+        EXPECT_TRUE(keep(*keeper, store, &why)) << why;
+    }
+    const auto keeper = open();
+    const PalletStore store(keeper->load().recipes);
+    EXPECT_EQ((QStringList{"A", "B", "C"}), namesOf(store));
+    EXPECT_EQ(makeRecipe("B", 4, 4), *store.find("B"));
+    EXPECT_EQ(makeRecipe("A", 1, 1), *store.find("A"));
+}
+
+TEST_F(PalletFiles, ReplacingAllLeavesNoFileBehind)
+{
+    save({makeRecipe("A", 1, 1), makeRecipe("B", 1, 1), makeRecipe("C", 1, 1)});
+    save({makeRecipe("C", 1, 1), makeRecipe("D", 1, 1)});
+    EXPECT_EQ((QStringList{"C", "D"}), namesAfterStart());
+    EXPECT_EQ(3, QDir(file("recipes")).entryList(QDir::Files).size()) << "two recipes and their order";
+}
+
+TEST_F(PalletFiles, AReplacementCountsFromItsOrderOn)
+{
+    save({makeRecipe("A", 1, 1), makeRecipe("B", 1, 1)});
+    QFile::copy(file("recipes/order.state"), file("old-order"));
+    QFile::copy(file("recipes/1.state"), file("old-1"));
+    QFile::copy(file("recipes/2.state"), file("old-2"));
+    save({makeRecipe("X", 1, 1), makeRecipe("Y", 1, 1)});
+    // The power fails before the new order is there: new files stand beside the old ones.
+    QFile::remove(file("recipes/order.state"));
+    QFile::rename(file("old-order"), file("recipes/order.state"));
+    QFile::rename(file("old-1"), file("recipes/1.state"));
+    QFile::rename(file("old-2"), file("recipes/2.state"));
+    QStringList reports;
+    EXPECT_EQ((QStringList{"A", "B"}), namesAfterStart(&reports));
+    EXPECT_EQ(QStringList(), reports);
+    EXPECT_FALSE(QFile::exists(file("recipes/3.state"))) << "the unfinished ones are gone";
+}
+
+TEST_F(PalletFiles, DamagedOnesAreSetAsideAndReportedOnce)
+{
+    save({makeRecipe("A", 1, 1), makeRecipe("B", 1, 1), makeRecipe("C", 1, 1)});
+    spoil("recipes/2.state");
+    QStringList reports;
+    EXPECT_EQ((QStringList{"A", "C"}), namesAfterStart(&reports));
+    ASSERT_EQ(2, reports.size());
+    EXPECT_TRUE(reports[0].startsWith(
+        "\"recipes/2.state\" is damaged (length and checksum do not fit the content) and "
+        "was set aside as \"2.state.damaged-"))
+        << reports[0];
+    EXPECT_EQ("\"B\" is lost", reports[1]);
+    EXPECT_EQ(1, QDir(file("recipes")).entryList({"2.state.damaged-*"}).size());
+    EXPECT_EQ((QStringList{"A", "C"}), namesAfterStart(&reports));
+    EXPECT_EQ(QStringList(), reports);
+}
+
+TEST_F(PalletFiles, SurviveTheLossOfTheirOrder)
+{
+    save({makeRecipe("A", 1, 1), makeRecipe("B", 1, 1)});
+    spoil("recipes/order.state");
+    QStringList reports;
+    EXPECT_EQ((QStringList{"A", "B"}), namesAfterStart(&reports));
+    EXPECT_EQ(1, reports.size());
+    EXPECT_EQ((QStringList{"A", "B"}), namesAfterStart(&reports));
+    EXPECT_EQ(QStringList(), reports);
+}
+
+TEST_F(PalletFiles, AFolderServesOneControllerOnly)
+{
+    const auto first = open();
+    QString why;
+    EXPECT_FALSE(StateFolder::open(folder.path(), &why));
+    EXPECT_EQ(QStringLiteral("another controller uses the folder \"%1\"").arg(folder.path()), why);
+}
+
+TEST_F(PalletFiles, AFailedSaveIsReportedAndKeepsWhatWasThere)
+{
+    save({makeRecipe("A", 1, 1)});
+    {
+        const auto keeper = open();
+        PalletStore store(keeper->load().recipes);
+        setAll(store, listOf({makeRecipe("B", 1, 1), makeRecipe("C", 1, 1)}));
+        // The next file's name is taken by a folder, so that it cannot be written, whoever runs this test.
+        ASSERT_TRUE(QDir().mkpath(file("recipes/2.state/x")));
+        QString why;
+        EXPECT_FALSE(keep(*keeper, store, &why));
+        EXPECT_TRUE(why.contains("2.state")) << why;
+    }
+    EXPECT_EQ((QStringList{"A"}), namesAfterStart());
+    {
+        const auto keeper = open();
+        PalletStore store(keeper->load().recipes);
+        setAll(store, listOf({makeRecipe("B", 1, 1), makeRecipe("C", 1, 1)}));
+        QString why;
+        EXPECT_FALSE(keep(*keeper, store, &why));
+        ASSERT_TRUE(QDir(file("recipes/2.state")).removeRecursively());
+        why.clear();
+        EXPECT_TRUE(keep(*keeper, store, &why)) << why << ": it is tried again with the next snapshot";
+    }
+    EXPECT_EQ((QStringList{"B", "C"}), namesAfterStart());
+}

@@ -1,0 +1,200 @@
+#include "controller/robot.h"
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+using namespace controller;
+using orba::Node;
+
+namespace {
+
+constexpr const char *kMove = R"({"type":"l","motion":{"toolset":"no use","speed":500},
+    "point":{"trans":[1.2,0.4,0.8],"rot":[3.141592653589793,0,0],"near":[0,0,0,0,0,0],"conf":[]}})";
+
+class RobotTest : public ::testing::Test
+{
+protected:
+    QString start(const char *request = kMove) { return robot.start(nodeFromJson(request), tools); }
+    /// Time passes, with a sign from the button every 100 ms while it is held.
+    void run(double seconds, bool isHeld = true, double factor = 1)
+    {
+        double sinceSign = 0;
+        for (double t = 0; t < seconds - 1e-9; t += 0.005) {
+            sinceSign += 0.005;
+            if (isHeld && sinceSign >= 0.1) {
+                robot.hold();
+                sinceSign = 0;
+            }
+            robot.advance(0.005, factor);
+        }
+    }
+    Node state() const
+    {
+        Node node;
+        robot.publish(&node);
+        return node;
+    }
+
+    Robot robot;
+    Toolsets tools;
+};
+
+} // namespace
+
+TEST_F(RobotTest, ArrivesWhileTheButtonIsHeld)
+{
+    EXPECT_EQ(QString(), start());
+    EXPECT_TRUE(robot.isMoving());
+    run(0.5);
+    const double progress = state().getDouble(u"progress");
+    EXPECT_GT(progress, 0.05);
+    EXPECT_LT(progress, 0.95);
+    run(4);
+    EXPECT_FALSE(robot.isMoving());
+    const Node end = state();
+    EXPECT_TRUE(end.getBool(u"arrived"));
+    EXPECT_EQ(1, end.getDouble(u"progress"));
+    EXPECT_EQ(QString(), end.getString(u"fault"));
+    EXPECT_NEAR(1.2, end.getDouble(u"pose.trans.#0"), 1e-9);
+    EXPECT_NEAR(0.4, end.getDouble(u"pose.trans.#1"), 1e-9);
+    EXPECT_NEAR(0.8, end.getDouble(u"pose.trans.#2"), 1e-9);
+}
+
+TEST_F(RobotTest, StopsWhenTheButtonGivesNoSign)
+{
+    start();
+    run(0.295, false);
+    EXPECT_TRUE(robot.isMoving());
+    EXPECT_EQ(QString(), state().getString(u"fault")) << "0.3 s are allowed";
+    run(0.2, false); // brakes from 500 mm/s with 4 m/s^2 in 0.125 s
+    EXPECT_FALSE(robot.isMoving());
+    const Node end = state();
+    EXPECT_FALSE(end.getBool(u"arrived"));
+    EXPECT_LT(end.getDouble(u"progress"), 0.5);
+    EXPECT_EQ("stopped: no sign from the held button for 300 ms", end.getString(u"fault"));
+}
+
+TEST_F(RobotTest, TheButtonsTimeIsRealWhateverTheSpeedFactor)
+{
+    start();
+    run(0.29, false, 0.1);
+    EXPECT_TRUE(robot.isMoving());
+    EXPECT_EQ(QString(), state().getString(u"fault"));
+    run(0.02, false, 0.1);
+    EXPECT_NE(QString(), state().getString(u"fault"));
+}
+
+TEST_F(RobotTest, BrakesWithoutAJump)
+{
+    start();
+    run(0.6);
+    Vector last = robot.pose().translation();
+    double lastSpeed = 0.5;
+    robot.stop(QString());
+    double way = 0;
+    for (int i = 0; i < 400 && robot.isMoving(); ++i) {
+        robot.advance(0.001, 1);
+        const double speed = (robot.pose().translation() - last).norm() / 0.001;
+        EXPECT_LE(speed, lastSpeed + 1e-6);
+        EXPECT_GE(speed, lastSpeed - 0.001 * MotionPlan::kMaxAcceleration - 1e-4);
+        way += speed * 0.001;
+        lastSpeed = speed;
+        last = robot.pose().translation();
+    }
+    EXPECT_FALSE(robot.isMoving());
+    EXPECT_NEAR(0.5 * 0.5 / (2 * MotionPlan::kMaxAcceleration), way, 1e-3);
+    EXPECT_EQ(QString(), state().getString(u"fault")) << "the operator wanted it";
+}
+
+TEST_F(RobotTest, TakesTheNextMoveWhileItBrakes)
+{
+    start();
+    run(0.6);
+    EXPECT_EQ("the robot is moving already", start());
+    robot.stop(QString());
+    EXPECT_EQ(QString(), start()) << "released and pressed again";
+    run(5);
+    EXPECT_TRUE(state().getBool(u"arrived"));
+
+    start(
+        R"({"type":"j","motion":{"toolset":"no use","speed":500},"point":{"trans":[1.2,-0.4,0.8],"rot":[3.1,0,0]}})");
+    run(0.6);
+    robot.stop(QString());
+    start();
+    robot.stop(QString()); // and released once more: nothing may start later
+    run(5);
+    EXPECT_FALSE(state().getBool(u"arrived"));
+    EXPECT_FALSE(robot.isMoving());
+}
+
+TEST_F(RobotTest, RefusesWhatIsNoMove)
+{
+    struct Case
+    {
+        const char *json;
+        const char *why;
+    };
+    const Case cases[] = {
+        {"null", "\"type\" is \"\", neither \"l\" nor \"j\""},
+        {R"({"type":"x"})", "\"type\" is \"x\", neither \"l\" nor \"j\""},
+        {R"({"type":"l"})", "\"motion.speed\" is no speed: "},
+        {R"({"type":"l","motion":{"speed":0}})", "\"motion.speed\" is no speed: 0"},
+        {R"({"type":"l","motion":{"speed":-5}})", "\"motion.speed\" is no speed: -5"},
+        {R"({"type":"l","motion":{"speed":"fast"}})", "\"motion.speed\" is no speed: fast"},
+        {R"({"type":"l","motion":{"speed":9}})", "\"point\" is missing"},
+        {R"({"type":"l","motion":{"speed":9},"point":{"trans":[1]}})",
+         "in \"point\": \"trans\" is no list of 3 numbers"},
+        {R"({"type":"l","motion":{"speed":9,"toolset":"grip"},"point":{"trans":[1,0,1],"rot":[0,0,0]}})",
+         "there is no toolset \"grip\""},
+        {R"({"type":"j","motion":{"speed":9,"toolset":"no use"},"point":{"trans":[9,0,0.7],"rot":[0,0,0]}})",
+         "out of reach: the wrist would stand 8702 mm from the shoulder, the arm reaches 2100 mm"},
+    };
+    for (const Case &c : cases) {
+        EXPECT_EQ(QLatin1String(c.why), start(c.json)) << c.json;
+        EXPECT_FALSE(robot.isMoving());
+    }
+}
+
+TEST_F(RobotTest, MovesTheToolsPointInTheToolsFrame)
+{
+    EXPECT_EQ(QString(), tools.activate(nodeFromJson(R"({"name":"grip",
+        "end":{"trans":[0,0,0.3],"rot":[0,0,0]},"ref":{"trans":[1,0,0.5],"rot":[0,0,1.5707963267948966]},
+        "load":{"mass":12,"cog":[0,0,0],"inertia":[0,0,0]}})")));
+    EXPECT_EQ("grip", tools.active());
+    start(R"({"type":"l","motion":{"toolset":"grip","speed":900},
+        "point":{"trans":[0.4,-0.2,0.1],"rot":[3.141592653589793,0,0]}})");
+    run(5);
+    const Vector flange = robot.pose().translation();
+    EXPECT_NEAR(1.2, flange.x(), 1e-9); // 1 + 0.2: the frame is turned by 90 degrees
+    EXPECT_NEAR(0.4, flange.y(), 1e-9);
+    EXPECT_NEAR(0.9, flange.z(), 1e-9); // the tool hangs 0.3 below the flange
+}
+
+TEST(Toolsets, RefusesWhatIsNoToolset)
+{
+    struct Case
+    {
+        const char *json;
+        const char *why;
+    };
+    const Case cases[] = {
+        {R"({})", "\"name\" is no text"},
+        {R"({"name":""})", "\"name\" is no text"},
+        {R"({"name":"no use"})", "the name \"no use\" stands for no tool"},
+        {R"({"name":"a"})", "\"end\" is missing"},
+        {R"({"name":"a","end":{"trans":[0,0,0],"rot":[0,0]}})",
+         "in \"end\": \"rot\" is no list of 3 numbers"},
+        {R"({"name":"a","end":{"trans":[0,0,0],"rot":[0,0,0]}})", "\"ref\" is missing"},
+        {R"({"name":"a","end":{"trans":[0,0,0],"rot":[0,0,0]},"ref":{"trans":[0,0,0],"rot":[0,0,0]}})",
+         "\"load.mass\" is missing"},
+        {R"({"name":"a","end":{"trans":[0,0,0],"rot":[0,0,0]},"ref":{"trans":[0,0,0],"rot":[0,0,0]},
+             "load":{"mass":-1}})",
+         "\"load.mass\" is no mass: -1"},
+    };
+    Toolsets tools;
+    for (const Case &c : cases) {
+        EXPECT_EQ(QStringLiteral("no toolset: %1").arg(QLatin1String(c.why)),
+                  tools.activate(nodeFromJson(c.json)));
+        EXPECT_EQ("no use", tools.active());
+    }
+}

@@ -1,0 +1,131 @@
+#include "controller/variables.h"
+#include "recipes.h"
+
+#include <gtest/gtest.h>
+
+using namespace controller;
+using orba::Node;
+
+namespace {
+
+constexpr const char *kTarget = "p:{{0,0,0},{0,0,0,0},0}{cfg 0,0,0,0,0,0,0,0}{EJ 0,0,0,0,0,0}";
+
+Node makeList()
+{
+    Node list;
+    list.reset(Node::Kind::List);
+    list.add()->assign(makeVariable("on", "bool", "false"));
+    list.add()->assign(makeVariable("count", "int", "3"));
+    list.add()->assign(makeVariable("time", "double", "0.0"));
+    list.add()->assign(makeVariable("title", "string", "x"));
+    list.add()->assign(makeVariable("HOME", "robtarget", kTarget));
+    list.add()->assign(makeVariable("clock", "clock", ""));
+    list.add()->assign(makeVariable("loose", "int", "1", false));
+    return list;
+}
+
+QString valueText(const Node &list, const char *name)
+{
+    const Node *value = Variables::value(list, QLatin1String(name));
+    return value ? value->toString() : QStringLiteral("(none)");
+}
+
+} // namespace
+
+TEST(Variables, TakeValuesOfTheirKind)
+{
+    struct Case
+    {
+        const char *json;
+        const char *name;
+        const char *value; ///< afterwards; null: refused
+    };
+    const Case cases[] = {
+        {R"({"on":1})", "on", "true"},
+        {R"({"on":0})", "on", "false"},
+        {R"({"on":true})", "on", "true"},
+        {R"({"on":2})", "on", nullptr},
+        {R"({"on":-1})", "on", nullptr},
+        {R"({"on":"true"})", "on", nullptr},
+        {R"({"count":-7})", "count", "-7"},
+        {R"({"count":1.5})", "count", nullptr},
+        {R"({"count":1.0})", "count", nullptr},
+        {R"({"count":[1]})", "count", nullptr},
+        {R"({"time":1.5})", "time", "1.5"},
+        {R"({"time":2})", "time", "2"},
+        {R"({"time":0.1})", "time", "0.1"},
+        {R"({"time":"2"})", "time", nullptr},
+        {R"({"title":"y"})", "title", "y"},
+        {R"({"title":3})", "title", nullptr},
+        {R"({"HOME":"p:{{1,2.5,-3},{1,0,0,0},0}{cfg 0,0,0,0,0,0,0,0}{EJ 0,0,0,0,0,1e2}"})", "HOME",
+         "p:{{1,2.5,-3},{1,0,0,0},0}{cfg 0,0,0,0,0,0,0,0}{EJ 0,0,0,0,0,1e2}"},
+        {R"({"HOME":"p:{{1,2.5},{1,0,0,0},0}{cfg 0,0,0,0,0,0,0,0}{EJ 0,0,0,0,0,0}"})", "HOME", nullptr},
+        {R"({"clock":"1"})", "clock", nullptr},
+        {R"({"loose":2})", "loose", nullptr},
+        {R"({"unknown":2})", "unknown", nullptr},
+    };
+    for (const Case &c : cases) {
+        Node list = makeList();
+        const QString why = Variables::modify(list, nodeFromJson(c.json));
+        EXPECT_EQ(c.value != nullptr, why.isEmpty()) << c.json << why;
+        if (c.value)
+            EXPECT_EQ(QLatin1String(c.value), valueText(list, c.name)) << c.json;
+        else
+            EXPECT_EQ(makeList(), list) << c.json;
+    }
+}
+
+TEST(Variables, AreChangedAllOrNone)
+{
+    Node list = makeList();
+    EXPECT_EQ("the variable \"time\" of type double does not take \"x\"",
+              Variables::modify(list, nodeFromJson(R"({"count":9,"time":"x"})")));
+    EXPECT_EQ(makeList(), list);
+    EXPECT_EQ("there is no variable \"b\"", Variables::modify(list, nodeFromJson(R"({"count":9,"b":1})")));
+    EXPECT_EQ("the variable \"loose\" is not persistent",
+              Variables::modify(list, nodeFromJson(R"({"loose":9})")));
+    EXPECT_EQ("this is no map of variables", Variables::modify(list, nodeFromJson("[1,2]")));
+    EXPECT_EQ("this is no map of variables", Variables::modify(list, nodeFromJson("3")));
+    EXPECT_EQ(QString(), Variables::modify(list, nodeFromJson("{}"))) << "an unknown name sends this";
+    EXPECT_EQ(QString(), Variables::modify(list, Node()));
+    EXPECT_EQ(makeList(), list);
+}
+
+TEST(Variables, KeepTheKindInWhichTheyWereDeclared)
+{
+    Node list = makeList();
+    list.find(u"#1")->set(u"pers", true);
+    list.find(u"#1.value")->at(0)->setInt(3);
+    EXPECT_EQ(QString(), Variables::modify(list, nodeFromJson(R"({"count":4,"on":1})")));
+    EXPECT_EQ(Node::Kind::Int, Variables::value(list, "count")->kind());
+    EXPECT_EQ(Node::Kind::String, Variables::value(list, "on")->kind());
+}
+
+TEST(Variables, StartAgainWithTheirFirstValuesWhenNotPersistent)
+{
+    Node list = makeList();
+    Variables variables;
+    variables.follow(list);
+    Variables::assign(list, "loose", nodeFromJson("8"));
+    Variables::assign(list, "count", nodeFromJson("9"));
+    list.add()->assign(makeVariable("later", "int", "5", false));
+    variables.follow(list); // the panel edited the list: what a program set is no declaration
+    const Node kept = variables.kept(list);
+    EXPECT_EQ("1", valueText(kept, "loose"));
+    EXPECT_EQ("9", valueText(kept, "count"));
+    EXPECT_EQ("5", valueText(kept, "later"));
+    EXPECT_EQ("8", valueText(list, "loose")) << "only the copy starts again";
+}
+
+TEST(Variables, BearAnyListThatAPanelMayWrite)
+{
+    for (const char *json : {"null", "3", "[1,2]", "[{}]", R"([{"name":5}])", R"([{"name":"a","pers":true}])",
+                             R"([{"name":"a","pers":true,"type":"int","value":[1,2]}])",
+                             R"([{"name":"a","pers":true,"type":"int","value":{"x":[]}}])"}) {
+        Node list = nodeFromJson(json);
+        Variables variables;
+        variables.follow(list);
+        EXPECT_NE(QString(), Variables::modify(list, nodeFromJson(R"({"a":1})"))) << json;
+        EXPECT_EQ(nodeFromJson(json), variables.kept(list));
+    }
+}

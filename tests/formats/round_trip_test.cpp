@@ -1,0 +1,211 @@
+#include "formats/random_tree.h"
+#include "support/test_support.h"
+
+#include "orba/module_manager.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+
+using orba::FormatError;
+using orba::ModuleManager;
+using orba::Name;
+using orba::Node;
+
+namespace {
+
+/// One of the two formats, so that each case is tried with both.
+struct Format
+{
+    const char *name;
+    QByteArray (*write)(const Node &, FormatError *);
+    bool (*read)(const QByteArray &, Node *, FormatError *, const orba::ReadLimits &);
+};
+
+/// How GoogleTest prints the parameter.
+void PrintTo(const Format &format, std::ostream *out)
+{
+    *out << format.name;
+}
+
+QByteArray writeCompact(const Node &node, FormatError *error)
+{
+    return ModuleManager::toJson(node, true, error);
+}
+
+QByteArray writePretty(const Node &node, FormatError *error)
+{
+    return ModuleManager::toJson(node, false, error);
+}
+
+class RoundTrip : public ::testing::TestWithParam<Format>
+{
+protected:
+    Node throughText(const Node &node)
+    {
+        FormatError error;
+        text_ = GetParam().write(node, &error);
+        EXPECT_FALSE(error.isSet()) << error.text();
+        Node back;
+        EXPECT_TRUE(GetParam().read(text_, &back, &error, orba::ReadLimits())) << error.text() << "\n"
+                                                                               << text_.constData();
+        return back;
+    }
+    void expectSame(const Node &node)
+    {
+        const Node back = throughText(node);
+        EXPECT_TRUE(back == node) << text_.constData();
+    }
+    QByteArray text_;
+    qint64 bytes_ = 0;
+};
+
+TEST_P(RoundTrip, ThousandRandomTrees)
+{
+    for (unsigned seed = 0; seed < 1000 && !HasFailure(); ++seed) {
+        SCOPED_TRACE(seed);
+        expectSame(RandomTree(seed).make());
+        bytes_ += text_.size();
+    }
+    EXPECT_GT(bytes_, 400000); // the trees are not all small
+}
+
+TEST_P(RoundTrip, NullAndEmptyNamesDiffer)
+{
+    Node list;
+    list.reset(Node::Kind::List);
+    list.add()->setInt(1);
+    list.add(Name(u""))->setInt(2);
+    list.add(Name(u"a"))->setInt(3);
+    list.add(Name(u"a"))->setInt(4);
+    const Node back = throughText(list);
+    ASSERT_EQ(back.size(), 4);
+    EXPECT_EQ(back.kind(), Node::Kind::List);
+    EXPECT_TRUE(back.at(0)->name().isNull());
+    EXPECT_FALSE(back.at(1)->name().isNull());
+    EXPECT_EQ(back.at(1)->name().toString(), QString(QLatin1String("")));
+    EXPECT_EQ(back.at(3)->name().toString(), QStringLiteral("a"));
+    EXPECT_EQ(back.at(3)->toInt(), 4);
+}
+
+TEST_P(RoundTrip, EveryStringOfOneCodeUnit)
+{
+    Node list;
+    list.reset(Node::Kind::List);
+    for (unsigned unit = 0; unit <= 0xffff; ++unit)
+        list.add()->setString(QString(QChar(static_cast<ushort>(unit))));
+    expectSame(list);
+}
+
+TEST_P(RoundTrip, EveryControlCharacterInNames)
+{
+    Node map;
+    map.reset(Node::Kind::Map);
+    for (ushort unit = 0; unit < 0xa0; ++unit)
+        map.add(Name(QString(QChar(unit))))->setInt(unit);
+    map.add(Name(QString(QChar(0xd801))))->setInt(-1);
+    expectSame(map);
+}
+
+TEST_P(RoundTrip, NumbersComeBackPackedAndExact)
+{
+    const double doubles[] = {1.0, -0.0, 0.1, 1e22, 5e-324};
+    const qint64 ints[] = {std::numeric_limits<qint64>::min(), 0, std::numeric_limits<qint64>::max()};
+    Node map;
+    map.ensure(u"trans")->setDoubles(doubles, 5);
+    map.ensure(u"counts")->setInts(ints, 3);
+    const Node back = throughText(map);
+    const Node *trans = back.find(u"trans");
+    ASSERT_TRUE(trans->isPackedDoubles());
+    EXPECT_EQ(std::memcmp(trans->packedDoubles(), doubles, sizeof doubles), 0);
+    ASSERT_NE(back.find(u"counts")->packedInts(), nullptr);
+    EXPECT_EQ(std::memcmp(back.find(u"counts")->packedInts(), ints, sizeof ints), 0);
+}
+
+TEST_P(RoundTrip, DeepestTreeAllowed)
+{
+    Node root;
+    Node *deepest = &root;
+    for (int depth = 1; depth < orba::ReadLimits::kMaxDepth; ++depth)
+        deepest = deepest->add();
+    deepest->add()->setString(
+        QString(QChar(0xdc00))); // a leaf below the last list, written as an object in JSON
+    expectSame(root);
+}
+
+TEST_P(RoundTrip, WhatCannotBeReadIsNotWritten)
+{
+    Node deep;
+    Node *deepest = &deep;
+    for (int depth = 0; depth < orba::ReadLimits::kMaxDepth; ++depth)
+        deepest = deepest->add();
+    deepest->reset(Node::Kind::List);
+    Node infinite;
+    infinite.ensure(u"stack.height")->setDouble(INFINITY);
+    const double nan = NAN;
+    Node packed;
+    packed.ensure(u"trans")->setDoubles(&nan, 1);
+    const struct
+    {
+        const Node &node;
+        const char *what;
+    } kCases[] = {{deep, "nested"}, {infinite, "(at \"stack.height\")"}, {packed, "(at \"trans\")"}};
+    for (const auto &refused : kCases) {
+        FormatError error;
+        EXPECT_TRUE(GetParam().write(refused.node, &error).isEmpty());
+        EXPECT_TRUE(error.what.contains(QLatin1String(refused.what))) << error.what;
+    }
+}
+
+/// The target of a read changes only when the whole text was accepted.
+TEST_P(RoundTrip, TruncationAtEveryByteChangesNothing)
+{
+    Node sample = RandomTree(17).make();
+    sample.reset(Node::Kind::Map);
+    sample.ensure(u"points.trans")->setDoubles(std::vector<double>{0.5, -1.25e-9, 3.0}.data(), 3);
+    sample.ensure(u"name")->setString(QStringLiteral("Короб <1>\u0001 \U0001F4E6"));
+    sample.ensure(u"list")->add(Name(u"named"))->setBool(true);
+    sample.ensure(u"list")->add()->setInt(-5);
+    const QByteArray text = GetParam().write(sample, nullptr).trimmed();
+    Node target;
+    target.ensure(u"kept")->setInt(1);
+    const Node before = target;
+    for (int length = 0; length < text.size(); ++length) {
+        FormatError error;
+        ASSERT_FALSE(GetParam().read(text.left(length), &target, &error, orba::ReadLimits())) << length;
+        ASSERT_TRUE(target == before) << length;
+        ASSERT_GT(error.line, 0) << length;
+        ASSERT_GT(error.column, 0) << length;
+    }
+    ASSERT_TRUE(GetParam().read(text, &target, nullptr, orba::ReadLimits()));
+    EXPECT_TRUE(target == sample);
+}
+
+/// A byte changed anywhere gives a tree or a refusal, never a crash.
+TEST_P(RoundTrip, EveryByteChanged)
+{
+    Node sample;
+    for (unsigned seed = 0; seed < 8; ++seed)
+        sample.add()->assign(RandomTree(seed).make());
+    const QByteArray text = GetParam().write(sample, nullptr);
+    ASSERT_GT(text.size(), 1000);
+    Node target;
+    for (int at = 0; at < std::min(text.size(), 1500); ++at) {
+        for (const char mask : {'\x01', '\x20', '\x80', '\xff'}) {
+            QByteArray changed = text;
+            changed[at] = static_cast<char>(changed[at] ^ mask);
+            FormatError error;
+            const bool read = GetParam().read(changed, &target, &error, orba::ReadLimits());
+            ASSERT_NE(read, error.isSet());
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Formats, RoundTrip,
+                         ::testing::Values(Format{"json", writeCompact, ModuleManager::fromJson},
+                                           Format{"prettyJson", writePretty, ModuleManager::fromJson},
+                                           Format{"xml", ModuleManager::toXml, ModuleManager::fromXml}),
+                         [](const auto &format) { return std::string(format.param.name); });
+
+} // namespace

@@ -1,0 +1,359 @@
+#include "formats/random_tree.h"
+#include "formats/store_fixture.h"
+#include "support/test_support.h"
+
+#include "orba/tree_registry.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+#include <cmath>
+#include <functional>
+
+using orba::Name;
+using orba::Node;
+
+namespace {
+
+class StoreTest : public StoreFixture
+{
+protected:
+    /// Id of the row of every recipe, by its name.
+    QHash<QString, qint64> stackIds() const
+    {
+        QHash<QString, qint64> ids;
+        {
+            QSqlDatabase database =
+                QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("look"));
+            database.setDatabaseName(databaseFile());
+            EXPECT_TRUE(database.open());
+            QSqlQuery query(database);
+            EXPECT_TRUE(query.exec(QStringLiteral("SELECT id, json FROM text")));
+            while (query.next()) {
+                const Node row = nodeFromJson(query.value(1).toByteArray().constData());
+                if (row.has(u"value.points"))
+                    ids.insert(row.getString(u"value.name"), query.value(0).toLongLong());
+            }
+        }
+        QSqlDatabase::removeDatabase(QStringLiteral("look"));
+        return ids;
+    }
+};
+
+TEST_F(StoreTest, ValuesSurviveTheEndOfTheProcess)
+{
+    ASSERT_TRUE(start());
+    EXPECT_EQ(bindError_, QString());
+    for (int i = 0; i < 5; ++i)
+        addStack(i);
+    tree().find(u"version")->setString(QStringLiteral("V2.0.10"));
+    tree().find(u"default.height")->setInt(7);
+    tree().find(u"projects")->add(Name(u"a.b"))->setBool(true);
+    const Node before = tree();
+    restart();
+    EXPECT_TRUE(tree() == before);
+    EXPECT_EQ(problems(), QString());
+    EXPECT_TRUE(stacks()->find(u"#3.points.put.#0.#0.put_p.trans")->isPackedDoubles());
+    EXPECT_EQ(savedRows(), 0);
+}
+
+TEST_F(StoreTest, AnyTreeSurvives)
+{
+    ASSERT_TRUE(start());
+    for (unsigned seed = 0; seed < 200; ++seed) {
+        Node *parent = tree().find(seed % 2 == 0 ? u"stacks" : u"projects");
+        parent->add(seed % 3 == 0 ? Name() : Name(u"a"))->assign(RandomTree(seed).make());
+        tree().add(Name(u"key"))->assign(RandomTree(seed + 1000).make());
+    }
+    const Node before = tree();
+    restart();
+    EXPECT_TRUE(tree() == before);
+    EXPECT_EQ(savedRows(), 0);
+}
+
+TEST_F(StoreTest, OnlyWhatChangedIsWritten)
+{
+    ASSERT_TRUE(start());
+    for (int i = 0; i < 10; ++i)
+        addStack(i);
+    EXPECT_GT(savedRows(), 10);
+    EXPECT_EQ(savedRows(), 0);
+    stacks()->at(4)->find(u"points.put.#0.#0.put_p.trans")->setNumber(1, 5.5);
+    EXPECT_EQ(savedRows(), 1);
+    stacks()->at(4)->find(u"height")->setInt(99);
+    stacks()->at(4)->find(u"height")->setInt(4);
+    EXPECT_EQ(savedRows(), 0) << "a change that was taken back";
+    stacks()->at(1)->find(u"height")->setInt(70);
+    tree().find(u"default.height")->setInt(70);
+    addStack(10);
+    EXPECT_EQ(savedRows(), 3);
+    stacks()->removeAt(9);
+    EXPECT_EQ(savedRows(), 2) << "the row of the last moves up";
+    EXPECT_EQ(stacks()->find(u"#4.points.put.#0.#0.put_p.trans.#1")->toDouble(), 5.5); // an unpacked list
+    EXPECT_EQ(savedRows(), 0);
+    const Node before = tree();
+    restart();
+    EXPECT_TRUE(tree() == before);
+}
+
+TEST_F(StoreTest, RowsKeepTheirIdsWhenRecipesMove)
+{
+    ASSERT_TRUE(start());
+    for (int i = 0; i < 6; ++i)
+        addStack(i);
+    store_->save();
+    const auto ids = stackIds();
+    ASSERT_EQ(ids.size(), 6);
+    stacks()->move(5, 0);
+    stacks()->move(3, 4);
+    stacks()->insert(2)->assign(*stacks()->at(0));
+    stacks()->at(2)->find(u"name")->setString(QStringLiteral("copy"));
+    stacks()->find(u"#1.name")->setString(QStringLiteral("renamed"));
+    const Node before = tree();
+    restart();
+    EXPECT_TRUE(tree() == before);
+    auto expected = ids;
+    const auto after = stackIds();
+    expected.insert(QStringLiteral("renamed"), expected.take(QStringLiteral("Короб 0")));
+    expected.insert(QStringLiteral("copy"), after.value(QStringLiteral("copy")));
+    EXPECT_EQ(after, expected);
+    EXPECT_FALSE(ids.values().contains(after.value(QStringLiteral("copy"))));
+}
+
+/// A node may get the address of one that was removed since the last save.
+TEST_F(StoreTest, NewNodesAreNotMistakenForRemovedOnes)
+{
+    ASSERT_TRUE(start());
+    for (int round = 0; round < 8; ++round) {
+        while (stacks()->size() > 0)
+            stacks()->removeAt(0);
+        for (int i = 0; i < 4; ++i)
+            stacks()->add(); // null, and never written
+        store_->save();
+        for (int i = 0; i < 3; ++i)
+            stacks()->removeAt(0);
+        for (int i = 0; i < 3; ++i)
+            addStack(round * 10 + i);
+        store_->save();
+        Node copy = *stacks();
+        copy.at(0)->reset(Node::Kind::Map);
+        stacks()->assign(copy); // new nodes, none of them touched afterwards
+        store_->save();
+    }
+    const Node before = tree();
+    restart();
+    EXPECT_TRUE(tree() == before);
+}
+
+TEST_F(StoreTest, AKeyMayChangeItsKind)
+{
+    ASSERT_TRUE(start());
+    const double numbers[] = {1, 2, 3};
+    addStack(1);
+    const std::function<void()> changes[] = {
+        [this] { tree().find(u"projects")->assign(*stacks()); },
+        [this] { tree().find(u"projects")->reset(Node::Kind::Null); },
+        [&] { tree().find(u"projects")->setDoubles(numbers, 3); },
+        [this] { tree().find(u"projects")->at(1); }, // unpacked
+        [this] { tree().find(u"projects")->add()->setString(QStringLiteral("a")); },
+        [this] { tree().find(u"projects")->reset(Node::Kind::Map); },
+        [&] { tree().find(u"projects")->setDoubles(numbers, 0); },
+    };
+    for (const auto &change : changes) {
+        change();
+        store_->save();
+        Node before = tree();
+        if (before.find(u"projects")->isNull())
+            before.find(u"projects")->reset(Node::Kind::Map); // the template has a map there
+        restart();
+        EXPECT_TRUE(tree() == before);
+    }
+}
+
+TEST_F(StoreTest, IsSavedSoonAfterAChange)
+{
+    ASSERT_TRUE(start());
+    QSignalSpy saved(store_.get(), &host::Store::saved);
+    ASSERT_TRUE(waitUntil([&] { return saved.count() == 1; }));
+    addStack(1);
+    stacks()->at(0)->find(u"height")->setInt(5);
+    EXPECT_EQ(saved.count(), 1);
+    ASSERT_TRUE(waitUntil([&] { return saved.count() == 2; }));
+    stacks()->at(0)->find(u"height")->setInt(6);
+    ASSERT_TRUE(waitUntil([&] { return saved.count() == 3; }));
+    EXPECT_EQ(saved.last().first().toInt(), 1);
+}
+
+TEST_F(StoreTest, EventsAreNotStored)
+{
+    ASSERT_TRUE(start());
+    tree().find(u"trigger")->add(Name(u"gone")); // null: an event
+    tree().find(u"trigger")->add(Name(u"kept"))->setInt(1);
+    writeTemplate("{\"trigger\": {\"refresh\": null}, \"stacks\": []}");
+    restart();
+    EXPECT_EQ(nodeText(*tree().find(u"trigger")), nodeText(nodeFromJson("{\"refresh\": null, \"kept\": 1}")));
+}
+
+TEST_F(StoreTest, WhatCannotBeStoredKeepsItsOldRowAndHindersNobody)
+{
+    ASSERT_TRUE(start());
+    addStack(0);
+    addStack(1);
+    store_->save();
+    stacks()->find(u"#0.height")->setDouble(NAN);
+    stacks()->find(u"#1.height")->setInt(77);
+    QString why;
+    EXPECT_FALSE(store_->save(&why));
+    EXPECT_TRUE(why.contains(QStringLiteral("stacks.#0")) && why.contains(QStringLiteral("finite"))) << why;
+    restart();
+    EXPECT_EQ(stacks()->find(u"#0.height")->toInt(), 0);
+    EXPECT_EQ(stacks()->find(u"#1.height")->toInt(), 77);
+}
+
+TEST_F(StoreTest, ModulesAreKeptApartAndOutliveTheirAbsence)
+{
+    ASSERT_TRUE(start());
+    addStack(1);
+    host::bindTree(QStringLiteral("other_module"), templateFile(), true);
+    host::bindTree(QStringLiteral("passing_module"), templateFile(), false);
+    auto &registry = orba::TreeRegistry::instance();
+    registry.module(u"other_module")->find(u"default.height")->setInt(5);
+    const Node other = *registry.module(u"other_module");
+    store_->save();
+    registry.removeModule(QStringLiteral("other_module"));
+    addStack(2);
+    restart(); // without the other module
+    addStack(3);
+    restart();
+    EXPECT_EQ(stacks()->size(), 3);
+    host::bindTree(QStringLiteral("other_module"), templateFile(), true);
+    EXPECT_EQ(*registry.module(u"other_module"), other);
+    // Removed and bound again while the store is open.
+    registry.removeModule(QStringLiteral("other_module"));
+    host::bindTree(QStringLiteral("other_module"), templateFile(), true);
+    EXPECT_EQ(*registry.module(u"other_module"), other);
+    EXPECT_EQ(savedRows(), 0);
+    // Bound again while its tree is there.
+    registry.module(u"other_module")->find(u"default.height")->setInt(6);
+    host::bindTree(QStringLiteral("other_module"), templateFile(), true);
+    EXPECT_EQ(registry.module(u"other_module")->getInt(u"default.height"), 6);
+    stop();
+    registry.removeModule(QStringLiteral("other_module"));
+    registry.removeModule(QStringLiteral("passing_module"));
+}
+
+TEST_F(StoreTest, OnePerProcess)
+{
+    ASSERT_TRUE(start());
+    host::Store second;
+    QString why;
+    EXPECT_FALSE(second.open(folder_.filePath(QStringLiteral("elsewhere")), &why));
+    EXPECT_TRUE(why.contains(QStringLiteral("already"))) << why;
+    EXPECT_EQ(host::Store::current(), store_.get());
+}
+
+// ---------------------------------------------------------------- templates
+
+struct Merge
+{
+    const char *name;
+    const char *first;    ///< the template that is stored
+    const char *second;   ///< the template of the next version
+    const char *expected; ///< without "version"
+};
+
+void PrintTo(const Merge &merge, std::ostream *out)
+{
+    *out << merge.name;
+}
+
+class TemplateMerge : public StoreFixture, public ::testing::WithParamInterface<Merge>
+{
+};
+
+TEST_P(TemplateMerge, StoredValuesWinAndNewKeysAreGained)
+{
+    writeTemplate(GetParam().first);
+    ASSERT_TRUE(start());
+    writeTemplate(GetParam().second);
+    restart();
+    Node expected = nodeFromJson(GetParam().expected);
+    expected.ensureChild(Name(u"version"));
+    Node actual = tree();
+    const int version = actual.indexOf(actual.child(u"version"));
+    actual.move(version, actual.size() - 1); // its place among keys that came and went is of no meaning
+    EXPECT_EQ(actual, expected);
+    restart();
+    EXPECT_EQ(savedRows(), 0);
+}
+
+const Merge kMerges[] = {
+    {"same", "{\"a\": 1}", "{\"a\": 1}", "{\"a\": 1}"},
+    {"value", "{\"a\": 1}", "{\"a\": 2}", "{\"a\": 1}"},
+    {"kind", "{\"a\": \"x\"}", "{\"a\": 2.5}", "{\"a\": \"x\"}"},
+    {"newKeys", "{\"b\": 1}", "{\"a\": 0, \"b\": 2, \"c\": 3}", "{\"a\": 0, \"b\": 1, \"c\": 3}"},
+    {"order", "{\"a\": 1, \"b\": 2, \"c\": 3}", "{\"c\": 0, \"a\": 0, \"b\": 0}",
+     "{\"c\": 3, \"a\": 1, \"b\": 2}"},
+    {"goneKey", "{\"x\": 1, \"a\": 2}", "{\"a\": 0, \"b\": 0}", "{\"a\": 2, \"b\": 0, \"x\": 1}"},
+    {"deep", "{\"a\": {\"p\": {\"q\": 1}}}", "{\"a\": {\"p\": {\"n\": 7, \"q\": 0}, \"o\": 8}}",
+     "{\"a\": {\"p\": {\"n\": 7, \"q\": 1}, \"o\": 8}}"},
+    {"listStays", "{\"a\": [1, 2]}", "{\"a\": [3, 4, 5]}", "{\"a\": [1, 2]}"},
+    {"emptiedList", "{\"a\": []}", "{\"a\": [3, 4, 5]}", "{\"a\": []}"},
+    {"filledNull", "{\"a\": {\"p\": 1}}", "{\"a\": null}", "{\"a\": {\"p\": 1}}"},
+    {"nullBecomesMap", "{\"a\": null}", "{\"a\": {\"p\": 1}}", "{\"a\": {\"p\": 1}}"},
+    {"storedNull", "{\"a\": null}", "{\"a\": 5}", "{\"a\": null}"},
+    {"equalKeys", "{\"a\": 1, \"a\": 2}", "{\"a\": 0, \"a\": 0, \"a\": 9}", "{\"a\": 1, \"a\": 2, \"a\": 9}"},
+    {"valueGivesWay", "{\"a\": 5}", "{\"a\": {\"p\": 1}}", "{\"a\": {\"p\": 1}}"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Templates, TemplateMerge, ::testing::ValuesIn(kMerges),
+                         [](const auto &merge) { return std::string(merge.param.name); });
+
+TEST_F(StoreTest, AValueThatGivesWayIsTold)
+{
+    writeTemplate("{\"a\": {\"b\": 5}}");
+    ASSERT_TRUE(start());
+    writeTemplate("{\"a\": {\"b\": {\"c\": 1}}}");
+    restart();
+    EXPECT_TRUE(bindError_.contains(QStringLiteral("test_module.a.b"))) << bindError_;
+}
+
+TEST_F(StoreTest, WithoutATemplateStoredValuesStay)
+{
+    ASSERT_TRUE(start());
+    addStack(3);
+    tree().find(u"trigger")->clear(); // events are the template's
+    const Node before = tree();
+    const struct
+    {
+        const char *json;
+        const char *what;
+    } kCases[] = {{"{\"stacks\": [", ":1:13:"}, {"[1, 2]", "no map"}, {"", "empty"}};
+    for (const auto &broken : kCases) {
+        writeTemplate(broken.json);
+        restart();
+        EXPECT_TRUE(tree() == before);
+        EXPECT_TRUE(bindError_.contains(QLatin1String(broken.what))) << bindError_;
+        EXPECT_TRUE(bindError_.contains(templateFile())) << bindError_;
+    }
+    ASSERT_TRUE(QFile::remove(templateFile()));
+    restart();
+    EXPECT_TRUE(bindError_.contains(QStringLiteral("does not exist"))) << bindError_;
+    EXPECT_TRUE(tree() == before);
+}
+
+TEST_F(StoreTest, WithoutAStoreTheTemplateIsTheTree)
+{
+    QString why;
+    orba::ModuleObject *handle = host::bindTree(QStringLiteral("test_module"), templateFile(), true, &why);
+    EXPECT_EQ(why, QString());
+    EXPECT_EQ(handle->c("default")->getInt("height"), 150);
+    EXPECT_TRUE(handle->has("version") && handle->c("version")->isNull());
+    EXPECT_EQ(handle, host::bindTree(QStringLiteral("test_module"), QStringLiteral("/no/file"), false, &why));
+    EXPECT_TRUE(why.contains(QStringLiteral("/no/file: the file does not exist"))) << why;
+    EXPECT_EQ(handle->cmobjCount(), 1) << "only the version";
+}
+
+} // namespace

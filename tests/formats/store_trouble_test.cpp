@@ -1,0 +1,399 @@
+// A store that cannot write, or finds what it must not trust: told, nothing lost, nothing wrong taken for right.
+
+#include "formats/obstacles.h"
+#include "formats/store_fixture.h"
+#include "support/test_support.h"
+
+#include "orba/tree_registry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLockFile>
+#include <QSignalSpy>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+#include <sys/wait.h>
+
+using orba::Name;
+using orba::Node;
+
+namespace {
+
+QByteArray bytesOf(const QString &file)
+{
+    QFile source(file);
+    EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << file;
+    return source.readAll();
+}
+
+void putBytes(const QString &file, const QByteArray &bytes)
+{
+    QFile target(file);
+    ASSERT_TRUE(target.open(QIODevice::WriteOnly));
+    target.write(bytes);
+}
+
+class StoreTroubleTest : public StoreFixture
+{
+protected:
+    /// A store with that many recipes, saved and closed.
+    void prepare(int stacks)
+    {
+        ASSERT_TRUE(start());
+        for (int i = 0; i < stacks; ++i)
+            addStack(i);
+        saved_ = tree();
+        stop();
+    }
+    /// A statement in the closed database.
+    void alter(const QString &sql) const
+    {
+        {
+            QSqlDatabase database =
+                QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("alter"));
+            database.setDatabaseName(databaseFile());
+            ASSERT_TRUE(database.open());
+            QSqlQuery query(database);
+            ASSERT_TRUE(query.exec(sql));
+        }
+        QSqlDatabase::removeDatabase(QStringLiteral("alter"));
+    }
+    void expectToldOnce(const QStringList &parts) const
+    {
+        EXPECT_EQ(store_->problems().size(), 1) << problems();
+        for (const QString &part : parts)
+            EXPECT_TRUE(problems().contains(part)) << part << " in " << problems();
+    }
+    /// Recipes that are there are as they were saved.
+    void expectNoWrongRecipe() const
+    {
+        for (int i = 0; i < stacks()->size(); ++i) {
+            const auto number = static_cast<int>(stacks()->at(i)->getInt(u"height", -1));
+            const Node *original = saved_.find(QStringLiteral("stacks.#%1").arg(number));
+            ASSERT_NE(original, nullptr);
+            ASSERT_EQ(*stacks()->at(i), *original);
+        }
+    }
+    Node saved_;
+};
+
+// ---------------------------------------------------------------- no writing
+
+TEST_F(StoreTroubleTest, AFullDiskIsToldOnceAndSavedLater)
+{
+    ASSERT_TRUE(start());
+    addStack(1);
+    ASSERT_GT(savedRows(), 0);
+    stacks()->at(0)->ensure(u"note")->setString(QString(300000, QLatin1Char('x')));
+    {
+        const FullDisk full(100000);
+        QString why;
+        EXPECT_FALSE(store_->save(&why));
+        EXPECT_FALSE(store_->isWritable());
+        addStack(2);
+        EXPECT_FALSE(store_->save());
+        expectToldOnce({data(), QStringLiteral("cannot be written"), QStringLiteral("free space")});
+        EXPECT_EQ(why, problems());
+    }
+    const Node before = tree();
+    QSignalSpy saved(store_.get(), &host::Store::saved);
+    ASSERT_TRUE(waitUntil([&] { return saved.count() > 0; }, host::Store::kRetryMs + 3000)); // by itself
+    EXPECT_TRUE(store_->isWritable());
+    restart();
+    EXPECT_TRUE(tree() == before);
+}
+
+TEST_F(StoreTroubleTest, AFullDiskAtTheFirstStart)
+{
+    {
+        const FullDisk full(3000);
+        ASSERT_TRUE(start());
+        addStack(1);
+        EXPECT_FALSE(store_->save());
+        EXPECT_FALSE(store_->problems().isEmpty());
+    }
+    const Node before = tree();
+    EXPECT_TRUE(store_->save());
+    restart();
+    EXPECT_TRUE(tree() == before);
+    EXPECT_EQ(filesSetAside(), QStringList());
+}
+
+TEST_F(StoreTroubleTest, AReadOnlyFolderIsReadAndSavedLater)
+{
+    prepare(3);
+    {
+        const ReadOnlyFolder readOnly(data());
+        ASSERT_TRUE(start());
+        EXPECT_TRUE(tree() == saved_);
+        addStack(3);
+        EXPECT_FALSE(store_->save());
+        EXPECT_FALSE(store_->save());
+        expectToldOnce(
+            {data(), QStringLiteral("cannot be written"), QStringLiteral("Make the folder writable")});
+    }
+    const Node before = tree();
+    EXPECT_EQ(savedRows(), 1) << "the rows that were read are still known";
+    restart();
+    EXPECT_TRUE(tree() == before);
+    EXPECT_EQ(filesSetAside(), QStringList());
+}
+
+TEST_F(StoreTroubleTest, AnEmptyReadOnlyFolder)
+{
+    ASSERT_TRUE(QDir().mkpath(data()));
+    {
+        const ReadOnlyFolder readOnly(data());
+        ASSERT_TRUE(start());
+        EXPECT_EQ(stacks()->size(), 0);
+        addStack(0);
+        EXPECT_FALSE(store_->save());
+    }
+    const Node before = tree();
+    EXPECT_TRUE(store_->save());
+    restart();
+    EXPECT_TRUE(tree() == before);
+}
+
+TEST_F(StoreTroubleTest, ADamagedStoreInAReadOnlyFolder)
+{
+    prepare(3);
+    alter(QStringLiteral("UPDATE entry SET position = position + 1 WHERE id = (SELECT max(id) FROM entry)"));
+    {
+        const ReadOnlyFolder readOnly(data());
+        ASSERT_TRUE(start());
+        EXPECT_TRUE(problems().contains(QStringLiteral("damaged"))) << problems();
+        expectNoWrongRecipe();
+        EXPECT_FALSE(store_->save());
+    }
+    const Node before = tree();
+    EXPECT_TRUE(store_->save());
+    EXPECT_EQ(filesSetAside().size(), 1);
+    restart();
+    EXPECT_TRUE(tree() == before);
+    EXPECT_EQ(problems(), QString());
+}
+
+TEST_F(StoreTroubleTest, AFolderThatCannotBeMade)
+{
+    putBytes(data(), "a file in the way");
+    ASSERT_TRUE(start());
+    addStack(0);
+    EXPECT_FALSE(store_->save());
+    expectToldOnce({data(), QStringLiteral("cannot be made")});
+    ASSERT_TRUE(QFile::remove(data()));
+    const Node before = tree();
+    EXPECT_TRUE(store_->save());
+    restart();
+    EXPECT_TRUE(tree() == before);
+}
+
+TEST_F(StoreTroubleTest, AFolderThatIsRemovedIsMadeAgain)
+{
+    ASSERT_TRUE(start());
+    addStack(0);
+    ASSERT_TRUE(store_->save());
+    ASSERT_TRUE(QDir(data()).removeRecursively());
+    addStack(1);
+    const Node before = tree();
+    EXPECT_TRUE(store_->save());
+    restart();
+    EXPECT_TRUE(tree() == before);
+}
+
+TEST_F(StoreTroubleTest, AFileThatSomebodyElseWroteIsKept)
+{
+    prepare(2);
+    const QByteArray older = bytesOf(databaseFile());
+    ASSERT_TRUE(start());
+    addStack(2);
+    ASSERT_TRUE(store_->save());
+    ASSERT_TRUE(QFile::remove(databaseFile()));
+    putBytes(databaseFile(), older); // a copy put back while the panel runs
+    addStack(3);
+    const Node before = tree();
+    EXPECT_TRUE(store_->save());
+    expectToldOnce({QStringLiteral("another program"), QStringLiteral("stored anew")});
+    EXPECT_EQ(filesSetAside().size(), 1);
+    restart();
+    EXPECT_TRUE(tree() == before);
+}
+
+// ---------------------------------------------------------------- one process
+
+TEST_F(StoreTroubleTest, AFolderInUseIsRefusedAndNamesItsHolder)
+{
+    prepare(1);
+    const QByteArray before = bytesOf(databaseFile());
+    int ready[2];
+    int end[2];
+    ASSERT_EQ(::pipe(ready), 0);
+    ASSERT_EQ(::pipe(end), 0);
+    const pid_t holder = ::fork();
+    if (holder == 0) {
+        QLockFile lock(data() + QStringLiteral("/store.lock"));
+        const char done = lock.tryLock(0) ? 'y' : 'n';
+        char byte = 0;
+        const bool isTold = ::write(ready[1], &done, 1) == 1;
+        _exit(isTold && ::read(end[0], &byte, 1) >= 0 ? 0 : 1);
+    }
+    char done = 0;
+    ASSERT_EQ(::read(ready[0], &done, 1), 1);
+    ASSERT_EQ(done, 'y');
+    host::Store refused;
+    QString why;
+    EXPECT_FALSE(refused.open(data(), &why));
+    EXPECT_TRUE(why.contains(data()) && why.contains(QString::number(holder))) << why;
+    EXPECT_FALSE(refused.isOpen());
+    EXPECT_EQ(host::Store::current(), nullptr);
+    EXPECT_EQ(bytesOf(databaseFile()), before);
+    ASSERT_EQ(::kill(holder, SIGKILL), 0);
+    ASSERT_EQ(::waitpid(holder, nullptr, 0), holder);
+    for (const int pipe : {ready[0], ready[1], end[0], end[1]})
+        ::close(pipe);
+    EXPECT_TRUE(start()) << "the lock of a dead process is none";
+    EXPECT_TRUE(tree() == saved_);
+}
+
+/// A power cut may leave a lock file that is empty or names a process number that is ours by now.
+TEST_F(StoreTroubleTest, ALockFileThatNobodyHoldsIsNone)
+{
+    prepare(1);
+    const QString lockFile = data() + QStringLiteral("/store.lock");
+    QByteArray ours;
+    {
+        QLockFile lock(lockFile);
+        ASSERT_TRUE(lock.tryLock(0));
+        ours = bytesOf(lockFile);
+    }
+    for (const QByteArray &content : {QByteArray(), ours, QByteArray("damaged")}) {
+        putBytes(lockFile, content);
+        ASSERT_TRUE(start());
+        EXPECT_TRUE(tree() == saved_);
+        stop();
+    }
+}
+
+// ---------------------------------------------------------------- damage
+
+TEST_F(StoreTroubleTest, WhatIsNoStoreIsSetAside)
+{
+    prepare(2);
+    const QByteArray whole = bytesOf(databaseFile());
+    const struct
+    {
+        const char *what;
+        std::function<void()> spoil;
+    } kCases[] = {
+        {"not a database", [this] { putBytes(databaseFile(), QByteArray(9000, 'x')); }},
+        {"no store of this panel", [this] { putBytes(databaseFile(), QByteArray()); }},
+        {"no store of this panel", [this] { alter(QStringLiteral("PRAGMA application_id = 7")); }},
+        {"newer version", [this] { alter(QStringLiteral("PRAGMA user_version = 2")); }},
+        {"form 0 is unknown", [this] { alter(QStringLiteral("PRAGMA user_version = 0")); }},
+        {"no such table", [this] { alter(QStringLiteral("DROP TABLE text")); }},
+        {"manifest is missing", [this] { alter(QStringLiteral("DELETE FROM manifest")); }},
+        {"checksum of its manifest",
+         [this] { alter(QStringLiteral("UPDATE manifest SET generation = 1000")); }},
+        {"instead of", [this] { alter(QStringLiteral("DELETE FROM entry WHERE parent <> 0 AND id > 9")); }},
+        {"checksum of entry",
+         [this] { alter(QStringLiteral("UPDATE text SET json = 'null' WHERE id = 1")); }},
+    };
+    for (const auto &broken : kCases) {
+        SCOPED_TRACE(broken.what);
+        putBytes(databaseFile(), whole);
+        broken.spoil();
+        ASSERT_TRUE(start());
+        expectToldOnce({data(), QLatin1String(broken.what), QStringLiteral("was kept as")});
+        EXPECT_EQ(filesSetAside().size(), 1);
+        expectNoWrongRecipe();
+        addStack(5);
+        const Node before = tree();
+        restart();
+        EXPECT_EQ(problems(), QString());
+        EXPECT_TRUE(tree() == before);
+        stop();
+        for (const QString &aside : filesSetAside())
+            EXPECT_TRUE(QFile::remove(data() + QLatin1Char('/') + aside));
+    }
+}
+
+TEST_F(StoreTroubleTest, WholeRowsOfADamagedStoreAreTakenOver)
+{
+    prepare(5);
+    alter(
+        QStringLiteral("UPDATE text SET json = CAST(replace(CAST(json AS TEXT), 'height', 'hEight') AS BLOB) "
+                       "WHERE CAST(json AS TEXT) LIKE '%Короб 2%'"));
+    ASSERT_TRUE(start());
+    EXPECT_EQ(stacks()->size(), 4);
+    expectNoWrongRecipe();
+    EXPECT_TRUE(problems().contains(QStringLiteral("entries were whole and were taken over"))) << problems();
+    saved_ = tree();
+    restart();
+    EXPECT_TRUE(tree() == saved_);
+}
+
+/// Flipping bits anywhere gives what was saved, or a message and nothing that was not saved.
+TEST_F(StoreTroubleTest, EveryFewBytesFlipped)
+{
+    prepare(3);
+    const QByteArray whole = bytesOf(databaseFile());
+    constexpr int kStep = 61; // odd, and other bytes of a row in every page
+    int told = 0;
+    for (int at = 0; at < whole.size(); at += kStep) {
+        SCOPED_TRACE(at);
+        QByteArray spoilt = whole;
+        spoilt[at] = static_cast<char>(spoilt[at] ^ (1 << (at % 8)));
+        putBytes(databaseFile(), spoilt);
+        ASSERT_TRUE(start());
+        expectNoWrongRecipe();
+        const bool isTold = !store_->problems().isEmpty();
+        ASSERT_TRUE(isTold || tree() == saved_);
+        ASSERT_EQ(filesSetAside().isEmpty(), !isTold) << problems();
+        told += isTold ? 1 : 0;
+        stop();
+        ASSERT_TRUE(QDir(data()).removeRecursively());
+        ASSERT_TRUE(QDir().mkpath(data()));
+    }
+    EXPECT_GT(told, 10); // most of the file is free space, but not all
+}
+
+TEST_F(StoreTroubleTest, CutOffAnywhere)
+{
+    prepare(3);
+    const QByteArray whole = bytesOf(databaseFile());
+    for (int length = 0; length < whole.size(); length += 997) {
+        SCOPED_TRACE(length);
+        putBytes(databaseFile(), whole.left(length));
+        ASSERT_TRUE(start());
+        expectNoWrongRecipe();
+        ASSERT_EQ(filesSetAside().size(), 1) << problems();
+        stop();
+        ASSERT_TRUE(QDir(data()).removeRecursively());
+        ASSERT_TRUE(QDir().mkpath(data()));
+    }
+}
+
+/// Damage while the panel runs: everything is in memory and is stored anew.
+TEST_F(StoreTroubleTest, DamagedWhileOpen)
+{
+    ASSERT_TRUE(start());
+    for (int i = 0; i < 40; ++i)
+        addStack(i)->ensure(u"note")->setString(QString(5000, QLatin1Char('x')));
+    ASSERT_TRUE(store_->save());
+    {
+        QFile file(databaseFile());
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(file.seek(0));
+        file.write(QByteArray(static_cast<int>(file.size()), 'x'));
+    }
+    stacks()->removeAt(3);
+    addStack(50);
+    const Node before = tree();
+    store_->save();
+    restart();
+    EXPECT_TRUE(tree() == before);
+    EXPECT_EQ(filesSetAside().size(), 1);
+}
+
+} // namespace

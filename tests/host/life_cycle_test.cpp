@@ -1,0 +1,174 @@
+#include "bwaf/bmodule.h"
+#include "shell/life_cycle.h"
+#include "support/test_support.h"
+
+#include <QPointer>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+using bwaf::BModule;
+using bwaf::LifeCycle;
+using bwaf::Step;
+
+namespace {
+
+/// Writes every step it takes, as "name.step", and its end.
+class Recorder : public BModule
+{
+public:
+    Recorder(const QString &name, QStringList *steps, QObject *parent = nullptr)
+        : BModule(parent), steps_(steps)
+    {
+        setObjectName(name);
+    }
+    ~Recorder() override { note("end"); }
+    void init() override { note("init"); }
+    void afterInit() override { note("afterInit"); }
+    void setup() override
+    {
+        note("setup");
+        if (onSetup)
+            onSetup();
+    }
+    void afterSetup() override { note("afterSetup"); }
+    void render() override { note("render"); }
+    void afterRender() override { note("afterRender"); }
+    void idle() override { note("idle"); }
+    void afterIdle() override { note("afterIdle"); }
+    void beforeDetach() override { note("beforeDetach"); }
+    void detach() override { note("detach"); }
+
+    std::function<void()> onSetup;
+
+private:
+    void note(const char *step) { steps_->append(name() + QLatin1Char('.') + QLatin1String(step)); }
+    QStringList *steps_;
+};
+
+class LifeCycleTest : public ::testing::Test
+{
+protected:
+    Recorder *make(const char *name) { return new Recorder(QLatin1String(name), &steps); }
+    QString taken()
+    {
+        const QString text = steps.join(QLatin1Char(' '));
+        steps.clear();
+        return text;
+    }
+    QStringList steps;
+};
+
+} // namespace
+
+TEST_F(LifeCycleTest, StepsRunOnEveryModuleBeforeTheNextStep)
+{
+    const std::unique_ptr<Recorder> a(make("a")), b(make("b"));
+    LifeCycle::advance({a.get(), b.get()}, Step::AfterSetup);
+    EXPECT_EQ(
+        taken(),
+        QStringLiteral("a.init b.init a.afterInit b.afterInit a.setup b.setup a.afterSetup b.afterSetup"));
+    LifeCycle::advance({a.get(), b.get()}, Step::AfterIdle);
+    EXPECT_EQ(taken(),
+              QStringLiteral("a.render b.render a.afterRender b.afterRender a.idle b.idle a.afterIdle "
+                             "b.afterIdle"));
+}
+
+TEST_F(LifeCycleTest, NoStepRunsTwice)
+{
+    const std::unique_ptr<Recorder> a(make("a"));
+    LifeCycle::advance({a.get()}, Step::Init);
+    LifeCycle::advance({a.get(), a.get()}, Step::AfterInit);
+    EXPECT_EQ(taken(), QStringLiteral("a.init a.afterInit"));
+    LifeCycle::detach({a.get(), a.get()});
+    LifeCycle::detach({a.get()});
+    LifeCycle::advance({a.get()}, Step::AfterIdle);
+    EXPECT_EQ(taken(), QStringLiteral("a.beforeDetach a.detach"));
+}
+
+TEST_F(LifeCycleTest, PagesAddedInSetupCatchUpInTheirOrder)
+{
+    const std::unique_ptr<Recorder> module(make("m"));
+    module->onSetup = [&] {
+        module->addSubmodule(make("home"));
+        module->addSubmodule(make("set"));
+        EXPECT_EQ(steps.last(), QStringLiteral("m.setup")); // not in the middle of the module's own step
+    };
+    LifeCycle::advance({module.get()}, Step::AfterSetup);
+    EXPECT_EQ(taken(),
+              QStringLiteral("m.init m.afterInit m.setup home.init home.afterInit home.setup set.init "
+                             "set.afterInit set.setup m.afterSetup home.afterSetup set.afterSetup"));
+}
+
+TEST_F(LifeCycleTest, AModuleAddedOutsideAStepCatchesUpAtOnce)
+{
+    const std::unique_ptr<Recorder> module(make("m"));
+    LifeCycle::advance({module.get()}, Step::Setup);
+    taken();
+    Recorder *page = make("page");
+    page->onSetup = [&] { page->addSubmodule(make("inner")); };
+    module->addSubmodule(page);
+    EXPECT_EQ(taken(),
+              QStringLiteral("page.init page.afterInit page.setup inner.init inner.afterInit inner.setup"));
+}
+
+TEST_F(LifeCycleTest, DetachingRunsBackwardsAndSkipsWhatWasNeverReached)
+{
+    const std::unique_ptr<Recorder> a(make("a")), b(make("b"));
+    a->addSubmodule(make("a1"));
+    a->addSubmodule(make("a2"));
+    LifeCycle::advance({a.get(), b.get()}, Step::Init);
+    taken();
+    LifeCycle::detach({a.get(), b.get()});
+    EXPECT_EQ(taken(), QStringLiteral("b.beforeDetach a2.beforeDetach a1.beforeDetach a.beforeDetach "
+                                      "b.detach a2.detach a1.detach a.detach"));
+    a->addSubmodule(make("late"));
+    EXPECT_EQ(taken(), QString());
+}
+
+TEST_F(LifeCycleTest, SubmodulesEndBeforeTheirParentInReverseOrder)
+{
+    Recorder *module = make("m");
+    module->addSubmodule(make("first"));
+    module->addSubmodule(make("second"));
+    LifeCycle::end(module);
+    EXPECT_EQ(taken(), QStringLiteral("second.end first.end m.end"));
+}
+
+TEST_F(LifeCycleTest, AModuleThatEndsInAStepIsLeftOut)
+{
+    const std::unique_ptr<Recorder> a(make("a"));
+    QPointer<Recorder> b(make("b"));
+    a->onSetup = [&] { delete b; };
+    LifeCycle::advance({a.get(), b}, Step::AfterSetup);
+    EXPECT_EQ(taken(), QStringLiteral("a.init b.init a.afterInit b.afterInit a.setup b.end a.afterSetup"));
+    QPointer<Recorder> page(make("page"));
+    a->addSubmodule(page);
+    delete page;
+    EXPECT_TRUE(a->submodules().isEmpty());
+}
+
+TEST_F(LifeCycleTest, RefusesCirclesAndNothing)
+{
+    const std::unique_ptr<Recorder> a(make("a"));
+    Recorder *b = make("b");
+    a->addSubmodule(b);
+    a->addSubmodule(b);
+    b->addSubmodule(a.get());
+    a->addSubmodule(a.get());
+    a->addSubmodule(nullptr);
+    EXPECT_EQ(a->submodules(), QList<BModule *>({b}));
+    EXPECT_TRUE(b->submodules().isEmpty());
+    EXPECT_EQ(b->parentModule(), a.get());
+}
+
+TEST_F(LifeCycleTest, AModuleMovesToItsNewParent)
+{
+    const std::unique_ptr<Recorder> a(make("a")), b(make("b"));
+    Recorder *page = make("page");
+    a->addSubmodule(page);
+    b->addSubmodule(page);
+    EXPECT_TRUE(a->submodules().isEmpty());
+    EXPECT_EQ(page->parentModule(), b.get());
+}

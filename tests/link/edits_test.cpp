@@ -1,0 +1,521 @@
+// What the panel changes below "quill.project": found, sent in order, never lost and never doubled.
+
+#include "fake_controller.h"
+
+#include "nexo/setting_manager.h"
+
+#include <QPointer>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using host::ControllerLink;
+using host::LinkMessage;
+using orba::ModuleObject;
+using Kind = LinkMessage::Kind;
+
+namespace {
+
+void addVariable(const char *name)
+{
+    ModuleObject *variable = m("quill.project.var._list")->addUnnamed();
+    variable->ensure("name")->set(nullptr, "", QString::fromLatin1(name));
+}
+
+void setAutoload(const char *path)
+{
+    m("quill.project")->set(nullptr, "autoload_prj_path", QString::fromLatin1(path));
+}
+
+const QString kBuild = QStringLiteral("quill.project.rsync.build !");
+
+QStringList autoloads(int from, int to)
+{
+    QStringList edits;
+    for (int i = from; i <= to; ++i)
+        edits << QStringLiteral("quill.project.autoload_prj_path = \"%1\"").arg(i) << kBuild;
+    return edits;
+}
+
+/// An edit and a trigger behind it, `from` to `to` times.
+void editAndTrigger(int from, int to)
+{
+    for (int i = from; i <= to; ++i) {
+        setAutoload(QByteArray::number(i));
+        m("quill.project.rsync.build")->trigger();
+    }
+}
+
+} // namespace
+
+TEST_F(LinkTest, EditsAreFoundWhenTheEventLoopRests)
+{
+    connectLink();
+    addVariable("flagL");
+    setAutoload("P");
+    EXPECT_EQ(controller.edits, QStringList());
+    rest();
+    EXPECT_EQ(controller.edits, QStringList({"quill.project.autoload_prj_path = \"P\"",
+                                             "quill.project.var._list = [{\"name\":\"flagL\"}]"}));
+    addVariable("flagR");
+    m("quill.project.var._list.#0.name")->node().setString(QStringLiteral("flag")); // nobody is told
+    controller.edits.clear();
+    rest();
+    rest();
+    EXPECT_EQ(controller.edits, QStringList({"quill.project.var._list.#0.name = \"flag\"",
+                                             "quill.project.var._list.#1 = {\"name\":\"flagR\"}"}));
+    EXPECT_EQ(link->figures().resentEdits, 0);
+}
+
+TEST_F(LinkTest, EditsGoBeforeARequestAndATrigger)
+{
+    connectLink();
+    editAndTrigger(1, 2);
+    EXPECT_EQ(controller.edits, autoloads(1, 2));
+    setAutoload("x");
+    controller.seen.clear();
+    xservice()->get(nullptr, QStringLiteral("link.info"));
+    ASSERT_EQ(controller.seen.size(), 2u);
+    EXPECT_EQ(controller.seen[0].kind, Kind::Write);
+    EXPECT_EQ(controller.seen[1].knows, controller.seen[0].id);
+}
+
+TEST_F(LinkTest, TriggersAreHeardHoweverTheyAreRaised)
+{
+    connectLink();
+    m("quill.project.refresh_project")->trigger();
+    m("quill.project.rsync.push")->set(nullptr, "", true);
+    m("quill.project.rsync.push")->set(nullptr, "", true);
+    m("quill.project.rsync.push")->set(nullptr, "", false, false); // not announced: nothing was raised
+    rest();
+    EXPECT_EQ(controller.edits, QStringList({"quill.project.refresh_project !", "quill.project.rsync.push !",
+                                             "quill.project.rsync.push !"}));
+}
+
+TEST_F(LinkTest, OtherNodesStayInThePanel)
+{
+    connectLink();
+    m("quill.toolpage")->set(nullptr, "toolset", QStringLiteral("A"));
+    m("quill.body")->set(nullptr, "toolset", QStringLiteral("A"));
+    m("nexo.r")->set(nullptr, "id", QStringLiteral("mine"));
+    rest();
+    EXPECT_EQ(controller.edits, QStringList());
+}
+
+TEST_F(LinkTest, EditsMadeWithoutALinkAreSentLaterOnceAndInOrder)
+{
+    connectLink();
+    editAndTrigger(1, 1);
+    controller.breakWay("pulled");
+    settle();
+    editAndTrigger(2, 4);
+    setAutoload("between");
+    rest();
+    setAutoload("5");
+    rest();
+    EXPECT_EQ(controller.edits, autoloads(1, 1));
+    controller.openWay();
+    settle();
+    EXPECT_EQ(controller.edits,
+              autoloads(1, 4) + QStringList("quill.project.autoload_prj_path = \"5\"")); // and not "between"
+    EXPECT_EQ(m("quill.project.autoload_prj_path")->getString(), QStringLiteral("5"));
+    pass(ControllerLink::kMaxResendMs);
+    EXPECT_EQ(link->figures().resentEdits, 0);
+}
+
+TEST_F(LinkTest, ATriggerThatWaitsIsRaisedOnce)
+{
+    connectLink();
+    controller.breakWay("pulled");
+    settle();
+    for (int i = 0; i < 5; ++i)
+        m("quill.project.rsync.build")->trigger();
+    m("quill.project.rsync.push")->trigger();
+    m("quill.project.rsync.build")->trigger();
+    controller.openWay();
+    settle();
+    EXPECT_EQ(controller.edits, QStringList({kBuild, "quill.project.rsync.push !", kBuild}));
+}
+
+TEST_F(LinkTest, ANewLinkGoesOnWhereTheControllerIs)
+{
+    struct Case
+    {
+        const char *what;
+        int takenInSecret; ///< the controller took so many, and the panel does not know it
+    };
+    connectLink();
+    controller.takesEdits = false;
+    int done = 0;
+    for (const Case &item :
+         {Case{"all got lost", 0}, Case{"one came through", 1}, Case{"only the answers got lost", 4}}) {
+        editAndTrigger(done + 1, done + 2); // four edits
+        done += 2;
+        QStringList expected = autoloads(done - 1, done);
+        controller.breakWay("cut");
+        settle();
+        controller.taken += static_cast<std::uint64_t>(item.takenInSecret);
+        controller.takesEdits = true;
+        controller.edits.clear();
+        controller.openWay();
+        settle();
+        EXPECT_EQ(controller.edits, expected.mid(item.takenInSecret)) << item.what;
+        controller.takesEdits = false;
+    }
+}
+
+TEST_F(LinkTest, AControllerThatWasStartedAnewTakesOverTheCount)
+{
+    connectLink();
+    editAndTrigger(1, 3);
+    ASSERT_EQ(controller.taken, 6u);
+    settle();
+    controller.breakWay("restarted");
+    controller.taken = 0; // it has forgotten the session
+    controller.edits.clear();
+    settle();
+    editAndTrigger(4, 4);
+    controller.openWay();
+    settle();
+    EXPECT_EQ(controller.seenTexts(Kind::Hello).size(), 2);
+    EXPECT_EQ(controller.edits, autoloads(4, 4));
+    EXPECT_EQ(controller.taken, 8u);
+}
+
+TEST_F(LinkTest, LostEditsAreRepeatedUntilTheyAreTaken)
+{
+    connectLink();
+    editAndTrigger(1, 1);
+    settle();
+    controller.losesFrames = 1000;
+    editAndTrigger(2, 3);
+    pass(ControllerLink::kResendMs - 1);
+    EXPECT_EQ(link->figures().resentEdits, 0);
+    pass(1);
+    int resent = 1; // one is tried, and not all of them again
+    EXPECT_EQ(link->figures().resentEdits, resent);
+    for (int wait = 2 * ControllerLink::kResendMs; wait <= ControllerLink::kMaxResendMs; wait *= 2) {
+        controller.event("sign.of.life");
+        settle();
+        pass(wait - 1);
+        EXPECT_EQ(link->figures().resentEdits, resent);
+        pass(1);
+        EXPECT_EQ(link->figures().resentEdits, ++resent);
+    }
+    controller.losesFrames = 0;
+    controller.event("sign.of.life");
+    settle();
+    pass(ControllerLink::kMaxResendMs);
+    EXPECT_EQ(controller.edits, autoloads(1, 3));
+    pass(ControllerLink::kMaxResendMs);
+    EXPECT_EQ(link->figures().resentEdits, resent + 1);
+}
+
+TEST_F(LinkTest, AnEditThatCameTooEarlyBringsTheLostOneAtOnce)
+{
+    connectLink();
+    controller.losesFrames = 1;
+    editAndTrigger(1, 2);
+    EXPECT_EQ(controller.edits, QStringList());
+    settle(); // without any time
+    EXPECT_EQ(controller.edits, autoloads(1, 2));
+}
+
+TEST_F(LinkTest, LossesInARhythmCannotHoldAnEditUpForEver)
+{
+    connectLink();
+    for (int every = 2; every <= 5; ++every)
+        for (int phase = 0; phase < every; ++phase) {
+            controller.edits.clear();
+            controller.losesEvery = every;
+            controller.framesSoFar = phase;
+            editAndTrigger(1, 3);
+            for (int i = 0; i < 20 && link->unsettledEdits() > 0; ++i)
+                for (const int ms : {1000, 1000, 1000, 200}) { // three pings for each repetition
+                    controller.event("sign.of.life");
+                    settle();
+                    pass(ms);
+                }
+            EXPECT_EQ(controller.edits, autoloads(1, 3)) << phase << " of " << every;
+        }
+}
+
+TEST_F(LinkTest, EveryOtherFrameLostIsNotAlwaysTheEditBetweenRequests)
+{
+    connectLink();
+    controller.losesEvery = 2;
+    for (int phase = 0; phase < 2; ++phase) {
+        controller.framesSoFar = phase;
+        controller.seen.clear();
+        controller.onMessage = [this](const LinkMessage &) { return controller.seen.size() > 100; }; // enough
+        setAutoload(phase == 0 ? "a" : "b");
+        xservice()->command(nullptr, QStringLiteral("monitor.pers.modify"), nullptr);
+        settle();
+        EXPECT_LT(controller.seen.size(), 10u);
+        pass(ControllerLink::kResendMs);
+        EXPECT_EQ(controller.edits.size(), phase + 1);
+    }
+}
+
+TEST_F(LinkTest, AWayThatBreaksUnderManyEditsStillBringsThem)
+{
+    connectLink();
+    controller.breaksAfter = 5; // frames on each way, and what was under way is lost
+    controller.takesLate = true;
+    editAndTrigger(1, 40);
+    for (int i = 0; i < 100 && link->unsettledEdits() > 0; ++i) {
+        controller.takeWaiting();
+        settle();
+        if (!controller.isWayOpen)
+            controller.openWay();
+        settle();
+        pass(10);
+    }
+    EXPECT_EQ(controller.edits, autoloads(1, 40));
+}
+
+TEST_F(LinkTest, ARequestThatOvertookItsEditsComesAgain)
+{
+    connectLink();
+    setAutoload("P");
+    controller.losesFrames = 1;
+    EXPECT_TRUE(xservice()->execCommand(nullptr, QStringLiteral("project.remove_task"), nullptr).isOk());
+    const std::vector<LinkMessage> &seen = controller.seen;
+    ASSERT_EQ(controller.count(Kind::Request), 2);
+    EXPECT_EQ(seen.at(1).kind, Kind::Request);
+    EXPECT_EQ(seen.at(2).kind, Kind::Write);
+    EXPECT_EQ(seen.back().id, seen.at(1).id);
+    controller.seen.clear();
+    setAutoload("Q");
+    settle();
+    controller.losesFrames = 1;
+    EXPECT_TRUE(xservice()->command(nullptr, QStringLiteral("monitor.pers.modify"), nullptr));
+    settle();
+    EXPECT_EQ(controller.count(Kind::Request), 2);
+    EXPECT_EQ(controller.edits.last(), QStringLiteral("quill.project.autoload_prj_path = \"Q\""));
+    EXPECT_EQ(link->figures().droppedReplies, 0);
+}
+
+TEST_F(LinkTest, ARequestBehindManyEditsWaitsForAllOfThem)
+{
+    connectLink();
+    editAndTrigger(1, 100); // more than may be under way, and nobody has time for the answers
+    EXPECT_LT(controller.edits.size(), 200);
+    EXPECT_TRUE(xservice()->get(nullptr, QStringLiteral("link.info")).isOk());
+    EXPECT_EQ(controller.edits, autoloads(1, 100));
+}
+
+TEST_F(LinkTest, WhatARequestLearnsDoesNotOpenTheWayForOlderUpdates)
+{
+    connectLink();
+    controller.update("quill.project.autoload_prj_path", "\"theirs\""); // waits until the loop comes round
+    setAutoload("mine");
+    controller.losesFrames = 2;
+    m("quill.project.rsync.build")->trigger();
+    EXPECT_TRUE(xservice()->get(nullptr, QStringLiteral("link.info")).isOk()); // it brought the edits there
+    EXPECT_EQ(controller.edits, QStringList({"quill.project.autoload_prj_path = \"mine\"", kBuild}));
+    settle();
+    EXPECT_EQ(m("quill.project.autoload_prj_path")->getString(), QStringLiteral("mine"));
+}
+
+TEST_F(LinkTest, AnEditThatHasNoFormIsToldAndHoldsNothingUp)
+{
+    connectLink();
+    m("quill.project.var._list")->addUnnamed()->set(nullptr, "", std::numeric_limits<double>::quiet_NaN());
+    rest();
+    setAutoload("P");
+    rest();
+    EXPECT_EQ(controller.edits, QStringList("quill.project.autoload_prj_path = \"P\""));
+    pass(ControllerLink::kTickMs);
+    const QStringList records = takeRecords();
+    ASSERT_EQ(records.size(), 1);
+    EXPECT_TRUE(records[0].contains(QStringLiteral("quill.project.var._list"))) << records[0];
+}
+
+// ---------------------------------------------------------------- edits and updates meet
+
+TEST_F(LinkTest, AnUpdateDoesNotUndoALaterEdit)
+{
+    struct Case
+    {
+        const char *path;
+        const char *json; ///< as the controller knew it before the edits
+    };
+    const Case cases[] = {
+        {"quill.project.var._list.#0.value", "1"},
+        {"quill.project.var._list", R"([{"name": "a", "value": 1}, {"name": "b", "value": 20}])"},
+        {"quill.project.var", R"({"_list": [{"name": "a", "value": 1}, {"name": "b", "value": 20}]})"},
+    };
+    for (const Case &item : cases) {
+        host::removeGlobalNodes();
+        SetUp();
+        controller.lastUpdate = controller.taken = 0;
+        controller.takesEdits = true;
+        connectLink();
+        controller.update("quill.project.var._list",
+                          R"([{"name": "a", "value": 1}, {"name": "b", "value": 2}])");
+        settle();
+        controller.takesEdits = false;
+        m("quill.project.var._list.#0")->set(nullptr, "value", 9);
+        controller.update(item.path, item.json);
+        settle();
+        EXPECT_EQ(m("quill.project.var._list.#0.value")->getInt(), 9) << item.path;
+        const bool tellsAll = QByteArray(item.path).endsWith("0.value") == false;
+        EXPECT_EQ(m("quill.project.var._list.#1.value")->getInt(), tellsAll ? 20 : 2) << item.path;
+        controller.takesEdits = true;
+        rest();
+        pass(ControllerLink::kResendMs);
+        EXPECT_EQ(controller.edits, QStringList("quill.project.var._list.#0.value = 9"));
+        controller.update("quill.project.var._list.#0.value", "10"); // which knows the edit
+        settle();
+        EXPECT_EQ(m("quill.project.var._list.#0.value")->getInt(), 10);
+        EXPECT_EQ(controller.edits.size(), 1) << item.path;
+        controller.edits.clear();
+        link.reset();
+        keeper.reset();
+    }
+}
+
+TEST_F(LinkTest, TheStateOfAGreetingDoesNotUndoEditsEither)
+{
+    connectLink();
+    controller.breakWay("pulled");
+    settle();
+    setAutoload("mine");
+    addVariable("mine");
+    controller.state = nodeFromJson(
+        R"([{"path": "quill.project", "value": {"cur_project": "R7/P", "autoload_prj_path": "theirs",
+                                          "var": {"_list": [{"name": "old"}]}}}])");
+    controller.openWay();
+    settle();
+    EXPECT_EQ(m("quill.project.cur_project")->getString(), QStringLiteral("R7/P"));
+    EXPECT_EQ(m("quill.project.autoload_prj_path")->getString(), QStringLiteral("mine"));
+    EXPECT_EQ(m("quill.project.var._list")->getString("#0.name"), QStringLiteral("mine"));
+    EXPECT_EQ(controller.edits, QStringList({"quill.project.autoload_prj_path = \"mine\"",
+                                             "quill.project.var._list = [{\"name\":\"mine\"}]"}));
+}
+
+// ---------------------------------------------------------------- another project
+
+namespace {
+
+/// Answers the switch as a controller does: takes it, tells the lists of that project, then says so.
+void answerSwitches(FakeController *controller, const char *tasks)
+{
+    controller->onMessage = [controller, tasks](const LinkMessage &message) {
+        if (message.kind == Kind::Write && message.name == QLatin1String("quill.project.cur_project") &&
+            message.id == controller->taken + 1) {
+            ++controller->taken;
+            controller->edits.append(QStringLiteral("switch ") + message.payload.toString());
+            controller->update("quill.project.task._list", tasks);
+            controller->update("quill.project.var._list", "[]");
+            controller->ping();
+            return true;
+        }
+        return false;
+    };
+}
+
+void switchTo(const char *project)
+{
+    m("quill.project")->set(nullptr, "cur_project", QString::fromLatin1(project));
+}
+
+} // namespace
+
+TEST_F(LinkTest, AfterASwitchTheListsAreThoseOfTheProject)
+{
+    controller.state = nodeFromJson(R"([{"path": "quill.project", "value": {"cur_project": "R7/A",
+        "task": {"_list": [{"name": "task0"}, {"name": "task1"}]}, "var": {"_list": [{"name": "a"}]}}}])");
+    connectLink();
+    answerSwitches(&controller, R"([{"name": "other"}])");
+    const QPointer<ModuleObject> tasks = m("quill.project.task._list");
+    const QPointer<ModuleObject> first = tasks->c(0);
+    QSignalSpy changed(first->c("name"), &ModuleObject::changed);
+    m("quill.project.task._list.#0")->ensure("built")->set(nullptr, "", false); // of the old project
+    switchTo("R7/B");
+    EXPECT_EQ(tasks->cmobjCount(), 1); // when set returns
+    EXPECT_EQ(tasks.data(), m("quill.project.task._list"));
+    EXPECT_EQ(first.data(), tasks->c(0));
+    EXPECT_EQ(first->getString("name"), QStringLiteral("other"));
+    EXPECT_EQ(changed.size(), 1);
+    EXPECT_EQ(m("quill.project.var._list")->cmobjCount(), 0);
+    addVariable("b");
+    rest();
+    EXPECT_EQ(controller.edits, QStringList({"quill.project.task._list.#0.built = false", "switch R7/B",
+                                             "quill.project.var._list = [{\"name\":\"b\"}]"}));
+}
+
+TEST_F(LinkTest, ASwitchWithoutALinkBeginsWithEmptyLists)
+{
+    controller.state = nodeFromJson(R"([{"path": "quill.project", "value": {"cur_project": "R7/A",
+        "task": {"_list": [{"name": "task0"}]}, "var": {"_list": [{"name": "a"}]}}}])");
+    connectLink();
+    answerSwitches(&controller, R"([{"name": "kept"}])");
+    const QPointer<ModuleObject> list = m("quill.project.var._list");
+    controller.breakWay("pulled");
+    settle();
+    switchTo("R7/B");
+    EXPECT_EQ(list->cmobjCount(), 0);
+    EXPECT_EQ(m("quill.project.task._list")->cmobjCount(), 0);
+    addVariable("b");
+    controller.openWay(); // its greeting still tells the lists of the old project
+    settle();
+    EXPECT_TRUE(list);
+    EXPECT_EQ(m("quill.project.cur_project")->getString(), QStringLiteral("R7/B"));
+    EXPECT_EQ(list->cmobjCount(), 1);
+    EXPECT_EQ(list->getString("#0.name"), QStringLiteral("b"));
+    EXPECT_EQ(m("quill.project.task._list")->getString("#0.name"), QStringLiteral("kept"));
+    EXPECT_EQ(controller.edits, QStringList({"switch R7/B", "quill.project.var._list = [{\"name\":\"b\"}]"}));
+}
+
+TEST_F(LinkTest, UntilASwitchIsTakenListsOfTheOldProjectAreNotTaken)
+{
+    const char *const old = R"([{"name": "task0"}])";
+    controller.state =
+        nodeFromJson(R"([{"path": "quill.project", "value": {"cur_project": "R7/A", "autoload_prj_path": "x",
+        "task": {"_list": [{"name": "task0"}]}, "var": {"_list": [{"name": "a"}]}}}])");
+    connectLink();
+    controller.breakWay("pulled");
+    settle();
+    switchTo("R7/B");
+    addVariable("b");
+    controller.takesLate = true;
+    controller.openWay(); // its greeting tells the state as it was
+    settle();
+    controller.update("quill.project.task._list", old, 0);
+    controller.update("quill.project.var._list.#0.name", "\"a\"", 0);
+    controller.update("quill.project.autoload_prj_path", "\"y\"", 0); // which belongs to no project
+    settle();
+    EXPECT_EQ(m("quill.project.cur_project")->getString(), QStringLiteral("R7/B"));
+    EXPECT_EQ(m("quill.project.task._list")->cmobjCount(), 0);
+    EXPECT_EQ(m("quill.project.var._list")->getString("#0.name"), QStringLiteral("b"));
+    EXPECT_EQ(m("quill.project.autoload_prj_path")->getString(), QStringLiteral("y"));
+}
+
+TEST_F(LinkTest, ASwitchThatIsNotAnsweredEndsAfterTheTimeout)
+{
+    nexo::SettingManager::instance()->setOverride(QStringLiteral("rc_timeout"), QStringLiteral("100"));
+    controller.state =
+        nodeFromJson(R"([{"path": "quill.project.task._list", "value": [{"name": "task0"}]}])");
+    connectLink();
+    controller.losesFrames = 1;
+    switchTo("R7/B");
+    EXPECT_EQ(m("quill.project.task._list")->cmobjCount(), 0);
+    answerSwitches(&controller, R"([{"name": "kept"}])");
+    pass(ControllerLink::kResendMs);
+    EXPECT_EQ(m("quill.project.task._list")->getString("#0.name"), QStringLiteral("kept"));
+}
+
+TEST_F(LinkTest, AProjectThatTheControllerSwitchesIsNotSentBack)
+{
+    connectLink();
+    controller.update("quill.project.cur_project", "\"R7/C\"");
+    controller.update("quill.project.task._list", R"([{"name": "c"}])");
+    settle();
+    rest();
+    EXPECT_EQ(m("quill.project.cur_project")->getString(), QStringLiteral("R7/C"));
+    EXPECT_EQ(controller.count(Kind::Write), 0);
+}

@@ -1,0 +1,186 @@
+// Nodes that the controller keeps current.
+
+#include "fake_controller.h"
+
+#include <QPointer>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+using host::LinkMessage;
+using orba::ModuleObject;
+using Kind = LinkMessage::Kind;
+
+namespace {
+
+const char *const kVariables =
+    R"([{"name": "flagL", "pers": true, "value": 0}, {"name": "SetZ", "pers": true, "value": 700}])";
+
+} // namespace
+
+TEST_F(LinkTest, NodesThatPagesHoldStayAlive)
+{
+    const QPointer<ModuleObject> list = m("quill.project.var._list");
+    connectLink();
+    controller.update("quill.project.var._list", kVariables);
+    settle();
+    ASSERT_EQ(list.data(), m("quill.project.var._list"));
+    const QPointer<ModuleObject> second = list->c(1);
+    const QPointer<ModuleObject> value = second->c("value");
+    QSignalSpy changed(value.data(), &ModuleObject::changed);
+    QSignalSpy grown(list.data(), &ModuleObject::structureChanged);
+    controller.update("quill.project.var._list.#1.value", "650");
+    settle();
+    ASSERT_EQ(changed.size(), 1);
+    EXPECT_EQ(changed[0][0].toInt(), 650);
+    EXPECT_EQ(changed[0][1].toInt(), 700);
+    EXPECT_EQ(grown.size(), 0);
+    controller.update("quill.project.var._list.#2", R"({"name": "new", "value": 1})");
+    settle();
+    EXPECT_EQ(grown.size(), 1);
+    EXPECT_EQ(list->getString("#2.name"), QStringLiteral("new"));
+    controller.update("quill.project.var._list", R"([{"name": "flagL", "pers": true, "value": 0}])");
+    settle();
+    EXPECT_EQ(grown.size(), 2);
+    EXPECT_TRUE(list && second.isNull() && value.isNull());
+    EXPECT_EQ(controller.count(Kind::Write), 0); // what the controller told is no edit
+}
+
+TEST_F(LinkTest, AnUnchangedValueTellsNothing)
+{
+    connectLink();
+    QSignalSpy changed(m("quill.body.toolset"), &ModuleObject::changed);
+    controller.update("quill.body.toolset", "\"A\"");
+    controller.update("quill.body.toolset", "\"A\"");
+    settle();
+    EXPECT_EQ(changed.size(), 1);
+}
+
+TEST_F(LinkTest, TheRobotIsOneMoment)
+{
+    connectLink();
+    const QPointer<ModuleObject> progress = m("nexo.robot.progress");
+    const QPointer<ModuleObject> x = m("nexo.robot.pose.trans.#0");
+    QStringList seen;
+    QObject::connect(progress.data(), &ModuleObject::changed, link.get(), [&seen] {
+        seen.append(m("nexo.robot")->getString("pose.trans.#0") + m("nexo.robot")->getString("moving"));
+    });
+    controller.update("nexo.robot",
+                      R"({"pose": {"trans": [0.5, 0.0, 1.0], "rot": [0.0, 0.0, 0.0]},
+            "joints": [1.0, 0.0, 0.0, 0.0, 0.0, 0.0], "moving": true, "progress": 0.25, "arrived": false,
+            "fault": "", "toolset": "no use"})");
+    settle();
+    EXPECT_EQ(seen, QStringList("0.5true"));
+    ASSERT_TRUE(progress && x);
+    EXPECT_EQ(x->getDouble(), 0.5);
+    EXPECT_EQ(m("nexo.robot.toolset")->getString(), QStringLiteral("no use"));
+}
+
+TEST_F(LinkTest, TheTemplatesNodesOutliveAControllerThatLacksThem)
+{
+    const QPointer<ModuleObject> build = m("quill.project.rsync.build");
+    connectLink();
+    controller.update("quill.project", R"({"cur_project": "R7/P", "var": {"_list": []}, "extra": 1})");
+    controller.update("nexo.r", R"({"id": "R8"})");
+    controller.update("quill.project.task", "null");
+    settle();
+    EXPECT_TRUE(build);
+    EXPECT_EQ(m("quill.project.cur_project")->getString(), QStringLiteral("R7/P"));
+    EXPECT_EQ(m("quill.project.extra")->getInt(), 1);
+    EXPECT_FALSE(m("quill.project.task._list")->isEmptyMobj());
+    EXPECT_EQ(m("nexo.r.id")->getString(), QStringLiteral("R8"));
+    EXPECT_TRUE(m("nexo.r")->getBool("connected"));
+    EXPECT_EQ(controller.count(Kind::Write) + controller.count(Kind::Trigger), 0);
+}
+
+TEST_F(LinkTest, OlderAndDoubleUpdatesAreDropped)
+{
+    connectLink();
+    controller.update("quill.body.toolset", "\"new\"");
+    settle();
+    for (int i = 0; i < 2; ++i) {
+        controller.lastUpdate = 0; // the same number again
+        controller.update("quill.body.toolset", "\"old\"");
+    }
+    settle();
+    EXPECT_EQ(m("quill.body.toolset")->getString(), QStringLiteral("new"));
+    EXPECT_EQ(link->figures().droppedUpdates, 2);
+}
+
+TEST_F(LinkTest, AMissingUpdateIsMadeGoodByTheWholeState)
+{
+    connectLink();
+    controller.greets = false;
+    ++controller.lastUpdate; // it got lost
+    controller.update("quill.body.toolset", "\"seen\"");
+    settle();
+    EXPECT_EQ(m("quill.body.toolset")->getString(), QStringLiteral("seen"));
+    EXPECT_EQ(link->figures().missedUpdates, 1);
+    EXPECT_EQ(controller.count(Kind::Hello), 2);
+    controller.update("quill.body.toolset", "\"later\"");
+    settle();
+    EXPECT_EQ(controller.count(Kind::Hello), 2);
+    controller.greets = true;
+    controller.state = nodeFromJson(R"([{"path": "quill.project.autoload_prj_path", "value": "lost"}])");
+    pass(host::ControllerLink::kGreetMs); // the greeting was lost as well
+    EXPECT_EQ(m("quill.project.autoload_prj_path")->getString(), QStringLiteral("lost"));
+    EXPECT_TRUE(link->isConnected());
+    EXPECT_EQ(takeRecords(), QStringList()); // nobody needs to know
+}
+
+TEST_F(LinkTest, APingTellsThatTheLastUpdateGotLost)
+{
+    connectLink();
+    controller.ping();
+    settle();
+    EXPECT_EQ(controller.count(Kind::Hello), 1);
+    controller.greets = false;
+    ++controller.lastUpdate;
+    for (int i = 0; i < 2; ++i) {
+        controller.ping();
+        settle();
+        EXPECT_EQ(controller.count(Kind::Hello), 2);
+        EXPECT_EQ(link->figures().missedUpdates, 1);
+    }
+}
+
+TEST_F(LinkTest, NothingIsMirroredBeforeTheGreeting)
+{
+    controller.greets = false;
+    openLink();
+    controller.update("quill.body.toolset", "\"A\"");
+    settle();
+    EXPECT_EQ(m("quill.body.toolset")->getString(), QString());
+}
+
+TEST_F(LinkTest, ListenersMayAskAndEditWhileTheyAreTold)
+{
+    connectLink();
+    bool asked = false;
+    QObject::connect(m("quill.body.toolset"), &ModuleObject::changed, link.get(), [&asked] {
+        m("quill.project.var._list")->clear(); // also what the rest of the update is about
+        asked = xservice()->get(nullptr, QStringLiteral("link.info")).isOk();
+    });
+    controller.update("quill.project.var._list", kVariables);
+    controller.update("quill.body.toolset", "\"A\"");
+    controller.update("quill.project.var._list.#0.value", "9");
+    settle();
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(controller.edits, QStringList("quill.project.var._list = []"));
+}
+
+TEST_F(LinkTest, AHeldNodeMayEndWhileListenersRun)
+{
+    connectLink();
+    controller.update("quill.project.var._list", kVariables);
+    settle();
+    const QPointer<ModuleObject> second = m("quill.project.var._list")->c(1);
+    QString seen;
+    QObject::connect(m("quill.project.var._list"), &ModuleObject::structureChanged, link.get(), [&] {
+        seen = second ? second->getString("name") : QStringLiteral("gone"); // it ends after this notification
+    });
+    controller.update("quill.project.var._list", "[]");
+    settle();
+    EXPECT_EQ(seen, QStringLiteral("SetZ"));
+    EXPECT_TRUE(second.isNull());
+}

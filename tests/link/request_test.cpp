@@ -1,0 +1,306 @@
+// Requests: what comes back, when, and what is dropped.
+
+#include "fake_controller.h"
+
+#include "link/mailbox.h"
+#include "nexo/controller_manager.h"
+#include "nexo/setting_manager.h"
+
+#include <QElapsedTimer>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <thread>
+
+using host::LinkMessage;
+using Kind = LinkMessage::Kind;
+using Status = XReply::Status;
+
+namespace {
+
+LinkMessage replyTo(const LinkMessage &request, const char *json)
+{
+    LinkMessage reply;
+    reply.kind = Kind::Reply;
+    reply.id = request.id;
+    reply.payload = nodeFromJson(json);
+    return reply;
+}
+
+orba::Node stack()
+{
+    return nodeFromJson(R"({"name": "A", "points": [0.5, 1.0]})");
+}
+
+} // namespace
+
+TEST_F(LinkTest, ARequestCarriesACopyAndBringsTheReply)
+{
+    connectLink();
+    controller.onMessage = [this](const LinkMessage &message) {
+        if (message.kind == Kind::Request)
+            controller.send(replyTo(message, "-3"));
+        return message.kind == Kind::Request;
+    };
+    orba::ModuleObject payload;
+    payload.copyFrom(stack());
+    const XReply reply = xservice()->set(nullptr, QStringLiteral("sys.toolset"), &payload);
+    EXPECT_TRUE(reply.isOk());
+    EXPECT_EQ(reply.toInt(), -3);
+    ASSERT_EQ(controller.seen.back().kind, Kind::Request);
+    EXPECT_EQ(controller.seen.back().name, QStringLiteral("sys.toolset"));
+    EXPECT_EQ(controller.seen.back().payload, stack());
+}
+
+TEST_F(LinkTest, ARefusalIsTheControllersOwnWords)
+{
+    connectLink();
+    controller.onMessage = [this](const LinkMessage &message) {
+        if (message.kind != Kind::Request)
+            return false;
+        LinkMessage reply = replyTo(message, "5");
+        reply.status = host::status::kRefused;
+        reply.text = QStringLiteral("\"pallet.bake\" is no request");
+        controller.send(reply);
+        return true;
+    };
+    const XReply reply = xservice()->execCommand(nullptr, QStringLiteral("pallet.bake"), nullptr);
+    EXPECT_EQ(reply.status, Status::Refused);
+    EXPECT_EQ(reply.error, QStringLiteral("\"pallet.bake\" is no request"));
+    EXPECT_EQ(reply.toInt(), -1);
+    EXPECT_TRUE(reply.value.isNull());
+}
+
+TEST_F(LinkTest, WithoutALinkOrConnectionNothingIsSent)
+{
+    const XReply none = xservice()->get(nullptr, QStringLiteral("link.info"));
+    EXPECT_EQ(none.status, Status::NotConnected);
+    EXPECT_FALSE(none.error.isEmpty());
+    EXPECT_FALSE(xservice()->command(nullptr, QStringLiteral("motion.stop"), nullptr));
+    controller.opensAtOnce = false;
+    openLink();
+    EXPECT_EQ(xservice()->set(nullptr, QStringLiteral("pallet.data"), stack()).status, Status::NotConnected);
+    EXPECT_FALSE(xservice()->command(nullptr, QStringLiteral("motion.stop"), nullptr));
+    EXPECT_TRUE(controller.seen.empty());
+    EXPECT_EQ(takeRecords(), QStringList()); // the state of the link says it already
+}
+
+TEST_F(LinkTest, APayloadWithoutAFormIsRefusedHere)
+{
+    connectLink();
+    orba::Node payload;
+    payload.ensure(u"trans.x")->setDouble(std::numeric_limits<double>::infinity());
+    const XReply reply = xservice()->set(nullptr, QStringLiteral("pallet.data"), payload);
+    EXPECT_EQ(reply.status, Status::Refused);
+    EXPECT_TRUE(reply.error.contains(QStringLiteral("trans.x"))) << reply.error;
+    EXPECT_EQ(controller.count(Kind::Request), 0);
+}
+
+TEST_F(LinkTest, NoAnswerEndsAfterTheCallersTime)
+{
+    connectLink();
+    controller.answers = false;
+    QElapsedTimer clock;
+    clock.start();
+    const XReply reply = xservice()->execCommand(nullptr, QStringLiteral("pallet.set.one"), nullptr, 30);
+    EXPECT_EQ(reply.status, Status::Timeout);
+    EXPECT_GE(clock.elapsed(), 30);
+    EXPECT_TRUE(reply.error.contains(QStringLiteral("0.03 s"))) << reply.error;
+    EXPECT_EQ(xservice()->get(nullptr, QStringLiteral("link.info"), 0).status, Status::Timeout);
+}
+
+TEST_F(LinkTest, TheSettingSaysHowLongAnswersMayTake)
+{
+    struct Case
+    {
+        const char *setting;
+        int ms;
+    };
+    connectLink();
+    controller.answers = false;
+    for (const Case &item : {Case{"100", 100}, Case{"60000", 60000}, Case{"", 1600}, Case{"soon", 1600},
+                             Case{"99", 1600}, Case{"60001", 1600}, Case{"-5", 1600}}) {
+        nexo::SettingManager::instance()->setOverride(QStringLiteral("rc_timeout"),
+                                                      QLatin1String(item.setting));
+        const QString name = QStringLiteral("motion.stop/") + QLatin1String(item.setting);
+        xservice()->command(nullptr, name, nullptr);
+        for (int left = item.ms - 1; left > 0; left -= 1000) {
+            controller.ping(); // it lives and does not answer
+            pass(std::min(left, 1000));
+        }
+        EXPECT_EQ(takeRecords(), QStringList()) << item.setting;
+        pass(1);
+        EXPECT_EQ(takeRecords().size(), 1) << item.setting;
+    }
+}
+
+TEST_F(LinkTest, ALateReplyIsNotTakenForTheNextRequest)
+{
+    connectLink();
+    controller.answers = false;
+    EXPECT_EQ(xservice()->get(nullptr, QStringLiteral("pallet.get.list"), 0).status, Status::Timeout);
+    const LinkMessage first = controller.seen.back();
+    controller.onMessage = [&](const LinkMessage &message) {
+        if (message.kind != Kind::Request)
+            return false;
+        controller.send(replyTo(first, "\"late\""));
+        controller.send(replyTo(message, "\"right\""));
+        controller.send(replyTo(message, "\"double\""));
+        return true;
+    };
+    EXPECT_EQ(xservice()->get(nullptr, QStringLiteral("link.info")).value.toString(),
+              QStringLiteral("right"));
+    controller.send(replyTo(first, "\"later\""));
+    settle();
+    EXPECT_EQ(link->figures().droppedReplies, 3);
+    EXPECT_EQ(takeRecords(), QStringList());
+}
+
+TEST_F(LinkTest, ALinkThatBreaksEndsTheWaitAtOnce)
+{
+    connectLink();
+    controller.onMessage = [this](const LinkMessage &message) {
+        if (message.kind == Kind::Request)
+            controller.breakWay("pulled");
+        return message.kind == Kind::Request;
+    };
+    const XReply reply = xservice()->set(nullptr, QStringLiteral("pallet.data"), stack(), 600000);
+    EXPECT_EQ(reply.status, Status::NotConnected);
+    EXPECT_FALSE(reply.error.isEmpty());
+    EXPECT_EQ(xservice()->get(nullptr, QStringLiteral("link.info"), 600000).status, Status::NotConnected);
+}
+
+TEST_F(LinkTest, UpdatesThatComeDuringARequestAreAppliedAfterwards)
+{
+    connectLink();
+    QStringList told;
+    QObject::connect(m("quill.body.toolset"), &orba::ModuleObject::changed, link.get(),
+                     [&told](const QVariant &value) { told.append(value.toString()); });
+    controller.onMessage = [this](const LinkMessage &message) {
+        if (message.kind != Kind::Request)
+            return false;
+        controller.update("quill.body.toolset", "\"Gripper\"");
+        controller.send(replyTo(message, "0"));
+        return true;
+    };
+    EXPECT_TRUE(xservice()->get(nullptr, QStringLiteral("link.info")).isOk());
+    EXPECT_EQ(m("quill.body.toolset")->getString(), QString());
+    settle();
+    EXPECT_EQ(m("quill.body.toolset")->getString(), QStringLiteral("Gripper"));
+    EXPECT_EQ(told, QStringList(QStringLiteral("Gripper")));
+}
+
+TEST_F(LinkTest, AFailingRequestIsRecordedOnceUntilItSucceeds)
+{
+    connectLink();
+    controller.answers = false;
+    const QString push = QStringLiteral("pallet.set.one");
+    for (int i = 0; i < 3; ++i)
+        xservice()->execCommand(nullptr, push, nullptr, 0);
+    xservice()->get(nullptr, QStringLiteral("link.info"),
+                    0); // whoever asks for something sees that it is missing
+    QStringList records = takeRecords();
+    ASSERT_EQ(records.size(), 1);
+    EXPECT_TRUE(records[0].contains(push)) << records[0];
+    controller.answers = true;
+    xservice()->execCommand(nullptr, push, nullptr);
+    controller.answers = false;
+    xservice()->execCommand(nullptr, push, nullptr, 0);
+    EXPECT_EQ(takeRecords().size(), 1);
+}
+
+TEST_F(LinkTest, ACommandDoesNotWaitAndItsRefusalIsTold)
+{
+    connectLink();
+    orba::ModuleObject modify(QStringLiteral("modify"));
+    modify.add(QStringLiteral("speed"))->set(nullptr, "", 3);
+    controller.answers = false;
+    const auto send = [&modify] {
+        return xservice()->command(nullptr, QStringLiteral("monitor.pers.modify"), &modify);
+    };
+    EXPECT_TRUE(send());
+    const LinkMessage request = controller.seen.back();
+    EXPECT_EQ(request.payload, nodeFromJson(R"({"speed": 3})"));
+    LinkMessage reply = replyTo(request, "null");
+    reply.status = host::status::kRefused;
+    reply.text = QStringLiteral("there is no variable \"speed\"");
+    controller.send(reply);
+    controller.send(reply);
+    settle();
+    QStringList records = takeRecords();
+    ASSERT_EQ(records.size(), 1);
+    EXPECT_TRUE(records[0].contains(reply.text)) << records[0];
+    EXPECT_EQ(link->figures().droppedReplies, 1);
+
+    EXPECT_TRUE(send());
+    controller.send(replyTo(controller.seen.back(), "null"));
+    settle();
+    EXPECT_TRUE(send());
+    controller.ping();
+    settle();
+    pass(1599);
+    EXPECT_EQ(takeRecords(), QStringList());
+    pass(1);
+    records = takeRecords();
+    ASSERT_EQ(records.size(), 1);
+    EXPECT_TRUE(records[0].contains(QStringLiteral("monitor.pers.modify"))) << records[0];
+}
+
+TEST_F(LinkTest, AnyThreadMaySendAndWait)
+{
+    connectLink();
+    // The carrier's thread and the asking thread are one here; the GUI thread takes no part.
+    const orba::Node payload = stack();
+    XReply good;
+    XReply bad;
+    std::thread worker([&] {
+        good = xservice()->set(nullptr, QStringLiteral("pallet.data"), payload);
+        controller.answers = false;
+        bad = xservice()->set(nullptr, QStringLiteral("pallet.data"), payload, 20);
+    });
+    worker.join();
+    EXPECT_TRUE(good.isOk());
+    EXPECT_EQ(controller.seen.back().payload, payload);
+    EXPECT_EQ(bad.status, Status::Timeout);
+    EXPECT_EQ(takeRecords(), QStringList());
+    settle(); // records are made on the GUI thread
+    EXPECT_EQ(takeRecords().size(), 1);
+}
+
+TEST_F(LinkTest, AThreadThatWaitsOutlivesTheLink)
+{
+    connectLink();
+    host::Mailbox<int> asked;
+    controller.onMessage = [&asked](const LinkMessage &message) {
+        if (message.kind == Kind::Request)
+            asked.push(1);
+        return message.kind == Kind::Request;
+    };
+    XReply reply;
+    std::thread worker(
+        [&reply] { reply = xservice()->set(nullptr, QStringLiteral("pallet.data"), stack(), 600000); });
+    int got = 0;
+    asked.pop(&got);
+    link.reset();
+    worker.join();
+    EXPECT_EQ(reply.status, Status::NotConnected);
+}
+
+TEST_F(LinkTest, ARequestIsFilledItemByItem)
+{
+    auto *manager = nexo::ControllerManager::instance();
+    connectLink();
+    const QString name = QStringLiteral("project.overview.set_autoload");
+    const QString item = QStringLiteral("autoload_prj_path");
+    orba::ModuleObject *path = manager->cmdItemMobj(name, item);
+    path->set(nullptr, "", QStringLiteral("P/_build/P.prj"));
+    EXPECT_EQ(manager->cmdItemMobj(name, item), path);
+    EXPECT_EQ(manager->request(name)->c(item), path);
+    EXPECT_TRUE(manager->execRequest(name, 1600).isOk());
+    EXPECT_EQ(controller.seen.back().payload, nodeFromJson(R"({"autoload_prj_path": "P/_build/P.prj"})"));
+    link.reset();
+    EXPECT_EQ(manager->request(name)->cmobjCount(), 0); // the items of one session are not another's
+    openLink();
+}

@@ -1,0 +1,197 @@
+#include "bwaf/bmodule.h"
+#include "core/store.h"
+#include "fixtures.h"
+#include "nexo/setting_manager.h"
+#include "orba/tree_registry.h"
+#include "shell/host_session.h"
+#include "support/test_support.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class HostSessionTest : public ::testing::Test
+{
+protected:
+    void SetUp() override { takeSampleNotes(); }
+    host::SessionOptions options(const QStringList &plugins) const
+    {
+        host::SessionOptions given;
+        given.dataFolder = folder.filePath(QStringLiteral("data"));
+        given.workspaceFolder = folder.filePath(QStringLiteral("space"));
+        given.pluginFiles = plugins;
+        return given;
+    }
+    static QString setting(const char *key)
+    {
+        return nexo::SettingManager::instance()->getStr(QLatin1String(key));
+    }
+    static QString texts(const host::HostSession &session)
+    {
+        QStringList lines;
+        for (const host::Problem &problem : session.problems())
+            lines.append(problem.text());
+        return lines.join(QLatin1Char('\n'));
+    }
+
+    QTemporaryDir folder;
+    ScriptedPresenter presenter;
+    const QString good = fixtureFile("good_plugin");
+};
+
+} // namespace
+
+TEST_F(HostSessionTest, DrivesAPluginThroughItsLifeAndEndsInOrder)
+{
+    host::HostSession session(options({good}));
+    ASSERT_TRUE(session.start()) << texts(session);
+    EXPECT_EQ(takeSampleNotes().join(QLatin1Char(' ')), QStringLiteral("init setup"));
+    EXPECT_EQ(session.module(QStringLiteral("sample_plugin")), session.modules().value(0));
+    EXPECT_EQ(session.centerWidget()->pageKeys(), QStringList(QStringLiteral("sample_plugin.page")));
+    EXPECT_EQ(m("ix.nav")->getString("#0.nav"), QStringLiteral("sample_plugin.page"));
+    session.render();
+    session.idle();
+    session.idle();
+    EXPECT_EQ(takeSampleNotes().join(QLatin1Char(' ')), QStringLiteral("render idle"));
+    const QPointer<bwaf::CenterWidget> center = session.centerWidget();
+    session.stop();
+    session.stop();
+    EXPECT_EQ(takeSampleNotes().join(QLatin1Char('|')), QStringLiteral("page detach|detach|page ends|ends"));
+    EXPECT_TRUE(center.isNull());
+    EXPECT_EQ(orba::TreeRegistry::instance().root().size(), 0);
+}
+
+TEST_F(HostSessionTest, RunsAgainInTheSameProcess)
+{
+    for (int round = 0; round < 3; ++round) {
+        host::HostSession session(options({good}));
+        EXPECT_TRUE(session.start()) << texts(session);
+        EXPECT_EQ(session.modules().size(), 1);
+        EXPECT_EQ(m("ix.nav")->cmobjCount(), 1);
+    }
+    EXPECT_EQ(takeSampleNotes().filter(QStringLiteral("init")).size(), 3);
+}
+
+TEST_F(HostSessionTest, WithoutPagesStopsAfterTheModulesExist)
+{
+    host::SessionOptions given = options({good});
+    given.pages = false;
+    host::HostSession session(given);
+    EXPECT_TRUE(session.start()) << texts(session);
+    session.render();
+    session.idle();
+    EXPECT_EQ(session.centerWidget(), nullptr);
+    session.stop();
+    EXPECT_EQ(takeSampleNotes().join(QLatin1Char('|')), QStringLiteral("init|detach|ends"));
+}
+
+TEST_F(HostSessionTest, OneBadPluginDoesNotKeepTheOthersOut)
+{
+    host::HostSession session(options({fixtureFile("no_entry"), good, good, fixtureFile("no_module")}));
+    QSignalSpy told(&session, &host::HostSession::problemFound);
+    EXPECT_FALSE(session.start());
+    EXPECT_EQ(session.modules().size(), 1);
+    ASSERT_EQ(session.problems().size(), 3) << texts(session);
+    EXPECT_TRUE(session.problems().at(0).why.contains(QStringLiteral("orba_plugin_api")));
+    EXPECT_TRUE(session.problems().at(1).why.contains(QStringLiteral("is there already")));
+    EXPECT_TRUE(session.problems().at(2).why.contains(QStringLiteral("made no module")));
+    EXPECT_EQ(told.size(), 3);
+    EXPECT_EQ(told.at(0).at(0).toString(), session.problems().at(0).text());
+}
+
+TEST_F(HostSessionTest, APluginThatThisProgramShouldHoldAndDoesNotIsTold)
+{
+    host::SessionOptions given = options({});
+    given.linkedPlugins = QStringList(QStringLiteral("never_linked"));
+    host::HostSession session(given);
+    EXPECT_FALSE(session.start());
+    EXPECT_TRUE(texts(session).contains(QStringLiteral("never_linked"))) << texts(session);
+}
+
+TEST_F(HostSessionTest, OptionsBecomeSettingsForItsTime)
+{
+    host::SessionOptions given = options({});
+    given.language = QStringLiteral("jp");
+    given.touch = true;
+    {
+        host::HostSession session(given);
+        EXPECT_TRUE(session.start()) << texts(session);
+        EXPECT_EQ(setting("data"), given.dataFolder);
+        EXPECT_EQ(setting("language"), QStringLiteral("jp"));
+        EXPECT_EQ(m("nexo.setting.workspace")->getString(), given.workspaceFolder);
+        EXPECT_TRUE(nexo::SettingManager::instance()->getBool(QStringLiteral("touch")));
+        EXPECT_TRUE(QDir(given.workspaceFolder).exists());
+        nexo::SettingManager::instance()->setStr(QStringLiteral("language"), QStringLiteral("cn"));
+    }
+    EXPECT_EQ(setting("data") + setting("language") + setting("touch"), QString());
+    given.language.clear();
+    given.workspaceFolder.clear();
+    host::HostSession again(given);
+    EXPECT_TRUE(again.start()) << texts(again);
+    EXPECT_EQ(setting("language"), QStringLiteral("cn")); // kept in the settings file
+    EXPECT_EQ(setting("workspace"), given.dataFolder + QStringLiteral("/workspace"));
+}
+
+TEST_F(HostSessionTest, StartsWithoutStoreWhenTheDataFolderCannotBe)
+{
+    QFile blocked(folder.filePath(QStringLiteral("data")));
+    ASSERT_TRUE(blocked.open(QIODevice::WriteOnly));
+    host::HostSession session(options({good}));
+    EXPECT_FALSE(session.start());
+    EXPECT_EQ(session.modules().size(), 1);
+    EXPECT_TRUE(texts(session).contains(blocked.fileName())) << texts(session);
+}
+
+TEST_F(HostSessionTest, ADataFolderThatAnotherProcessHoldsIsLeftAlone)
+{
+    const QString data = folder.filePath(QStringLiteral("data"));
+    ASSERT_TRUE(QDir().mkpath(data));
+    const std::unique_ptr<host::Store> other = std::make_unique<host::Store>();
+    ASSERT_TRUE(other->open(data));
+    host::HostSession session(options({good}));
+    EXPECT_FALSE(session.start());
+    EXPECT_EQ(session.modules().size(), 1);
+    ASSERT_EQ(session.problems().size(), 1) << texts(session);
+    EXPECT_EQ(session.problems().first().what, QStringLiteral("The stored data cannot be used"));
+    EXPECT_EQ(session.problems().first().where, data);
+    EXPECT_TRUE(session.save()); // there is nothing to save to
+}
+
+TEST_F(HostSessionTest, WithoutADataFolderNothingIsWritten)
+{
+    host::SessionOptions given = options({good});
+    given.dataFolder.clear();
+    host::HostSession session(given);
+    EXPECT_TRUE(session.start()) << texts(session);
+    EXPECT_TRUE(session.save());
+    session.stop();
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList(QStringLiteral("space")));
+}
+
+TEST_F(HostSessionTest, HandsExamplesToThePluginAndTellsWhatFailed)
+{
+    host::SessionOptions given = options({good});
+    given.examples = QStringList({QStringLiteral("a.xml"), QStringLiteral("bad.xml")});
+    host::HostSession session(given);
+    EXPECT_FALSE(session.start());
+    EXPECT_EQ(takeSampleNotes().join(QLatin1Char('|')), QStringLiteral("examples a.xml,bad.xml|init|setup"));
+    EXPECT_EQ(texts(session), QStringLiteral("bad.xml"));
+}
+
+TEST_F(HostSessionTest, TwoSessionsAtOnceAreRefused)
+{
+    host::HostSession first(options({good}));
+    ASSERT_TRUE(first.start()) << texts(first);
+    host::HostSession second(options({good}));
+    EXPECT_FALSE(second.start());
+    EXPECT_FALSE(second.isRunning());
+    second.stop();
+    EXPECT_EQ(first.modules().size(), 1);
+    EXPECT_FALSE(m("nexo.r.id")->isEmptyMobj());
+}

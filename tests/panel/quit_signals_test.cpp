@@ -1,0 +1,88 @@
+#include "panel/quit_signals.h"
+#include "support/test_support.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace {
+
+constexpr int kBoundMs = 60000; // a sanitized start on a busy machine
+
+} // namespace
+
+TEST(QuitSignals, EndTheMainLoopAndTheLoopOfADialog)
+{
+    for (const int signal : {SIGTERM, SIGINT}) {
+        const panel::QuitSignals signals;
+        ASSERT_TRUE(signals.works());
+        bool dialogEnded = false;
+        QTimer::singleShot(0, &signals, [&dialogEnded, signal] {
+            QDialog dialog;
+            QTimer::singleShot(0, &dialog, [signal] { ::raise(signal); });
+            dialog.exec();
+            dialogEnded = true;
+        });
+        EXPECT_FALSE(signals.came());
+        EXPECT_EQ(QCoreApplication::exec(), 0);
+        EXPECT_TRUE(dialogEnded);
+        EXPECT_TRUE(signals.came());
+    }
+}
+
+TEST(QuitSignals, ComeOutOfALoopThatRunsBeforeTheMainLoop)
+{
+    const panel::QuitSignals signals;
+    ::raise(SIGTERM);
+    EXPECT_TRUE(waitUntil([&signals] { return signals.came(); }));
+}
+
+TEST(QuitSignals, GiveTheSignalsBack)
+{
+    struct sigaction before = {}, after = {};
+    ::sigaction(SIGTERM, nullptr, &before);
+    {
+        const panel::QuitSignals signals;
+        ::sigaction(SIGTERM, nullptr, &after);
+        EXPECT_NE(before.sa_handler, after.sa_handler);
+    }
+    ::sigaction(SIGTERM, nullptr, &after);
+    EXPECT_EQ(before.sa_handler, after.sa_handler);
+}
+
+/// The program itself: the signal comes while it starts, before the delay after which changes are saved.
+TEST(QuitSignals, ThePanelSavesAndEndsWithoutFault)
+{
+    for (const int signal : {SIGTERM, SIGINT}) {
+        const QTemporaryDir folder;
+        QProcess panel;
+        panel.setProcessChannelMode(QProcess::MergedChannels);
+        panel.start(QStringLiteral(PALX_BIN_DIR "/palx_panel"),
+                    {QStringLiteral("--data"), folder.path(), QStringLiteral("--examples"),
+                     QStringLiteral(PALX_SOURCE_DIR "/examples/line-left.xml")});
+        const QFileInfo log(folder.filePath(QStringLiteral("log/palx_workstation.log")));
+        ASSERT_TRUE(waitUntil(
+            [&] {
+                QFileInfo now(log.filePath());
+                return now.size() > 0 || panel.state() == QProcess::NotRunning;
+            },
+            kBoundMs));
+        ASSERT_EQ(panel.state(), QProcess::Running) << panel.readAll().constData();
+        ::kill(static_cast<pid_t>(panel.processId()), signal);
+        ASSERT_TRUE(panel.waitForFinished(kBoundMs));
+        EXPECT_EQ(panel.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(panel.exitCode(), 0) << panel.readAll().constData();
+        QFile store(folder.filePath(QStringLiteral("store.sqlite")));
+        ASSERT_TRUE(store.open(QIODevice::ReadOnly));
+        EXPECT_TRUE(store.readAll().contains("Line left"));
+        EXPECT_FALSE(QFile::exists(store.fileName() + QStringLiteral("-wal"))); // closed, not abandoned
+    }
+}

@@ -1,0 +1,298 @@
+#include "pattern/patternscene.h"
+
+#include "orba/managers.h"
+#include "pattern/plan_recipe.h"
+#include "support/test_support.h"
+
+#include <QGraphicsItem>
+#include <QImage>
+#include <QPainter>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+
+using orba::ModuleObject;
+using palx::PatternItem;
+
+namespace {
+
+std::unique_ptr<ModuleObject> stackObject()
+{
+    auto stack = std::make_unique<ModuleObject>(QStringLiteral("stack"));
+    stack->copyFrom(planRecipe());
+    return stack;
+}
+
+QImage draw(PatternScene &scene, const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    scene.paintPlan(&painter, image.rect());
+    return image;
+}
+
+/// Where a point of the plan lies on a picture of that size.
+QPointF onPicture(PatternScene &scene, const QSize &size, const QPointF &plan)
+{
+    return (plan - scene.viewRect(size).topLeft()) * scene.planScale(size);
+}
+
+bool isDark(const QImage &image, const QPointF &at)
+{
+    return qGray(image.pixel(at.toPoint())) < 140;
+}
+
+} // namespace
+
+TEST(PatternScene, AddedItemIsWrittenAndShown)
+{
+    const auto stack = stackObject();
+    PatternScene scene;
+    scene.setStack(stack.get());
+    scene.setPattern(stack->r("patterns.B"));
+    ASSERT_EQ(scene.getWobjCount(), 1);
+    scene.addWobjItem(2, 3, QPointF(98, 198.5), QSize(150, 200), 90.0, {100, 50, 0},
+                      QStringLiteral("TopRight"));
+
+    EXPECT_EQ(scene.getWobjCount(), 2);
+    EXPECT_EQ(*stack->node().find(u"patterns.B.#1"),
+              nodeFromJson(R"({"x":98.0,"y":198.5,"w":150.0,"h":200.0,"r":90,"index":2,"orient":3,
+                               "direction":"TopRight","dx":100.0,"dy":50.0,"dz":0.0})"));
+    EXPECT_EQ(scene.shownItems().size(), 2);
+    EXPECT_EQ(scene.shownItems().last().x, 98);
+    EXPECT_EQ(scene.items().size(), 2);
+
+    scene.clearItems();
+    EXPECT_EQ(scene.getWobjCount(), 0);
+    EXPECT_EQ(stack->r("patterns.B")->cmobjCount(), 0);
+    EXPECT_TRUE(scene.shownItems().isEmpty());
+    EXPECT_TRUE(scene.items().isEmpty());
+}
+
+TEST(PatternScene, WithoutAPatternItKeepsItemsOfItsOwn)
+{
+    PatternScene scene;
+    scene.setStack(planRecipe());
+    for (int i = 1; i <= 200; ++i)
+        scene.addWobjItem(i, 0, QPointF(i, i), QSize(10, 20), 0, {}, QStringLiteral("middle"));
+    EXPECT_EQ(scene.getWobjCount(), 200);
+    EXPECT_EQ(scene.shownItems().value(199).x, 200);
+    EXPECT_EQ(scene.shownItems().value(199).dx, 0); // offsets that were not given
+    scene.clearItems();
+    EXPECT_EQ(scene.getWobjCount(), 0);
+}
+
+TEST(PatternScene, FollowsValuesItemsAndThePallet)
+{
+    const auto stack = stackObject();
+    PatternScene scene;
+    scene.setStack(stack.get());
+    scene.setPattern(stack->r("patterns.A"));
+    ASSERT_TRUE(scene.findings().overlaps.isEmpty());
+    QSignalSpy shown(&scene, &PatternScene::planChanged);
+
+    stack->set(nullptr, "patterns.A.#1.x", 440);
+    EXPECT_EQ(scene.findings().overlaps.value(0).depthMm, 10);
+    stack->set(nullptr, "patterns.A.#1.x", 450);
+    stack->set(nullptr, "product_cfg.pallet.width", 590);
+    EXPECT_EQ(scene.findings().worst.right, 10);
+    stack->remove("patterns.A.#0");
+    EXPECT_EQ(scene.shownItems().size(), 1);
+    stack->set(nullptr, "patterns.A.#0.r", 90); // an item that was another's successor is followed, too
+    EXPECT_EQ(scene.shownItems().value(0).r, 90);
+    EXPECT_GE(shown.size(), 4);
+}
+
+TEST(PatternScene, EveryAttributeReachesItsView)
+{
+    const auto stack = stackObject();
+    PatternScene scene;
+    scene.setStack(stack.get());
+    scene.setPattern(stack->r("patterns.B"));
+    const auto bounds = [&scene] {
+        scene.plan();
+        return scene.items().value(0)->sceneBoundingRect();
+    };
+    EXPECT_EQ(bounds(), QRectF(0, 0, 400, 300));
+    stack->set(nullptr, "patterns.B.#0.x", 250);
+    EXPECT_EQ(bounds(), QRectF(50, 0, 400, 300));
+    stack->set(nullptr, "patterns.B.#0.r", 180);
+    EXPECT_EQ(bounds(), QRectF(100, -50, 300, 400));
+    stack->set(nullptr, "patterns.B.#0.h", 500);
+    EXPECT_EQ(bounds(), QRectF(100, -100, 300, 500));
+    const struct
+    {
+        const char *key;
+        QVariant value;
+    } marks[] = {{"index", 7}, {"orient", 2}, {"direction", QStringLiteral("Left")}, {"dx", "?"}};
+    for (const auto &mark : marks) {
+        const QImage before = draw(scene, QSize(400, 300));
+        stack->set(nullptr, QStringLiteral("patterns.B.#0.") + QLatin1String(mark.key), mark.value);
+        EXPECT_NE(draw(scene, QSize(400, 300)), before) << mark.key;
+    }
+}
+
+TEST(PatternScene, StandsInTheMiddleOfItsView)
+{
+    PatternScene scene;
+    scene.setStack(planRecipe());
+    for (const QSizeF &size : {QSizeF(1280, 800), QSizeF(500, 900)}) {
+        const QRectF view = scene.viewRect(size);
+        const double spare = 2 * scene.textPixels() / scene.planScale(size); // for the dimensions' side
+        EXPECT_NEAR(view.center().x(), 400, spare) << size.width();
+        EXPECT_NEAR(view.center().y(), 600, spare) << size.width();
+        EXPECT_NEAR(view.width() / view.height(), size.width() / size.height(), 1e-9);
+    }
+}
+
+TEST(PatternScene, ManyChangesMakeOnePicture)
+{
+    const auto stack = stackObject();
+    PatternScene scene;
+    scene.setStack(stack.get());
+    scene.setPattern(stack->r("patterns.A"));
+    scene.plan();
+    QSignalSpy shown(&scene, &PatternScene::planChanged);
+    for (int i = 0; i < 100; ++i)
+        stack->set(nullptr, "patterns.A.#0.x", 150 + i);
+    EXPECT_EQ(shown.size(), 0);
+    EXPECT_TRUE(waitUntil([&] { return shown.size() > 0; }));
+    EXPECT_EQ(shown.size(), 1);
+    EXPECT_EQ(scene.shownItems().value(0).x, 249);
+}
+
+TEST(PatternScene, OutlivesThePatternAndTheRecipe)
+{
+    auto stack = stackObject();
+    PatternScene scene;
+    scene.setStack(stack.get());
+    scene.setPattern(stack->r("patterns.A"));
+    ASSERT_EQ(scene.shownItems().size(), 2);
+    stack->remove("patterns.A");
+    EXPECT_TRUE(scene.shownItems().isEmpty());
+    EXPECT_EQ(scene.getWobjCount(), 0);
+    stack.reset();
+    EXPECT_EQ(scene.plan().pallet.length, 1000);
+    scene.setStack(nullptr);
+    scene.setPattern(orba::emptyMobj());
+    EXPECT_TRUE(scene.shownItems().isEmpty());
+}
+
+TEST(PatternScene, DrawsToScale)
+{
+    const QSize sizes[] = {{1280, 800}, {400, 300}, {300, 500}, {60, 40}};
+    for (const QSize &size : sizes) {
+        PatternScene scene;
+        scene.setTextPixels(9);
+        scene.setStack(planRecipe());
+        // A product of 300 across and 400 along, turned by 90 it covers 400 x 300.
+        scene.setPattern(patternOf({planItem(350, 550, 300, 400, 90)}));
+        const QImage image = draw(scene, size);
+        const double scale = scene.planScale(size);
+        const QRectF item(onPicture(scene, size, QPointF(150, 400)), QSizeF(400, 300) * scale);
+        EXPECT_TRUE(QRectF(image.rect())
+                        .contains(QRectF(onPicture(scene, size, QPointF()), QSizeF(800, 1200) * scale)));
+        // The outline stands where it should, to the pixel; just inside lies the product, just outside the
+        // deck.
+        for (const QPointF &edge : {QPointF(item.left(), item.top() + item.height() * 0.1),
+                                    QPointF(item.left() + item.width() * 0.1, item.top()),
+                                    QPointF(item.right(), item.top() + item.height() * 0.1),
+                                    QPointF(item.left() + item.width() * 0.1, item.bottom())}) {
+            const QPointF inwards = item.center() - edge;
+            const QPointF step = inwards / std::hypot(inwards.x(), inwards.y()) * 3;
+            EXPECT_GT(qGray(image.pixel((edge + step).toPoint())), 220)
+                << size.width() << edge.x() << edge.y();
+            const QPointF out = edge - step;
+            EXPECT_LT(qGray(image.pixel(out.toPoint())), 220) << size.width() << out.x() << out.y();
+        }
+    }
+}
+
+TEST(PatternScene, FlawsDifferInMoreThanColour)
+{
+    PatternScene scene;
+    scene.setStack(planRecipe());
+    const QSize size(800, 800);
+    const QVector<PatternItem> good{planItem(150, 200, 300, 400), planItem(450, 200, 300, 400)};
+    QVector<PatternItem> over = good;
+    over[1].x = 430;
+    QVector<PatternItem> hanging = good;
+    hanging[0].x = 100;
+    // Steps of brightness along a line through the upper half of the first product.
+    const auto steps = [&](const QVector<PatternItem> &items) {
+        scene.setPattern(patternOf(items));
+        const QImage image = draw(scene, size);
+        int changes = 0;
+        const QPointF from = onPicture(scene, size, QPointF(110, 120));
+        const QPointF to = onPicture(scene, size, QPointF(230, 120));
+        for (int x = qRound(from.x()); x < qRound(to.x()); ++x)
+            changes += std::abs(qGray(image.pixel(x, qRound(from.y()))) -
+                                qGray(image.pixel(x + 1, qRound(from.y())))) > 15;
+        return changes;
+    };
+    EXPECT_LT(steps(good), 3);
+    EXPECT_GT(steps(over), 8);
+    EXPECT_GT(steps(hanging), 8);
+}
+
+TEST(PatternScene, TheApproachArrowPointsFromTheSideOfTheShift)
+{
+    PatternScene scene;
+    const QSize size(800, 800);
+    const auto arrowAt = [&](const char *direction, const QPointF &at) {
+        orba::Node pattern = patternOf({planItem(400, 600, 400, 400)});
+        pattern.at(0)->set(u"direction", QString::fromLatin1(direction));
+        pattern.at(0)->set(u"dx", 60.0);
+        pattern.at(0)->set(u"dy", 60.0);
+        scene.setStack(planRecipe());
+        scene.setPattern(pattern);
+        const QImage image = draw(scene, size);
+        const QPointF middle = onPicture(scene, size, QPointF(400, 600) + at);
+        int dark = 0;
+        for (int dx = -3; dx <= 3; ++dx) {
+            for (int dy = -3; dy <= 3; ++dy)
+                dark += isDark(image, middle + QPointF(dx, dy));
+        }
+        return dark > 0;
+    };
+    // The recipe's own frame runs with the plan: "Top" waits further along the length. The tip stays off the
+    // number.
+    EXPECT_TRUE(arrowAt("Top", QPointF(0, 150)));
+    EXPECT_FALSE(arrowAt("Top", QPointF(0, -150)));
+    EXPECT_TRUE(arrowAt("Bottom", QPointF(0, -150)));
+    EXPECT_TRUE(arrowAt("Left", QPointF(150, 0)));
+    EXPECT_TRUE(arrowAt("Right", QPointF(-150, 0)));
+    EXPECT_FALSE(arrowAt("Right", QPointF(150, 0)));
+}
+
+TEST(PatternScene, AbsurdItemsAreDrawnWithinTheSameFrame)
+{
+    PatternScene scene;
+    scene.setStack(planRecipe());
+    const QRectF usual = scene.viewRect(QSizeF(800, 600));
+    scene.setPattern(nodeFromJson(R"([{"x":1e300,"y":"no","w":-4,"h":1e200,"r":9999999999},{},3,
+        {"x":90000,"y":-90000,"w":20000,"h":20000,"r":33}])"));
+    EXPECT_EQ(scene.shownItems().size(), 4);
+    EXPECT_FALSE(draw(scene, QSize(800, 600)).isNull());
+    // Far-out products may shrink the plan to half, not to a dot.
+    EXPECT_GT(scene.viewRect(QSizeF(800, 600)).width() * 2.5, usual.width());
+    EXPECT_LT(scene.viewRect(QSizeF(800, 600)).width(), usual.width() * 2.5);
+    for (const QSize &size : {QSize(1, 1), QSize(3, 500), QSize(500, 3)})
+        EXPECT_FALSE(draw(scene, size).isNull());
+}
+
+TEST(PatternScene, BothScenesRegisterTheSameVersion)
+{
+    const QString key = QStringLiteral("palx_workstation.wizard.patternscene");
+    EXPECT_EQ(orba::versionManager().create(key), 1);
+    QVector<bool> taken;
+    for (const orba::Registration &one : orba::registrations()) {
+        if (one.key == key)
+            taken.append(one.taken);
+    }
+    EXPECT_EQ(taken, (QVector<bool>{true, false}));
+}

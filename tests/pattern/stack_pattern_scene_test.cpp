@@ -1,0 +1,146 @@
+#include "pattern/stackpatternscene.h"
+
+#include "pattern/plan_recipe.h"
+#include "support/test_support.h"
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using orba::ModuleObject;
+using palx::LayerKind;
+
+namespace {
+
+std::unique_ptr<ModuleObject> stackObject()
+{
+    auto stack = std::make_unique<ModuleObject>(QStringLiteral("stack"));
+    stack->copyFrom(planRecipe());
+    return stack;
+}
+
+QImage draw(PatternScene &scene)
+{
+    QImage image(400, 300, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    scene.paintPlan(&painter, image.rect());
+    return image;
+}
+
+} // namespace
+
+TEST(StackPatternScene, ShowsWhatTheLayerNames)
+{
+    StackPatternScene scene;
+    scene.setStack(planRecipe());
+    EXPECT_EQ(scene.layerCount(), 8);
+    struct
+    {
+        int layer, items;
+        LayerKind kind;
+        const char *message;
+    } const cases[] = {
+        {0, 2, LayerKind::Products, ""},
+        {1, 0, LayerKind::Sheet, "Separator sheet 1180 x 780 x 3 mm"},
+        {2, 1, LayerKind::Products, ""},
+        {3, 0, LayerKind::Empty, "Empty layer: it is left out"},
+        {5, 0, LayerKind::MissingPattern, "The recipe has no pattern \"Z\""},
+        {6, 0, LayerKind::Blank, "No pattern is chosen for this layer: the stack ends below it"},
+        {7, 0, LayerKind::Unreached, "Not placed: the stack ends at a layer below"},
+        {8, 0, LayerKind::Blank, "There is no layer 9; the recipe has 8"},
+        {-1, 0, LayerKind::Blank, "There is no layer 0; the recipe has 8"},
+    };
+    for (const auto &one : cases) {
+        scene.setLayer(one.layer);
+        EXPECT_EQ(scene.shownItems().size(), one.items) << one.layer;
+        EXPECT_EQ(scene.getWobjCount(), one.items) << one.layer;
+        EXPECT_EQ(scene.layerPlan().kind, one.kind) << one.layer;
+        EXPECT_EQ(scene.message(), QString::fromUtf8(one.message)) << one.layer;
+        EXPECT_FALSE(draw(scene).isNull());
+    }
+}
+
+TEST(StackPatternScene, SaysThatARecipeOrPatternIsEmpty)
+{
+    StackPatternScene scene;
+    scene.setStack(nodeFromJson("{}"));
+    EXPECT_EQ(scene.message(), QStringLiteral("This recipe has no layers"));
+    scene.setStack(oneLayerRecipe({}));
+    EXPECT_EQ(scene.message(), QStringLiteral("The pattern \"A\" is empty"));
+}
+
+TEST(StackPatternScene, WritesToThePatternOfItsLayer)
+{
+    const auto stack = stackObject();
+    StackPatternScene scene;
+    scene.setStack(stack.get());
+    scene.setLayer(2);
+    scene.addWobjItem(2, 0, QPointF(600, 150), QSize(300, 400), 90, {0, 0, 0}, QStringLiteral("middle"));
+    EXPECT_EQ(stack->r("patterns.B")->cmobjCount(), 2);
+    EXPECT_EQ(stack->r("patterns.A")->cmobjCount(), 2);
+    EXPECT_EQ(scene.shownItems().size(), 2);
+
+    const orba::Node before = stack->node();
+    for (const int layer : {1, 3, 5, 6, 99}) { // nothing that could hold a product
+        scene.setLayer(layer);
+        scene.addWobjItem(1, 0, QPointF(1, 1), QSize(1, 1), 0, {}, QStringLiteral("middle"));
+        EXPECT_EQ(scene.getWobjCount(), 0) << layer;
+        scene.clearItems();
+    }
+    EXPECT_EQ(stack->node(), before);
+}
+
+TEST(StackPatternScene, FollowsTheRecipe)
+{
+    const auto stack = stackObject();
+    StackPatternScene scene;
+    scene.setStack(stack.get());
+    ASSERT_EQ(scene.shownItems().size(), 2);
+
+    stack->set(nullptr, "layers.#0.pattern", QStringLiteral("B"));
+    EXPECT_EQ(scene.shownItems().size(), 1);
+    stack->set(nullptr, "patterns.B.#0.x", 250);
+    EXPECT_EQ(scene.shownItems().value(0).x, 250);
+    stack->r("layers")->move(1, 0);
+    EXPECT_EQ(scene.layerPlan().kind, LayerKind::Sheet);
+    stack->set(nullptr, "product_cfg.clapboard.length", 1000);
+    EXPECT_EQ(scene.message(), QStringLiteral("Separator sheet 1000 x 780 x 3 mm"));
+    stack->r("layers")->clear();
+    EXPECT_EQ(scene.message(), QStringLiteral("This recipe has no layers"));
+    stack->copyFrom(planRecipe()); // everything is replaced at once
+    EXPECT_EQ(scene.shownItems().size(), 2);
+    stack->set(nullptr, "patterns.A.#1.r", 45);
+    EXPECT_EQ(scene.shownItems().value(1).r, 45);
+}
+
+TEST(StackPatternScene, ShowsTheLayerBelow)
+{
+    StackPatternScene scene;
+    scene.setStack(planRecipe());
+    scene.setLayer(4); // over B, the empty layer between them being left out
+    const QImage with = draw(scene);
+    scene.setGhostShown(false);
+    EXPECT_NE(draw(scene), with);
+    scene.setLayer(0);
+    const QImage lowest = draw(scene);
+    scene.setGhostShown(true);
+    EXPECT_EQ(draw(scene), lowest);
+}
+
+TEST(StackPatternScene, TwoHundredItemsAreShownAtOnce)
+{
+    const auto stack = std::make_unique<ModuleObject>(QStringLiteral("stack"));
+    stack->copyFrom(oneLayerRecipe(planGrid(10, 20, 80, 60)));
+    StackPatternScene scene;
+    scene.setStack(stack.get());
+    EXPECT_EQ(scene.shownItems().size(), 200);
+    EXPECT_EQ(scene.items().size(), 200);
+    EXPECT_TRUE(scene.findings().overlaps.isEmpty());
+    stack->set(nullptr, "patterns.A.#199.y", 1180);
+    EXPECT_EQ(scene.findings().worst.bottom, 10);
+}

@@ -1,0 +1,92 @@
+#include "pattern/rules/stack_plan.h"
+
+#include "pattern/plan_recipe.h"
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using palx::LayerKind;
+using palx::StackPlan;
+
+TEST(StackPlan, LayersLieWhereThePointsPutThem)
+{
+    const StackPlan plan = palx::readStackPlan(planRecipe());
+    struct
+    {
+        LayerKind kind;
+        double bottom, top;
+        int below;
+    } const wanted[] = {{LayerKind::Products, 0, 200, -1},  {LayerKind::Sheet, 202, 205, 0},
+                        {LayerKind::Products, 205, 405, 1}, {LayerKind::Empty, 405, 405, 2},
+                        {LayerKind::Products, 410, 610, 2}, {LayerKind::MissingPattern, 610, 810, 4},
+                        {LayerKind::Blank, 810, 810, 5},    {LayerKind::Unreached, 810, 810, 5}};
+    ASSERT_EQ(plan.layers.size(), 8);
+    for (int i = 0; i < 8; ++i) {
+        EXPECT_EQ(plan.layers[i].kind, wanted[i].kind) << i;
+        EXPECT_DOUBLE_EQ(plan.layers[i].bottomMm, wanted[i].bottom) << i;
+        EXPECT_DOUBLE_EQ(plan.layers[i].topMm(), wanted[i].top) << i;
+        EXPECT_EQ(plan.layerBelow(i), wanted[i].below) << i;
+    }
+    EXPECT_DOUBLE_EQ(plan.heightMm(), 810);
+}
+
+TEST(StackPlan, OnlyLayersOfProductsHaveItems)
+{
+    const orba::Node stack = planRecipe();
+    const StackPlan plan = palx::readStackPlan(stack);
+    const int counts[] = {2, 0, 1, 0, 2, 0, 0, 0};
+    for (int i = 0; i < 8; ++i)
+        EXPECT_EQ(palx::layerItems(stack, plan, i).size(), counts[i]) << i;
+    EXPECT_TRUE(palx::layerItems(stack, plan, -1).isEmpty());
+    EXPECT_TRUE(palx::layerItems(stack, plan, 8).isEmpty());
+}
+
+TEST(StackPlan, UnusableSizesAreReplacedAndSaid)
+{
+    const char *const bad[] = {"0", "-3", "null", "\"wide\"", "1e300", "[]"};
+    for (const char *value : bad) {
+        orba::Node stack = planRecipe();
+        for (const char16_t *path : {u"product_cfg.product.length", u"product_cfg.pallet.width"})
+            stack.find(path)->assign(nodeFromJson(value));
+        const StackPlan plan = palx::readStackPlan(stack);
+        EXPECT_TRUE(plan.productRepaired) << value;
+        EXPECT_TRUE(plan.palletRepaired) << value;
+        EXPECT_EQ(plan.product.length, 200) << value;
+        EXPECT_EQ(plan.pallet.width, 800) << value;
+        EXPECT_EQ(plan.pallet.length, 1200) << value;
+    }
+    const StackPlan good = palx::readStackPlan(planRecipe());
+    EXPECT_FALSE(good.productRepaired || good.palletRepaired || good.sheetRepaired);
+}
+
+TEST(StackPlan, AnythingAtAllCanBeRead)
+{
+    for (const char *json :
+         {"null", "3", "\"text\"", "[]", "{}", R"({"layers":5,"patterns":[1],"product_cfg":"x"})",
+          R"({"layers":[1,2,3]})", R"({"layers":["A",null,{}]})"}) {
+        const StackPlan plan = palx::readStackPlan(nodeFromJson(json));
+        EXPECT_EQ(plan.pallet.length, 1000) << json;
+        EXPECT_EQ(plan.heightMm(), 0) << json;
+    }
+    orba::Node stack = planRecipe();
+    stack.find(u"layers.#0.h_offset")->setDouble(std::numeric_limits<double>::infinity());
+    stack.find(u"product_cfg.product.height")->setDouble(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_LE(palx::readStackPlan(stack).heightMm(), palx::kMaxStackMm);
+}
+
+TEST(StackPlan, NamesWithDotsAreFoundAsTheyStand)
+{
+    orba::Node stack = planRecipe();
+    stack.find(u"patterns.A")->setName(orba::Name(u"#1.x"));
+    stack.find(u"layers.#0.pattern")->setString(QStringLiteral("#1.x"));
+    EXPECT_EQ(palx::readStackPlan(stack).layers[0].kind, LayerKind::Products);
+    EXPECT_EQ(palx::readStackPlan(stack).layers[4].kind, LayerKind::MissingPattern);
+}
+
+TEST(StackPlan, TheSheetLiesInTheMiddle)
+{
+    EXPECT_EQ(palx::sheetRect(QSizeF(780, 1180), QSizeF(800, 1200)), QRectF(10, 10, 780, 1180));
+    EXPECT_EQ(palx::sheetRect(QSizeF(820, 1200), QSizeF(800, 1200)), QRectF(-10, 0, 820, 1200));
+}

@@ -1,0 +1,276 @@
+#include "stack/recipe_edit.h"
+
+#include "support/recipe_tree.h"
+#include "support/test_support.h"
+
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+using orba::ModuleObject;
+using orba::Node;
+
+namespace {
+
+Node stacksNamed(const QStringList &names)
+{
+    Node stacks;
+    stacks.reset(Node::Kind::List);
+    for (const QString &name : names)
+        stacks.add()->ensure(u"name")->setString(name);
+    return stacks;
+}
+
+QStringList namesOf(const ModuleObject *stacks)
+{
+    QStringList names;
+    for (int i = 0; i < stacks->cmobjCount(); ++i)
+        names << stacks->getString(QStringLiteral("#%1.name").arg(i));
+    return names;
+}
+
+/// A plugin tree with recipes of these names, each with one layer and a point.
+struct Recipes
+{
+    explicit Recipes(const QStringList &names) : plugin(makePluginTree())
+    {
+        for (const QString &name : names) {
+            ModuleObject *stack = addTestStack(
+                plugin.get(),
+                R"({"layers": [{"pattern": "A", "h_offset": 0}], "points.put": [[{"put_p": 1}]]})");
+            palx::renameStack(stack, name, name + QStringLiteral(" text"));
+        }
+    }
+    ModuleObject *stacks() const { return plugin->r("stacks"); }
+    ModuleObject *stack(int i) const { return stacks()->cmobj(i); }
+    std::unique_ptr<ModuleObject> plugin;
+};
+
+} // namespace
+
+TEST(RecipeName, SaysWhyANameIsRefused)
+{
+    const Node stacks = stacksNamed({QStringLiteral("Box"), QStringLiteral("a.b #1")});
+    const struct
+    {
+        QString name;
+        const char *reason; // a word of it; empty: accepted
+    } cases[] = {
+        {QStringLiteral("Box 2"), ""},           {QStringLiteral("box"), ""}, // names differ in case
+        {QStringLiteral("B\u00f6x \u7bb1"), ""}, {QString(64, QLatin1Char('x')), ""},
+        {QString(65, QLatin1Char('x')), "65"},   {QString(), "empty"},
+        {QStringLiteral("  \t"), "empty"},       {QStringLiteral(" Box3"), "blank"},
+        {QStringLiteral("Box3 "), "blank"},      {QStringLiteral("a\nb"), "control"},
+        {QStringLiteral("Box"), "already"},      {QStringLiteral("a.b #1"), "already"},
+    };
+    for (const auto &c : cases) {
+        const QString reason = palx::recipeNameProblem(stacks, c.name);
+        EXPECT_EQ(reason.isEmpty(), *c.reason == '\0') << c.name << reason;
+        EXPECT_TRUE(reason.contains(QLatin1String(c.reason))) << c.name << reason;
+    }
+}
+
+TEST(RecipeName, ARecipeMayKeepItsOwnName)
+{
+    const Node stacks = stacksNamed({QStringLiteral("Box"), QStringLiteral("Bag")});
+    EXPECT_EQ(palx::recipeNameProblem(stacks, QStringLiteral("Box"), stacks.at(0)), QString());
+    EXPECT_NE(palx::recipeNameProblem(stacks, QStringLiteral("Bag"), stacks.at(0)), QString());
+}
+
+TEST(RecipeName, ProposesTheNextFreeName)
+{
+    const QString digits(20, QLatin1Char('9')); // more than a number holds
+    const struct
+    {
+        QStringList taken;
+        QString wanted;
+        QString proposed;
+    } cases[] = {
+        {{}, QStringLiteral("Box"), QStringLiteral("Box")},
+        {{}, QStringLiteral("  Box "), QStringLiteral("Box")},
+        {{QStringLiteral("Box")}, QStringLiteral("Box"), QStringLiteral("Box1")},
+        {{QStringLiteral("Box"), QStringLiteral("Box1")}, QStringLiteral("Box"), QStringLiteral("Box2")},
+        {{QStringLiteral("Box9")}, QStringLiteral("Box9"), QStringLiteral("Box10")},
+        {{QStringLiteral("Box007")}, QStringLiteral("Box007"), QStringLiteral("Box8")},
+        {{digits}, digits, digits + QStringLiteral("1")},
+        {{}, QString(), QStringLiteral("1")},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(palx::proposeRecipeName(stacksNamed(c.taken), c.wanted), c.proposed);
+}
+
+TEST(RecipeName, ProposalsAreAlwaysAccepted)
+{
+    const QString longest(palx::kMaxRecipeName, QLatin1Char('8'));
+    QStringList taken{longest, QStringLiteral("Box")};
+    for (const QString &wanted :
+         {longest, QString(300, QLatin1Char('w')), QStringLiteral("Box"), QString()}) {
+        for (int i = 0; i < 12; ++i) {
+            const QString name = palx::proposeRecipeName(stacksNamed(taken), wanted);
+            EXPECT_EQ(palx::recipeNameProblem(stacksNamed(taken), name), QString()) << name;
+            taken << name;
+        }
+    }
+}
+
+TEST(RecipeCopy, StandsBehindItsOriginalAndIsItsOwn)
+{
+    const Recipes recipes({QStringLiteral("A"), QStringLiteral("B")});
+    ModuleObject *copy = palx::copyStack(recipes.stack(0), QStringLiteral("C"));
+    EXPECT_EQ(namesOf(recipes.stacks()),
+              QStringList({QStringLiteral("A"), QStringLiteral("C"), QStringLiteral("B")}));
+    EXPECT_EQ(copy->getInt("points.put.#0.#0.put_p"), 1); // points of the same recipe stay right
+    copy->set(nullptr, "layers.#0.pattern", QStringLiteral("Z"));
+    EXPECT_EQ(recipes.stack(0)->getString("layers.#0.pattern"), QStringLiteral("A"));
+}
+
+TEST(RecipeCopy, OfNothingIsNothing)
+{
+    EXPECT_TRUE(palx::copyStack(emptyMobj(), QStringLiteral("C"))->isEmptyMobj());
+}
+
+TEST(RecipeRemove, UndoBringsItBackToItsPlace)
+{
+    for (int place = 0; place < 3; ++place) {
+        const Recipes recipes({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
+        const Node before = recipes.stacks()->node();
+        const palx::RemovedStack removed = palx::removeStack(recipes.stack(place));
+        EXPECT_EQ(recipes.stacks()->cmobjCount(), 2);
+        palx::restoreStack(recipes.stacks(), removed);
+        EXPECT_EQ(recipes.stacks()->node(), before) << place;
+    }
+}
+
+TEST(RecipeRemove, UndoFindsAnotherNameWhenItsOwnIsTaken)
+{
+    const Recipes recipes({QStringLiteral("A"), QStringLiteral("B")});
+    const palx::RemovedStack removed = palx::removeStack(recipes.stack(1));
+    palx::copyStack(recipes.stack(0), QStringLiteral("B"));
+    EXPECT_EQ(palx::restoreStack(recipes.stacks(), removed)->getString("name"), QStringLiteral("B1"));
+}
+
+TEST(RecipeRemove, WithoutARecipeThereIsNothingToUndo)
+{
+    const Recipes recipes({QStringLiteral("A")});
+    const palx::RemovedStack removed = palx::removeStack(emptyMobj());
+    EXPECT_FALSE(removed.isSet());
+    EXPECT_TRUE(palx::restoreStack(recipes.stacks(), removed)->isEmptyMobj());
+    EXPECT_EQ(recipes.stacks()->cmobjCount(), 1);
+}
+
+TEST(RecipeKeys, OldRecipesGainWhatTheyLackAndKeepWhatTheyHave)
+{
+    const std::unique_ptr<ModuleObject> plugin = makePluginTree();
+    Node *old = plugin->node().find(u"stacks")->add();
+    *old = nodeFromJson(R"({"put": {"ready_h": 33, "left_offsets": {"enter_x": 7}},
+                            "product_cfg": {"product": {"length": 321}, "pallet": null},
+                            "layers": [{"pattern": "A"}, {}]})");
+    ModuleObject *stack = ModuleObject::of(old);
+    EXPECT_TRUE(palx::ensureRecipeKeys(stack, *plugin->node().child(u"default")));
+    const struct
+    {
+        const char *path;
+        double value;
+    } expected[] = {{"put.ready_h", 33},
+                    {"put.exit_h", 0},
+                    {"put.left_offsets.enter_x", 7},
+                    {"put.left_offsets.exit_h", 0},
+                    {"put.right_offsets.enter_x", 0},
+                    {"product_cfg.product.length", 321},
+                    {"product_cfg.product.width", 150},
+                    {"product_cfg.pallet.width", 800},
+                    {"bollard.height", 0},
+                    {"layers.#0.h_offset", 0},
+                    {"layers.#1.h_offset", 0}};
+    for (const auto &e : expected) {
+        EXPECT_TRUE(stack->has(e.path)) << e.path;
+        EXPECT_EQ(stack->getDouble(e.path), e.value) << e.path;
+    }
+    for (const char *path : {"name", "desc", "layers.#1.pattern", "get.get_p", "use_global_tool"})
+        EXPECT_TRUE(stack->has(path)) << path;
+    EXPECT_TRUE(stack->r("put.put_p")->isNull()); // what the template leaves open stays open
+}
+
+TEST(RecipeKeys, AWholeRecipeStaysAsItIs)
+{
+    const Recipes recipes({QStringLiteral("A")});
+    palx::ensureRecipeKeys(recipes.stack(0), *recipes.plugin->node().child(u"default"));
+    const Node before = recipes.stack(0)->node();
+    EXPECT_FALSE(palx::ensureRecipeKeys(recipes.stack(0), *recipes.plugin->node().child(u"default")));
+    EXPECT_EQ(recipes.stack(0)->node(), before);
+}
+
+namespace {
+
+/// Edits of every sort that undo must take back.
+const char *const kEdits[] = {
+    R"({"product_cfg.product.length": 250.5})",
+    R"({"product_cfg.product.direction": "Top", "use_global_tool": true, "desc": "x"})",
+    R"({"layers": [{"pattern": "A", "h_offset": 0}, {"pattern": "B", "h_offset": 3}]})",
+    R"({"layers": []})",
+    R"({"layers": null})",
+    R"({"patterns": {"A": [{"x": 1, "y": 2}], "B": []}})",
+    R"({"put.put_p": {"trans": [0.1, 0.2, 0.3], "rot": [0.0, 0.0, 0.0], "near": [], "conf": []}})",
+    R"({"put.left_offsets.enter_x": 5})",
+    R"({"get": null})",
+    R"({"own_key": {"deep": [1, [2, {"x": "y"}]]}})",
+};
+
+} // namespace
+
+TEST(RecipeContent, RestoringTakesEveryEditBack)
+{
+    for (const char *edit : kEdits) {
+        const Recipes recipes({QStringLiteral("A")});
+        ModuleObject *stack = recipes.stack(0);
+        const Node whole = stack->node();
+        const Node content = palx::recipeContent(whole);
+        applyPaths(stack->node(), edit);
+        ASSERT_NE(stack->node(), whole) << edit;
+        const Node edited = stack->node();
+        palx::restoreContent(stack, content);
+        EXPECT_EQ(stack->node(), whole) << edit;
+        palx::restoreContent(stack, palx::recipeContent(edited)); // and redo
+        EXPECT_EQ(palx::recipeContent(stack->node()), palx::recipeContent(edited)) << edit;
+    }
+}
+
+TEST(RecipeContent, LeavesOutAndKeepsGeneratedPoints)
+{
+    const Recipes recipes({QStringLiteral("A")});
+    ModuleObject *stack = recipes.stack(0);
+    const Node content = palx::recipeContent(stack->node());
+    EXPECT_EQ(content.child(u"points"), nullptr);
+    stack->set(nullptr, "points.put.#0.#0.put_p", 2);
+    palx::restoreContent(stack, content);
+    EXPECT_EQ(stack->getInt("points.put.#0.#0.put_p"), 2);
+}
+
+TEST(RecipeContent, NodesThatStayTellTheirValueOnce)
+{
+    const Recipes recipes({QStringLiteral("A")});
+    ModuleObject *stack = recipes.stack(0);
+    const Node content = palx::recipeContent(stack->node());
+    ModuleObject *length = stack->r("product_cfg.product.length");
+    ModuleObject *width = stack->r("product_cfg.product.width");
+    stack->set(nullptr, "product_cfg.product.length", 250);
+    const QSignalSpy lengthChanges(length, &ModuleObject::changed);
+    const QSignalSpy widthChanges(width, &ModuleObject::changed);
+    palx::restoreContent(stack, content);
+    EXPECT_EQ(lengthChanges.size(), 1);
+    EXPECT_EQ(widthChanges.size(), 0);
+    EXPECT_EQ(stack->r("product_cfg.product.length"), length);
+}
+
+TEST(RecipeContent, PatternsKeepTheirOrder)
+{
+    const Recipes recipes({QStringLiteral("A")});
+    ModuleObject *stack = recipes.stack(0);
+    applyPaths(stack->node(), R"({"patterns": {"A": [], "B": [{"x": 1}], "C": []}})");
+    const Node content = palx::recipeContent(stack->node());
+    stack->r("patterns.A")->remove();
+    stack->r("patterns")->move(1, 0);
+    stack->r("patterns")->add(QStringLiteral("D"));
+    palx::restoreContent(stack, content);
+    EXPECT_EQ(palx::recipeContent(stack->node()), content);
+}

@@ -1,0 +1,171 @@
+#include "stack/recipe_file.h"
+#include "stack/recipe_shape.h"
+#include "stack/recipe_upgrade.h"
+#include "support/test_support.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using orba::Node;
+
+Node templateStack()
+{
+    return nodeFromJson(R"({"tool": {"ref_p": null}, "get": {"get_p": null, "ready_h": 0}, "patterns": null,
+        "layers": null, "toolset": null, "points": {"put": null}, "bollard": {"enabled": 0, "height": 0},
+        "pallet_position": 0, "use_global_tool": false, "product_cfg": {"product": {"length": 200, "direction": "Middle"}}})");
+}
+
+Node pluginTemplate()
+{
+    Node plugin =
+        nodeFromJson(R"({"default": null, "trigger": {"refresh_table": null}, "stacks": [], "global_tool": [],
+        "global_wobj": []})");
+    plugin.child(u"default")->assign(templateStack());
+    return plugin;
+}
+
+class RecipeFileTest : public ::testing::Test
+{
+protected:
+    QString file(const char *name, const QByteArray &content)
+    {
+        QFile out(folder_.filePath(QString::fromLatin1(name)));
+        EXPECT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(content);
+        return out.fileName();
+    }
+    QTemporaryDir folder_;
+};
+
+} // namespace
+
+TEST(RecipeUpgrade, WholeMissingSubtreesComeFromTheTemplate)
+{
+    Node stack = nodeFromJson(
+        R"({"name": "S", "get": {"ready_h": 7}, "bollard": null, "patterns": {}, "layers": []})");
+    EXPECT_EQ(
+        palx::upgradeRecipe(stack, templateStack()),
+        (QStringList{"tool", "toolset", "points", "pallet_position", "use_global_tool", "product_cfg"}));
+    EXPECT_EQ(
+        stack,
+        nodeFromJson(R"({"name": "S", "get": {"ready_h": 7}, "bollard": null, "patterns": {}, "layers": [],
+        "tool": {"ref_p": null}, "toolset": null, "points": {"put": null}, "pallet_position": 0, "use_global_tool": false,
+        "product_cfg": {"product": {"length": 200, "direction": "Middle"}}})"));
+    EXPECT_TRUE(palx::upgradeRecipe(stack, templateStack()).isEmpty());
+}
+
+TEST(RecipeShape, WhatReadsAsTheWantedKindIsNoFault)
+{
+    const char *const fine[] = {
+        "{}",
+        R"({"product_cfg": null, "layers": [], "patterns": {}})",
+        R"({"pallet_position": 1.0, "bollard": {"height": "12.5"}, "use_global_tool": 1})",
+        R"({"use_global_tool": "true", "name": 7, "further": [1, {"x": "y"}]})",
+        R"({"get": {"get_p": {"trans": [0, 0.5, 1], "rot": [0, 0, 0]}}})",
+        R"({"get": {"get_p": {"trans": [0, 0, 0], "rot": [0, 0, 0], "near": [], "conf": [1, 2]}}})",
+        R"({"patterns": {"A": [{"x": 1, "direction": "Top"}, null]}, "layers": [{"pattern": "A"}, null]})",
+        R"({"points": {"put": "is made anew"}, "toolset": {"end": {}}})",
+    };
+    for (const char *json : fine)
+        EXPECT_EQ(palx::recipeFault(nodeFromJson(json), templateStack()), QString()) << json;
+}
+
+TEST(RecipeShape, TheFirstFaultIsNamedWithItsPath)
+{
+    const struct
+    {
+        const char *json;
+        const char *fault;
+    } cases[] = {
+        {R"([1])", "recipe: is a list, expected a group"},
+        {R"({"product_cfg": {"product": {"direction": ["Top"]}}})",
+         "product_cfg.product.direction: is a list, expected a text"},
+        {R"({"use_global_tool": "perhaps"})", "use_global_tool: is the text \"perhaps\", expected a number"},
+        {R"({"get": {"get_p": 4}})", "get.get_p: is a number, expected a point"},
+        {R"({"get": {"get_p": {"trans": [0, "up", 0], "rot": [0, 0, 0]}}})",
+         "get.get_p.trans.#1: is the text \"up\", expected a number"},
+        {R"({"toolset": [1]})", "toolset: is a list, expected a group"},
+        {R"({"layers": [1, 2]})", "layers: is a list of numbers, expected a list of groups"},
+        {R"({"layers": [{"pattern": {}}]})", "layers.#0.pattern: is a group, expected a text"},
+        {R"({"patterns": {"A": {"first": {"r": []}}}})", "patterns.A.first.r: is a list, expected a number"},
+    };
+    for (const auto &given : cases)
+        EXPECT_EQ(palx::recipeFault(nodeFromJson(given.json), templateStack()),
+                  QString::fromUtf8(given.fault));
+}
+
+TEST(RecipeShape, GlobalListsAreJudgedWhereGenerationReadsThem)
+{
+    EXPECT_EQ(palx::globalToolFault(
+                  nodeFromJson(R"([{"load": {"length": 1}}, null, {}, {"waypoint_settings": {}}])")),
+              QString());
+    EXPECT_EQ(palx::globalToolFault(
+                  nodeFromJson(R"([{}, {}, {}, {"waypoint_settings": {"put": {"left_offsets": 3}}}])")),
+              "global_tool.#3.waypoint_settings.put.left_offsets: is a number, expected a group");
+    EXPECT_EQ(palx::globalWobjFault(nodeFromJson(R"([{"left_origin_point": "here"}])")),
+              "global_wobj.#0.left_origin_point: is the text \"here\", expected a point");
+}
+
+TEST_F(RecipeFileTest, TheTemplateOfAnExchangeFileIsLeftOut)
+{
+    const palx::RecipeFile recipes = palx::readRecipeFile(
+        file(
+            "x",
+            R"(<node type="list"><node name="default" type="map"><node name="name" type="string">T</node></node>
+            <node type="map"><node name="name" type="string">S</node></node></node>)"),
+        pluginTemplate());
+    EXPECT_EQ(recipes.error, QString());
+    ASSERT_EQ(recipes.content.size(), 1);
+    ASSERT_EQ(recipes.content.child(u"stacks")->size(), 1);
+    EXPECT_EQ(recipes.content.getString(u"stacks.#0.name"), "S");
+    EXPECT_EQ(recipes.content.getDouble(u"stacks.#0.product_cfg.product.length"), 200);
+}
+
+TEST_F(RecipeFileTest, APluginNodeKeepsWhatBelongsToTheRunningOne)
+{
+    const palx::RecipeFile recipes =
+        palx::readRecipeFile(file("x", "\xEF\xBB\xBF \n{\"default\": 1, \"trigger\": 2, \"version\": \"9\", "
+                                       "\"stacks\": [], \"global_tools\": [],"
+                                       " \"global_wobj\": [{\"towards\": 1}]}"),
+                             pluginTemplate());
+    EXPECT_EQ(recipes.error, QString());
+    EXPECT_EQ(recipes.content, nodeFromJson(R"({"stacks": [], "global_wobj": [{"towards": 1}]})"));
+    EXPECT_EQ(recipes.notes, QStringList{"unknown key \"global_tools\" is left aside"});
+}
+
+TEST_F(RecipeFileTest, ListsThatFollowSeeOnlyWholeRecipes)
+{
+    orba::ModuleObject plugin;
+    plugin.copyFrom(pluginTemplate());
+    QStringList seen;
+    QObject::connect(plugin.c("stacks"), &orba::ModuleObject::structureChanged, &plugin, [&] {
+        for (const orba::ModuleObject *stack : plugin.c("stacks")->cmobjs())
+            seen.append(stack->getString("name"));
+    });
+    palx::adoptRecipes(&plugin, nodeFromJson(R"({"stacks": [{"name": "A"}, {"name": "B"}]})"));
+    EXPECT_EQ(seen, (QStringList{"A", "B"}));
+}
+
+TEST_F(RecipeFileTest, FilesAreAddedOneAfterTheOtherAndARefusedOneLeavesNothing)
+{
+    orba::ModuleObject plugin;
+    plugin.copyFrom(pluginTemplate());
+    const QString bad =
+        file("bad", R"({"stacks": [{"name": "C"}, {"name": "D", "layers": 1}], "global_tool": [{}]})");
+    const QStringList refusals = palx::loadRecipeFiles(
+        &plugin,
+        {file("one", R"({"stacks": [{"name": "A"}], "global_wobj": [{"towards": 1}]})"), bad,
+         file(
+             "two",
+             R"(<node type="map"><node type="map"><node name="name" type="string">B</node></node></node>)")});
+    EXPECT_EQ(refusals, QStringList{bad + ": recipe 2 \"D\": layers: is a number, expected a list"});
+    EXPECT_EQ(plugin.c("stacks")->cmobjCount(), 2);
+    EXPECT_EQ(plugin.getString("stacks.#0.name"), "A");
+    EXPECT_EQ(plugin.getString("stacks.#1.name"), "B");
+    EXPECT_EQ(plugin.getInt("global_wobj.#0.towards"), 1);
+    EXPECT_EQ(plugin.c("global_tool")->cmobjCount(), 0);
+}

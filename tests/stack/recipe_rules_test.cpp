@@ -1,0 +1,354 @@
+#include "stack/recipe_fields.h"
+#include "stack/recipe_layers.h"
+#include "stack/recipe_patterns.h"
+#include "stack/recipe_points.h"
+
+#include "support/recipe_tree.h"
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using orba::ModuleObject;
+using orba::Node;
+
+namespace {
+
+/// Product 100 high, sheet 5 high, pattern "A" of two products and "B" of one.
+const char *const kRecipe = R"({
+    "product_cfg.product": {"length": 200, "width": 150, "height": 100, "weight": 2.5, "orient": 3, "dx": 1, "dy": 2,
+                            "dz": 3, "direction": "Top"},
+    "product_cfg.clapboard": {"enabled": 1, "height": 5, "weight": 0.5},
+    "product_cfg.pallet": {"length": 1000, "width": 400, "height": 150, "weight": 20, "specification": 0},
+    "patterns": {"A": [{"index": 1, "x": 75, "y": 100}, {"index": 2, "x": 225, "y": 100}], "B": [{"index": 1}], "C": []}
+})";
+
+struct Recipe
+{
+    explicit Recipe(const char *layers = "[]")
+        : plugin(makePluginTree()), stack(addTestStack(plugin.get(), kRecipe))
+    {
+        stack->node().ensure(u"layers")->assign(nodeFromJson(layers));
+    }
+    std::unique_ptr<ModuleObject> plugin;
+    ModuleObject *stack;
+};
+
+QStringList patternsOfLayers(const Node &stack)
+{
+    QStringList names;
+    for (const palx::LayerFacts &layer : palx::layerFacts(stack))
+        names << layer.pattern;
+    return names;
+}
+
+QVector<int> numbers(const ModuleObject *stack, const char *key)
+{
+    QVector<int> values;
+    const Node *pattern = stack->node().find(u"patterns.A");
+    for (int i = 0; i < pattern->size(); ++i)
+        values << int(pattern->at(i)->getInt(orba::Path(key)));
+    return values;
+}
+
+} // namespace
+
+TEST(RecipeLayers, HeightsRunUpAsGenerationLaysThem)
+{
+    const Recipe recipe(R"([{"pattern": "A", "h_offset": 10}, {"pattern": "clapboard", "h_offset": 0},
+                            {"pattern": "empty", "h_offset": 99}, {"pattern": "B", "h_offset": -1},
+                            {"pattern": "", "h_offset": 50}, {"pattern": "A", "h_offset": 0}])");
+    const QVector<palx::LayerFacts> layers = palx::layerFacts(recipe.stack->node());
+    const struct
+    {
+        int products;
+        double bottom, top;
+        bool reached;
+    } expected[] = {{2, 10, 110, true},  {0, 110, 115, true},  {0, 115, 115, true},
+                    {1, 114, 214, true}, {0, 214, 214, false}, {2, 214, 214, false}};
+    ASSERT_EQ(layers.size(), 6);
+    for (int i = 0; i < layers.size(); ++i) {
+        EXPECT_EQ(layers[i].products, expected[i].products) << i;
+        EXPECT_EQ(layers[i].bottomMm, expected[i].bottom) << i;
+        EXPECT_EQ(layers[i].topMm, expected[i].top) << i;
+        EXPECT_EQ(layers[i].reached, expected[i].reached) << i;
+    }
+}
+
+TEST(RecipeLayers, TotalsCountWhatIsLaid)
+{
+    const Recipe recipe(R"([{"pattern": "A", "h_offset": 0}, {"pattern": "clapboard", "h_offset": 0},
+                            {"pattern": "B", "h_offset": 0}, {"pattern": "", "h_offset": 0}, {"pattern": "A"}])");
+    const palx::RecipeTotals totals = palx::recipeTotals(recipe.stack->node());
+    EXPECT_EQ(totals.layers, 2);
+    EXPECT_EQ(totals.sheets, 1);
+    EXPECT_EQ(totals.products, 3);
+    EXPECT_EQ(totals.loadHeightMm, 205);
+    EXPECT_EQ(totals.heightMm, 355);
+    EXPECT_DOUBLE_EQ(totals.loadWeightKg, 3 * 2.5 + 0.5);
+    EXPECT_DOUBLE_EQ(totals.weightKg, 28);
+}
+
+TEST(RecipeLayers, SaysWhatIsWrongWithTheSequence)
+{
+    const struct
+    {
+        const char *layers;
+        QStringList words; // one of each problem, in order
+    } cases[] = {
+        {R"([{"pattern": "A"}, {"pattern": "clapboard"}, {"pattern": "B"}])", {}},
+        {R"([{"pattern": "A"}, {"pattern": "empty"}, {"pattern": ""}, {"pattern": "empty"}])", {}},
+        {R"([])", {QStringLiteral("no layers")}},
+        {R"(null)", {QStringLiteral("no layers")}},
+        {R"([{"pattern": "A"}, {"pattern": "empty"}, {"pattern": "B"}])",
+         {QStringLiteral("Layer 3 lies on an empty")}},
+        {R"([{"pattern": "A"}, {"pattern": "Q"}])", {QStringLiteral("Layer 2 uses the pattern \"Q\"")}},
+        {R"([{"pattern": "A"}, {"pattern": ""}, {"pattern": "C"}])",
+         {QStringLiteral("Layer 2 has no pattern"),
+          QStringLiteral("Layer 3 uses the pattern \"C\", which holds no")}},
+    };
+    for (const auto &c : cases) {
+        const Recipe recipe(c.layers);
+        const QStringList problems = palx::layerProblems(recipe.stack->node());
+        ASSERT_EQ(problems.size(), c.words.size()) << c.layers << problems.join(QLatin1Char('|'));
+        for (int i = 0; i < problems.size(); ++i)
+            EXPECT_TRUE(problems[i].startsWith(c.words[i]) || problems[i].contains(c.words[i]))
+                << problems[i];
+    }
+}
+
+TEST(RecipeLayers, ASheetNeedsToBeSwitchedOnAndHigh)
+{
+    const Recipe recipe(R"([{"pattern": "A"}, {"pattern": "clapboard"}])");
+    recipe.stack->set(nullptr, "product_cfg.clapboard.height", 0);
+    EXPECT_EQ(palx::layerProblems(recipe.stack->node()).size(), 1);
+    recipe.stack->set(nullptr, "product_cfg.clapboard.height", 5);
+    recipe.stack->set(nullptr, "product_cfg.clapboard.enabled", 0);
+    EXPECT_EQ(palx::layerProblems(recipe.stack->node()).size(), 1);
+}
+
+TEST(RecipeLayers, AreInsertedMovedAndRemoved)
+{
+    const Recipe recipe("null");
+    palx::insertLayer(recipe.stack, -1, QStringLiteral("A"), 2.5);
+    palx::insertLayer(recipe.stack, 99, QStringLiteral("B"), 4);
+    palx::insertLayer(recipe.stack, 1, QStringLiteral("C"));
+    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), QStringLiteral("ACB"));
+    EXPECT_EQ(nodeText(*recipe.stack->node().find(u"layers.#2.h_offset")), nodeText(nodeFromJson("4")));
+    EXPECT_TRUE(palx::moveLayer(recipe.stack, 0, 2));
+    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), QStringLiteral("CBA"));
+    EXPECT_TRUE(palx::removeLayer(recipe.stack, 1));
+    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), QStringLiteral("CA"));
+    for (const int outside : {-1, 2}) {
+        EXPECT_FALSE(palx::removeLayer(recipe.stack, outside));
+        EXPECT_FALSE(palx::moveLayer(recipe.stack, outside, 0));
+        EXPECT_FALSE(palx::moveLayer(recipe.stack, 0, outside));
+    }
+    EXPECT_EQ(palx::layerFacts(recipe.stack->node()).size(), 2);
+}
+
+TEST(RecipePatterns, SaysWhyANameIsRefused)
+{
+    const Recipe recipe;
+    const struct
+    {
+        QString name;
+        QString reason;
+    } cases[] = {
+        {QStringLiteral("D"), {}},
+        {QStringLiteral("a_B-9"), {}},
+        {QString(32, QLatin1Char('p')), {}},
+        {QString(33, QLatin1Char('p')), QStringLiteral("Pattern name length is greater than 32!")},
+        {QString(), QStringLiteral("Name is empty!")},
+        {QStringLiteral("A"), QStringLiteral("Name is repeated!")},
+        {QStringLiteral("clapboard"), QStringLiteral("Name is repeated!")},
+        {QStringLiteral("empty"), QStringLiteral("Name is repeated!")},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(palx::patternNameProblem(recipe.stack->node(), c.name), c.reason) << c.name;
+    for (const char *name : {"a b", "x.y", "#1", "A\n", "\xc3\xa4"})
+        EXPECT_NE(palx::patternNameProblem(recipe.stack->node(), QString::fromUtf8(name)), QString()) << name;
+}
+
+TEST(RecipePatterns, ProposesTheFirstFreeLetter)
+{
+    const Recipe recipe;
+    EXPECT_EQ(palx::proposePatternName(recipe.stack->node()), QStringLiteral("D"));
+    for (char letter = 'D'; letter <= 'Z'; ++letter)
+        palx::addPattern(recipe.stack, QString(QLatin1Char{letter}));
+    EXPECT_EQ(palx::proposePatternName(recipe.stack->node()), QStringLiteral("A1"));
+}
+
+TEST(RecipePatterns, RenamingTakesTheLayersAlong)
+{
+    const Recipe recipe(R"([{"pattern": "A"}, {"pattern": "B"}, {"pattern": "A"}])");
+    EXPECT_EQ(palx::patternUse(recipe.stack->node(), QStringLiteral("A")), 2);
+    EXPECT_FALSE(palx::renamePattern(recipe.stack, QStringLiteral("A"), QStringLiteral("B")));
+    EXPECT_TRUE(palx::renamePattern(recipe.stack, QStringLiteral("A"), QStringLiteral("Z")));
+    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), QStringLiteral("ZBZ"));
+    EXPECT_EQ(palx::patternNames(recipe.stack->node()).join(QString()), QStringLiteral("ZBC"));
+    EXPECT_EQ(recipe.stack->r("patterns.Z")->cmobjCount(), 2);
+}
+
+TEST(RecipePatterns, ACopyHoldsTheSameProducts)
+{
+    const Recipe recipe;
+    palx::addPattern(recipe.stack, QStringLiteral("D"), QStringLiteral("A"));
+    EXPECT_EQ(*recipe.stack->node().find(u"patterns.D"), *recipe.stack->node().find(u"patterns.A"));
+    EXPECT_TRUE(palx::addPattern(recipe.stack, QStringLiteral("D"))->isEmptyMobj());
+}
+
+TEST(RecipeItems, FillTheFirstRowAndThenTheNext)
+{
+    const Recipe recipe; // 400 wide: two products of 150 side by side
+    const int third = palx::addItem(recipe.stack, QStringLiteral("A"));
+    ASSERT_EQ(third, 2);
+    EXPECT_EQ(*recipe.stack->node().find(u"patterns.A.#2"),
+              nodeFromJson(R"({"x": 75, "y": 300, "w": 150, "h": 200, "r": 0, "index": 3, "orient": 3,
+                               "direction": "Top", "dx": 1, "dy": 2, "dz": 3})"));
+    palx::addItem(recipe.stack, QStringLiteral("A"));
+    EXPECT_EQ(recipe.stack->getDouble("patterns.A.#3.x"), 225);
+}
+
+TEST(RecipeItems, StopAtTheLimit)
+{
+    const Recipe recipe;
+    for (int i = 0; i < palx::kMaxItems; ++i)
+        EXPECT_EQ(palx::addItem(recipe.stack, QStringLiteral("C")), i);
+    EXPECT_EQ(palx::addItem(recipe.stack, QStringLiteral("C")), -1);
+    EXPECT_EQ(palx::addItem(recipe.stack, QStringLiteral("none")), -1);
+}
+
+TEST(RecipeItems, MovingAndRemovingRenumbers)
+{
+    const Recipe recipe;
+    palx::addItem(recipe.stack, QStringLiteral("A"));
+    EXPECT_TRUE(palx::moveItem(recipe.stack, QStringLiteral("A"), 2, 0));
+    EXPECT_EQ(numbers(recipe.stack, "index"), QVector<int>({1, 2, 3}));
+    EXPECT_EQ(numbers(recipe.stack, "y"), QVector<int>({300, 100, 100}));
+    EXPECT_TRUE(palx::removeItem(recipe.stack, QStringLiteral("A"), 1));
+    EXPECT_EQ(numbers(recipe.stack, "index"), QVector<int>({1, 2}));
+    EXPECT_EQ(numbers(recipe.stack, "x"), QVector<int>({75, 225}));
+    EXPECT_FALSE(palx::removeItem(recipe.stack, QStringLiteral("A"), 2));
+    EXPECT_FALSE(palx::moveItem(recipe.stack, QStringLiteral("A"), 0, 2));
+}
+
+TEST(RecipeItems, TakeTheSizeOfAChangedProduct)
+{
+    const Recipe recipe;
+    EXPECT_EQ(palx::otherSizedItems(recipe.stack->node(), QStringLiteral("A")), 2); // stored without a size
+    palx::applyProductSize(recipe.stack, QStringLiteral("A"));
+    EXPECT_EQ(numbers(recipe.stack, "w"), QVector<int>({150, 150}));
+    EXPECT_EQ(numbers(recipe.stack, "h"), QVector<int>({200, 200}));
+    recipe.stack->set(nullptr, "product_cfg.product.length", 200.9); // whole millimetres count
+    EXPECT_EQ(palx::otherSizedItems(recipe.stack->node(), QStringLiteral("A")), 0);
+    recipe.stack->set(nullptr, "product_cfg.product.length", 201);
+    EXPECT_EQ(palx::otherSizedItems(recipe.stack->node(), QStringLiteral("A")), 2);
+}
+
+TEST(RecipeFields, RefuseWhatIsOutOfRange)
+{
+    const Recipe recipe;
+    const struct
+    {
+        const char *path;
+        double value;
+        bool accepted;
+    } cases[] = {
+        {"product_cfg.product.length", 0, false},
+        {"product_cfg.product.length", 1, true},
+        {"product_cfg.product.length", 5001, false},
+        {"product_cfg.pallet.height", -1, false},
+        {"product_cfg.product.dx", -2000, true},
+        {"h_offset", 1001, false},
+        {"wobj_margin.left", 125, true},
+        {"wobj_margin.left", 250.5, false},
+        {"wobj_margin.top", 800, true},
+        {"wobj_margin.top", 851, false},
+        {"no.such.field", 1e9, true},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(palx::fieldProblem(recipe.stack->node(), orba::Path(c.path), c.value).isEmpty(), c.accepted)
+            << c.path << c.value;
+}
+
+TEST(RecipeFields, AMarginMayAlwaysGiveRoomBack)
+{
+    const Recipe recipe;
+    applyPaths(recipe.stack->node(), R"({"wobj_margin.left": 390})");
+    EXPECT_TRUE(palx::marginsTooWide(recipe.stack->node()));
+    EXPECT_EQ(palx::fieldProblem(recipe.stack->node(), u"wobj_margin.left", 300), QString());
+    EXPECT_NE(palx::fieldProblem(recipe.stack->node(), u"wobj_margin.right", 1), QString());
+}
+
+TEST(RecipeFields, EverySpecIsARangeOnce)
+{
+    for (const char *path :
+         {"product_cfg.product.weight", "wobj_margin.top", "put.exit_h", "get.ready_h", "enter_x", "r"}) {
+        const palx::FieldSpec *spec = palx::fieldSpec(orba::Path(path));
+        ASSERT_NE(spec, nullptr) << path;
+        EXPECT_LT(spec->minimum, spec->maximum) << path;
+    }
+    EXPECT_EQ(palx::fieldSpec(u"product_cfg.product"), nullptr);
+}
+
+TEST(RecipeFields, KnowsThePresetOfASize)
+{
+    const std::unique_ptr<ModuleObject> plugin = makePluginTree();
+    const Node &presets = *plugin->node().child(u"pallet_cfg");
+    EXPECT_EQ(palx::palletSpecification(presets, 1100, 1100, 150), 1);
+    EXPECT_EQ(palx::palletSpecification(presets, 800, 600, 150), 7);
+    EXPECT_EQ(palx::palletSpecification(presets, 800, 600, 144), 0);
+    EXPECT_EQ(palx::palletSpecification(Node(), 800, 600, 150), 0);
+}
+
+TEST(RecipeFields, WarnsOfAProductThatOverhangsInBothTurns)
+{
+    const Recipe recipe;
+    EXPECT_EQ(palx::sizeWarning(recipe.stack->node()), QString());
+    recipe.stack->set(nullptr, "product_cfg.product.length", 401);
+    EXPECT_EQ(palx::sizeWarning(recipe.stack->node()), QString()); // fits along the pallet
+    recipe.stack->set(nullptr, "product_cfg.product.width", 401);
+    EXPECT_NE(palx::sizeWarning(recipe.stack->node()), QString());
+}
+
+TEST(RecipePoints, NamesWhatGenerationWillMiss)
+{
+    const QByteArray point = pointJson(0.1, 0, 0);
+    const auto with = [&](const char *json) { return QByteArray(json).replace('P', point); };
+    const struct
+    {
+        QByteArray stack, plugin;
+        int missing;
+    } cases[] = {
+        {"{}", "{}", 4},
+        {with(R"({"put.put_p": P, "put.enter_p": P})"), "{}", 2},
+        {with(R"({"put.put_p": P, "put.enter_p": P, "get.get_p": P, "get.enter_p": P})"), "{}", 0},
+        {with(R"({"put.put_p": P, "put.enter_p": P, "use_global_tool": true})"), "{}", 1},
+        {with(R"({"use_global_wobj": true, "get.get_p": P, "get.enter_p": P})"),
+         R"({"global_wobj": [{"calibration_method": 1}, {"calibration_method": 1}]})", 1},
+        {with(R"({"use_global_wobj": true, "get.get_p": P, "get.enter_p": P})"),
+         with(
+             R"({"global_wobj": [{"calibration_method": 1, "left_origin_point": P}, {"calibration_method": 1}]})"),
+         0},
+        {with(R"({"use_global_wobj": true, "get.get_p": P, "get.enter_p": P, "pallet_position": 2})"),
+         R"({"global_wobj": [{"calibration_method": 1}, {"calibration_method": 1}]})", 1},
+    };
+    for (const auto &c : cases) {
+        const std::unique_ptr<ModuleObject> plugin = makePluginTree();
+        ModuleObject *stack = addTestStack(plugin.get(), c.stack.constData());
+        applyPaths(plugin->node(), c.plugin.constData());
+        const QStringList texts = palx::untaughtPoints(stack->node(), plugin->node());
+        EXPECT_EQ(texts.size(), c.missing) << c.stack.constData() << texts.join(QLatin1Char('|'));
+    }
+}
+
+TEST(RecipePoints, AZeroRecordIsNotTaught)
+{
+    EXPECT_FALSE(palx::isTaught(nullptr));
+    const Node zero = nodeFromJson(R"({"trans": [0, 0, 0], "rot": [0, 0, 0], "near": [1], "conf": [1]})");
+    EXPECT_FALSE(palx::isTaught(&zero));
+    const Node turned = nodeFromJson(R"({"trans": [0, 0, 0], "rot": [0, 0, 0.1]})");
+    EXPECT_TRUE(palx::isTaught(&turned));
+}

@@ -1,0 +1,155 @@
+#include "stack/stack_check.h"
+
+#include "orba/tree_registry.h"
+#include "support/recipe_tree.h"
+#include "support/test_support.h"
+
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+using orba::Node;
+
+namespace {
+
+/// The operator's log, listened to without a host.
+class CheckTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        Node *quill = orba::TreeRegistry::instance().addModule(QStringLiteral("quill"));
+        Node *current = quill->ensure(u"log.current");
+        current->setString(QString());
+        current->setEvent(true);
+        orba::TreeRegistry::instance().addModule(QStringLiteral("nexo"))->ensure(u"r.id")->setString(
+            QStringLiteral("R7"));
+        QObject::connect(m("quill.log.current"), &orba::ModuleObject::changed, &context_,
+                         [this](const QVariant &value) { records_.append(value.toString()); });
+    }
+
+    void TearDown() override
+    {
+        orba::TreeRegistry::instance().removeModule(QStringLiteral("quill"));
+        orba::TreeRegistry::instance().removeModule(QStringLiteral("nexo"));
+    }
+
+    /// Titles of the records so far, forgetting them; also checks what each record holds.
+    QStringList takeTitles()
+    {
+        QStringList titles;
+        for (const QString &text : records_) {
+            const Node record = nodeFromJson(text.toUtf8());
+            titles << record.getString(u"title");
+            EXPECT_EQ(record.getString(u"level"), QStringLiteral("warning"));
+            EXPECT_EQ(record.getString(u"rcid"), QStringLiteral("R7"));
+            EXPECT_FALSE(text.contains(QLatin1Char('\n')));
+        }
+        records_.clear();
+        return titles;
+    }
+
+private:
+    QObject context_;
+    QStringList records_;
+};
+
+struct CheckCase {
+    const char *name;
+    const char *productCfg;
+    QStringList titles;
+    const char *expected;
+};
+
+TEST_F(CheckTest, ProductIsRepaired)
+{
+    const QString length = QStringLiteral("Product length is invalid and is setted to default");
+    const QString width = QStringLiteral("Product width is invalid and is setted to default");
+    const CheckCase cases[] = {
+        {"good", R"({"product":{"length":300,"width":200}})", {}, R"({"product":{"length":300,"width":200}})"},
+        {"both bad", R"({"product":{"length":-5,"width":0}})", {length, width},
+         R"({"product":{"length":200,"width":150}})"},
+        {"absent keys", R"({"product":{"height":9}})", {length, width},
+         R"({"product":{"height":9,"length":200,"width":150}})"},
+        {"text", R"({"product":{"length":"abc","width":"20"}})", {length}, R"({"product":{"length":200,"width":"20"}})"},
+        {"no product", R"({"pallet":{}})", {QStringLiteral("Product para is invalid")}, R"({"pallet":{}})"},
+        {"null product", R"({"product":null})", {QStringLiteral("Product para is invalid")}, R"({"product":null})"},
+    };
+    for (const CheckCase &one : cases) {
+        Node stack;
+        stack.ensure(u"product_cfg")->assign(nodeFromJson(one.productCfg));
+        EXPECT_FALSE(palx::checkProductPara(stack)) << one.name;
+        EXPECT_EQ(takeTitles(), one.titles) << one.name;
+        EXPECT_EQ(*stack.find(u"product_cfg"), nodeFromJson(one.expected)) << one.name;
+    }
+}
+
+TEST_F(CheckTest, PalletIsRepaired)
+{
+    const QString narrow = QStringLiteral("Pallet'width is less than product'width");
+    const CheckCase cases[] = {
+        {"good", R"({"product":{"width":200},"pallet":{"length":1200,"width":800}})", {},
+         R"({"product":{"width":200},"pallet":{"length":1200,"width":800}})"},
+        {"bad", R"({"product":{"width":200},"pallet":{"length":0,"width":-1}})",
+         {QStringLiteral("Pallet length is invalid and is setted to default"),
+          QStringLiteral("Pallet width is invalid and is setted to default")},
+         R"({"product":{"width":200},"pallet":{"length":1000,"width":800}})"},
+        {"narrow", R"({"product":{"width":900.5},"pallet":{"length":100,"width":800}})", {narrow},
+         R"({"product":{"width":900.5},"pallet":{"length":100,"width":900.5}})"},
+        {"a long product is no reason", R"({"product":{"length":5000,"width":1},"pallet":{"length":100,"width":8}})",
+         {}, R"({"product":{"length":5000,"width":1},"pallet":{"length":100,"width":8}})"},
+        {"the key product is", R"({"product":{"product":1500},"pallet":{"length":1000,"width":800}})",
+         {QStringLiteral("Pallet'length is less than product'length")},
+         R"({"product":{"product":1500},"pallet":{"length":1500.0,"width":800}})"},
+        {"no pallet", R"({"product":{}})", {QStringLiteral("Pallet para is invalid")}, R"({"product":{}})"},
+    };
+    for (const CheckCase &one : cases) {
+        Node stack;
+        stack.ensure(u"product_cfg")->assign(nodeFromJson(one.productCfg));
+        EXPECT_FALSE(palx::checkPalletPara(stack)) << one.name;
+        EXPECT_EQ(takeTitles(), one.titles) << one.name;
+        EXPECT_EQ(*stack.find(u"product_cfg"), nodeFromJson(one.expected)) << one.name;
+    }
+}
+
+TEST_F(CheckTest, ProductPalletNeverReachesThePallet)
+{
+    const auto plugin = makePluginTree();
+    orba::ModuleObject *stack = addTestStack(
+        plugin.get(), R"({"product_cfg.product.length":0,"product_cfg.pallet.length":-3,"product_cfg.pallet.width":0})");
+    QSignalSpy spy(stack->r("product_cfg.product.length"), &orba::ModuleObject::changed);
+    EXPECT_FALSE(palx::checkProductPallet(stack));
+    EXPECT_EQ(stack->getInt("product_cfg.pallet.length"), -3);
+    EXPECT_EQ(stack->getInt("product_cfg.product.length"), 200);
+    EXPECT_EQ(spy.count(), 1); // a field that shows the length follows
+    EXPECT_EQ(takeTitles().size(), 1);
+}
+
+TEST(LayerCheck, OnlyBlanksFollowTheFirstEmptyLayer)
+{
+    struct {
+        QStringList patterns;
+        bool good;
+    } const cases[] = {
+        {{}, true},
+        {{"A", "B", ""}, true},
+        {{"A", "", "B"}, true}, // no "empty" at all
+        {{"A", "empty", "B"}, false},
+        {{"A", "empty", ""}, true},
+        {{"A", "empty", "empty", "", "empty"}, true},
+        {{"empty", "", "clapboard"}, false},
+        {{"A", "Empty", "B"}, true}, // the word is case-sensitive
+        {{"empty", " "}, false},
+    };
+    for (const auto &one : cases) {
+        Node layers;
+        layers.reset(Node::Kind::List);
+        for (const QString &pattern : one.patterns)
+            layers.add()->ensure(u"pattern")->setString(pattern);
+        EXPECT_EQ(palx::checkLayersName(layers), one.good) << one.patterns.join(QLatin1Char(','));
+    }
+    EXPECT_TRUE(palx::checkLayersName(nodeFromJson("null")));
+    EXPECT_TRUE(palx::checkLayersName(nodeFromJson("[1,2]")));
+}
+
+} // namespace

@@ -1,0 +1,182 @@
+#include "ui/keypad.h"
+#include "ui/name_dialog.h"
+#include "ui/stackhomepage.h"
+#include "ui/stacksetuppage.h"
+
+#include "ix/xtheme.h"
+#include "support/test_support.h"
+#include "ui/page_fixture.h"
+#include "ui/point_group.h"
+#include "ui/recipe_frame.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The panel's looks for the time of a test.
+struct Looks
+{
+    Looks() : font(QApplication::font()), palette(QApplication::palette()) { ix::xtheme::apply(qApp); }
+    ~Looks()
+    {
+        qApp->setStyleSheet(QString());
+        QApplication::setFont(font);
+        QApplication::setPalette(palette);
+    }
+    QFont font;
+    QPalette palette;
+};
+
+bool isControl(const QWidget *widget)
+{
+    const bool partOfAnother = widget->objectName().startsWith(QLatin1String("qt_"));
+    return !partOfAnother &&
+           (qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget) ||
+            qobject_cast<const QComboBox *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
+            qobject_cast<const QAbstractItemView *>(widget));
+}
+
+/// Controls of a form; parts of other controls (the popup of a combo box, a corner button) are not meant.
+QList<QWidget *> controls(const QWidget *form)
+{
+    QList<QWidget *> found;
+    for (QWidget *widget : form->findChildren<QWidget *>()) {
+        const QWidget *parent = widget->parentWidget();
+        const bool inner = qobject_cast<const QAbstractItemView *>(parent) ||
+                           qobject_cast<const QLineEdit *>(parent) || widget->inherits("QComboBoxListView") ||
+                           widget->inherits("QHeaderView");
+        if (isControl(widget) && !inner)
+            found << widget;
+    }
+    return found;
+}
+
+void expectReadable(const QWidget *form, const QString &where)
+{
+    for (const QLabel *label : form->findChildren<QLabel *>()) {
+        if (!label->isVisible() || label->text().isEmpty() || label->wordWrap())
+            continue;
+        EXPECT_GE(label->width(), label->sizeHint().width()) << where << label->objectName() << label->text();
+    }
+    for (const QAbstractButton *button : form->findChildren<QAbstractButton *>()) {
+        if (!button->isVisible() || button->text().isEmpty())
+            continue;
+        EXPECT_GE(button->width(), button->minimumSizeHint().width())
+            << where << button->objectName() << button->text();
+    }
+}
+
+/// Every frame in turn with its scroll bars.
+template <typename Visit> void eachFrame(Pages &pages, Visit visit)
+{
+    for (int i = 0; i < pages.setup->frames().size(); ++i) {
+        pages.setup->showFrame(i);
+        QCoreApplication::processEvents();
+        RecipeFrame *frame = pages.setup->frames().at(i);
+        visit(frame, qobject_cast<QScrollArea *>(frame->parentWidget()->parentWidget()));
+    }
+}
+
+} // namespace
+
+TEST(Forms, EveryControlHasANameForTestsAndForReaders)
+{
+    Pages pages;
+    Keypad keypad(KeypadRequest{QStringLiteral("Length"), {}, 0, 1, 0, 0}, &pages.center);
+    NameDialog name(
+        QStringLiteral("Name"), [](const QString &) { return QString(); }, &pages.center);
+    int count = 0;
+    for (const QWidget *control : controls(&pages.center)) {
+        const QString parent = control->parentWidget()->objectName();
+        EXPECT_FALSE(control->objectName().isEmpty()) << control->metaObject()->className() << parent;
+        EXPECT_FALSE(control->accessibleName().isEmpty()) << control->objectName() << parent;
+        ++count;
+    }
+    EXPECT_GT(count, 100);
+}
+
+TEST(Forms, FitThePanelsTheyAreMadeFor)
+{
+    const Looks looks;
+    for (const QSize size : {QSize(1024, 640), QSize(1120, 700), QSize(1280, 760)}) {
+        Pages pages;
+        pages.tree.addRecipe("Box");
+        pages.center.resize(size);
+        QCoreApplication::processEvents();
+        expectReadable(pages.home->wgt(), QStringLiteral("home "));
+        pages.open("Box");
+        eachFrame(pages, [&](RecipeFrame *frame, QScrollArea *area) {
+            const QString where = QStringLiteral("%1 at %2: ").arg(frame->objectName()).arg(size.width());
+            EXPECT_FALSE(area->verticalScrollBar()->isVisible()) << where;
+            EXPECT_FALSE(area->horizontalScrollBar()->isVisible()) << where;
+            expectReadable(frame, where);
+        });
+        EXPECT_EQ(pages.center.size(), size); // nothing pushed the window open
+    }
+}
+
+TEST(Forms, LeaveRoomForLongerLanguages)
+{
+    const Looks looks;
+    const LongLanguage language;
+    Pages pages;
+    pages.tree.addRecipe("Box");
+    QCoreApplication::processEvents();
+    expectReadable(pages.home->wgt(), QStringLiteral("home "));
+    pages.open("Box");
+    eachFrame(pages, [](RecipeFrame *frame, QScrollArea *area) {
+        EXPECT_FALSE(area->horizontalScrollBar()->isVisible()) << frame->objectName();
+        expectReadable(frame, frame->objectName() + QLatin1Char(' '));
+    });
+}
+
+TEST(Forms, ControlsAreLargeEnoughForFingers)
+{
+    const Looks looks;
+    Pages pages;
+    pages.tree.addRecipe("Box");
+    pages.open("Box");
+    eachFrame(pages, [](RecipeFrame *frame, QScrollArea *) {
+        for (const QWidget *control : controls(frame)) {
+            if (!control->isVisible() || qobject_cast<const QAbstractItemView *>(control))
+                continue;
+            EXPECT_GE(control->height(), 56) << frame->objectName() << control->objectName();
+        }
+    });
+}
+
+TEST(Forms, FollowAChangeOfLanguage)
+{
+    Pages pages;
+    pages.tree.addRecipe("Box");
+    pages.open("Box");
+    auto *title = pages.field<QLabel>("lblTitle");
+    const QString before = title->text();
+    QHash<const QWidget *, QVariant> chosen;
+    for (const QComboBox *combo : pages.setup->wgt()->findChildren<QComboBox *>())
+        chosen.insert(combo, combo->currentIndex());
+    {
+        const LongLanguage language;
+        QCoreApplication::processEvents();
+        EXPECT_GT(title->text().size(), before.size());
+        for (const char *name : {"cmbDirection", "cmbPosition", "cmbPoint", "cmbSpecification"}) {
+            for (const QComboBox *combo : pages.setup->wgt()->findChildren<QComboBox *>(QLatin1String(name)))
+                EXPECT_EQ(combo->currentIndex(), chosen.value(combo)) << name;
+        }
+        auto *group = pages.field<PointGroup>("grpPutPoint");
+        EXPECT_GT(group->findChild<QLabel *>(QStringLiteral("lblTitle"))->text().size(), 11);
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(title->text(), before);
+}

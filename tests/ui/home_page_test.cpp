@@ -1,0 +1,285 @@
+#include "ui/stackhomepage.h"
+#include "ui/stacksetuppage.h"
+
+#include "support/test_support.h"
+#include "ui/current_recipe.h"
+#include "ui/message_bar.h"
+#include "ui/name_dialog.h"
+#include "ui/page_fixture.h"
+#include "workstation/plugin_node.h"
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QStringList stackNames()
+{
+    QStringList names;
+    for (int i = 0; i < palx::stacksNode()->cmobjCount(); ++i)
+        names << palx::stacksNode()->getString(QStringLiteral("#%1.name").arg(i));
+    return names;
+}
+
+QStringList shownNames(const Pages &pages)
+{
+    QStringList names;
+    const QAbstractItemModel *model = pages.field<QListView>("lstRecipes")->model();
+    for (int row = 0; row < model->rowCount(); ++row)
+        names << model->index(row, 0).data().toString();
+    return names;
+}
+
+void click(const Pages &pages, const char *button)
+{
+    auto *found =
+        pages.home->wgt() ? pages.home->wgt()->findChild<QPushButton *>(QLatin1String(button)) : nullptr;
+    ASSERT_NE(found, nullptr) << button;
+    found->click();
+}
+
+/// Answers the dialog that asks for a name; returns the reason when it refuses.
+QString answerName(const Pages &pages, const char *name, const char *desc = nullptr)
+{
+    auto *dialog = pages.center.findChild<NameDialog *>();
+    if (!dialog) {
+        ADD_FAILURE() << "no dialog";
+        return QString();
+    }
+    dialog->findChild<QLineEdit *>(QStringLiteral("edtName"))->setText(QString::fromUtf8(name));
+    if (desc)
+        dialog->findChild<QLineEdit *>(QStringLiteral("edtDesc"))->setText(QString::fromUtf8(desc));
+    auto *ok = dialog->findChild<QPushButton *>(QStringLiteral("btnOk"));
+    const QString reason = dialog->findChild<QLabel *>(QStringLiteral("lblReason"))->text();
+    EXPECT_EQ(ok->isEnabled(), reason.isEmpty());
+    ok->isEnabled() ? ok->click() : dialog->reject();
+    delete dialog; // as its closing does a turn of the loop later
+    return reason;
+}
+
+} // namespace
+
+TEST(HomePage, MakesARecipeFromTheTemplate)
+{
+    Pages pages;
+    TriggerCount table("refresh_table");
+    TriggerCount combos("refresh_cmb");
+    click(pages, "btnNew");
+    EXPECT_EQ(answerName(pages, " Box 1 ", "small ones"), QString());
+    EXPECT_EQ(stackNames(), QStringList(QStringLiteral("Box 1")));
+    orba::ModuleObject *stack = palx::getStack(QStringLiteral("Box 1"));
+    EXPECT_EQ(stack->getString("desc"), QStringLiteral("small ones"));
+    EXPECT_EQ(stack->getDouble("product_cfg.product.length"), 200);
+    EXPECT_EQ(pages.home->chosenStack(), stack);
+    EXPECT_GE(table.take(), 1);
+    EXPECT_EQ(combos.take(), 1);
+}
+
+TEST(HomePage, ProposesAnUnusedNameAndRefusesBadOnes)
+{
+    Pages pages;
+    pages.tree.addRecipe("Recipe 1");
+    click(pages, "btnNew");
+    auto *dialog = pages.center.findChild<NameDialog *>();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->name(), QStringLiteral("Recipe 2"));
+    dialog->reject();
+    delete dialog;
+    for (const char *name : {"", "   ", "Recipe 1"}) {
+        click(pages, "btnNew");
+        EXPECT_NE(answerName(pages, name), QString()) << name;
+    }
+    click(pages, "btnNew");
+    EXPECT_NE(answerName(pages, QByteArray(65, 'x').constData()), QString());
+    EXPECT_EQ(stackNames().size(), 1);
+}
+
+TEST(HomePage, CopiesAndRenames)
+{
+    Pages pages;
+    pages.tree.addRecipe("Box");
+    pages.tree.addRecipe("Bag");
+    pages.home->chooseRecipe(QStringLiteral("Box"));
+    click(pages, "btnCopy");
+    EXPECT_EQ(pages.center.findChild<NameDialog *>()->name(), QStringLiteral("Box1"));
+    answerName(pages, "Crate");
+    EXPECT_EQ(stackNames().join(QLatin1Char(' ')), QStringLiteral("Box Crate Bag"));
+    EXPECT_EQ(pages.home->chosenStack()->getString("name"), QStringLiteral("Crate"));
+    click(pages, "btnRename");
+    EXPECT_NE(answerName(pages, "Bag"), QString());
+    click(pages, "btnRename");
+    answerName(pages, "Case", "for bottles");
+    EXPECT_EQ(shownNames(pages).join(QLatin1Char(' ')), QStringLiteral("Box Case Bag"));
+    EXPECT_EQ(palx::getStack(QStringLiteral("Case"))->getString("desc"), QStringLiteral("for bottles"));
+}
+
+TEST(HomePage, DeletesOnlyWhenConfirmedAndTakesItBack)
+{
+    Pages pages;
+    for (const char *name : {"A", "B", "C"})
+        pages.tree.addRecipe(name);
+    pages.home->chooseRecipe(QStringLiteral("B"));
+    const orba::Node before = palx::stacksNode()->node();
+    ScriptedPresenter presenter({false, true});
+    click(pages, "btnDelete");
+    EXPECT_EQ(palx::stacksNode()->node(), before);
+    click(pages, "btnDelete");
+    ASSERT_EQ(presenter.asked.size(), 2);
+    EXPECT_TRUE(presenter.asked.last().text.contains(QStringLiteral("\"B\"")));
+    EXPECT_EQ(shownNames(pages).join(QLatin1Char(' ')), QStringLiteral("A C"));
+    EXPECT_EQ(pages.home->chosenStack()->getString("name"), QStringLiteral("C"));
+    pages.home->wgt()->findChild<QPushButton *>(QStringLiteral("btnAction"))->click();
+    EXPECT_EQ(palx::stacksNode()->node(), before);
+    EXPECT_EQ(pages.home->chosenStack()->getString("name"), QStringLiteral("B"));
+}
+
+TEST(HomePage, UndoOfADeletionFindsAnotherNameWhenItsOwnIsTaken)
+{
+    Pages pages;
+    pages.tree.addRecipe("A");
+    ScriptedPresenter presenter({true});
+    click(pages, "btnDelete");
+    pages.tree.addRecipe("A");
+    pages.home->wgt()->findChild<QPushButton *>(QStringLiteral("btnAction"))->click();
+    EXPECT_EQ(stackNames().join(QLatin1Char(' ')), QStringLiteral("A1 A"));
+    EXPECT_TRUE(pages.home->wgt()->findChild<MessageBar *>()->text().contains(QStringLiteral("A1")));
+}
+
+TEST(HomePage, OpensTheChosenRecipe)
+{
+    Pages pages;
+    pages.tree.addRecipe("A");
+    pages.tree.addRecipe("B");
+    const QSignalSpy announced(pages.home, &StackHomePage::reFreshPageDate);
+    pages.home->chooseRecipe(QStringLiteral("B"));
+    EXPECT_EQ(announced.size(), 0); // looking at a recipe is not opening it
+    click(pages, "btnOpen");
+    EXPECT_EQ(announced.size(), 1);
+    EXPECT_EQ(pages.center.currentPage(), QStringLiteral("palx_workstation.setup_page"));
+    EXPECT_EQ(pages.setup->stack(), palx::getStack(QStringLiteral("B")));
+}
+
+TEST(HomePage, TheOpenRecipeStaysOpenWhenRenamedAndClosesWhenDeleted)
+{
+    Pages pages;
+    pages.tree.addRecipe("A");
+    click(pages, "btnOpen");
+    orba::ModuleObject *stack = pages.setup->stack();
+    click(pages, "btnRename");
+    answerName(pages, "Z");
+    EXPECT_EQ(currentRecipe(&pages.module)->value(), QStringLiteral("Z"));
+    EXPECT_EQ(pages.setup->stack(), stack);
+    ScriptedPresenter presenter({true});
+    click(pages, "btnDelete");
+    EXPECT_EQ(pages.setup->stack(), nullptr);
+    EXPECT_EQ(currentRecipe(&pages.module)->value(), QString());
+}
+
+TEST(HomePage, SearchFindsNamesAndDescriptions)
+{
+    Pages pages;
+    pages.tree.addRecipe("Alpha");
+    orba::ModuleObject *beta = pages.tree.addRecipe("Beta");
+    beta->set(nullptr, "desc", QStringLiteral("of GAMMA kind"));
+    palx::triggerNode()->c("refresh_table")->trigger();
+    const struct
+    {
+        const char *search;
+        const char *found;
+    } cases[] = {{"", "Alpha Beta"},  {"alp", "Alpha"}, {"gamma", "Beta"},
+                 {"a", "Alpha Beta"}, {"[", ""},        {"zz", ""}};
+    for (const auto &c : cases) {
+        pages.field<QLineEdit>("edtSearch")->setText(QLatin1String(c.search));
+        EXPECT_EQ(shownNames(pages).join(QLatin1Char(' ')), QLatin1String(c.found)) << c.search;
+    }
+    EXPECT_FALSE(pages.field<QPushButton>("btnOpen")->isEnabled());
+    pages.field<QLineEdit>("edtSearch")->clear();
+    EXPECT_TRUE(pages.home->chosenStack()->isEmptyMobj() || pages.field<QPushButton>("btnOpen")->isEnabled());
+}
+
+TEST(HomePage, ReloadsOnTheTriggerAndTellsOfOtherNamesOnly)
+{
+    Pages pages;
+    orba::ModuleObject *stack = pages.tree.addRecipe("A");
+    TriggerCount combos("refresh_cmb");
+    palx::triggerNode()->c("refresh_table")->trigger();
+    EXPECT_EQ(combos.take(), 0);
+    stack->set(nullptr, "name", QStringLiteral("B"));
+    EXPECT_EQ(shownNames(pages), QStringList(QStringLiteral("A")));
+    palx::triggerNode()->c("refresh_table")->trigger();
+    EXPECT_EQ(shownNames(pages), QStringList(QStringLiteral("B")));
+    EXPECT_EQ(combos.take(), 1);
+}
+
+TEST(HomePage, ShowsLayersAndSummaryOfTheChosenRecipe)
+{
+    Pages pages;
+    pages.tree.addRecipe("A");
+    EXPECT_EQ(pages.home->wgt()->findChild<QTableView *>(QStringLiteral("tblLayers"))->model()->rowCount(),
+              2);
+    const QString summary = pages.field<QLabel>("lblSummary")->text();
+    for (const char *part : {"Boxes: 3", "layers: 2", "350 mm", "200 mm", "6 kg"})
+        EXPECT_TRUE(summary.contains(QLatin1String(part))) << part << summary;
+}
+
+TEST(HomePage, WithoutRecipesOnlyNewIsOffered)
+{
+    Pages pages;
+    for (const char *button : {"btnCopy", "btnRename", "btnDelete", "btnOpen"})
+        EXPECT_FALSE(pages.field<QPushButton>(button)->isEnabled()) << button;
+    EXPECT_TRUE(pages.field<QPushButton>("btnNew")->isEnabled());
+    EXPECT_TRUE(pages.field<QLabel>("lblName")->text().contains(QStringLiteral("New")));
+}
+
+TEST(HomePage, NamesAreNeverReadAsPaths)
+{
+    Pages pages;
+    for (const char *name : {"#0", "a.b", "put.#1"})
+        pages.tree.addRecipe(name);
+    for (const char *name : {"#0", "a.b", "put.#1"}) {
+        pages.home->chooseRecipe(QLatin1String(name));
+        click(pages, "btnOpen");
+        EXPECT_EQ(pages.setup->stack()->getString("name"), QLatin1String(name));
+    }
+}
+
+TEST(HomePage, FiftyLargeRecipesAreShownBeforeTheirPicturesAreDrawn)
+{
+    const PluginTree tree;
+    // The tree is the page's own; the recipes are there when the pages are made.
+    orba::Node recipe = *palx::pluginNode()->node().child(u"default");
+    recipe.ensure(u"patterns")->assign(nodeFromJson("{\"A\": []}"));
+    for (int i = 0; i < 100; ++i)
+        recipe.ensure(u"patterns.A")
+            ->add()
+            ->assign(nodeFromJson(R"({"x": 50, "y": 50, "w": 90, "h": 90, "r": 0})"));
+    recipe.ensure(u"layers")->assign(nodeFromJson(R"([{"pattern": "A", "h_offset": 0}])"));
+    for (int i = 0; i < 50; ++i) {
+        orba::Node *stack = palx::stacksNode()->node().add();
+        stack->assign(recipe);
+        stack->ensure(u"name")->setString(QStringLiteral("Recipe %1").arg(i));
+    }
+    bwaf::BModule module;
+    bwaf::CenterWidget center;
+    center.resize(1120, 700);
+    QElapsedTimer clock;
+    clock.start();
+    StackHomePage page(&center, &module);
+    center.addPage(page.wgt(), QStringLiteral("home"));
+    center.show();
+    center.grab();
+    EXPECT_LT(clock.elapsed(), 2500); // a tenth of it in practice; sanitizers are slow
+    const QAbstractItemModel *model = center.findChild<QListView *>(QStringLiteral("lstRecipes"))->model();
+    EXPECT_TRUE(
+        waitUntil([&] { return !model->index(0, 0).data(Qt::UserRole + 2).value<QPixmap>().isNull(); }));
+    EXPECT_TRUE(
+        model->index(40, 0).data(Qt::UserRole + 2).value<QPixmap>().isNull()); // nobody has seen it yet
+    center.clearPages();
+}

@@ -1,0 +1,166 @@
+#include "nexo/manager_helper.h"
+#include "nexo/setting_manager.h"
+#include "stack/recipe_layers.h"
+#include "support/test_support.h"
+#include "ui/page_fixture.h"
+#include "ui/stackhomepage.h"
+#include "ui/stacksetuppage.h"
+#include "workstation/plugin_node.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDoubleSpinBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QSpinBox>
+#include <QTableView>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The operator's choice for as long as it lives; afterwards English again.
+struct Language
+{
+    explicit Language(const char *key) { choose(key); }
+    ~Language() { choose(""); }
+    static void choose(const char *key)
+    {
+        nexo::ManagerHelper::instance()->registQrcAlias(QStringLiteral("palx_workstation"));
+        nexo::SettingManager::instance()->setOverride(QStringLiteral("language"), QLatin1String(key));
+        QCoreApplication::sendPostedEvents(); // windows are told by an event
+    }
+};
+
+QStringList modelTexts(const QAbstractItemModel *model)
+{
+    QStringList texts;
+    for (int column = 0; column < model->columnCount(); ++column) {
+        texts << model->headerData(column, Qt::Horizontal).toString();
+        for (int row = 0; row < qMin(model->rowCount(), 50); ++row)
+            texts << model->index(row, column).data().toString();
+    }
+    return texts;
+}
+
+template <typename Widget> QString textOf(const QWidget *widget, QString (Widget::*text)() const)
+{
+    const auto *typed = qobject_cast<const Widget *>(widget);
+    return typed ? (typed->*text)() : QString();
+}
+
+/// What a widget itself tells the operator, or somebody who cannot see it.
+QStringList ownTexts(const QWidget *widget)
+{
+    QStringList texts{widget->accessibleName(),          widget->toolTip(),
+                      textOf(widget, &QLabel::text),     textOf(widget, &QAbstractButton::text),
+                      textOf(widget, &QGroupBox::title), textOf(widget, &QLineEdit::placeholderText),
+                      textOf(widget, &QSpinBox::suffix), textOf(widget, &QDoubleSpinBox::suffix)};
+    if (const auto *combo = qobject_cast<const QComboBox *>(widget))
+        texts << modelTexts(combo->model());
+    else if (const auto *table = qobject_cast<const QTableView *>(widget))
+        texts << modelTexts(table->model());
+    else if (const auto *view = qobject_cast<const QAbstractItemView *>(widget))
+        texts << (view->model() ? modelTexts(view->model()).mid(1)
+                                : QStringList()); // without the hidden header
+    return texts;
+}
+
+/// "name: text" of all widgets below one, in their order.
+QStringList allTexts(const QWidget *root)
+{
+    QStringList texts;
+    for (const QWidget *widget : root->findChildren<QWidget *>()) {
+        if (widget->objectName().startsWith(QLatin1String("qt_")))
+            continue; // insides of Qt's own widgets
+        for (const QString &text : ownTexts(widget))
+            if (!text.isEmpty())
+                texts << widget->objectName() + QStringLiteral(": ") + text;
+    }
+    return texts;
+}
+
+/// Both pages with a recipe whose layers show every kind of text.
+struct FilledPages : Pages
+{
+    explicit FilledPages(int frame)
+    {
+        orba::ModuleObject *stack = tree.addRecipe("R1");
+        palx::insertLayer(stack, -1, palx::kSheetPattern);
+        palx::stacksNode()->announceStructure(); // the home page lists it anew
+        open("R1", frame);
+    }
+};
+
+/// Makes a failure of hundreds of texts readable.
+QStringList onlyInFirst(const QStringList &first, QStringList second)
+{
+    QStringList only;
+    for (const QString &text : first)
+        if (!second.removeOne(text))
+            only << text;
+    return only;
+}
+
+constexpr int kFrames = 6;
+
+} // namespace
+
+class LanguageChange : public testing::TestWithParam<const char *>
+{
+};
+
+TEST_P(LanguageChange, ReachesEveryTextOfThePages)
+{
+    for (int frame = 0; frame < kFrames; ++frame) {
+        QStringList followed, fresh;
+        {
+            FilledPages pages(frame);
+            const Language chosen(GetParam());
+            followed = allTexts(&pages.center);
+        }
+        {
+            const Language chosen(GetParam());
+            FilledPages pages(frame);
+            fresh = allTexts(&pages.center);
+        }
+        EXPECT_GT(fresh.size(), 200);
+        EXPECT_EQ(onlyInFirst(followed, fresh), QStringList()) << "left over in frame " << frame;
+        EXPECT_EQ(onlyInFirst(fresh, followed), QStringList()) << "missing in frame " << frame;
+    }
+}
+
+TEST_P(LanguageChange, GoesBackToEnglish)
+{
+    FilledPages pages(0);
+    const QStringList before = allTexts(&pages.center);
+    Language::choose(GetParam());
+    EXPECT_GT(onlyInFirst(before, allTexts(&pages.center)).size(), 100);
+    Language::choose("");
+    EXPECT_EQ(onlyInFirst(before, allTexts(&pages.center)), QStringList());
+}
+
+/// No word of the sources is left, except names that belong to the data.
+TEST_P(LanguageChange, LeavesNoEnglishWord)
+{
+    const Language chosen(GetParam());
+    static const QRegularExpression word(QStringLiteral("[A-Za-z]{3,}"));
+    for (int frame = 0; frame < kFrames; ++frame) {
+        FilledPages pages(frame);
+        for (const QString &text : allTexts(&pages.center)) {
+            if (text.startsWith(QLatin1String("cmbSpecification: ")))
+                continue; // the names of the pallet presets are data
+            const QString shown = text.mid(text.indexOf(QLatin1String(": ")) + 2);
+            EXPECT_FALSE(shown.contains(word)) << text;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, LanguageChange, testing::Values("ru", "cn", "jp", "kr"),
+                         [](const auto &each) { return std::string(each.param); });

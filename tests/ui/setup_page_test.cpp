@@ -1,0 +1,544 @@
+#include "ui/stacksetuppage.h"
+
+#include "orba/managers.h"
+#include "stack/recipe_edit.h"
+#include "support/recipe_tree.h"
+#include "support/test_support.h"
+#include "ui/current_recipe.h"
+#include "ui/layers_frame.h"
+#include "ui/message_bar.h"
+#include "ui/page_fixture.h"
+#include "ui/patterns_frame.h"
+#include "ui/plan_view.h"
+#include "ui/point_group.h"
+#include "ui/point_table_model.h"
+#include "workstation/plugin_node.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+
+using orba::ModuleObject;
+
+namespace {
+
+enum Frame { Product, Pallet, Patterns, Layers, Waypoints, Points };
+
+/// The set-up page with one recipe open.
+struct SetupPage : Pages
+{
+    explicit SetupPage(int frame = Product)
+    {
+        tree.addRecipe("Box");
+        open("Box", frame);
+    }
+    ModuleObject *stack() const { return setup->stack(); }
+    template <typename T> T *at(int frame, const char *name) const
+    {
+        T *found = setup->frames().at(frame)->findChild<T *>(QLatin1String(name));
+        if (!found)
+            ADD_FAILURE() << "no field " << name;
+        return found;
+    }
+    void click(int frame, const char *name) const { at<QPushButton>(frame, name)->click(); }
+    void choose(int frame, const char *name, const QVariant &data) const
+    {
+        auto *combo = at<QComboBox>(frame, name);
+        combo->setCurrentIndex(combo->findData(data));
+        Q_EMIT combo->activated(combo->currentIndex());
+    }
+    QString message() const { return setup->wgt()->findChild<MessageBar *>()->text(); }
+    bool hasUndo() const
+    {
+        return setup->wgt()->findChild<QPushButton *>(QStringLiteral("btnUndo"))->isEnabled();
+    }
+};
+
+QString patternsOf(const ModuleObject *stack)
+{
+    QString names;
+    for (int i = 0; i < stack->r("layers")->cmobjCount(); ++i)
+        names += stack->getString(QStringLiteral("layers.#%1.pattern").arg(i)).left(1);
+    return names;
+}
+
+} // namespace
+
+TEST(SetupPage, RegistersItsVersion)
+{
+    EXPECT_EQ(orba::versionManager().create(QStringLiteral("palx_workstation.stack.page")), 14);
+}
+
+TEST(SetupPage, EveryNumberFieldWritesItsOwnNode)
+{
+    const struct
+    {
+        int frame;
+        const char *field;
+        const char *path;
+    } cases[] = {
+        {Product, "spnLength", "product_cfg.product.length"},
+        {Product, "spnWidth", "product_cfg.product.width"},
+        {Product, "spnHeight", "product_cfg.product.height"},
+        {Product, "spnWeight", "product_cfg.product.weight"},
+        {Product, "spnDx", "product_cfg.product.dx"},
+        {Product, "spnDy", "product_cfg.product.dy"},
+        {Product, "spnDz", "product_cfg.product.dz"},
+        {Pallet, "spnLength", "product_cfg.pallet.length"},
+        {Pallet, "spnWidth", "product_cfg.pallet.width"},
+        {Pallet, "spnHeight", "product_cfg.pallet.height"},
+        {Pallet, "spnWeight", "product_cfg.pallet.weight"},
+        {Pallet, "spnSheetLength", "product_cfg.clapboard.length"},
+        {Pallet, "spnSheetWidth", "product_cfg.clapboard.width"},
+        {Pallet, "spnSheetHeight", "product_cfg.clapboard.height"},
+        {Pallet, "spnSheetWeight", "product_cfg.clapboard.weight"},
+        {Pallet, "spnLeft", "wobj_margin.left"},
+        {Pallet, "spnRight", "wobj_margin.right"},
+        {Pallet, "spnTop", "wobj_margin.top"},
+        {Pallet, "spnBottom", "wobj_margin.bottom"},
+        {Pallet, "spnBollard", "bollard.height"},
+        {Patterns, "spnX", "patterns.A.#0.x"},
+        {Patterns, "spnY", "patterns.A.#0.y"},
+        {Patterns, "spnDx", "patterns.A.#0.dx"},
+        {Patterns, "spnDy", "patterns.A.#0.dy"},
+        {Patterns, "spnDz", "patterns.A.#0.dz"},
+        {Layers, "spnOffset", "layers.#0.h_offset"},
+        {Waypoints, "spnPutReady", "put.ready_h"},
+        {Waypoints, "spnPutApproach", "put.approach_h"},
+        {Waypoints, "spnPutRetract", "put.retract_h"},
+        {Waypoints, "spnPutExit", "put.exit_h"},
+        {Waypoints, "spnGetReady", "get.ready_h"},
+        {Waypoints, "spnGetApproach", "get.approach_h"},
+        {Waypoints, "spnGetRetract", "get.retract_h"},
+        {Waypoints, "spnLeftEnterX", "put.left_offsets.enter_x"},
+        {Waypoints, "spnLeftExitH", "put.left_offsets.exit_h"},
+        {Waypoints, "spnRightEnterY", "put.right_offsets.enter_y"},
+        {Waypoints, "spnRightReadyH", "put.right_offsets.ready_h"},
+    };
+    SetupPage page;
+    for (const auto &c : cases) {
+        page.setup->showFrame(c.frame);
+        const orba::Node before = palx::recipeContent(page.stack()->node());
+        enter(page.at<QDoubleSpinBox>(c.frame, c.field), 77.0);
+        orba::Node expected = before;
+        expected.find(orba::Path(c.path))->setInt(77);
+        EXPECT_EQ(palx::recipeContent(page.stack()->node()), expected) << c.field;
+        page.setup->undo();
+        EXPECT_EQ(palx::recipeContent(page.stack()->node()), before) << c.field;
+        EXPECT_NE(page.at<QDoubleSpinBox>(c.frame, c.field)->value(), 77) << c.field;
+    }
+}
+
+TEST(SetupPage, ChoicesReachTheirNodes)
+{
+    SetupPage page;
+    page.choose(Product, "cmbDirection", QStringLiteral("TopLeft"));
+    EXPECT_EQ(page.stack()->getString("product_cfg.product.direction"), QStringLiteral("TopLeft"));
+    enter(page.at<QSpinBox>(Product, "spnOrient"), 2);
+    EXPECT_EQ(page.stack()->getInt("product_cfg.product.orient"), 2);
+    page.choose(Pallet, "cmbPosition", 1);
+    EXPECT_EQ(page.stack()->getInt("pallet_position"), 1);
+    page.at<QCheckBox>(Pallet, "chkSheet")->click();
+    page.at<QCheckBox>(Pallet, "chkBollard")->click();
+    page.at<QCheckBox>(Pallet, "chkGlobalTool")->click();
+    page.at<QCheckBox>(Pallet, "chkGlobalWobj")->click();
+    for (const char *path :
+         {"product_cfg.clapboard.enabled", "bollard.enabled", "use_global_tool", "use_global_wobj"})
+        EXPECT_TRUE(page.stack()->getBool(path)) << path;
+    page.choose(Layers, "cmbPattern", QStringLiteral("clapboard"));
+    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("cB"));
+    auto *desc = page.at<QLineEdit>(Product, "edtDesc");
+    desc->setText(QStringLiteral("bottles"));
+    Q_EMIT desc->editingFinished();
+    EXPECT_EQ(page.stack()->getString("desc"), QStringLiteral("bottles"));
+}
+
+TEST(SetupPage, OpeningRepairsAndFillsUpARecipe)
+{
+    Pages pages;
+    ModuleObject *stack = pages.tree.addRecipe("Old");
+    stack->set(nullptr, "product_cfg.product.length", -5);
+    stack->r("wobj_margin")->remove();
+    pages.open("Old");
+    EXPECT_EQ(stack->getDouble("product_cfg.product.length"), 200);
+    EXPECT_TRUE(stack->has("wobj_margin.top"));
+    EXPECT_TRUE(stack->has("put.left_offsets.exit_h"));
+    EXPECT_FALSE(pages.setup->wgt()->findChild<QPushButton *>(QStringLiteral("btnUndo"))->isEnabled());
+}
+
+TEST(SetupPage, UndoAndRedoWalkThroughManyEdits)
+{
+    SetupPage page;
+    auto *length = page.at<QDoubleSpinBox>(Product, "spnLength");
+    std::vector<orba::Node> states{palx::recipeContent(page.stack()->node())};
+    for (int i = 1; i <= 25; ++i) {
+        enter(length, 200.0 + i);
+        states.push_back(palx::recipeContent(page.stack()->node()));
+    }
+    for (int i = 24; i >= 0; --i) {
+        page.setup->undo();
+        EXPECT_EQ(palx::recipeContent(page.stack()->node()), states[std::size_t(i)]);
+        EXPECT_EQ(length->value(), 200.0 + i);
+    }
+    EXPECT_FALSE(page.hasUndo());
+    page.setup->undo(); // nothing left
+    for (std::size_t i = 1; i <= 25; ++i) {
+        page.setup->redo();
+        EXPECT_EQ(palx::recipeContent(page.stack()->node()), states[i]);
+    }
+    page.setup->undo();
+    enter(length, 999.0);
+    page.setup->redo(); // an edit ends what could be repeated
+    EXPECT_EQ(length->value(), 999);
+}
+
+TEST(SetupPage, UndoOfLayersAndPatternsShowsThemAgain)
+{
+    SetupPage page(Layers);
+    auto *table = page.at<QTableView>(Layers, "tblLayers");
+    page.click(Layers, "btnAdd");
+    page.click(Layers, "btnAdd");
+    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("ABAB"));
+    page.setup->undo();
+    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("ABA"));
+    EXPECT_EQ(table->model()->rowCount(), 3);
+    page.setup->showFrame(Patterns);
+    ScriptedPresenter presenter({true});
+    page.click(Patterns, "btnDelete");
+    EXPECT_FALSE(page.stack()->has("patterns.A"));
+    page.setup->undo();
+    EXPECT_TRUE(page.stack()->has("patterns.A"));
+    EXPECT_EQ(page.at<QComboBox>(Patterns, "cmbPattern")->count(), 2);
+}
+
+TEST(SetupPage, AFieldInEditCountsBeforeUndo)
+{
+    SetupPage page;
+    auto *length = page.at<QDoubleSpinBox>(Product, "spnLength");
+    page.center.activateWindow();
+    length->setFocus();
+    ASSERT_TRUE(waitUntil([&] { return length->hasFocus(); }));
+    length->selectAll();
+    QTest::keyClicks(length, QStringLiteral("321"));
+    page.setup->undo();
+    EXPECT_EQ(page.stack()->getDouble("product_cfg.product.length"), 200);
+    page.setup->redo();
+    EXPECT_EQ(page.stack()->getDouble("product_cfg.product.length"), 321);
+}
+
+TEST(SetupPage, APresetWritesTheSizeAndAnOwnSizeLeavesIt)
+{
+    SetupPage page(Pallet);
+    auto *preset = page.at<QComboBox>(Pallet, "cmbSpecification");
+    ASSERT_EQ(preset->count(), 8);
+    EXPECT_EQ(preset->currentIndex(), 0); // 1000 x 800 is nobody's
+    preset->setCurrentIndex(5);
+    Q_EMIT preset->activated(5);
+    EXPECT_EQ(page.stack()->getDouble("product_cfg.pallet.length"), 1200);
+    EXPECT_EQ(page.stack()->getDouble("product_cfg.pallet.width"), 800);
+    EXPECT_EQ(page.stack()->getInt("product_cfg.pallet.specification"), 5);
+    EXPECT_EQ(page.at<QDoubleSpinBox>(Pallet, "spnLength")->value(), 1200);
+    enter(page.at<QDoubleSpinBox>(Pallet, "spnLength"), 1199.0);
+    EXPECT_EQ(page.stack()->getInt("product_cfg.pallet.specification"), 0);
+    EXPECT_EQ(preset->currentIndex(), 0);
+    page.setup->undo();
+    EXPECT_EQ(preset->currentIndex(), 5);
+}
+
+TEST(SetupPage, RefusesMarginsWithoutRoomAndSaysWhy)
+{
+    SetupPage page(Pallet);
+    const orba::Node before = page.stack()->node();
+    enter(page.at<QDoubleSpinBox>(Pallet, "spnLeft"), 700.0);
+    EXPECT_EQ(page.stack()->node(), before);
+    EXPECT_NE(page.message(), QString());
+    enter(page.at<QDoubleSpinBox>(Pallet, "spnLeft"), 70.0);
+    EXPECT_EQ(page.message(), QString());
+    EXPECT_EQ(page.stack()->getDouble("wobj_margin.left"), 70);
+}
+
+TEST(SetupPage, ASmallerPalletResetsMarginsInOneStep)
+{
+    SetupPage page(Pallet);
+    enter(page.at<QDoubleSpinBox>(Pallet, "spnLeft"), 500.0);
+    const orba::Node before = palx::recipeContent(page.stack()->node());
+    TriggerCount resets("reset_margin_data");
+    enter(page.at<QDoubleSpinBox>(Pallet, "spnWidth"), 600.0);
+    EXPECT_EQ(page.stack()->getDouble("wobj_margin.left"), 0);
+    EXPECT_EQ(resets.take(), 1);
+    EXPECT_NE(page.message(), QString());
+    page.setup->undo();
+    EXPECT_EQ(palx::recipeContent(page.stack()->node()), before);
+}
+
+TEST(SetupPage, TellsOthersWhatWasChanged)
+{
+    const struct
+    {
+        int frame;
+        const char *field;
+        int data, pallet, margin;
+    } cases[] = {{Product, "spnHeight", 1, 0, 0},
+                 {Pallet, "spnWeight", 0, 1, 0},
+                 {Pallet, "spnTop", 0, 0, 1},
+                 {Waypoints, "spnPutExit", 1, 0, 0},
+                 {Layers, "spnOffset", 0, 0, 0}};
+    SetupPage page;
+    TriggerCount data("refresh_data");
+    TriggerCount pallet("refresh_pallet_data");
+    TriggerCount margin("refresh_margin_data");
+    for (const auto &c : cases) {
+        page.setup->showFrame(c.frame);
+        enter(page.at<QDoubleSpinBox>(c.frame, c.field), 12.0);
+        EXPECT_EQ(data.take(), c.data) << c.field;
+        EXPECT_EQ(pallet.take(), c.pallet) << c.field;
+        EXPECT_EQ(margin.take(), c.margin) << c.field;
+        page.setup->undo();
+        EXPECT_EQ(data.take() + pallet.take() + margin.take(), c.data + c.pallet + c.margin) << c.field;
+    }
+}
+
+TEST(SetupPage, LeavingAnEditedFrameMakesThePointsAnew)
+{
+    SetupPage page;
+    page.stack()->r("points.put")->clear();
+    page.setup->showFrame(Pallet);
+    EXPECT_EQ(page.stack()->r("points.put")->cmobjCount(), 0); // nothing was edited
+    page.setup->showFrame(Product);
+    enter(page.at<QDoubleSpinBox>(Product, "spnHeight"), 123.0);
+    page.setup->showFrame(Layers);
+    EXPECT_GT(page.stack()->r("points.put")->cmobjCount(), 0);
+    page.setup->undo(); // takes back the height, not what was computed
+    EXPECT_NE(page.stack()->getDouble("product_cfg.product.height"), 123.0);
+    EXPECT_FALSE(page.setup->wgt()->findChild<QPushButton *>(QStringLiteral("btnUndo"))->isEnabled());
+}
+
+TEST(SetupPage, LeavingTheRecipeRefreshesTheTable)
+{
+    SetupPage page;
+    page.tree.addRecipe("Bag");
+    TriggerCount table("refresh_table");
+    page.setup->wgt()->findChild<QPushButton *>(QStringLiteral("btnBack"))->click();
+    EXPECT_EQ(page.center.currentPage(), QStringLiteral("palx_workstation.home_page"));
+    EXPECT_EQ(table.take(), 1);
+    page.open("Bag");
+    EXPECT_EQ(table.take(), 1); // "Box" was left for good
+    EXPECT_EQ(page.stack()->getString("name"), QStringLiteral("Bag"));
+}
+
+TEST(SetupPage, SwitchesRecipesByTheirBox)
+{
+    SetupPage page;
+    page.tree.addRecipe("Bag");
+    enter(page.at<QDoubleSpinBox>(Product, "spnLength"), 333.0);
+    auto *recipes = page.setup->wgt()->findChild<QComboBox *>(QStringLiteral("cmbRecipe"));
+    ASSERT_EQ(recipes->count(), 2);
+    recipes->setCurrentIndex(1);
+    Q_EMIT recipes->activated(1);
+    EXPECT_EQ(page.stack()->getString("name"), QStringLiteral("Bag"));
+    EXPECT_EQ(currentRecipe(&page.module)->value(), QStringLiteral("Bag"));
+    EXPECT_FALSE(page.hasUndo());
+    EXPECT_EQ(page.at<QDoubleSpinBox>(Product, "spnLength")->value(), 200);
+    EXPECT_EQ(palx::getStack(QStringLiteral("Box"))->getDouble("product_cfg.product.length"), 333);
+}
+
+TEST(SetupPage, ARecipeThatEndsClosesThePage)
+{
+    for (int frame = Product; frame <= Points; ++frame) {
+        SetupPage page(frame);
+        page.stack()->remove();
+        EXPECT_EQ(page.stack(), nullptr);
+        EXPECT_TRUE(page.setup->wgt()->findChild<QLabel *>(QStringLiteral("lblNone"))->isVisible());
+        page.setup->undo();
+        QCoreApplication::processEvents();
+    }
+}
+
+TEST(PatternsFrame, ItemsAreAddedMovedAndRemoved)
+{
+    SetupPage page(Patterns);
+    page.click(Patterns, "btnAddItem");
+    EXPECT_EQ(page.stack()->r("patterns.A")->cmobjCount(), 3);
+    EXPECT_EQ(page.at<QDoubleSpinBox>(Patterns, "spnX")->value(), 375);
+    page.click(Patterns, "btnUpItem");
+    EXPECT_EQ(page.stack()->getDouble("patterns.A.#1.x"), 375);
+    page.click(Patterns, "btnRemoveItem");
+    EXPECT_EQ(page.stack()->r("patterns.A")->cmobjCount(), 2);
+    EXPECT_EQ(page.at<QTableView>(Patterns, "tblItems")->model()->rowCount(), 2);
+}
+
+TEST(PatternsFrame, SaysWhatCollides)
+{
+    SetupPage page(Patterns);
+    auto *problems = page.at<QLabel>(Patterns, "lblProblems");
+    EXPECT_FALSE(problems->isVisible());
+    enter(page.at<QDoubleSpinBox>(Patterns, "spnX"), 100.0);
+    EXPECT_TRUE(problems->text().contains(QStringLiteral("Products 1 and 2 overlap by 25.0 mm")))
+        << problems->text();
+    enter(page.at<QDoubleSpinBox>(Patterns, "spnX"), 50.0);
+    EXPECT_TRUE(problems->text().contains(QStringLiteral("Product 1 reaches 25.0 mm"))) << problems->text();
+}
+
+TEST(PatternsFrame, OffersTheSizeOfAChangedProduct)
+{
+    SetupPage page(Patterns);
+    auto *resize = page.at<QPushButton>(Patterns, "btnResize");
+    EXPECT_FALSE(resize->isVisible());
+    enter(page.at<QDoubleSpinBox>(Product, "spnLength"), 180.0);
+    EXPECT_TRUE(resize->isVisible());
+    resize->click();
+    EXPECT_EQ(page.stack()->getInt("patterns.A.#1.h"), 180);
+    EXPECT_EQ(page.stack()->getInt("patterns.B.#0.h"), 200); // another pattern is another decision
+    EXPECT_FALSE(resize->isVisible());
+}
+
+TEST(PatternsFrame, TouchingAProductOnThePlanChoosesIt)
+{
+    SetupPage page(Patterns);
+    auto *view = page.at<PlanView>(Patterns, "view");
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->mapFromScene(225, 100));
+    EXPECT_EQ(page.at<QDoubleSpinBox>(Patterns, "spnX")->value(), 225);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      view->mapFromScene(600, 900)); // bare pallet
+    EXPECT_EQ(page.at<QDoubleSpinBox>(Patterns, "spnX")->value(), 225);
+}
+
+TEST(LayersFrame, EditsTheSequence)
+{
+    SetupPage page(Layers);
+    auto *frame = static_cast<LayersFrame *>(page.setup->frames().at(Layers));
+    page.click(Layers, "btnRepeat");
+    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("ABAB"));
+    frame->chooseLayer(0);
+    page.click(Layers, "btnDown");
+    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("BAAB"));
+    EXPECT_EQ(frame->layer(), 1);
+    page.click(Layers, "btnRemove");
+    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("BAB"));
+    page.click(Layers, "btnInsert");
+    EXPECT_EQ(page.stack()->r("layers")->cmobjCount(), 4);
+}
+
+TEST(LayersFrame, SaysWhatIsWrongWithTheSequence)
+{
+    SetupPage page(Layers);
+    auto *problems = page.at<QLabel>(Layers, "lblProblems");
+    EXPECT_FALSE(problems->isVisible());
+    page.choose(Layers, "cmbPattern", QStringLiteral("empty")); // below layer 2
+    EXPECT_TRUE(problems->isVisible());
+    EXPECT_TRUE(problems->text().contains(QStringLiteral("Layer 2"))) << problems->text();
+}
+
+TEST(WaypointsFrame, PointsAreShownAndWrittenInMillimetresAndDegrees)
+{
+    SetupPage page(Waypoints);
+    auto *group = page.at<PointGroup>(Waypoints, "grpPutPoint");
+    auto *x = group->findChild<QDoubleSpinBox *>(QStringLiteral("dspnX"));
+    auto *c = group->findChild<QDoubleSpinBox *>(QStringLiteral("dspnC"));
+    EXPECT_DOUBLE_EQ(x->value(), 500);
+    const orba::Node before = page.stack()->node();
+    Q_EMIT x->editingFinished(); // a visit
+    EXPECT_EQ(page.stack()->node(), before);
+    enter(x, 600.0);
+    enter(c, 90.0);
+    EXPECT_DOUBLE_EQ(page.stack()->getDouble("put.put_p.trans.#0"), 0.6);
+    EXPECT_NEAR(page.stack()->getDouble("put.put_p.rot.#2"), 1.5707963, 1e-7);
+    page.setup->undo();
+    page.setup->undo();
+    EXPECT_EQ(palx::recipeContent(page.stack()->node()), palx::recipeContent(before));
+    EXPECT_DOUBLE_EQ(x->value(), 500);
+}
+
+TEST(WaypointsFrame, AnUntaughtPointIsMadeAndCleared)
+{
+    SetupPage page(Waypoints);
+    auto *group = page.at<PointGroup>(Waypoints, "grpPutEnter");
+    auto *x = group->findChild<QDoubleSpinBox *>(QStringLiteral("dspnX"));
+    group->findChild<QPushButton *>(QStringLiteral("btnClear"))->click();
+    EXPECT_TRUE(page.stack()->r("put.enter_p")->isNull());
+    EXPECT_FALSE(x->isEnabled());
+    EXPECT_EQ(x->value(), 0);
+    group->findChild<QPushButton *>(QStringLiteral("btnMake"))->click();
+    EXPECT_EQ(page.stack()->r("put.enter_p.conf")->cmobjCount(), 8);
+    enter(x, 10.0);
+    EXPECT_DOUBLE_EQ(page.stack()->getDouble("put.enter_p.trans.#0"), 0.01);
+    for (int i = 0; i < 3; ++i)
+        page.setup->undo();
+    EXPECT_DOUBLE_EQ(x->value(), 500);
+}
+
+TEST(WaypointsFrame, WhatSharedSettingsTakeOverIsNotEdited)
+{
+    SetupPage page(Waypoints);
+    applyPaths(palx::pluginNode()->node(), R"({
+        "global_wobj": [{"calibration_method": 1}, {"calibration_method": 1}],
+        "global_tool": [{}, {}, {}, {"waypoint_settings": {"put": {"left_offsets": {"enter_x": 31}}}}]})");
+    page.stack()->set(nullptr, "use_global_wobj", true);
+    page.stack()->set(nullptr, "use_global_tool", true);
+    page.setup->pageDateRefresh();
+    TriggerCount data("refresh_data");
+    EXPECT_FALSE(page.at<QDoubleSpinBox>(Waypoints, "spnPutReady")->isEnabled());
+    EXPECT_FALSE(page.at<QDoubleSpinBox>(Waypoints, "spnGetApproach")->isEnabled());
+    EXPECT_TRUE(page.at<QDoubleSpinBox>(Waypoints, "spnGetReady")->isEnabled());
+    EXPECT_FALSE(page.at<PointGroup>(Waypoints, "grpGetPoint")->findChild<QDoubleSpinBox *>()->isEnabled());
+    auto *offset = page.at<QDoubleSpinBox>(Waypoints, "spnLeftEnterX");
+    EXPECT_EQ(offset->value(), 31);
+    enter(offset, 32.0);
+    EXPECT_EQ(palx::pluginNode()->getDouble("global_tool.#3.waypoint_settings.put.left_offsets.enter_x"), 32);
+    EXPECT_EQ(data.take(), 1);
+}
+
+TEST(PointsFrame, GeneratesListsFiltersAndCopies)
+{
+    SetupPage page(Points);
+    auto *table = page.at<QTableView>(Points, "tblPoints");
+    auto *state = page.at<QLabel>(Points, "lblState");
+    EXPECT_EQ(table->model()->rowCount(), 0);
+    page.click(Points, "btnGenerate");
+    EXPECT_EQ(table->model()->rowCount(), 5 + 3 * 6);
+    EXPECT_EQ(state->text(), QStringLiteral("The points are up to date."));
+    page.choose(Points, "cmbLayer", 1);
+    page.choose(Points, "cmbPoint", QStringLiteral("put_p"));
+    ASSERT_EQ(table->model()->rowCount(), 1);
+    ScriptedPresenter presenter;
+    page.click(Points, "btnCopy");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              QStringLiteral("Layer\tItem\tPoint\tX mm\tY mm\tZ mm\tA \u00b0\tB \u00b0\tC \u00b0\n"
+                             "2\t1\tPlace\t100.00\t75.00\t225.00\t171.887\t28.648\t-90.000\n"));
+    EXPECT_EQ(presenter.notices.size(), 1);
+}
+
+TEST(PointsFrame, SaysWhenPointsAreOutOfDate)
+{
+    SetupPage page(Points);
+    page.click(Points, "btnGenerate");
+    enter(page.at<QDoubleSpinBox>(Product, "spnHeight"), 111.0);
+    auto *state = page.at<QLabel>(Points, "lblState");
+    EXPECT_TRUE(state->text().contains(QStringLiteral("generate"))) << state->text();
+    page.setup->undo();
+    EXPECT_EQ(state->text(), QStringLiteral("The points are up to date."));
+    page.stack()->r("put.put_p")->copyFrom(orba::Node());
+    page.setup->pageDateRefresh();
+    EXPECT_TRUE(state->text().contains(QStringLiteral("not taught"))) << state->text();
+}
+
+TEST(PointsFrame, UndoTakesBackWhatGenerationDidToTheRecipe)
+{
+    SetupPage page(Points);
+    page.stack()->set(nullptr, "layers.#1.pattern", QStringLiteral("empty"));
+    page.setup->pageDateRefresh();
+    page.click(Points, "btnGenerate");
+    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("A"));
+    page.setup->undo();
+    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("Ae"));
+}

@@ -1,0 +1,255 @@
+#include "workstation/controller_sync.h"
+
+#include "link/fake_controller.h"
+#include "orba/module_manager.h"
+#include "orba/tree_registry.h"
+#include "workstation/config_log.h"
+#include "workstation/plugin_node.h"
+
+#include <QSignalSpy>
+#include <QThreadPool>
+
+using host::LinkMessage;
+using orba::ModuleObject;
+using orba::Node;
+using Kind = LinkMessage::Kind;
+
+namespace {
+
+/// A plugin node in its place and a controller that answers everything.
+class SyncTest : public LinkTest
+{
+protected:
+    void SetUp() override
+    {
+        LinkTest::SetUp();
+        Node *tree = orba::TreeRegistry::instance().addModule(palx::getPluginName());
+        ASSERT_TRUE(orba::ModuleManager::readFromJson(
+            QStringLiteral(":/palx_workstation/template/palx_workstation.json"), tree));
+        connectLink();
+    }
+    void TearDown() override { orba::TreeRegistry::instance().removeModule(palx::getPluginName()); }
+
+    /// The requests since the last call.
+    std::vector<LinkMessage> takeRequests()
+    {
+        std::vector<LinkMessage> requests;
+        for (const LinkMessage &message : controller.seen)
+            if (message.kind == Kind::Request)
+                requests.push_back(message);
+        controller.seen.clear();
+        return requests;
+    }
+    /// The only request since the last call.
+    LinkMessage takeRequest()
+    {
+        const auto requests = takeRequests();
+        EXPECT_EQ(requests.size(), 1u);
+        return requests.empty() ? LinkMessage() : requests.front();
+    }
+    void answerWith(int value)
+    {
+        controller.onMessage = [this, value](const LinkMessage &message) {
+            if (message.kind != Kind::Request)
+                return false;
+            LinkMessage reply;
+            reply.kind = Kind::Reply;
+            reply.id = message.id;
+            reply.payload.setInt(value);
+            controller.send(reply);
+            return true;
+        };
+    }
+    void setGlobals(const char *json)
+    {
+        palx::pluginNode()->c("global_tool")->copyFrom(nodeFromJson(json));
+    }
+};
+
+const char *const kGlobalTool = R"([{"name":"PalletTool1","frame":{"pos":{"x":0.1,"y":0.2,"z":0.3}},
+  "load":{"mass":12.5,"moment":[1,2,3],"pose":{"pos":{"x":0.4,"y":0.5,"z":0.6},
+          "ori":{"euler":{"a":0.7,"b":0.8,"c":0.9}}}}}])";
+
+TEST_F(SyncTest, OneStackGoesAsItStands)
+{
+    ModuleObject *stack = palx::addStack(QStringLiteral("A"), QString());
+    palx::saveToRC(stack);
+    const LinkMessage request = takeRequest();
+    EXPECT_EQ(request.name, QStringLiteral("pallet.set.one"));
+    EXPECT_EQ(request.payload, stack->node());
+}
+
+TEST_F(SyncTest, OnlyTheSynchronousFormRefreshesTheTable)
+{
+    palx::addStack(QStringLiteral("A"), QString());
+    palx::addStack(QStringLiteral("B"), QString());
+    QSignalSpy refreshed(palx::triggerNode()->c("refresh_table"), &ModuleObject::changed);
+    const Node before(palx::stacksNode()->node());
+    palx::saveAllToRC(true);
+    palx::stacksNode()->cmobj(0)->remove(); // editing goes on while the task sends
+    QThreadPool::globalInstance()->waitForDone();
+    settle();
+    LinkMessage request = takeRequest();
+    EXPECT_EQ(request.name, QStringLiteral("pallet.data"));
+    EXPECT_EQ(request.payload, before);
+    EXPECT_EQ(refreshed.count(), 0);
+
+    palx::saveAllToRC(false);
+    request = takeRequest();
+    EXPECT_EQ(request.payload.size(), 1);
+    EXPECT_EQ(refreshed.count(), 1);
+}
+
+TEST_F(SyncTest, GeneratingRecordsOnRequestAndThenSends)
+{
+    ModuleObject *stack = palx::addStack(QStringLiteral("A"), QString());
+    takeRecords();
+    palx::genPointsAndSaveToRC(stack, true);
+    EXPECT_EQ(takeRecords(), QStringList(QStringLiteral("warning: The way points have regenerated!")));
+    EXPECT_TRUE(takeRequest().payload.has(u"get.retract_p"));
+    palx::genPointsAndSaveToRC(stack, false);
+    EXPECT_TRUE(takeRecords().isEmpty());
+}
+
+TEST_F(SyncTest, NameIsToldByIndex)
+{
+    palx::saveNameToRC(3, QStringLiteral("Box"), QStringLiteral("small"));
+    const LinkMessage request = takeRequest();
+    EXPECT_EQ(request.name, QStringLiteral("pallet.set.name"));
+    EXPECT_EQ(request.payload, nodeFromJson(R"({"index":3,"name":"Box","desc":"small"})"));
+}
+
+TEST_F(SyncTest, VariablesAreTypedByTheProject)
+{
+    m("quill.project.var._list")->copyFrom(nodeFromJson(
+        R"([{"name":"count","type":"int","pers":"true"},{"name":"speed","type":"double","pers":true},
+            {"name":"on","type":"bool","pers":true},{"name":"plain","type":"int","pers":"false"},
+            {"name":"where","type":"robtarget","pers":true},{"name":"no.#1","type":"int","pers":1}])"));
+    struct {
+        const char *name, *value, *modify;
+    } const cases[] = {
+        {"count", "12", R"({"count":12})"},   {"count", "1.5", R"({"count":0})"}, {"count", "true", R"({"count":0})"},
+        {"speed", "1.5", R"({"speed":1.5})"}, {"speed", "x", R"({"speed":0.0})"}, {"on", "1", R"({"on":1})"},
+        {"on", "true", R"({"on":0})"},        {"plain", "1", "{}"},               {"where", "1", "{}"},
+        {"unknown", "1", "{}"},               {"no.#1", "4", R"({"no.#1":4})"},
+    };
+    settle();
+    for (const auto &one : cases) {
+        takeRequests();
+        palx::setValueOfPERSVar(QString::fromLatin1(one.name), QString::fromLatin1(one.value));
+        settle();
+        const LinkMessage request = takeRequest();
+        EXPECT_EQ(request.name, QStringLiteral("monitor.pers.modify"));
+        EXPECT_EQ(request.payload, nodeFromJson(one.modify)) << one.name << " = " << one.value;
+    }
+}
+
+TEST_F(SyncTest, VersionIsComparedFromItsStart)
+{
+    struct {
+        const char *version, *prefix;
+        bool matches;
+    } const cases[] = {{"2.3.0", "2.3", true}, {"2.30", "2.3", true}, {"2.4.1", "2.3", false}, {"V2.3", "2.3", false},
+                       {"", "2.3", false},     {"", "", true}};
+    for (const auto &one : cases) {
+        m("nexo.r.version")->set(nullptr, "", QString::fromLatin1(one.version));
+        EXPECT_EQ(palx::checkNexoVersion(QString::fromLatin1(one.prefix)), one.matches) << one.version;
+    }
+}
+
+TEST_F(SyncTest, GlobalToolBecomesTheActiveOne)
+{
+    EXPECT_FALSE(palx::switchToTool()); // there is none
+    setGlobals(kGlobalTool);
+    takeRequests();
+    answerWith(0);
+    EXPECT_TRUE(palx::switchToTool());
+    const LinkMessage request = takeRequest();
+    EXPECT_EQ(request.name, QStringLiteral("sys.toolset"));
+    EXPECT_EQ(request.payload, nodeFromJson(R"({"end":{"trans":[0.1,0.2,0.3],"rot":[0.7,0.8,0.9]},
+        "ref":{"trans":[0,0,0],"rot":[0,0,0]},
+        "load":{"cog":[0.4,0.5,0.6],"inertia":[1.0,2.0,3.0],"mass":12.5},"name":"PalletTool1"})"));
+    EXPECT_EQ(m("quill.toolpage.toolset")->getString(), QStringLiteral("PalletTool1"));
+    EXPECT_EQ(m("quill.body.toolset")->getString(), QString());
+}
+
+TEST_F(SyncTest, ARefusedToolChangesNothing)
+{
+    setGlobals(kGlobalTool);
+    answerWith(-2);
+    EXPECT_FALSE(palx::switchToTool());
+    EXPECT_EQ(m("quill.toolpage.toolset")->getString(), QString());
+    controller.onMessage = nullptr;
+    controller.breakWay("pulled");
+    settle();
+    EXPECT_FALSE(palx::switchToTool());
+}
+
+TEST_F(SyncTest, WithoutAToolPageTheBodyShowsTheTool)
+{
+    m("quill.toolpage")->remove();
+    setGlobals(kGlobalTool);
+    answerWith(1);
+    EXPECT_TRUE(palx::switchToTool());
+    EXPECT_EQ(m("quill.body.toolset")->getString(), QStringLiteral("PalletTool1"));
+}
+
+TEST_F(SyncTest, StacksToolsetGoesUnderItsName)
+{
+    setGlobals(kGlobalTool);
+    answerWith(0);
+    struct {
+        bool usesGlobal, useDefault, zeroReference, zeroEnd;
+        const char *name;
+    } const cases[] = {{false, false, false, false, "A"},
+                       {false, true, true, false, "default"},
+                       {true, true, false, true, "PalletTool1"},
+                       {true, false, true, true, "PalletTool1"}};
+    for (const auto &one : cases) {
+        palx::stacksNode()->clear();
+        ModuleObject *stack = palx::addStack(QStringLiteral("A"), QString());
+        stack->set(nullptr, "use_global_tool", one.usesGlobal);
+        ModuleObject *toolset = stack->c("toolset");
+        toolset->copyFrom(nodeFromJson(
+            R"({"end":{"trans":[1.0,2.0,3.0],"rot":[0.1,0.2,0.3]},"ref":{"trans":[4.0,5.0,6.0],"rot":[0.4,0.5,0.6]}})"));
+        const Node before(toolset->node());
+        takeRequests();
+        EXPECT_TRUE(palx::switchToToolset(toolset, one.zeroReference, one.zeroEnd, one.useDefault));
+        const LinkMessage request = takeRequest();
+        EXPECT_EQ(request.payload.getString(u"name"), QString::fromLatin1(one.name));
+        const Node zero = nodeFromJson(R"({"trans":[0,0,0],"rot":[0,0,0]})"); // whole numbers
+        EXPECT_EQ(*request.payload.find(u"ref"), one.zeroReference ? zero : *before.find(u"ref"));
+        EXPECT_EQ(*request.payload.find(u"end"), one.zeroEnd ? zero : *before.find(u"end"));
+        EXPECT_EQ(toolset->node(), before); // only the copy is zeroed
+    }
+    takeRequests();
+    EXPECT_FALSE(palx::switchToToolset(emptyMobj(), true, true, true));
+    EXPECT_TRUE(takeRequests().empty());
+}
+
+TEST_F(SyncTest, AnUntaughtToolsetIsSentAsZeros)
+{
+    answerWith(0);
+    ModuleObject *stack = palx::addStack(QStringLiteral("A"), QString());
+    EXPECT_TRUE(palx::switchToToolset(stack->c("toolset"), true, false, false));
+    EXPECT_EQ(takeRequests().back().payload.find(u"end.rot")->size(), 3);
+}
+
+TEST_F(SyncTest, EqualLogRecordsAreTwo)
+{
+    m("nexo.r.id")->set(nullptr, "", QStringLiteral("R1"));
+    const int before = m("quill.log.list")->cmobjCount();
+    QSignalSpy published(m("quill.log.current"), &ModuleObject::changed);
+    for (int i = 0; i < 2; ++i)
+        palx::recordCfgLog(QStringLiteral("same"), true);
+    palx::recordCfgLog(QStringLiteral("other"), false);
+    ASSERT_EQ(published.count(), 3);
+    const Node record = nodeFromJson(published[1][0].toString().toUtf8());
+    EXPECT_EQ(record.getString(u"level"), QStringLiteral("error"));
+    EXPECT_EQ(record.getString(u"rcid"), QStringLiteral("R1"));
+    EXPECT_EQ(record.getString(u"date_time").size(), 19);
+    EXPECT_EQ(nodeFromJson(published[2][0].toString().toUtf8()).getString(u"level"), QStringLiteral("warning"));
+    EXPECT_EQ(m("quill.log.list")->cmobjCount(), before + 3);
+}
+
+} // namespace

@@ -1,0 +1,171 @@
+#include "bwaf/bmodule.h"
+#include "nexo/setting_manager.h"
+#include "shell/host_session.h"
+#include "support/stderr_capture.h"
+#include "support/test_support.h"
+#include "workstation/jog_labels.h"
+#include "workstation/palx.h"
+#include "workstation/plugin_node.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString kName = QStringLiteral("palx_workstation");
+const QString kHomePage = QStringLiteral("palx_workstation.home_page");
+const QString kSetupPage = QStringLiteral("palx_workstation.setup_page");
+
+/// The plug-in driven by the host, in a temporary folder.
+class PalxEntry : public ::testing::Test
+{
+protected:
+    void start(bool pages)
+    {
+        host::SessionOptions options;
+        options.dataFolder = folder.path();
+        options.linkedPlugins = QStringList(kName);
+        options.pages = pages;
+        session = std::make_unique<host::HostSession>(options);
+        EXPECT_TRUE(session->start());
+        for (const host::Problem &problem : session->problems())
+            ADD_FAILURE() << problem.text();
+    }
+    QByteArray log() const
+    {
+        QFile file(folder.filePath(QStringLiteral("log/palx_workstation.log")));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir folder;
+    ScriptedPresenter presenter;
+    std::unique_ptr<host::HostSession> session;
+};
+
+} // namespace
+
+TEST(PalxLibrary, RegistersInOrderWhileItIsLoaded)
+{
+    QStringList lines;
+    for (const orba::Registration &entry : orba::registrations())
+        lines.append(entry.registry + QLatin1Char(' ') + entry.key);
+    EXPECT_EQ(lines, QStringList({QStringLiteral("bfactory palx_workstation"),
+                                  QStringLiteral("pluginManager palx_workstation"),
+                                  QStringLiteral("versionManager palx_workstation.stack.page"),
+                                  QStringLiteral("versionManager palx_workstation.wizard.patternscene"),
+                                  QStringLiteral("versionManager palx_workstation.wizard.patternscene")}));
+    EXPECT_EQ(orba::pluginManager().create(kName), 11);
+    EXPECT_EQ(orba::versionManager().create(QStringLiteral("palx_workstation.stack.page")), 14);
+    EXPECT_EQ(orba::versionManager().create(QStringLiteral("palx_workstation.wizard.patternscene")), 1);
+}
+
+TEST(PalxLibrary, TellsItsVersionAndInterface)
+{
+    EXPECT_EQ(palx_workstation::version(), QStringLiteral("2.0.10"));
+    EXPECT_EQ(palx_workstation::api(), orba_plugin_api());
+    EXPECT_EQ(palx_workstation::api()->abi, orba::kPluginAbi);
+    EXPECT_EQ(QString::fromLatin1(palx_workstation::api()->name), kName);
+}
+
+TEST(PalxLibrary, HasTheLabelsOfTheJogDialog)
+{
+    EXPECT_EQ(palx::joint_labels.join(QLatin1Char(' ')),
+              QString::fromUtf8("J1(°) J2(°) J3(°) J4(°) J5(°) J6(°) J7(°)"));
+    EXPECT_EQ(palx::cartesian_labels.join(QLatin1Char(' ')),
+              QString::fromUtf8("X(mm) Y(mm) Z(mm) A(°) B(°) C(°)"));
+    EXPECT_EQ(palx::jointLabels(), palx::joint_labels);
+    EXPECT_EQ(palx::cartesianLabels(), palx::cartesian_labels);
+}
+
+TEST_F(PalxEntry, ConstructionWritesOneLogLineAndBindsTheTree)
+{
+    {
+        const StderrCapture console;
+        start(false);
+    }
+    const QRegularExpression line(QStringLiteral(
+        "^\\[S\\|\\d\\d/\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3}\\] palx_workstation v 2\\.0\\.10\n$"));
+    EXPECT_TRUE(line.match(QString::fromUtf8(log())).hasMatch()) << log().constData();
+
+    bwaf::BModule *module = session->module(kName);
+    ASSERT_NE(module, nullptr);
+    EXPECT_NE(qobject_cast<Palx *>(module), nullptr);
+    EXPECT_EQ(module->name(), kName);
+    EXPECT_EQ(module->mobj(), palx::pluginNode());
+    EXPECT_EQ(module->mobj()->getString("version"), QStringLiteral("2.0.10"));
+    EXPECT_TRUE(nexo::ManagerHelper::instance()->qrcAliases().contains(kName));
+}
+
+TEST_F(PalxEntry, TheVersionIsStoredWithNotification)
+{
+    start(false);
+    QStringList told;
+    palx::pluginNode()->set(nullptr, "version", QStringLiteral("1.0.0"));
+    QObject::connect(m("palx.version"), &orba::ModuleObject::changed, m("palx.version"),
+                     [&told](const QVariant &value, const QVariant &, QObject *sender) {
+                         told.append(value.toString() + QLatin1Char(' ') +
+                                     QLatin1String(sender ? sender->metaObject()->className() : "nobody"));
+                     });
+    palx::pluginNode()->set(session->module(kName), "version", palx_workstation::version(), true);
+    EXPECT_EQ(told, QStringList(QStringLiteral("2.0.10 Palx")));
+}
+
+TEST_F(PalxEntry, InitRegistersOneNavigatorEntryAndNoPage)
+{
+    start(false);
+    EXPECT_EQ(nodeText(m("ix.nav")->node()), nodeText(nodeFromJson(R"([
+        {"title": "W-Palletizing", "category": "robot.pack", "icon": "", "order": -1,
+         "nav": "palx_workstation.home_page", "key": "pallet_workstation, maduo_workstation"}])")));
+    EXPECT_EQ(session->centerWidget(), nullptr);
+    EXPECT_TRUE(session->module(kName)->submodules().isEmpty());
+}
+
+TEST_F(PalxEntry, SetupMakesTheTwoPagesInOrder)
+{
+    start(true);
+    EXPECT_EQ(session->centerWidget()->pageKeys(), QStringList({kHomePage, kSetupPage}));
+    EXPECT_EQ(session->centerWidget()->currentPage(), kHomePage);
+    QStringList classes;
+    for (bwaf::BModule *page : session->module(kName)->submodules()) {
+        classes.append(QLatin1String(page->metaObject()->className()));
+        EXPECT_EQ(page->parentModule(), session->module(kName));
+        EXPECT_TRUE(session->centerWidget()->isAncestorOf(page->wgt()));
+    }
+    EXPECT_EQ(classes, QStringList({QStringLiteral("StackHomePage"), QStringLiteral("StackSetupPage")}));
+    session->render();
+    session->idle();
+    session->stop();
+    EXPECT_TRUE(palx::pluginNode()->isEmptyMobj());
+    EXPECT_TRUE(presenter.notices.isEmpty()) << presenter.notices.join(QLatin1Char('|'));
+}
+
+TEST_F(PalxEntry, StartsAgainInTheSameProcessAndKeepsItsRecipes)
+{
+    start(true);
+    palx::addStack(QStringLiteral("kept"), QString());
+    session.reset();
+    start(true);
+    EXPECT_TRUE(palx::hasStack(QStringLiteral("kept")));
+    EXPECT_EQ(palx::pluginNode()->getString("version"), QStringLiteral("2.0.10"));
+    EXPECT_EQ(m("ix.nav")->cmobjCount(), 1);
+}
+
+TEST_F(PalxEntry, TheNavigatorsTitleFollowsTheLanguage)
+{
+    start(true);
+    auto *settings = nexo::SettingManager::instance();
+    const QString kLanguage = QStringLiteral("language");
+    for (const char *language : {"ru", "cn", ""}) {
+        settings->setOverride(kLanguage, QLatin1String(language));
+        QCoreApplication::sendPostedEvents();
+        EXPECT_EQ(m("ix.nav")->cmobj(0)->getString("title"), Palx::tr("W-Palletizing")) << language;
+    }
+    EXPECT_EQ(m("ix.nav")->cmobj(0)->getString("title"), QStringLiteral("W-Palletizing"));
+    settings->setOverride(kLanguage, QStringLiteral("kr"));
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(m("ix.nav")->cmobj(0)->getString("title"), QString::fromUtf8("W-팔레타이징"));
+}
