@@ -37,6 +37,26 @@ QStringList loadExamples(const QStringList &files)
                                                 : palx::loadRecipeFiles(palx::pluginNode(), files);
 }
 
+/// Follows a change of language, which reaches the page that it watches: the navigator's entry is data that no widget
+/// translates. The entry ends with the module, and so does this.
+class EntryTitle : public QObject
+{
+    Q_OBJECT
+
+public:
+    EntryTitle(Palx *module, orba::ModuleObject *entry) : QObject(module), entry_(entry) {}
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::LanguageChange)
+            entry_->set(parent(), "title", Palx::tr("W-Palletizing"), true);
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    orba::ModuleObject *entry_;
+};
+
 } // namespace
 
 extern "C" const orba::PluginApi *orba_plugin_api()
@@ -78,9 +98,10 @@ QString Palx::name() const
 
 void Palx::init()
 {
-    entry_ = ix::xnav::registerPage(this, tr("W-Palletizing"), QStringLiteral("robot.pack"), QString());
-    entry_->set(this, "nav", pageKey("home_page"), true);
-    entry_->set(this, "key", QStringLiteral("pallet_workstation, maduo_workstation"), true);
+    auto *entry = ix::xnav::registerPage(this, tr("W-Palletizing"), QStringLiteral("robot.pack"), QString());
+    entry->set(this, "nav", pageKey("home_page"), true);
+    entry->set(this, "key", QStringLiteral("pallet_workstation, maduo_workstation"), true);
+    new EntryTitle(this, entry);
     new palx::HiddenProject(this);
 }
 
@@ -92,14 +113,9 @@ void Palx::setup()
     connect(homePage, &StackHomePage::reFreshPageDate, setupPage, &StackSetupPage::pageDateRefresh);
     addSubmodule(homePage);
     addSubmodule(setupPage);
-    homePage->wgt()->installEventFilter(this);
+    homePage->wgt()->installEventFilter(findChild<EntryTitle *>());
     center->addPage(homePage->wgt(), pageKey("home_page"));
     center->addPage(setupPage->wgt(), pageKey("setup_page"));
 }
 
-bool Palx::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        entry_->set(this, "title", tr("W-Palletizing"), true);
-    return BModule::eventFilter(watched, event);
-}
+#include "palx.moc"

@@ -15,11 +15,6 @@ public:
     QString name() const override;
     void init() override;
     void setup() override;
-    /// Follows a change of language: the navigator's entry is data that no widget translates.
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
-private:
-    orba::ModuleObject *entry_ = nullptr; ///< the navigator's entry; ends with this module
 };
 
 namespace palx_workstation {
