@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QScroller>
 #include <QTableView>
 
@@ -44,4 +45,14 @@ void setTouchScrolling(QAbstractScrollArea *area)
     properties.setScrollMetric(QScrollerProperties::HorizontalOvershootPolicy,
                                QScrollerProperties::OvershootAlwaysOff);
     QScroller::scroller(area->viewport())->setScrollerProperties(properties);
+}
+
+QWidget *scrollingForm(QWidget *form)
+{
+    auto *area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidget(form);
+    setTouchScrolling(area);
+    return area;
 }

@@ -13,3 +13,6 @@ void setFieldMargins(QWidget *form);
 
 /// Lets a finger move the contents; a mouse keeps its own ways.
 void setTouchScrolling(QAbstractScrollArea *area);
+
+/// A form in an area that scrolls on a small panel or when a language needs more room. Owns the form.
+QWidget *scrollingForm(QWidget *form);

@@ -5,6 +5,7 @@
 #include "stack/recipe_fields.h"
 #include "stack/recipe_layers.h"
 #include "stack/recipe_patterns.h"
+#include "stack/stack_check.h"
 #include "ui/form_style.h"
 #include "ui/recipe_texts.h"
 #include "ui_layers_frame.h"
@@ -86,6 +87,13 @@ void LayersFrame::refresh()
     showWarnings(ui_->lblProblems, stack() ? palx::layerProblems(stack()->node()) : QStringList());
     ui_->lblTotals->setText(stack() ? recipeTotalsText(stack()->node()) : QString());
     showLayer();
+}
+
+QString LayersFrame::blockingProblem() const
+{
+    return stack() && !palx::checkLayersName(stack()->r("layers"))
+               ? palx::layerProblems(stack()->node()).value(0)
+               : QString();
 }
 
 void LayersFrame::fillPatterns()

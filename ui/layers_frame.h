@@ -22,6 +22,7 @@ public:
     ~LayersFrame() override;
 
     void refresh() override;
+    QString blockingProblem() const override;
     int layer() const;
     void chooseLayer(int index);
 

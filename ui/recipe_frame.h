@@ -27,6 +27,8 @@ public:
     void setStack(orba::ModuleObject *stack);
     orba::ModuleObject *stack() const { return stack_; }
     virtual void refresh() = 0;
+    /// Why a wizard must not go on from this frame; empty when it may.
+    virtual QString blockingProblem() const { return QString(); }
 
 Q_SIGNALS:
     /// The operator changed the recipe in this frame.

@@ -10,7 +10,7 @@
 class PALX_API RecipeHistory
 {
 public:
-    static constexpr int kSteps = 40;
+    static constexpr int kSteps = 100;
 
     /// Forgets everything and takes the recipe as it is now; null: no recipe.
     void start(orba::ModuleObject *stack);

@@ -2,9 +2,6 @@
 
 #include "ix/xtheme.h"
 #include "orba/managers.h"
-#include "stack/recipe_edit.h"
-#include "stack/recipe_fields.h"
-#include "stack/stack_check.h"
 #include "ui/current_recipe.h"
 #include "ui/form_style.h"
 #include "ui/keypad.h"
@@ -15,12 +12,10 @@
 #include "ui/product_frame.h"
 #include "ui/waypoints_frame.h"
 #include "ui_stacksetuppage.h"
-#include "workstation/controller_sync.h"
 #include "workstation/plugin_node.h"
 
 #include <QEvent>
 #include <QKeySequence>
-#include <QScrollArea>
 #include <QShortcut>
 
 using ix::xtheme::Glyph;
@@ -38,34 +33,6 @@ const bool registered = orba::versionManager().regist(
 QString pageKey(const char *page)
 {
     return mName(palx::getPluginName(), QLatin1String(page));
-}
-
-void raise(const char *trigger)
-{
-    palx::triggerNode()->c(trigger)->trigger();
-}
-
-bool differs(const orba::Node &a, const orba::Node &b, std::initializer_list<const char *> paths)
-{
-    for (const char *path : paths) {
-        const orba::Path key(path);
-        const orba::Node *x = a.find(key);
-        const orba::Node *y = b.find(key);
-        if ((x && y) ? *x != *y : x != y)
-            return true;
-    }
-    return false;
-}
-
-/// A frame scrolls on a small panel or when a language needs more room; on the panel it is made for it fits.
-QScrollArea *scrolling(RecipeFrame *frame)
-{
-    auto *area = new QScrollArea;
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidget(frame);
-    setTouchScrolling(area);
-    return area;
 }
 
 } // namespace
@@ -104,7 +71,7 @@ void StackSetupPage::makeFrames()
     buttons_ = {ui_->btnProduct, ui_->btnPallet,    ui_->btnPatterns,
                 ui_->btnLayers,  ui_->btnWaypoints, ui_->btnPoints};
     for (int i = 0; i < frames_.size(); ++i) {
-        ui_->stkFrames->addWidget(scrolling(frames_[i]));
+        ui_->stkFrames->addWidget(scrollingForm(frames_[i]));
         connect(buttons_[i], &QAbstractButton::clicked, wgt_, [this, i] { showFrame(i); });
         connect(frames_[i], &RecipeFrame::edited, wgt_, [this] { onEdited(); });
         connect(frames_[i], &RecipeFrame::refused, wgt_,
@@ -132,7 +99,7 @@ void StackSetupPage::connectHeader()
 void StackSetupPage::showFrame(int index)
 {
     if (index != ui_->stkFrames->currentIndex())
-        saveEdits();
+        editing_.save();
     buttons_.value(index)->setChecked(true);
     ui_->stkFrames->setCurrentIndex(index);
 }
@@ -143,29 +110,25 @@ void StackSetupPage::pageDateRefresh()
     fillRecipes();
     if (stack->isEmptyMobj())
         setStack(nullptr);
-    else if (stack != stack_)
+    else if (stack != this->stack())
         setStack(stack);
     else {
-        history_.commit(); // what was changed elsewhere is a step of its own
+        editing_.takeOver();
         afterStep();
     }
 }
 
 void StackSetupPage::setStack(ModuleObject *stack)
 {
-    leaveRecipe();
-    if (stack_)
-        stack_->disconnect(wgt_);
-    stack_ = stack;
-    if (stack_) {
-        palx::checkProductPallet(stack_);
-        palx::ensureRecipeKeys(stack_, palx::pluginNode()->r("default")->node());
-        connect(stack_, &QObject::destroyed, wgt_, [this] { setStack(nullptr); });
-    }
-    history_.start(stack_);
+    editing_.leave();
+    if (editing_.stack())
+        editing_.stack()->disconnect(wgt_);
+    editing_.open(stack);
+    if (stack)
+        connect(stack, &QObject::destroyed, wgt_, [this] { setStack(nullptr); });
     for (RecipeFrame *frame : frames_)
-        frame->setStack(stack_);
-    ui_->stkPage->setCurrentWidget(stack_ ? ui_->pagRecipe : ui_->pagNone);
+        frame->setStack(stack);
+    ui_->stkPage->setCurrentWidget(stack ? ui_->pagRecipe : ui_->pagNone);
     ui_->message->clearMessage();
     fillRecipes();
     updateHeader();
@@ -177,41 +140,16 @@ void StackSetupPage::fillRecipes()
     ui_->cmbRecipe->clear();
     for (int i = 0; i < stacks.size(); ++i)
         ui_->cmbRecipe->addItem(stacks.getString(QStringLiteral("#%1.name").arg(i)));
-    ui_->cmbRecipe->setCurrentIndex(stack_ ? stacks.indexOf(&stack_->node()) : -1);
-}
-
-/// A frame that is left is saved: its recipe's points are made anew and the controller gets them.
-void StackSetupPage::saveEdits()
-{
-    if (!stack_ || !isEdited_)
-        return;
-    isEdited_ = false;
-    palx::genPointsAndSaveToRC(stack_, false);
-    history_.absorb();
-}
-
-/// The list of recipes shows figures and pictures of what was edited here.
-void StackSetupPage::leaveRecipe()
-{
-    saveEdits();
-    if (stack_)
-        raise("refresh_table");
-    isEdited_ = false;
+    ui_->cmbRecipe->setCurrentIndex(stack() ? stacks.indexOf(&stack()->node()) : -1);
 }
 
 void StackSetupPage::onEdited()
 {
-    if (stack_ && palx::marginsTooWide(stack_->node())) {
-        raise("reset_margin_data");
-        ui_->message->showMessage(tr("The margins left no room for a product and were set to 0."),
-                                  State::Attention);
-    } else {
+    const QString putRight = editing_.commit();
+    if (putRight.isEmpty())
         ui_->message->clearMessage();
-    }
-    if (history_.commit()) {
-        isEdited_ = true;
-        announce();
-    }
+    else
+        ui_->message->showMessage(putRight, State::Attention);
     afterStep();
 }
 
@@ -220,21 +158,6 @@ void StackSetupPage::afterStep()
 {
     frames_[ui_->stkFrames->currentIndex()]->refresh();
     updateHeader();
-}
-
-/// Tells other editors and pages what has changed between the last two steps.
-void StackSetupPage::announce() const
-{
-    const orba::Node &was = history_.before();
-    const orba::Node &is = history_.present();
-    if (differs(was, is,
-                {"put", "get", "product_cfg.product", "pallet_position", "use_global_tool", "use_global_wobj",
-                 "calibrate", "tool", "toolset"}))
-        raise("refresh_data");
-    if (differs(was, is, {"product_cfg.pallet", "product_cfg.clapboard"}))
-        raise("refresh_pallet_data");
-    if (differs(was, is, {"wobj_margin"}))
-        raise("refresh_margin_data");
 }
 
 /// A field that is being typed in counts as edited before its recipe is wound back.
@@ -247,30 +170,27 @@ void StackSetupPage::finishField()
 
 void StackSetupPage::undo()
 {
-    finishField();
-    if (!history_.undo())
-        return;
-    isEdited_ = true;
-    announce();
-    ui_->message->clearMessage();
-    afterStep();
+    step(&RecipeEditing::undo);
 }
 
 void StackSetupPage::redo()
 {
+    step(&RecipeEditing::redo);
+}
+
+void StackSetupPage::step(bool (RecipeEditing::*wind)())
+{
     finishField();
-    if (!history_.redo())
+    if (!(editing_.*wind)())
         return;
-    isEdited_ = true;
-    announce();
     ui_->message->clearMessage();
     afterStep();
 }
 
 void StackSetupPage::updateHeader()
 {
-    ui_->btnUndo->setEnabled(history_.canUndo());
-    ui_->btnRedo->setEnabled(history_.canRedo());
+    ui_->btnUndo->setEnabled(editing_.canUndo());
+    ui_->btnRedo->setEnabled(editing_.canRedo());
 }
 
 bool StackSetupPage::eventFilter(QObject *watched, QEvent *event)
@@ -278,7 +198,7 @@ bool StackSetupPage::eventFilter(QObject *watched, QEvent *event)
     if (watched == wgt_ && event->type() == QEvent::LanguageChange)
         retranslate();
     if (watched == wgt_ && event->type() == QEvent::Hide && !event->spontaneous())
-        leaveRecipe();
+        editing_.leave();
     return BModule::eventFilter(watched, event);
 }
 

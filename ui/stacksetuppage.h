@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bwaf/bmodule.h"
-#include "ui/recipe_history.h"
+#include "ui/recipe_editing.h"
 
 #include <QPointer>
 
@@ -16,10 +16,7 @@ class StackSetupPage;
 /// The plug-in's set-up page: edits the current recipe in frames for product, pallet, patterns, layers,
 /// waypoints and points, with undo and redo.
 ///
-/// Opening a recipe repairs what must not be (each repair is recorded) and adds keys that recipes of older
-/// versions lack. After an edit it raises "refresh_data", "refresh_pallet_data" and "refresh_margin_data" for
-/// what was changed, and "reset_margin_data" when margins leave no room on a smaller pallet; "refresh_table"
-/// when the operator leaves the recipe.
+/// `RecipeEditing` says what opening, editing and leaving a recipe do besides.
 class PALX_API StackSetupPage : public bwaf::BModule
 {
     Q_OBJECT
@@ -33,7 +30,7 @@ public:
     QWidget *wgt() override;
 
     /// The recipe that is shown, or null.
-    orba::ModuleObject *stack() const { return stack_; }
+    orba::ModuleObject *stack() const { return editing_.stack(); }
     /// The frames in the order of their buttons.
     const QList<RecipeFrame *> &frames() const { return frames_; }
     void showFrame(int index);
@@ -52,12 +49,10 @@ private:
     void connectHeader();
     void setStack(orba::ModuleObject *stack);
     void fillRecipes();
-    void saveEdits();
-    void leaveRecipe();
     void finishField();
     void onEdited();
     void afterStep();
-    void announce() const;
+    void step(bool (RecipeEditing::*wind)());
     void updateHeader();
     void retranslate();
 
@@ -66,7 +61,5 @@ private:
     std::unique_ptr<Ui::StackSetupPage> ui_;
     QList<RecipeFrame *> frames_;
     QList<QAbstractButton *> buttons_; ///< one for each frame
-    QPointer<orba::ModuleObject> stack_;
-    RecipeHistory history_;
-    bool isEdited_ = false; ///< since the recipe was last sent
+    RecipeEditing editing_;
 };

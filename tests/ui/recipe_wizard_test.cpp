@@ -1,0 +1,145 @@
+#include "ui/nesting_wizards.h"
+
+#include "stack/recipe_edit.h"
+#include "stack/recipe_layers.h"
+#include "support/test_support.h"
+#include "ui/layers_frame.h"
+#include "ui/message_bar.h"
+#include "ui/page_fixture.h"
+#include "workstation/plugin_node.h"
+
+#include <QCoreApplication>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+/// A wizard over a recipe of its own; shown, as a panel would.
+template <typename Wizard> struct OpenWizard
+{
+    explicit OpenWizard(QList<bool> answers = {})
+        : presenter(std::move(answers)), stack(tree.addRecipe("Box")),
+          wizard(std::make_unique<Wizard>(stack, nullptr))
+    {
+        wizard->resize(1100, 700);
+        wizard->show();
+    }
+    template <typename T> T *at(const char *name) const
+    {
+        T *found = wizard->template findChild<T *>(QLatin1String(name));
+        if (!found)
+            ADD_FAILURE() << "no control " << name;
+        return found;
+    }
+    void click(const char *name) const { at<QPushButton>(name)->click(); }
+    orba::Node content() const { return palx::recipeContent(stack->node()); }
+    int points() const { return stack->r("points.put")->cmobjCount(); }
+
+    PluginTree tree;
+    ScriptedPresenter presenter;
+    orba::ModuleObject *stack;
+    std::unique_ptr<Wizard> wizard;
+};
+
+using LayerWizard = OpenWizard<CascadeNestingWizard>;
+
+} // namespace
+
+TEST(RecipeWizard, OpeningRepairsTheProductAndSaysSo)
+{
+    PluginTree tree;
+    orba::ModuleObject *stack = tree.addRecipe("Box");
+    stack->set(nullptr, "product_cfg.product.length", -5);
+    const CascadeNestingWizard wizard(stack, nullptr);
+    EXPECT_EQ(stack->getDouble("product_cfg.product.length"), 200);
+}
+
+TEST(RecipeWizard, CancelTakesEditsBackButNotRepairs)
+{
+    LayerWizard w({false, true});
+    const orba::Node before = w.content();
+    enter(w.at<QDoubleSpinBox>("spnOffset"), 12.0);
+    w.click("btnAdd");
+    ASSERT_NE(w.content(), before);
+    w.click("btnCancel");
+    EXPECT_TRUE(w.wizard->isVisible()) << "the question was answered with no";
+    w.click("btnCancel");
+    EXPECT_FALSE(w.wizard->isVisible());
+    EXPECT_EQ(w.content(), before);
+}
+
+TEST(RecipeWizard, CancelWithoutEditsAsksNothing)
+{
+    LayerWizard w;
+    w.click("btnCancel");
+    EXPECT_FALSE(w.wizard->isVisible());
+    EXPECT_TRUE(w.presenter.asked.isEmpty());
+}
+
+TEST(RecipeWizard, GoingOnMakesPointsAndTellsTheTable)
+{
+    LayerWizard w;
+    TriggerCount table("refresh_table");
+    ASSERT_EQ(w.points(), 0);
+    w.click("btnNext");
+    EXPECT_EQ(w.points(), 2);
+    EXPECT_EQ(table.take(), 1);
+}
+
+TEST(RecipeWizard, ALayerOnAnEmptyOneKeepsTheWizardOpen)
+{
+    LayerWizard w;
+    palx::insertLayer(w.stack, 1, palx::kEmptyPattern);
+    TriggerCount table("refresh_table");
+    w.click("btnNext");
+    EXPECT_TRUE(w.wizard->isVisible());
+    ASSERT_EQ(w.presenter.asked.size(), 1);
+    EXPECT_TRUE(w.presenter.asked[0].text.contains(QStringLiteral("Layer 3 lies on an empty layer")));
+    EXPECT_EQ(w.presenter.asked[0].rejectText, QString()) << "there is nothing to choose";
+    EXPECT_EQ(w.points(), 0);
+    EXPECT_EQ(table.take(), 0);
+}
+
+TEST(RecipeWizard, AHundredStepsCanBeTakenBack)
+{
+    LayerWizard w;
+    const orba::Node before = w.content();
+    for (int i = 1; i <= 100; ++i)
+        enter(w.at<QDoubleSpinBox>("spnOffset"), double(i));
+    const orba::Node after = w.content();
+    for (int i = 0; i < 100; ++i)
+        w.click("btnUndo");
+    EXPECT_EQ(w.content(), before);
+    for (int i = 0; i < 100; ++i)
+        w.click("btnRedo");
+    EXPECT_EQ(w.content(), after);
+}
+
+TEST(RecipeWizard, OnlyOneIsOpen)
+{
+    PluginTree tree;
+    orba::ModuleObject *stack = tree.addRecipe("Box");
+    QPointer<RecipeWizard> first = new CascadeNestingWizard(stack, nullptr);
+    first->openUnique();
+    QPointer<RecipeWizard> second = new PlanarNestingWizard(stack, nullptr);
+    second->openUnique();
+    EXPECT_TRUE(first.isNull());
+    ASSERT_FALSE(second.isNull());
+    second->reject();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(second.isNull());
+}
+
+TEST(RecipeWizard, EndsWithItsRecipe)
+{
+    LayerWizard w;
+    w.stack->remove();
+    EXPECT_FALSE(w.wizard->isVisible());
+    EXPECT_TRUE(w.presenter.asked.isEmpty());
+}

@@ -1,0 +1,131 @@
+#include "ui/recipe_editing.h"
+
+#include "stack/recipe_edit.h"
+#include "stack/recipe_fields.h"
+#include "stack/stack_check.h"
+#include "workstation/controller_sync.h"
+#include "workstation/plugin_node.h"
+
+namespace {
+
+void raise(const char *trigger)
+{
+    palx::triggerNode()->c(trigger)->trigger();
+}
+
+bool differs(const orba::Node &a, const orba::Node &b, std::initializer_list<const char *> paths)
+{
+    for (const char *path : paths) {
+        const orba::Path key(path);
+        const orba::Node *x = a.find(key);
+        const orba::Node *y = b.find(key);
+        if ((x && y) ? *x != *y : x != y)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+void RecipeEditing::open(orba::ModuleObject *stack)
+{
+    stack_ = stack && !stack->isEmptyMobj() ? stack : nullptr;
+    isEdited_ = false;
+    isSent_ = false;
+    if (stack_) {
+        palx::checkProductPallet(stack_);
+        palx::ensureRecipeKeys(stack_, palx::pluginNode()->r("default")->node());
+    }
+    history_.start(stack_);
+    opened_ = history_.present();
+}
+
+QString RecipeEditing::commit()
+{
+    if (!stack_)
+        return QString();
+    const bool reset = palx::marginsTooWide(stack_->node());
+    if (reset)
+        raise("reset_margin_data");
+    stepped(history_.commit());
+    return reset ? tr("The margins left no room for a product and were set to 0.") : QString();
+}
+
+bool RecipeEditing::undo()
+{
+    return stepped(history_.undo());
+}
+
+bool RecipeEditing::redo()
+{
+    return stepped(history_.redo());
+}
+
+bool RecipeEditing::stepped(bool made)
+{
+    if (made) {
+        isEdited_ = true;
+        announce();
+    }
+    return made;
+}
+
+/// Tells other editors and pages what has changed between the last two steps.
+void RecipeEditing::announce() const
+{
+    const orba::Node &was = history_.before();
+    const orba::Node &is = history_.present();
+    if (differs(was, is,
+                {"put", "get", "product_cfg.product", "pallet_position", "use_global_tool", "use_global_wobj",
+                 "calibrate", "tool", "toolset"}))
+        raise("refresh_data");
+    if (differs(was, is, {"product_cfg.pallet", "product_cfg.clapboard"}))
+        raise("refresh_pallet_data");
+    if (differs(was, is, {"wobj_margin"}))
+        raise("refresh_margin_data");
+}
+
+bool RecipeEditing::differsFromOpened() const
+{
+    return stack_ && palx::recipeContent(stack_->node()) != opened_;
+}
+
+void RecipeEditing::generate(bool report)
+{
+    isSent_ = isSent_ || isEdited_;
+    isEdited_ = false;
+    palx::genPointsAndSaveToRC(stack_, report);
+    history_.absorb();
+}
+
+void RecipeEditing::save()
+{
+    if (stack_ && isEdited_)
+        generate(false);
+}
+
+void RecipeEditing::saveAndTell()
+{
+    if (!stack_)
+        return;
+    generate(isEdited_);
+    raise("refresh_table");
+}
+
+void RecipeEditing::leave()
+{
+    save();
+    if (stack_)
+        raise("refresh_table");
+}
+
+void RecipeEditing::revert()
+{
+    if (!stack_)
+        return;
+    palx::restoreContent(stack_, opened_);
+    stepped(history_.commit());
+    if (isSent_)
+        leave();
+    isEdited_ = false;
+}
