@@ -47,6 +47,17 @@ bool XService::command(QObject *, const QString &name, const orba::ModuleObject 
     return link && link->command(name, nodeOf(payload));
 }
 
+bool XService::command(QObject *sender, const QString &name, const orba::ModuleObject *payload,
+                       std::function<void(const XReply &)> answered)
+{
+    ControllerLink *link = ControllerLink::current();
+    const auto answer = [context = QPointer<QObject>(sender), answered](const XReply &reply) {
+        if (context)
+            answered(reply);
+    };
+    return link && link->command(name, nodeOf(payload), answer);
+}
+
 void XService::watch(const QString &name, QObject *context, std::function<void(const Node &)> told)
 {
     QVector<Watcher> &watchers = watchers_[name];

@@ -39,6 +39,8 @@ struct PALX_API XReply
 /// payload that no other thread changes meanwhile; everything else on the GUI thread. While a call waits, the
 /// GUI thread handles no events.
 ///
+/// Requests whose name begins with "motion." do not wait for the panel's edits before them: a robot that must stop stops.
+///
 /// A `set`, `execCommand` or `command` that is refused or not answered makes a log record, one per name until
 /// that request succeeds again. Without a connection it makes none: the panel shows the state of the link all
 /// the time.
@@ -54,6 +56,10 @@ public:
                        int timeoutMs = -1);
     /// Sends and returns; false when there is no way now.
     bool command(QObject *sender, const QString &name, const orba::ModuleObject *payload);
+    /// The same, and `answered` gets the reply later, once, as long as `sender` lives: Timeout after the setting
+    /// "rc_timeout", NotConnected when the way breaks before. The caller tells the operator; no record is made.
+    bool command(QObject *sender, const QString &name, const orba::ModuleObject *payload,
+                 std::function<void(const XReply &)> answered);
     /// Calls `told` on the GUI thread, as long as `context` lives, with every value the controller publishes
     /// by `name`.
     void watch(const QString &name, QObject *context, std::function<void(const orba::Node &)> told);

@@ -101,7 +101,6 @@ void ControllerLink::close()
     desk_->box.close();
     desk_->isConnected = false;
     desk_->replies.breakAll();
-    commands_.clear();
     enter(LinkState::Closed, tr("The link to the controller is closed."));
 }
 
@@ -138,6 +137,8 @@ void ControllerLink::enter(LinkState state, const QString &text)
     if (wasConnected != isConnected())
         Q_EMIT nexo::ControllerManager::instance()->rcConnectedChanged(isConnected());
     Q_EMIT stateChanged(state, text);
+    if (!isConnected())
+        breakCommands();
 }
 
 void ControllerLink::tell(const QString &level, const QString &text)
@@ -150,7 +151,6 @@ void ControllerLink::tell(const QString &level, const QString &text)
 
 void ControllerLink::takeWay(bool open, const QString &reason)
 {
-    commands_.clear();
     resendAt_ = 0;
     if (edits_->areUnderWay()) // too many may have been what the way could not bear
         underWay_ = 1;

@@ -58,7 +58,9 @@ public:
 
     /// For XService. `ask` on any thread, also without a link.
     static XReply ask(const QString &name, const orba::Node &payload, int timeoutMs, bool isTold);
-    bool command(const QString &name, const orba::Node &payload);
+    /// Sends and returns. With `answered` the outcome goes there and is not recorded.
+    using Answered = std::function<void(const XReply &)>;
+    bool command(const QString &name, const orba::Node &payload, Answered answered = Answered());
 
     /// What went wrong on the way so far; each was mended.
     struct Figures
@@ -87,6 +89,7 @@ private:
         QString name;
         qint64 deadline;
         std::string frame;
+        Answered answered;
     };
 
     // controller_link.cpp: state, what arrives
@@ -112,8 +115,10 @@ private:
     // link_request.cpp
     void sendMissing(std::uint64_t taken);
     void checkCommands(qint64 now);
+    void endCommand(const Command &command, const XReply &reply);
+    void breakCommands();
     void noteOutcome(const QString &name, XReply::Status status, const QString &error);
-    void takeReply(const LinkMessage &reply);
+    void takeReply(LinkMessage &reply);
 
     // link_mirror.cpp: nodes and edits
     void watchTree();

@@ -89,12 +89,19 @@ std::string LinkDesk::requestFrame(const Question &question, std::uint64_t *id, 
     return encodeFrame(request, question.payload ? *question.payload : nothing, error);
 }
 
-XReply LinkDesk::broken() const
+XReply LinkDesk::broken()
 {
-    return failed(XReply::Status::NotConnected, Texts::tr("The controller is not connected."));
+    return failed(XReply::Status::NotConnected,
+                  Texts::tr("The link to the controller broke before it answered."));
 }
 
-XReply LinkDesk::answer(LinkMessage &reply) const
+XReply LinkDesk::late(int boundMs)
+{
+    return failed(XReply::Status::Timeout,
+                  Texts::tr("The controller did not answer within %1 s.").arg(boundMs / 1000.0, 0, 'g', 3));
+}
+
+XReply LinkDesk::answer(LinkMessage &reply)
 {
     if (reply.status != status::kDone)
         return failed(XReply::Status::Refused, reply.text);
@@ -109,8 +116,9 @@ XReply LinkDesk::ask(const Question &question)
     using Board = ReplyBoard<LinkMessage>;
     const int bound = question.timeoutMs < 0 ? timeoutMs.load() : question.timeoutMs;
     const auto deadline = Board::Clock::now() + std::chrono::milliseconds(bound);
+    const XReply none = failed(XReply::Status::NotConnected, Texts::tr("The controller is not connected."));
     if (!isConnected)
-        return broken();
+        return none;
     std::uint64_t id = 0;
     QString error;
     const std::string frame = requestFrame(question, &id, &error);
@@ -123,7 +131,7 @@ XReply LinkDesk::ask(const Question &question)
         replies.expect(id);
         if (!way.send(frame)) {
             replies.forget(id);
-            return broken();
+            return none;
         }
         outcome = replies.wait(id, deadline, &reply);
         if (outcome == Board::Outcome::Came && reply.status == status::kBehind && question.sendEdits)
@@ -132,11 +140,7 @@ XReply LinkDesk::ask(const Question &question)
              Board::Clock::now() < deadline);
     if (outcome == Board::Outcome::Came && reply.status != status::kBehind)
         return answer(reply);
-    if (outcome == Board::Outcome::Broken)
-        return failed(XReply::Status::NotConnected,
-                      Texts::tr("The link to the controller broke before it answered."));
-    return failed(XReply::Status::Timeout,
-                  Texts::tr("The controller did not answer within %1 s.").arg(bound / 1000.0, 0, 'g', 3));
+    return outcome == Board::Outcome::Broken ? broken() : late(bound);
 }
 
 } // namespace host

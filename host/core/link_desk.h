@@ -65,10 +65,12 @@ public:
     std::atomic<bool> isConnected{false};
     std::atomic<int> timeoutMs{1600};
 
-private:
-    XReply answer(LinkMessage &reply) const;
-    XReply broken() const;
+    /// What a Reply says, and what is said in its place. The reply's payload is taken.
+    static XReply answer(LinkMessage &reply);
+    static XReply broken();
+    static XReply late(int boundMs);
 
+private:
     std::atomic<std::uint64_t> lastRequest_{0};
 };
 

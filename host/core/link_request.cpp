@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QThread>
 
+#include <utility>
+
 namespace host {
 
 using orba::Node;
@@ -17,6 +19,13 @@ namespace {
 bool isGuiThread()
 {
     return QThread::currentThread() == QCoreApplication::instance()->thread();
+}
+
+/// Whether the edits before a request must be there first. Moves need none, and must not wait for one that got lost; so
+/// none is repeated either, and a move that was stopped does not start again.
+bool followsEdits(const QString &name)
+{
+    return !name.startsWith(QLatin1String("motion."));
 }
 
 } // namespace
@@ -31,12 +40,13 @@ XReply ControllerLink::ask(const QString &name, const Node &payload, int timeout
     question.payload = &payload;
     question.timeoutMs = timeoutMs;
     ControllerLink *link = isGuiThread() ? current() : nullptr;
-    if (link) {
+    if (link && followsEdits(name)) {
         link->flushEdits();
         question.knows = link->edits_->last();
         question.sendEdits = [link](std::uint64_t taken) { link->sendMissing(taken); };
-        link->spokeAt_ = link->clock_();
     }
+    if (link)
+        link->spokeAt_ = link->clock_();
     XReply reply = desk->ask(question);
     if (isTold && link)
         link->noteOutcome(name, reply.status, reply.error);
@@ -45,15 +55,17 @@ XReply ControllerLink::ask(const QString &name, const Node &payload, int timeout
     return reply;
 }
 
-bool ControllerLink::command(const QString &name, const Node &payload)
+bool ControllerLink::command(const QString &name, const Node &payload, Answered answered)
 {
     if (!isConnected())
         return false;
-    flushEdits();
     LinkDesk::Question question;
     question.name = name;
     question.payload = &payload;
-    question.knows = edits_->last();
+    if (followsEdits(name)) {
+        flushEdits();
+        question.knows = edits_->last();
+    }
     std::uint64_t id = 0;
     QString error;
     const std::string frame = desk_->requestFrame(question, &id, &error);
@@ -62,11 +74,11 @@ bool ControllerLink::command(const QString &name, const Node &payload)
     if (frame.empty() || !desk_->way.send(frame))
         return false;
     spokeAt_ = clock_();
-    commands_.insert(id, {name, clock_() + desk_->timeoutMs, frame});
+    commands_.insert(id, {name, clock_() + desk_->timeoutMs, frame, std::move(answered)});
     return true;
 }
 
-void ControllerLink::takeReply(const LinkMessage &reply)
+void ControllerLink::takeReply(LinkMessage &reply)
 {
     const auto command = commands_.find(reply.id);
     if (command == commands_.end()) {
@@ -78,10 +90,25 @@ void ControllerLink::takeReply(const LinkMessage &reply)
         desk_->way.send(command->frame);
         return;
     }
-    const QString name = command->name;
+    const Command ended = *command;
     commands_.erase(command);
-    noteOutcome(name, reply.status == status::kDone ? XReply::Status::Ok : XReply::Status::Refused,
-                reply.text);
+    endCommand(ended, LinkDesk::answer(reply));
+}
+
+/// May end this link's commands anew: the caller holds no place in their table.
+void ControllerLink::endCommand(const Command &command, const XReply &reply)
+{
+    if (command.answered)
+        command.answered(reply);
+    else
+        noteOutcome(command.name, reply.status, reply.error);
+}
+
+/// Nobody will hear of the commands that are under way.
+void ControllerLink::breakCommands()
+{
+    for (const Command &command : std::exchange(commands_, {}))
+        endCommand(command, LinkDesk::broken());
 }
 
 /// A request overtook the edits before it.
@@ -94,17 +121,17 @@ void ControllerLink::sendMissing(std::uint64_t taken)
 
 void ControllerLink::checkCommands(qint64 now)
 {
-    QStringList late;
+    QList<Command> late;
     for (auto command = commands_.begin(); command != commands_.end();) {
         if (now < command->deadline) {
             ++command;
             continue;
         }
-        late.append(command->name);
+        late.append(*command);
         command = commands_.erase(command);
     }
-    for (const QString &name : qAsConst(late))
-        noteOutcome(name, XReply::Status::Timeout, tr("The controller did not answer."));
+    for (const Command &command : qAsConst(late))
+        endCommand(command, LinkDesk::late(desk_->timeoutMs));
 }
 
 void ControllerLink::noteOutcome(const QString &name, XReply::Status status, const QString &error)

@@ -248,6 +248,77 @@ TEST_F(LinkTest, ACommandDoesNotWaitAndItsRefusalIsTold)
     EXPECT_TRUE(records[0].contains(QStringLiteral("monitor.pers.modify"))) << records[0];
 }
 
+TEST_F(LinkTest, ACommandMayBeToldItsAnswer)
+{
+    connectLink();
+    QObject caller;
+    QStringList told;
+    const auto send = [&](QObject *sender) {
+        return xservice()->command(sender, QStringLiteral("motion.check"), nullptr,
+                                   [&told](const XReply &reply) {
+                                       told.append(QStringLiteral("%1 %2 %3")
+                                                       .arg(int(reply.status))
+                                                       .arg(reply.value.toInt())
+                                                       .arg(reply.error));
+                                   });
+    };
+    const auto last = [this] { return controller.seen.back(); };
+    controller.answers = false;
+    EXPECT_TRUE(send(&caller));
+    controller.send(replyTo(last(), "7"));
+    EXPECT_EQ(told, QStringList()) << "not within the call";
+    settle();
+    EXPECT_EQ(told, QStringList{"0 7 "});
+
+    EXPECT_TRUE(send(&caller));
+    LinkMessage reply = replyTo(last(), "null");
+    reply.status = host::status::kRefused;
+    reply.text = QStringLiteral("out of reach");
+    controller.send(reply);
+    settle();
+    EXPECT_EQ(told.takeLast(), QStringLiteral("1 0 out of reach"));
+
+    EXPECT_TRUE(send(&caller));
+    controller.ping();
+    settle();
+    pass(1600);
+    EXPECT_EQ(told.takeLast(), QStringLiteral("2 0 The controller did not answer within 1.6 s."));
+
+    EXPECT_TRUE(send(&caller));
+    controller.breakWay("pulled");
+    settle();
+    EXPECT_EQ(told.takeLast(), QStringLiteral("3 0 The link to the controller broke before it answered."));
+    EXPECT_FALSE(send(&caller));
+    controller.openWay();
+    settle();
+
+    auto gone = std::make_unique<QObject>();
+    EXPECT_TRUE(send(gone.get()));
+    gone.reset();
+    controller.send(replyTo(last(), "7"));
+    settle();
+    EXPECT_EQ(told.size(), 1) << "nobody is told twice, nor when he has ended";
+    for (const QString &record : takeRecords())
+        EXPECT_FALSE(record.contains(QStringLiteral("motion.check"))) << record;
+}
+
+TEST_F(LinkTest, AMoveDoesNotWaitForEdits)
+{
+    connectLink();
+    controller.losesFrames = 1;
+    m("quill.project")->set(nullptr, "autoload_prj_path", QStringLiteral("lost on the way"));
+    rest();
+    EXPECT_TRUE(xservice()->command(nullptr, QStringLiteral("motion.stop"), nullptr));
+    EXPECT_EQ(controller.seen.back().name, QStringLiteral("motion.stop"));
+    EXPECT_EQ(controller.seen.back().knows, 0U);
+    EXPECT_TRUE(xservice()->execCommand(nullptr, QStringLiteral("motion.start"), nullptr).isOk());
+    EXPECT_EQ(controller.seen.back().knows, 0U);
+    EXPECT_EQ(controller.count(Kind::Request), 2) << "and is not sent again";
+    EXPECT_EQ(controller.edits, QStringList());
+    EXPECT_TRUE(xservice()->execCommand(nullptr, QStringLiteral("pallet.set.one"), nullptr).isOk());
+    EXPECT_EQ(controller.edits.size(), 1) << "others bring the edits before them";
+}
+
 TEST_F(LinkTest, AnyThreadMaySendAndWait)
 {
     connectLink();
