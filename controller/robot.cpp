@@ -62,27 +62,51 @@ bool Robot::Run::isOver() const
 
 // ---------------------------------------------------------------- the robot
 
-QString Robot::start(const Node &request, const Toolsets &tools)
+QString Robot::reckon(const Node &request, const Toolsets &tools, MotionPlan *plan) const
 {
-    if (run_ && !run_->isBraking())
-        return Texts::tr("the robot is moving already");
     MotionWish wish;
     QString why = readWish(request, tools, &wish);
-    MotionPlan plan;
-    if (!why.isEmpty() ||
-        !MotionPlan::make(wish, run_ ? run_->plan.jointsAt(run_->shareAtRest()) : joints_, &plan, &why))
+    const bool brakes = run_ && run_->isBraking();
+    if (why.isEmpty())
+        MotionPlan::make(wish, brakes ? run_->plan.jointsAt(run_->shareAtRest()) : joints_, plan, &why);
+    return why;
+}
+
+QString Robot::start(const Node &request, const Toolsets &tools)
+{
+    if (run_ && (!run_->isBraking() || next_)) {
+        stop(Texts::tr("stopped: another move was asked for"));
+        return Texts::tr("the robot is moving already");
+    }
+    Run run;
+    QString why = reckon(request, tools, &run.plan);
+    if (!why.isEmpty())
         return why;
     sinceHold_ = 0;
+    run.move = ++lastMove_;
     if (run_)
-        next_ = std::move(plan);
+        next_ = std::move(run);
     else
-        begin(std::move(plan));
+        begin(std::move(run));
     return {};
 }
 
-void Robot::begin(MotionPlan plan)
+QString Robot::check(const Node &request, const Toolsets &tools, Node *result) const
 {
-    run_ = Run{std::move(plan)};
+    MotionPlan plan;
+    QString why = reckon(request, tools, &plan);
+    if (!why.isEmpty())
+        return why;
+    const Joints joints = plan.jointsAt(1);
+    result->ensure(u"joints")->setDoubles(joints.data(), static_cast<int>(joints.size()));
+    result->ensure(u"seconds")->setDouble(plan.profile().duration());
+    return {};
+}
+
+void Robot::begin(Run run)
+{
+    move_ = run.move;
+    run_ = std::move(run);
     progress_ = 0;
     arrived_ = false;
     fault_.clear();
@@ -144,6 +168,7 @@ void Robot::publish(Node *node) const
     node->ensure(u"progress")->setDouble(progress_);
     node->ensure(u"arrived")->setBool(arrived_);
     node->ensure(u"fault")->setString(fault_);
+    node->ensure(u"move")->setInt(move_);
 }
 
 } // namespace controller

@@ -22,8 +22,12 @@ public:
 
     /// {"type": "l" or "j", "motion": {"toolset": name, "speed": mm/s}, "point": point record}. Returns why the move is
     /// refused, empty when it starts; the start counts as a sign from the button. While the robot brakes, the move starts
-    /// when it stands.
+    /// when it stands. Who asks for another move does not hold the button of the one that runs: it is refused, and the
+    /// robot brakes.
     QString start(const orba::Node &request, const Toolsets &tools);
+    /// Reckons the same move from where the robot stands, or will stand when it brakes, and moves nothing. Returns why it
+    /// would be refused; else fills "joints" [rad] at the target and "seconds" that it takes.
+    QString check(const orba::Node &request, const Toolsets &tools, orba::Node *result) const;
     /// A sign from the held button.
     void hold() { sinceHold_ = 0; }
     /// Brakes; `why` is kept as the fault to show, empty when the operator wanted it.
@@ -32,15 +36,19 @@ public:
     void advance(double seconds, double factor);
 
     bool isMoving() const { return run_.has_value(); }
+    /// Number of the move that was taken last; 0: none yet.
+    int lastMove() const { return lastMove_; }
     const Joints &joints() const { return joints_; }
     Pose pose() const { return arm::forward(joints_); }
-    /// Writes "pose", "joints", "moving", "progress", "arrived", "fault".
+    /// Writes "pose", "joints", "moving", "progress", "arrived", "fault", and "move", the number of the move that these
+    /// speak of.
     void publish(orba::Node *node) const;
 
 private:
     struct Run
     {
         MotionPlan plan;
+        int move = 0;
         double seconds = 0;     ///< since the start, or since braking began
         double brakeFrom = 0;   ///< share of the way
         double brakeSpeed = -1; ///< shares a second; negative: it does not brake
@@ -51,14 +59,17 @@ private:
         bool isOver() const;
     };
 
+    QString reckon(const orba::Node &request, const Toolsets &tools, MotionPlan *plan) const;
     void brake();
-    void begin(MotionPlan plan);
+    void begin(Run run);
     void finish();
     bool isAtTarget(const MotionWish &wish) const;
 
     Joints joints_;
     std::optional<Run> run_;
-    std::optional<MotionPlan> next_; ///< starts when the robot stands
+    std::optional<Run> next_; ///< starts when the robot stands
+    int lastMove_ = 0;
+    int move_ = 0; ///< that ran last
     double progress_ = 0;
     double sinceHold_ = 0;
     bool arrived_ = false;

@@ -82,6 +82,7 @@ private:
     Answer setToolset(orba::Node &payload);
     Answer removeTasks(orba::Node &payload);
     Answer setAutoload(orba::Node &payload);
+    Answer checkMotion(orba::Node &payload);
     Answer startMotion(orba::Node &payload);
     Answer holdMotion(orba::Node &payload);
     Answer stopMotion(orba::Node &payload);

@@ -36,6 +36,7 @@ Station::Handler Station::handlerOf(const QString &name)
         {QStringLiteral("sys.toolset"), &Station::setToolset},
         {QStringLiteral("project.remove_task"), &Station::removeTasks},
         {QStringLiteral("project.overview.set_autoload"), &Station::setAutoload},
+        {QStringLiteral("motion.check"), &Station::checkMotion},
         {QStringLiteral("motion.start"), &Station::startMotion},
         {QStringLiteral("motion.hold"), &Station::holdMotion},
         {QStringLiteral("motion.stop"), &Station::stopMotion},
@@ -125,11 +126,22 @@ Station::Answer Station::setToolset(Node &payload)
     return answer;
 }
 
+Station::Answer Station::checkMotion(Node &payload)
+{
+    Answer answer;
+    answer.refusal = robot_.check(payload, tools_, &answer.result);
+    return answer;
+}
+
+/// The result is the number of the move.
 Station::Answer Station::startMotion(Node &payload)
 {
-    const QString why = robot_.start(payload, tools_);
+    Answer answer;
+    answer.refusal = robot_.start(payload, tools_);
+    if (answer.refusal.isEmpty())
+        answer.result.setInt(robot_.lastMove());
     publishRobot();
-    return {why, Node()};
+    return answer;
 }
 
 Station::Answer Station::holdMotion(Node &)

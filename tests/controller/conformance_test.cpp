@@ -3,6 +3,7 @@
 #include "controller/tcp_carrier.h"
 #include "controller_process.h"
 #include "link/conformance.h"
+#include "link/motion_conformance.h"
 
 #include <QTemporaryDir>
 
@@ -104,6 +105,9 @@ template <class Side> conformance::Way way(const char *name, bool isStream)
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(Ways, LinkConformance,
+                         ::testing::Values(way<InProcessSide>("InProcess", false), way<TcpSide>("Tcp", true)),
+                         conformance::conformanceName);
+INSTANTIATE_TEST_SUITE_P(Ways, MotionConformance,
                          ::testing::Values(way<InProcessSide>("InProcess", false), way<TcpSide>("Tcp", true)),
                          conformance::conformanceName);
 INSTANTIATE_TEST_SUITE_P(Ways, RemoteLinkConformance, ::testing::Values(way<TcpSide>("Tcp", true)),

@@ -110,11 +110,13 @@ TEST_F(RobotTest, TakesTheNextMoveWhileItBrakes)
 {
     start();
     run(0.6);
-    EXPECT_EQ("the robot is moving already", start());
     robot.stop(QString());
     EXPECT_EQ(QString(), start()) << "released and pressed again";
+    EXPECT_EQ(1, state().getInt(u"move")) << "the first one still brakes";
+    EXPECT_EQ(2, robot.lastMove());
     run(5);
     EXPECT_TRUE(state().getBool(u"arrived"));
+    EXPECT_EQ(2, state().getInt(u"move"));
 
     start(
         R"({"type":"j","motion":{"toolset":"no use","speed":500},"point":{"trans":[1.2,-0.4,0.8],"rot":[3.1,0,0]}})");
@@ -125,6 +127,85 @@ TEST_F(RobotTest, TakesTheNextMoveWhileItBrakes)
     run(5);
     EXPECT_FALSE(state().getBool(u"arrived"));
     EXPECT_FALSE(robot.isMoving());
+}
+
+TEST_F(RobotTest, AnotherMoveEndsTheOneThatRunsHoweverItIsHeld)
+{
+    start();
+    run(0.6);
+    EXPECT_EQ("the robot is moving already", start());
+    run(1); // held, but by whom?
+    EXPECT_FALSE(robot.isMoving());
+    EXPECT_FALSE(state().getBool(u"arrived"));
+    EXPECT_EQ("stopped: another move was asked for", state().getString(u"fault"));
+
+    start();
+    run(0.3);
+    robot.stop(QString());
+    start(); // waits until the robot stands
+    EXPECT_EQ("the robot is moving already", start());
+    run(1);
+    EXPECT_FALSE(robot.isMoving()) << "and the one that waited is given up";
+    EXPECT_EQ(2, state().getInt(u"move"));
+}
+
+TEST_F(RobotTest, AMoveThatWaitsIsGivenUpWhenTheButtonGivesNoSign)
+{
+    start(R"({"type":"l","motion":{"toolset":"no use","speed":2500},
+        "point":{"trans":[1.2,0.4,0.8],"rot":[3.141592653589793,0,0]}})");
+    run(0.3);
+    robot.stop(QString());
+    start();
+    run(0.305, false, 0.1); // the arm, ten times slower, brakes still
+    EXPECT_TRUE(robot.isMoving());
+    run(5, true, 1);
+    EXPECT_EQ(1, state().getInt(u"move"));
+    EXPECT_FALSE(robot.isMoving());
+}
+
+TEST_F(RobotTest, ARefusedMoveChangesNothing)
+{
+    constexpr const char *kFar =
+        R"({"type":"l","motion":{"toolset":"no use","speed":500},"point":{"trans":[9,0,0.7],"rot":[0,0,0]}})";
+    start();
+    run(5);
+    const Node arrived = state();
+    EXPECT_NE(QString(), start(kFar));
+    EXPECT_EQ(arrived, state());
+    start(
+        R"({"type":"j","motion":{"toolset":"no use","speed":500},"point":{"trans":[1.2,-0.4,0.8],"rot":[3.1,0,0]}})");
+    run(0.6);
+    robot.stop(QString());
+    EXPECT_NE(QString(), start(kFar));
+    run(1);
+    EXPECT_FALSE(robot.isMoving()) << "it stands where it braked";
+    EXPECT_EQ(2, robot.lastMove());
+}
+
+TEST_F(RobotTest, ReckonsAMoveWithoutMoving)
+{
+    const Node before = state();
+    Node result;
+    EXPECT_EQ(QString(), robot.check(nodeFromJson(kMove), tools, &result));
+    EXPECT_EQ(before, state());
+    EXPECT_EQ(6, result.find(u"joints")->size());
+    start();
+    run(result.getDouble(u"seconds") - 0.1);
+    EXPECT_TRUE(robot.isMoving());
+    Node again;
+    EXPECT_EQ(QString(), robot.check(nodeFromJson(kMove), tools, &again)) << "also while it moves";
+    run(0.2);
+    const Node end = state();
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_NEAR(end.find(u"joints")->number(i), result.find(u"joints")->number(i), 1e-9);
+        EXPECT_NEAR(end.find(u"joints")->number(i), again.find(u"joints")->number(i), 1e-9);
+    }
+    Node none;
+    EXPECT_EQ("out of reach: the wrist would stand 8702 mm from the shoulder, the arm reaches 2100 mm",
+              robot.check(nodeFromJson(R"({"type":"j","motion":{"toolset":"no use","speed":500},
+                  "point":{"trans":[9,0,0.7],"rot":[0,0,0]}})"),
+                          tools, &none));
+    EXPECT_TRUE(none.isNull());
 }
 
 TEST_F(RobotTest, RefusesWhatIsNoMove)
