@@ -158,6 +158,17 @@ QList<QAbstractButton *> choosers(const Camera &camera)
     return buttons;
 }
 
+/// Those that choose a part of the frame other than the one that is shown.
+QList<QAbstractButton *> otherParts(const Camera &camera, const QList<QAbstractButton *> &frames)
+{
+    QList<QAbstractButton *> parts;
+    for (QAbstractButton *button : choosers(camera)) {
+        if (!frames.contains(button) && !button->isChecked())
+            parts.append(button);
+    }
+    return parts;
+}
+
 /// "btnProduct" becomes "product".
 QString stem(const QAbstractButton *button)
 {
@@ -168,8 +179,11 @@ void takeDialogsOfFrame(Camera &camera, const QString &frame)
 {
     if (frame == QLatin1String("product"))
         takeKeypad(camera);
-    if (frame == QLatin1String("patterns"))
-        takeDialogOf(camera, QStringLiteral("btnAdd"), QStringLiteral("new-pattern"));
+    if (frame != QLatin1String("patterns"))
+        return;
+    if (auto *tab = control<QAbstractButton>(camera, QStringLiteral("tabPattern")))
+        tab->click();
+    takeDialogOf(camera, QStringLiteral("btnAdd"), QStringLiteral("new-pattern"));
 }
 
 /// Every frame of the set-up page, every part of a frame, and the dialogs of frames.
@@ -184,11 +198,9 @@ void takeSetup(Camera &camera)
     for (QAbstractButton *frame : frames) {
         const QString name = QStringLiteral("setup-") + stem(frame);
         camera.takeAfter(frame, name);
+        for (QAbstractButton *part : otherParts(camera, frames))
+            camera.takeAfter(part, name + QLatin1Char('-') + stem(part));
         takeDialogsOfFrame(camera, stem(frame));
-        for (QAbstractButton *part : choosers(camera)) {
-            if (!frames.contains(part) && !part->isChecked())
-                camera.takeAfter(part, name + QLatin1Char('-') + stem(part));
-        }
     }
 }
 

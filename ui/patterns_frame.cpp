@@ -28,6 +28,7 @@ PatternsFrame::PatternsFrame(QWidget *parent)
             &PatternsFrame::showItem);
     connect(items_, &QAbstractItemModel::modelReset, this, &PatternsFrame::showItem);
     connect(ui_->view, &PlanView::itemTouched, this, &PatternsFrame::selectItem);
+    connectPages();
     connectButtons();
     setStack(nullptr);
 }
@@ -58,6 +59,13 @@ void PatternsFrame::bindItemFields()
     connect(itemBinder_, &NodeBinder::edited, this, &RecipeFrame::edited);
     connect(itemBinder_, &NodeBinder::refused, this,
             [this](QWidget *, const QString &reason) { Q_EMIT refused(reason); });
+}
+
+void PatternsFrame::connectPages()
+{
+    const QList<QAbstractButton *> tabs{ui_->tabPattern, ui_->tabProducts}; // in the order of the pages
+    for (int i = 0; i < tabs.size(); ++i)
+        connect(tabs[i], &QAbstractButton::clicked, this, [this, i] { ui_->stkPages->setCurrentIndex(i); });
 }
 
 void PatternsFrame::connectButtons()
@@ -117,7 +125,7 @@ void PatternsFrame::fillPatterns()
     ui_->cmbPattern->clear();
     for (const QString &name : stack() ? palx::patternNames(stack()->node()) : QStringList()) {
         const int layers = palx::patternUse(stack()->node(), name);
-        ui_->cmbPattern->addItem(tr("Pattern %1 (in %2 layers)").arg(name).arg(layers), name);
+        ui_->cmbPattern->addItem(tr("%1 (in %2 layers)").arg(name).arg(layers), name);
     }
     ui_->cmbPattern->setCurrentIndex(
         ui_->cmbPattern->count() == 0 ? -1 : std::max(0, ui_->cmbPattern->findData(chosen)));
@@ -130,6 +138,9 @@ void PatternsFrame::showPattern()
     const int selected = item();
     items_->setPattern(pattern());
     selectItem(std::min(std::max(selected, 0), items_->rowCount() - 1));
+    const QString facts =
+        items_->rowCount() == 1 ? tr("1 product") : tr("%1 products").arg(items_->rowCount());
+    ui_->lblFacts->setText(pattern().isEmpty() ? tr("This recipe has no pattern yet.") : facts);
     showWarnings(ui_->lblProblems,
                  stack() ? palx::patternProblems(stack()->node(), pattern()) : QStringList());
     showItem();

@@ -30,6 +30,7 @@ protected:
     void retranslate() override;
 
 private:
+    void connectPages();
     void connectButtons();
     void bindItemFields();
     void fillPatterns();

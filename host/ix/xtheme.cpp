@@ -103,7 +103,8 @@ QString roleRules()
                "QPushButton:disabled, QToolButton:disabled { background-color: %5; color: %6; }\n"
                "QPushButton[role=\"primary\"] { background-color: %4; color: #ffffff; }\n"
                "QPushButton[role=\"primary\"]:disabled { background-color: %5; color: %6; }\n"
-               "QPushButton[role=\"nav\"] { text-align: left; padding: 0px 12px; }\n")
+               "QPushButton[role=\"nav\"] { text-align: left; padding: 0px 12px; }\n"
+               "QPushButton[role=\"tab\"] { padding: 0px 8px; }\n")
         .arg(hex(kButton), hex(kText), hex(kBorder), hex(kSelection), hex(kGround), hex(kDisabledText));
 }
 

@@ -15,7 +15,7 @@ class QWidget;
 ///
 ///     "state"  "running", "attention", "fault", "manual", "stopped": coloured ground
 ///     "role"   "run" (run-time button, 96 px high), "primary" (the page's chief button),
-///              "nav" (navigator button), "title" (page title), "section" (group title),
+///              "nav" (navigator button), "tab" (chooses a part of a page), "title" (page title), "section" (group title),
 ///              "hint" (quiet text), "card" (raised frame)
 ///
 /// Set them with `setState` and `setRole`, which also restyle a widget that is shown already.

@@ -395,6 +395,7 @@ TEST(PatternsFrame, OffersTheSizeOfAChangedProduct)
     auto *resize = page.at<QPushButton>(Patterns, "btnResize");
     EXPECT_FALSE(resize->isVisible());
     enter(page.at<QDoubleSpinBox>(Product, "spnLength"), 180.0);
+    page.click(Patterns, "tabPattern");
     EXPECT_TRUE(resize->isVisible());
     resize->click();
     EXPECT_EQ(page.stack()->getInt("patterns.A.#1.h"), 180);
