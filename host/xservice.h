@@ -41,9 +41,9 @@ struct PALX_API XReply
 ///
 /// Requests whose name begins with "motion." do not wait for the panel's edits before them: a robot that must stop stops.
 ///
-/// A `set`, `execCommand` or `command` that is refused or not answered makes a log record, one per name until
-/// that request succeeds again. Without a connection it makes none: the panel shows the state of the link all
-/// the time.
+/// A request that is not answered makes a log record, and so does one that is refused, except by a `get`: one per
+/// name until that request succeeds again. Without a connection it makes none: the panel shows the state of the link
+/// all the time.
 class PALX_API XService : public QObject
 {
     Q_OBJECT
@@ -63,6 +63,11 @@ public:
     /// Calls `told` on the GUI thread, as long as `context` lives, with every value the controller publishes
     /// by `name`.
     void watch(const QString &name, QObject *context, std::function<void(const orba::Node &)> told);
+
+Q_SIGNALS:
+    /// A request that changes something (`set`, `execCommand`, `command`) has ended, on whatever thread it was made.
+    /// Sent on the GUI thread, from within the call when that waits: listeners take note and act later.
+    void requestEnded(const QString &name, bool isOk);
 
 private:
     friend PALX_API XService *xservice();

@@ -157,7 +157,7 @@ void ControllerLink::takeWay(bool open, const QString &reason)
     idlePings_ = 0;
     greetAt_ = 0;
     if (open) {
-        toldUnreadable_ = false;
+        told_ = Faults();
         greetingSince_ = clock_();
         enter(LinkState::Greeting, tr("The controller is being asked for its state."));
         greet();
@@ -195,6 +195,8 @@ void ControllerLink::tick()
     drain();
     const qint64 now = clock_();
     checkCommands(now);
+    if (lastFaultAt_ != 0 && now - lastFaultAt_ >= kFaultShownMs)
+        forgetFaults();
     if (greetAt_ != 0 && now >= greetAt_)
         greet();
     if (state_ == LinkState::Greeting && now - greetingSince_ >= kDeadMs)
@@ -278,7 +280,8 @@ void ControllerLink::take(LinkArrival &arrival)
     else if (arrival.what == What::Unreadable)
         takeUnreadable(arrival.text);
     else if (arrival.what == What::RequestEnded)
-        noteOutcome(arrival.message.name, static_cast<XReply::Status>(arrival.message.status), arrival.text);
+        noteOutcome(arrival.message.name,
+                    {static_cast<XReply::Status>(arrival.message.status), Node(), arrival.text}, true);
     else
         takeWay(arrival.what == What::WayOpen, arrival.text);
 }
@@ -356,7 +359,8 @@ void ControllerLink::takeError(const LinkMessage &error)
                    .arg(error.text));
         greetAt_ = 0;
     } else {
-        tellUnreadable(tr("The controller did not take a message of the panel: %1.").arg(error.text));
+        noteFault(&Faults::unreadable,
+                  tr("The controller did not take a message of the panel: %1.").arg(error.text));
         if (isConnected() && greetAt_ == 0)
             greet();
     }
@@ -370,15 +374,8 @@ void ControllerLink::takeUnreadable(const QString &why)
     error.name = QLatin1String(fault::kFrame);
     error.text = why;
     send(error);
-    tellUnreadable(tr("The controller sent something that cannot be read and was left out: %1.").arg(why));
-}
-
-/// Once per way: a bad line must not fill the log.
-void ControllerLink::tellUnreadable(const QString &text)
-{
-    if (std::exchange(toldUnreadable_, true))
-        return;
-    publishRecord(QStringLiteral("warning"), text);
+    noteFault(&Faults::unreadable,
+              tr("The controller sent something that cannot be read and was left out: %1.").arg(why));
 }
 
 void ControllerLink::takePing(const LinkMessage &ping)

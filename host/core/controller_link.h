@@ -33,6 +33,7 @@ public:
     static constexpr int kMaxResendMs = 3200; ///< at most
     static constexpr int kEditsUnderWay = 32; ///< edits sent at most before the first is known to be taken
     static constexpr int kTickMs = 100;
+    static constexpr int kFaultShownMs = 60000; ///< without a new one, faults are no longer shown
 
     /// Monotonic milliseconds.
     using Clock = std::function<qint64()>;
@@ -55,6 +56,8 @@ public:
     bool isConnected() const { return state_ == LinkState::Connected; }
     /// The state for the operator: what, and when it is bad, why and the way out.
     const QString &stateText() const { return stateText_; }
+    /// "closed", "connecting", "greeting", "connected" or "refused", as "nexo.r.state" has it.
+    static QString stateName(LinkState state);
 
     /// For XService. `ask` on any thread, also without a link.
     static XReply ask(const QString &name, const orba::Node &payload, int timeoutMs, bool isTold);
@@ -92,6 +95,14 @@ private:
         Answered answered;
     };
 
+    /// What went wrong lately, for the operator.
+    struct Faults
+    {
+        int unreadable = 0;   ///< messages of either side that the other could not read
+        int strayReplies = 0; ///< late, or a second one
+        int unanswered = 0;   ///< requests
+    };
+
     // controller_link.cpp: state, what arrives
     void enter(LinkState state, const QString &text);
     void refuse(const QString &text);
@@ -104,7 +115,6 @@ private:
     void takeHello(LinkMessage &message);
     void takeError(const LinkMessage &error);
     void takeUnreadable(const QString &why);
-    void tellUnreadable(const QString &text);
     void takeEvent(const LinkMessage &event);
     void takePing(const LinkMessage &ping);
     void greet();
@@ -112,12 +122,17 @@ private:
     void bounce(const QString &reason);
     bool pump(const std::function<bool()> &isDone, int boundMs);
 
+    // link_faults.cpp
+    void noteFault(int Faults::*kind, const QString &record = QString());
+    void forgetFaults();
+    QString faultsText() const;
+
     // link_request.cpp
     void sendMissing(std::uint64_t taken);
     void checkCommands(qint64 now);
     void endCommand(const Command &command, const XReply &reply);
     void breakCommands();
-    void noteOutcome(const QString &name, XReply::Status status, const QString &error);
+    void noteOutcome(const QString &name, const XReply &reply, bool changes);
     void takeReply(LinkMessage &reply);
 
     // link_mirror.cpp: nodes and edits
@@ -158,7 +173,9 @@ private:
     qint64 resendAt_ = 0; ///< when edits are sent again; 0: nothing waits
     qint64 resendMs_ = kResendMs;
     int underWay_ = kEditsUnderWay; ///< edits that may be under way now
-    bool toldUnreadable_ = false;   ///< since the way opened
+    Faults faults_;
+    Faults told_; ///< which kinds have a record since the way opened
+    qint64 lastFaultAt_ = 0;
     int idlePings_ = 0;             ///< since an edit was taken the last time
 };
 

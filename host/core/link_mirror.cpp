@@ -29,7 +29,8 @@ const QStringList &mirroredTops()
 /// Keys of "nexo.r" that the panel itself writes.
 const QStringList &ownKeys()
 {
-    static const QStringList keys{QStringLiteral("connected"), QStringLiteral("link")};
+    static const QStringList keys{QStringLiteral("connected"), QStringLiteral("link"), QStringLiteral("state"),
+                                  QStringLiteral("faults")};
     return keys;
 }
 
@@ -151,6 +152,8 @@ void ControllerLink::showState()
 {
     orba::ModuleObject *controller = m(kController);
     controller->set(this, "link", stateText_);
+    controller->set(this, "state", stateName(state_));
+    controller->set(this, "faults", faultsText());
     controller->set(this, "connected", isConnected());
 }
 

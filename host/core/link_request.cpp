@@ -48,8 +48,8 @@ XReply ControllerLink::ask(const QString &name, const Node &payload, int timeout
     if (link)
         link->spokeAt_ = link->clock_();
     XReply reply = desk->ask(question);
-    if (isTold && link)
-        link->noteOutcome(name, reply.status, reply.error);
+    if (link)
+        link->noteOutcome(name, reply, isTold);
     else if (isTold)
         desk->noteOutcome(name, reply);
     return reply;
@@ -70,7 +70,7 @@ bool ControllerLink::command(const QString &name, const Node &payload, Answered 
     QString error;
     const std::string frame = desk_->requestFrame(question, &id, &error);
     if (frame.empty())
-        noteOutcome(name, XReply::Status::Refused, error);
+        noteOutcome(name, {XReply::Status::Refused, Node(), error}, true);
     if (frame.empty() || !desk_->way.send(frame))
         return false;
     spokeAt_ = clock_();
@@ -83,6 +83,8 @@ void ControllerLink::takeReply(LinkMessage &reply)
     const auto command = commands_.find(reply.id);
     if (command == commands_.end()) {
         ++figures_.droppedReplies;
+        noteFault(&Faults::strayReplies,
+                  tr("The controller answered a request too late or twice. The answer was dropped."));
         return;
     }
     if (reply.status == status::kBehind) {
@@ -98,10 +100,12 @@ void ControllerLink::takeReply(LinkMessage &reply)
 /// May end this link's commands anew: the caller holds no place in their table.
 void ControllerLink::endCommand(const Command &command, const XReply &reply)
 {
-    if (command.answered)
-        command.answered(reply);
-    else
-        noteOutcome(command.name, reply.status, reply.error);
+    if (!command.answered)
+        return noteOutcome(command.name, reply, true);
+    if (reply.status == XReply::Status::Timeout)
+        noteFault(&Faults::unanswered);
+    command.answered(reply);
+    Q_EMIT xservice()->requestEnded(command.name, reply.isOk());
 }
 
 /// Nobody will hear of the commands that are under way.
@@ -134,15 +138,21 @@ void ControllerLink::checkCommands(qint64 now)
         endCommand(command, LinkDesk::late(desk_->timeoutMs));
 }
 
-void ControllerLink::noteOutcome(const QString &name, XReply::Status status, const QString &error)
+/// `changes` tells a request that changes something from one that only asks: whoever asks deals with a refusal.
+void ControllerLink::noteOutcome(const QString &name, const XReply &reply, bool changes)
 {
-    if (status == XReply::Status::Ok)
+    const bool isLate = reply.status == XReply::Status::Timeout;
+    if (reply.isOk())
         failing_.remove(name);
-    if (status == XReply::Status::Ok || status == XReply::Status::NotConnected || failing_.contains(name))
-        return;
-    failing_.insert(name);
-    publishRecord(QStringLiteral("warning"),
-                  tr("The controller did not carry out \"%1\": %2").arg(name, error));
+    if (isLate)
+        noteFault(&Faults::unanswered);
+    if ((isLate || (changes && reply.status == XReply::Status::Refused)) && !failing_.contains(name)) {
+        failing_.insert(name);
+        publishRecord(QStringLiteral("warning"),
+                      tr("The controller did not carry out \"%1\": %2").arg(name, reply.error));
+    }
+    if (changes)
+        Q_EMIT xservice()->requestEnded(name, reply.isOk());
 }
 
 } // namespace host

@@ -236,6 +236,7 @@ void LinkTest::settle()
     do
         QCoreApplication::processEvents();
     while (link && !link->isIdle()); // one turn of the loop takes only so much
+    QCoreApplication::processEvents(); // what the last of it put off
 }
 
 void LinkTest::rest()

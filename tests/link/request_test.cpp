@@ -155,7 +155,10 @@ TEST_F(LinkTest, ALateReplyIsNotTakenForTheNextRequest)
     controller.send(replyTo(first, "\"later\""));
     settle();
     EXPECT_EQ(link->figures().droppedReplies, 3);
-    EXPECT_EQ(takeRecords(), QStringList());
+    const QStringList records = takeRecords();
+    ASSERT_EQ(records.size(), 2) << records.join(QLatin1Char('|')); // one of a kind
+    EXPECT_TRUE(records[0].contains(QStringLiteral("did not answer within 0 s"))) << records[0];
+    EXPECT_TRUE(records[1].contains(QStringLiteral("too late or twice"))) << records[1];
 }
 
 TEST_F(LinkTest, ALinkThatBreaksEndsTheWaitAtOnce)
@@ -199,8 +202,6 @@ TEST_F(LinkTest, AFailingRequestIsRecordedOnceUntilItSucceeds)
     const QString push = QStringLiteral("pallet.set.one");
     for (int i = 0; i < 3; ++i)
         xservice()->execCommand(nullptr, push, nullptr, 0);
-    xservice()->get(nullptr, QStringLiteral("link.info"),
-                    0); // whoever asks for something sees that it is missing
     QStringList records = takeRecords();
     ASSERT_EQ(records.size(), 1);
     EXPECT_TRUE(records[0].contains(push)) << records[0];
@@ -230,8 +231,9 @@ TEST_F(LinkTest, ACommandDoesNotWaitAndItsRefusalIsTold)
     controller.send(reply);
     settle();
     QStringList records = takeRecords();
-    ASSERT_EQ(records.size(), 1);
+    ASSERT_EQ(records.size(), 2);
     EXPECT_TRUE(records[0].contains(reply.text)) << records[0];
+    EXPECT_TRUE(records[1].contains(QStringLiteral("too late or twice"))) << records[1];
     EXPECT_EQ(link->figures().droppedReplies, 1);
 
     EXPECT_TRUE(send());
@@ -317,6 +319,27 @@ TEST_F(LinkTest, AMoveDoesNotWaitForEdits)
     EXPECT_EQ(controller.edits, QStringList());
     EXPECT_TRUE(xservice()->execCommand(nullptr, QStringLiteral("pallet.set.one"), nullptr).isOk());
     EXPECT_EQ(controller.edits.size(), 1) << "others bring the edits before them";
+}
+
+TEST_F(LinkTest, TheEndOfWhatChangesSomethingIsTold)
+{
+    connectLink();
+    QStringList ended;
+    QObject::connect(xservice(), &XService::requestEnded, link.get(),
+                     [&ended](const QString &name, bool isOk) {
+                         ended.append(name + (isOk ? QStringLiteral(" ok") : QStringLiteral(" failed")));
+                     });
+    xservice()->set(nullptr, QStringLiteral("set"), stack());
+    xservice()->execCommand(nullptr, QStringLiteral("exec"), nullptr);
+    xservice()->get(nullptr, QStringLiteral("get"));
+    xservice()->command(nullptr, QStringLiteral("command"), nullptr);
+    xservice()->command(link.get(), QStringLiteral("answered"), nullptr, [](const XReply &) {});
+    settle();
+    std::thread([] { xservice()->set(nullptr, QStringLiteral("thread"), stack()); }).join();
+    settle();
+    controller.breakWay("pulled");
+    xservice()->set(nullptr, QStringLiteral("late"), stack());
+    EXPECT_EQ(ended, QStringList({"set ok", "exec ok", "command ok", "answered ok", "thread ok", "late failed"}));
 }
 
 TEST_F(LinkTest, AnyThreadMaySendAndWait)
