@@ -1,6 +1,5 @@
 #include "core/global_nodes.h"
 
-#include "nexo/manager_helper.h"
 #include "nexo/setting_manager.h"
 #include "orba/module_manager.h"
 #include "orba/tree_registry.h"
@@ -74,7 +73,7 @@ void removeGlobalNodes()
         orba::TreeRegistry::instance().removeModule(QLatin1String(name));
 }
 
-void publishRecord(const QString &level, const QString &title)
+orba::Node makeRecord(const QString &level, const QString &title)
 {
     orba::Node record;
     record.ensure(u"level")->setString(level);
@@ -82,39 +81,13 @@ void publishRecord(const QString &level, const QString &title)
     record.ensure(u"date_time")
         ->setString(QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd/HH:mm:ss")));
     record.ensure(u"rcid")->setString(m("nexo.r.id")->getString());
-    m(kCurrentLog)->set(nullptr, "", QString::fromUtf8(orba::ModuleManager::toJson(record, true)));
+    return record;
 }
 
-LogKeeper::LogKeeper(QObject *parent) : QObject(parent)
+void publishRecord(const QString &level, const QString &title)
 {
-    connect(m(kCurrentLog), &orba::ModuleObject::changed, this,
-            [this](const QVariant &value) { take(value); });
-}
-
-void LogKeeper::take(const QVariant &value)
-{
-    orba::Node record;
-    orba::FormatError fault;
-    const bool read = orba::ModuleManager::fromJson(value.toString().toUtf8(), &record, &fault);
-    const QString title = record.getString(u"title");
-    if (!read || title.isEmpty()) {
-        nexo::ManagerHelper::instance()->throwLog(
-            this, QStringLiteral("error"),
-            tr("A log record cannot be kept: %1").arg(read ? tr("it has no title") : fault.text()));
-        return;
-    }
-    append(record);
-    const QString level = record.getString(u"level");
-    nexo::ManagerHelper::instance()->throwLog(this, level, title);
-    Q_EMIT recorded(level, title, record.getString(u"date_time"));
-}
-
-void LogKeeper::append(const orba::Node &record)
-{
-    orba::ModuleObject *list = m("quill.log.list");
-    while (list->cmobjCount() >= kMaxRecords)
-        list->c(0)->remove();
-    list->addUnnamed()->copyFrom(record);
+    const QByteArray text = orba::ModuleManager::toJson(makeRecord(level, title), true);
+    m(kCurrentLog)->set(nullptr, "", QString::fromUtf8(text));
 }
 
 } // namespace host

@@ -106,9 +106,10 @@ bool ManagerHelper::execMsgOk(const QString &title, const QString &text, const Q
     return (presenter_ ? presenter_ : consolePresenter())->ask(message);
 }
 
-void ManagerHelper::throwLog(QObject *, const QString &level, const QString &text)
+void ManagerHelper::throwLog(QObject *sender, const QString &level, const QString &text)
 {
     (presenter_ ? presenter_ : consolePresenter())->notify(knownLevel(level), text);
+    Q_EMIT noticeThrown(sender, knownLevel(level), text);
 }
 
 void ManagerHelper::setPresenter(MessagePresenter *presenter)

@@ -54,6 +54,8 @@ public:
 
 Q_SIGNALS:
     void qrcAliasRegistered(const QString &alias);
+    /// A notice was thrown; whoever keeps a log takes it from here.
+    void noticeThrown(QObject *sender, const QString &level, const QString &text);
 
 private:
     ManagerHelper();

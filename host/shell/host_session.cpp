@@ -3,6 +3,7 @@
 #include "bwaf/bmodule.h"
 #include "core/controller_link.h"
 #include "core/global_nodes.h"
+#include "core/log_keeper.h"
 #include "core/store.h"
 #include "nexo/manager_helper.h"
 #include "nexo/setting_manager.h"
@@ -206,10 +207,13 @@ void HostSession::closeStore()
 void HostSession::buildNodes()
 {
     QString error;
-    if (buildGlobalNodes(&error))
-        logKeeper_ = std::make_unique<LogKeeper>();
-    else
+    if (!buildGlobalNodes(&error)) {
         report({tr("The panel's own nodes cannot be built"), QString(), error});
+        return;
+    }
+    logKeeper_ = std::make_unique<LogKeeper>();
+    if (store_) // the folder is this session's alone
+        logKeeper_->keepIn(QDir(options_.dataFolder).filePath(QStringLiteral("log/records.jsonl")));
 }
 
 // ---------------------------------------------------------------- controller

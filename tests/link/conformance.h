@@ -9,6 +9,7 @@
 
 #include "core/controller_link.h"
 #include "core/global_nodes.h"
+#include "core/log_keeper.h"
 #include "link/frame.h"
 #include "link/mailbox.h"
 #include "support/test_support.h"
