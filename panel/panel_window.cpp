@@ -1,10 +1,12 @@
 #include "panel/panel_window.h"
 
 #include "bwaf/center_widget.h"
+#include "core/global_nodes.h"
 #include "ix/xtheme.h"
+#include "panel/controller_page.h"
+#include "panel/log_page.h"
 #include "panel/message_dialog.h"
 #include "panel/navigator.h"
-#include "panel/notice_page.h"
 #include "panel/problem_page.h"
 #include "panel/status_strip.h"
 
@@ -16,6 +18,7 @@ namespace panel {
 
 namespace {
 
+const QString kControllerPage = QStringLiteral("panel.controller");
 const QString kNoticePage = QStringLiteral("panel.notices");
 const QString kProblemPage = QStringLiteral("panel.problems");
 
@@ -23,7 +26,7 @@ const QString kProblemPage = QStringLiteral("panel.problems");
 
 PanelWindow::PanelWindow(host::HostSession *session, PanelPresenter *presenter, QWidget *parent)
     : QWidget(parent), session_(session), center_(session->centerWidget()),
-      navigator_(new Navigator(m("ix.nav"), this)), status_(new StatusStrip(this)), notices_(new NoticePage)
+      navigator_(new Navigator(m("ix.nav"), this)), status_(new StatusStrip(this)), log_(new LogPage)
 {
     setObjectName(QStringLiteral("panelWindow"));
     resize(kWidth, kHeight);
@@ -36,11 +39,11 @@ PanelWindow::PanelWindow(host::HostSession *session, PanelPresenter *presenter, 
     column->addLayout(row, 1);
     column->addWidget(status_);
     addOwnPages();
-    connect(presenter, &PanelPresenter::noticed, this, &PanelWindow::showNotice);
-    connect(session, &host::HostSession::problemFound, this,
-            [this](const QString &text) { showNotice(QStringLiteral("error"), text); });
+    connect(presenter, &PanelPresenter::noticed, status_, &StatusStrip::showNotice);
+    connect(session, &host::HostSession::problemFound, this, &PanelWindow::showProblem);
     connect(navigator_, &Navigator::pageChosen, this, &PanelWindow::openPage);
     connect(status_, &StatusStrip::noticesWanted, this, [this] { openPage(kNoticePage); });
+    connect(status_, &StatusStrip::controllerWanted, this, [this] { openPage(kControllerPage); });
     connect(center_, &bwaf::CenterWidget::currentPageChanged, navigator_, &Navigator::setCurrentPage);
     presenter->setWindow(this);
     openFirstPage();
@@ -55,7 +58,10 @@ PanelWindow::~PanelWindow()
 void PanelWindow::addOwnPages()
 {
     using namespace ix::xtheme;
-    center_->addPage(notices_, kNoticePage);
+    center_->addPage(new ControllerPage, kControllerPage);
+    navigator_->addOwnEntry({tr("Controller"), QString(), QString(), kControllerPage, -1},
+                            icon(Glyph::Robot));
+    center_->addPage(log_, kNoticePage);
     navigator_->addOwnEntry({tr("Log"), QString(), QString(), kNoticePage, -1}, icon(Glyph::Log));
     const QList<host::Problem> &problems = session_->problems();
     if (problems.isEmpty())
@@ -64,7 +70,7 @@ void PanelWindow::addOwnPages()
     center_->addPage(problems_, kProblemPage);
     navigator_->addOwnEntry({tr("Problems"), QString(), QString(), kProblemPage, -1}, icon(Glyph::Warning));
     for (const host::Problem &problem : problems)
-        showNotice(QStringLiteral("error"), problem.text());
+        showProblem(problem.text());
 }
 
 void PanelWindow::openFirstPage()
@@ -76,14 +82,16 @@ void PanelWindow::openFirstPage()
 void PanelWindow::openPage(const QString &key)
 {
     if (!center_->setCurrentPage(key))
-        showNotice(QStringLiteral("warning"), tr("There is no page \"%1\".").arg(key));
+        nexo::ManagerHelper::instance()->throwLog(this, QStringLiteral("warning"),
+                                                  tr("There is no page \"%1\".").arg(key));
     navigator_->setCurrentPage(center_->currentPage());
 }
 
-void PanelWindow::showNotice(const QString &level, const QString &text)
+/// Published as a record, so that the log keeps it; the strip shows it also when there is nobody to keep it.
+void PanelWindow::showProblem(const QString &text)
 {
-    notices_->add(level, text);
-    status_->showNotice(level, text);
+    host::publishRecord(QStringLiteral("error"), text);
+    status_->showNotice(QStringLiteral("error"), text);
 }
 
 void PanelWindow::changeEvent(QEvent *event)
@@ -96,10 +104,10 @@ void PanelWindow::changeEvent(QEvent *event)
 void PanelWindow::retranslate()
 {
     setWindowTitle(tr("Robot panel"));
+    navigator_->setOwnTitle(kControllerPage, tr("Controller"));
     navigator_->setOwnTitle(kNoticePage, tr("Log"));
     navigator_->setOwnTitle(kProblemPage, tr("Problems"));
     status_->retranslate();
-    notices_->retranslate();
     if (problems_)
         problems_->retranslate();
 }

@@ -6,8 +6,8 @@
 
 namespace panel {
 
+class LogPage;
 class Navigator;
-class NoticePage;
 class ProblemPage;
 class PanelPresenter;
 class StatusStrip;
@@ -27,7 +27,7 @@ public:
     ~PanelWindow() override;
 
     void openPage(const QString &key);
-    NoticePage *notices() const { return notices_; }
+    LogPage *log() const { return log_; }
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -36,7 +36,7 @@ protected:
 
 private:
     void addOwnPages();
-    void showNotice(const QString &level, const QString &text);
+    void showProblem(const QString &text);
     void openFirstPage();
     void retranslate();
 
@@ -44,7 +44,7 @@ private:
     bwaf::CenterWidget *center_;
     Navigator *navigator_;
     StatusStrip *status_;
-    NoticePage *notices_;
+    LogPage *log_;
     ProblemPage *problems_ = nullptr; ///< only when the start found some
 };
 

@@ -2,6 +2,7 @@
 
 #include "nexo/setting_manager.h"
 #include "orba/module_object.h"
+#include "panel/controller_look.h"
 #include "panel/level_look.h"
 
 #include <QComboBox>
@@ -32,12 +33,11 @@ constexpr Language kLanguages[] = {{"en", "English"},
 } // namespace
 
 StatusStrip::StatusStrip(QWidget *parent)
-    : QFrame(parent), controller_(new QLabel(this)), notice_(new QPushButton(this)),
+    : QFrame(parent), controller_(new QPushButton(this)), notice_(new QPushButton(this)),
       language_(new QComboBox(this)), time_(new QLabel(this))
 {
     setObjectName(QStringLiteral("statusStrip"));
     controller_->setObjectName(QStringLiteral("controllerState"));
-    controller_->setAlignment(Qt::AlignCenter);
     controller_->setMinimumWidth(kControllerWidth); // more where a language needs it
     notice_->setObjectName(QStringLiteral("lastNotice"));
     notice_->setSizePolicy(QSizePolicy::Ignored,
@@ -50,8 +50,9 @@ StatusStrip::StatusStrip(QWidget *parent)
     row->addWidget(language_);
     row->addWidget(time_);
     fillLanguages();
-    followController();
+    followNodes(controllerPaths(), this, [this] { showController(); });
     retranslate();
+    connect(controller_, &QPushButton::clicked, this, &StatusStrip::controllerWanted);
     connect(notice_, &QPushButton::clicked, this, &StatusStrip::noticesWanted);
     connect(&clock_, &QTimer::timeout, this, &StatusStrip::showTime);
     clock_.start(kClockMs);
@@ -67,18 +68,12 @@ void StatusStrip::retranslate()
     showController();
 }
 
-void StatusStrip::followController()
-{
-    for (const char *path : {"nexo.r.connected", "nexo.r.version"})
-        connect(m(path), &orba::ModuleObject::changed, this, &StatusStrip::showController);
-}
-
 void StatusStrip::showController()
 {
-    const bool connected = m("nexo.r")->getBool("connected");
-    controller_->setText(connected ? tr("Controller %1").arg(m("nexo.r")->getString("version"))
-                                   : tr("No controller"));
-    ix::xtheme::setState(controller_, connected ? ix::xtheme::State::Running : ix::xtheme::State::Stopped);
+    const ControllerLook look = controllerLook();
+    controller_->setText(look.text);
+    controller_->setIcon(ix::xtheme::icon(look.glyph, ix::xtheme::textColor(look.state)));
+    ix::xtheme::setState(controller_, look.state);
 }
 
 void StatusStrip::showTime()

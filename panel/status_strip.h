@@ -21,19 +21,19 @@ public:
 
 Q_SIGNALS:
     void noticesWanted();
+    void controllerWanted();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void followController();
     void showController();
     void showTime();
     void fillLanguages();
     void chooseLanguage(int index);
     void elideNotice();
 
-    QLabel *controller_;
+    QPushButton *controller_;
     QPushButton *notice_;
     QComboBox *language_;
     QLabel *time_;

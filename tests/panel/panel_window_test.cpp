@@ -2,8 +2,8 @@
 #include "fixtures.h"
 #include "ix/xtheme.h"
 #include "nexo/setting_manager.h"
+#include "panel/log_page.h"
 #include "panel/message_dialog.h"
-#include "panel/notice_page.h"
 #include "panel/panel_window.h"
 #include "shell/host_session.h"
 #include "support/test_support.h"
@@ -13,8 +13,8 @@
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest/QTest>
@@ -100,45 +100,96 @@ TEST_F(PanelWindowTest, ShowsWhyAPluginDidNotLoad)
     EXPECT_TRUE(shown.filter(QStringLiteral("orba_plugin_api")).size() == 1) << shown.join(QLatin1Char('|'));
 }
 
-TEST_F(PanelWindowTest, NoticesReachTheStripAndTheLogAlsoFromBeforeTheWindow)
+TEST_F(PanelWindowTest, NoticesReachTheStripAndTheLog)
 {
     nexo::ManagerHelper::instance()->throwLog(nullptr, QStringLiteral("warning"), QStringLiteral("early"));
     start({fixtureFile("good_plugin")});
-    EXPECT_EQ(window->notices()->count(), 1);
-    m("quill.log.current")
-        ->set(nullptr, "", QStringLiteral(R"({"level":"error","title":"The box is lost"})"));
-    EXPECT_EQ(window->notices()->count(), 2);
-    auto *list = child<QListWidget>("noticeList");
-    EXPECT_TRUE(list->item(0)->text().endsWith(QStringLiteral("The box is lost")));
-    EXPECT_TRUE(list->item(1)->text().endsWith(QStringLiteral("early")));
     window->show();
     auto *strip = child<QPushButton>("lastNotice");
+    EXPECT_EQ(strip->text(), QStringLiteral("early"));
+    nexo::ManagerHelper::instance()->throwLog(nullptr, QStringLiteral("warning"), QStringLiteral("passing"));
+    m("quill.log.current")
+        ->set(nullptr, "", QStringLiteral(R"({"level":"error","title":"The box is lost"})"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->log()->count(), 2);
     EXPECT_EQ(strip->text(), QStringLiteral("The box is lost"));
     EXPECT_EQ(strip->property("state").toString(), QStringLiteral("fault"));
     QTest::mouseClick(strip, Qt::LeftButton);
     EXPECT_EQ(openPage(), QStringLiteral("panel.notices"));
 }
 
-TEST_F(PanelWindowTest, TheLogKeepsTheNewestNotices)
+TEST_F(PanelWindowTest, ProblemsOfTheStartStandInTheLog)
 {
-    panel::NoticePage page;
-    for (int i = 0; i < panel::NoticePage::kMaxNotices + 2; ++i)
-        page.add(QStringLiteral("info"), QString::number(i));
-    EXPECT_EQ(page.count(), panel::NoticePage::kMaxNotices);
-    const auto *list = page.findChild<QListWidget *>(QStringLiteral("noticeList"));
-    EXPECT_TRUE(list->item(0)->text().endsWith(QStringLiteral(" 501")));
-    EXPECT_TRUE(list->item(list->count() - 1)->text().endsWith(QStringLiteral(" 2")));
+    start({fixtureFile("no_entry")});
+    EXPECT_EQ(m("quill.log.list")->cmobjCount(), 1);
+    EXPECT_EQ(m("quill.log.list")->getString("#0.title"), session->problems().first().text());
+    window->openPage(QStringLiteral("no.page"));
+    EXPECT_EQ(m("quill.log.list")->getString("#1.title"), QStringLiteral("There is no page \"no.page\"."));
 }
 
 TEST_F(PanelWindowTest, TheStripFollowsTheController)
 {
     start({});
-    auto *state = child<QLabel>("controllerState");
-    EXPECT_EQ(state->property("state").toString(), QStringLiteral("stopped"));
-    m("nexo.r")->set(nullptr, "connected", true);
-    EXPECT_EQ(state->property("state").toString(), QStringLiteral("running"));
+    auto *strip = child<QPushButton>("controllerState");
+    const struct
+    {
+        const char *state;
+        bool connected;
+        const char *faults, *text, *look;
+    } cases[] = {{"closed", false, "", "No controller", "stopped"},
+                 {"connecting", false, "", "No controller", "attention"},
+                 {"greeting", false, "", "No controller", "attention"},
+                 {"connected", true, "", "Controller 2.4.1", "running"},
+                 {"connected", true, "Requests without an answer: 1.", "Check controller", "attention"},
+                 {"refused", false, "", "Controller refuses", "fault"},
+                 {"connecting", false, "", "No controller", "attention"}};
     m("nexo.r")->set(nullptr, "version", QStringLiteral("2.4.1"));
-    EXPECT_TRUE(state->text().contains(QStringLiteral("2.4.1"))) << state->text();
+    for (const auto &each : cases) {
+        m("nexo.r")->set(nullptr, "state", QLatin1String(each.state));
+        m("nexo.r")->set(nullptr, "connected", each.connected);
+        m("nexo.r")->set(nullptr, "faults", QLatin1String(each.faults));
+        EXPECT_EQ(strip->text(), QLatin1String(each.text));
+        EXPECT_EQ(strip->property("state").toString(), QLatin1String(each.look)) << each.state;
+        EXPECT_FALSE(strip->icon().isNull());
+    }
+    QTest::mouseClick(strip, Qt::LeftButton);
+    EXPECT_EQ(openPage(), QStringLiteral("panel.controller"));
+}
+
+TEST_F(PanelWindowTest, TheControllerPageFollowsItsNodes)
+{
+    start({});
+    const struct
+    {
+        const char *path;
+        QVariant value;
+        const char *label, *text;
+    } facts[] = {
+        {"nexo.r.name", QStringLiteral("Cell 4"), "lblName", "Cell 4"},
+        {"nexo.r.version", QStringLiteral("2.4.1"), "lblVersion", "2.4.1"},
+        {"nexo.r.id", QStringLiteral("R7"), "lblRobot", "R7"},
+        {"nexo.robot.moving", true, "lblMotion", "Moving"},
+        {"quill.body.toolset", QStringLiteral("Gripper"), "lblTool", "Gripper"},
+        {"quill.project.cur_project", QStringLiteral("R7/Line/_build/Line.prj"), "lblProject", "Line"},
+        {"quill.project.autoload_prj_path", QStringLiteral("/w/Night.prj"), "lblAutoload", "Night"}};
+    for (const auto &fact : facts) {
+        m(fact.path)->set(nullptr, "", fact.value);
+        EXPECT_EQ(child<QLabel>(fact.label)->text(), QString(QChar(0x2013)))
+            << "not connected: " << fact.path;
+    }
+    EXPECT_EQ(child<QLabel>("lblLink")->text(),
+              QStringLiteral("This panel has no link to a controller.\n"
+                             "Editing goes on; the recipes stay in the panel."));
+    m("nexo.r")->set(nullptr, "connected", true);
+    m("nexo.r")->set(nullptr, "link", QStringLiteral("All is well."));
+    for (const auto &fact : facts)
+        EXPECT_EQ(child<QLabel>(fact.label)->text(), QLatin1String(fact.text)) << fact.path;
+    EXPECT_EQ(child<QLabel>("lblLink")->text(), QStringLiteral("All is well."));
+    m("nexo.robot")->set(nullptr, "fault", QStringLiteral("joint 3 would stand at -87.2°"));
+    EXPECT_EQ(child<QLabel>("lblMotion")->text(), QStringLiteral("joint 3 would stand at -87.2°"));
+    m("nexo.r")->set(nullptr, "faults", QStringLiteral("Requests without an answer: 1."));
+    EXPECT_EQ(child<QLabel>("lblLink")->text(),
+              QStringLiteral("All is well.\nRequests without an answer: 1."));
 }
 
 TEST_F(PanelWindowTest, TheLanguageChoiceIsKeptAsASetting)
@@ -214,8 +265,9 @@ TEST_F(PanelWindowTest, ItsTextsFollowTheLanguageThatTheOperatorChooses)
         EXPECT_EQ(child<QPushButton>("nav.panel.notices")->text(), QString::fromUtf8(language.log));
         EXPECT_EQ(child<QPushButton>("nav.panel.problems")->accessibleName(),
                   QString::fromUtf8(language.problems));
-        EXPECT_EQ(child<QLabel>("noticeTitle")->text(), QString::fromUtf8(language.log));
-        EXPECT_EQ(child<QLabel>("controllerState")->text(), QString::fromUtf8(language.controller));
+        EXPECT_EQ(window->log()->findChild<QLabel *>("lblTitle")->text(),
+                  QCoreApplication::translate("LogPage", "Log"));
+        EXPECT_EQ(child<QPushButton>("controllerState")->text(), QString::fromUtf8(language.controller));
         EXPECT_EQ(child<QWidget>("problemPage")->findChild<QLabel *>("problemText")->text(),
                   QString::fromUtf8(language.problemTitle));
     }
