@@ -8,8 +8,6 @@ namespace {
 using orba::ModuleObject;
 using orba::Node;
 
-void restoreNode(ModuleObject *target, const Node &source);
-
 void restoreNumbers(ModuleObject *target, const Node &source)
 {
     for (int i = 0; i < source.size(); ++i) {
@@ -76,6 +74,8 @@ bool hasNoNames(const Node &node)
     return true;
 }
 
+} // namespace
+
 void restoreNode(ModuleObject *target, const Node &source)
 {
     const Node &have = target->node();
@@ -94,8 +94,6 @@ void restoreNode(ModuleObject *target, const Node &source)
     else
         target->copyFrom(source);
 }
-
-} // namespace
 
 Node recipeContent(const Node &stack)
 {

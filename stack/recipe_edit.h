@@ -44,5 +44,7 @@ PALX_API orba::Node recipeContent(const orba::Node &stack);
 /// Makes the recipe equal to `content` by writing values in place, so that fields tied to nodes follow. Nodes
 /// are added and removed only where the structure differs; "points" stays.
 PALX_API void restoreContent(orba::ModuleObject *stack, const orba::Node &content);
+/// The same for any node below a recipe.
+PALX_API void restoreNode(orba::ModuleObject *target, const orba::Node &source);
 
 } // namespace palx

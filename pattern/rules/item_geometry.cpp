@@ -1,66 +1,14 @@
 #include "pattern/rules/item_geometry.h"
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
-#include <numeric>
+#include "pattern/rules/shadows.h"
 
 namespace palx {
 
 namespace {
 
-/// Shadow of a figure on an axis.
-struct Span
-{
-    double low, high;
-};
-
-double dot(const QPointF &a, const QPointF &b)
-{
-    return a.x() * b.x() + a.y() * b.y();
-}
-
-Span shadow(const Corners &figure, const QPointF &axis)
-{
-    Span span{dot(figure[0], axis), dot(figure[0], axis)};
-    for (const QPointF &corner : figure) {
-        span.low = std::min(span.low, dot(corner, axis));
-        span.high = std::max(span.high, dot(corner, axis));
-    }
-    return span;
-}
-
-/// Unit vectors along the two sides of a rectangle.
-std::array<QPointF, 2> axesOf(const Corners &figure)
-{
-    std::array<QPointF, 2> axes{figure[1] - figure[0], figure[3] - figure[0]};
-    for (QPointF &axis : axes)
-        axis /= std::max(std::hypot(axis.x(), axis.y()), kContactMm);
-    return axes;
-}
-
-QRectF boundsOf(const Corners &corners)
-{
-    const Span across = shadow(corners, QPointF(1, 0));
-    const Span along = shadow(corners, QPointF(0, 1));
-    return QRectF(QPointF(across.low, along.low), QPointF(across.high, along.high));
-}
-
 double over(double distance)
 {
     return distance > kContactMm ? distance : 0;
-}
-
-/// Calls `pair(i, j)` for the rectangles that may meet, sweeping them from left to right.
-template <typename Pair> void eachNearPair(const QVector<QRectF> &bounds, Pair pair)
-{
-    QVector<int> order(bounds.size());
-    std::iota(order.begin(), order.end(), 0);
-    std::sort(order.begin(), order.end(), [&](int a, int b) { return bounds[a].left() < bounds[b].left(); });
-    for (int i = 0; i < order.size(); ++i) {
-        for (int j = i + 1; j < order.size() && bounds[order[j]].left() < bounds[order[i]].right(); ++j)
-            pair(std::min(order[i], order[j]), std::max(order[i], order[j]));
-    }
 }
 
 void widen(Overhang *worst, const Overhang &one)
@@ -73,7 +21,7 @@ void widen(Overhang *worst, const Overhang &one)
 
 void findOverlaps(const QVector<Corners> &corners, const QVector<QRectF> &bounds, LayoutFindings *findings)
 {
-    eachNearPair(bounds, [&](int first, int second) {
+    eachNearPair(bounds, 0, [&](int first, int second) {
         const bool known = findings->overlapping[first] && findings->overlapping[second];
         if (known && findings->overlaps.size() >= kMaxListedOverlaps)
             return;
@@ -138,15 +86,17 @@ bool isUpright(const PatternItem &item)
 
 double overlapMm(const Corners &a, const Corners &b)
 {
-    double depth = std::numeric_limits<double>::infinity();
+    return over(-gapMm(a, b));
+}
+
+double gapMm(const Corners &a, const Corners &b)
+{
+    double common = std::numeric_limits<double>::infinity();
     for (const Corners *figure : {&a, &b}) {
-        for (const QPointF &axis : axesOf(*figure)) {
-            const Span one = shadow(a, axis);
-            const Span other = shadow(b, axis);
-            depth = std::min({depth, one.high - other.low, other.high - one.low});
-        }
+        for (const QPointF &axis : axesOf(*figure))
+            common = std::min(common, commonMm(shadowOf(a, axis), shadowOf(b, axis)));
     }
-    return over(depth);
+    return -common;
 }
 
 Overhang overhangOf(const QRectF &bounds, const QSizeF &pallet)

@@ -29,6 +29,9 @@ PALX_API bool isUpright(const PatternItem &item);
 
 /// How deep two items reach into each other (the shortest way apart); 0 when they only touch or are apart.
 PALX_API double overlapMm(const Corners &a, const Corners &b);
+/// The gap between two items, measured square to one of their sides: past a corner it is the longer of the two
+/// ways. Negative: how deep they reach into each other.
+PALX_API double gapMm(const Corners &a, const Corners &b);
 
 /// How far something reaches over each edge of the pallet; 0 where it stays inside.
 struct PALX_API Overhang

@@ -1,61 +1,30 @@
 #include "pattern/rules/order_check.h"
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
+#include "pattern/rules/shadows.h"
 
 namespace palx {
 
 namespace {
 
-double dot(const QPointF &a, const QPointF &b)
+Shadow swept(Shadow shadow, double shift)
 {
-    return a.x() * b.x() + a.y() * b.y();
-}
-
-/// A convex figure's shadow on an axis; `shift` not null: of the figure swept along it.
-struct Shadow
-{
-    double low, high;
-    Shadow(const Corners &figure, const QPointF &axis, const QPointF &shift = QPointF())
-        : low(dot(figure[0], axis)), high(low)
-    {
-        for (const QPointF &corner : figure) {
-            low = std::min(low, dot(corner, axis));
-            high = std::max(high, dot(corner, axis));
-        }
-        low += std::min(0.0, dot(shift, axis));
-        high += std::max(0.0, dot(shift, axis));
-    }
-};
-
-QPointF unit(const QPointF &vector)
-{
-    return vector / std::max(std::hypot(vector.x(), vector.y()), kContactMm);
+    return {shadow.low + std::min(0.0, shift), shadow.high + std::max(0.0, shift)};
 }
 
 /// The swept figure is convex: its sides are the figure's own and two along the shift.
 double sweptDepth(const Corners &figure, const QPointF &shift, const Corners &placed)
 {
-    const std::array<QPointF, 5> axes{unit(figure[1] - figure[0]), unit(figure[3] - figure[0]),
-                                      unit(placed[1] - placed[0]), unit(placed[3] - placed[0]),
-                                      unit(QPointF(-shift.y(), shift.x()))};
+    const auto own = axesOf(figure);
+    const auto others = axesOf(placed);
     double depth = std::numeric_limits<double>::infinity();
-    for (const QPointF &axis : axes) {
-        const Shadow path(figure, axis, shift);
-        const Shadow other(placed, axis);
-        depth = std::min({depth, path.high - other.low, other.high - path.low});
+    for (const QPointF &axis :
+         {own[0], own[1], others[0], others[1], unitOf(QPointF(-shift.y(), shift.x()))}) {
+        const Shadow path = swept(shadowOf(figure, axis), QPointF::dotProduct(shift, axis));
+        depth = std::min(depth, commonMm(path, shadowOf(placed, axis)));
         if (depth <= kContactMm)
             return 0;
     }
     return depth;
-}
-
-QRectF boundsOf(const Corners &figure)
-{
-    const Shadow across(figure, QPointF(1, 0));
-    const Shadow along(figure, QPointF(0, 1));
-    return QRectF(QPointF(across.low, along.low), QPointF(across.high, along.high));
 }
 
 bool comesFromAbove(const PatternItem &item, const QPointF &shift)

@@ -11,13 +11,6 @@ using palx::PatternItem;
 
 namespace {
 
-palx::ApproachFrame namedSides()
-{
-    palx::ApproachFrame frame;
-    frame.side.towards[0] = frame.side.towards[1] = 1;
-    return frame;
-}
-
 QString words(const QVector<Feeding> &proposals)
 {
     QStringList text;

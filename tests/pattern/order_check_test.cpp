@@ -10,23 +10,6 @@ using palx::PatternItem;
 
 namespace {
 
-/// Work objects that look along the plan's axes: "Top" waits on the upper side of the plan.
-palx::ApproachFrame namedSides()
-{
-    palx::ApproachFrame frame;
-    frame.side.towards[0] = frame.side.towards[1] = 1;
-    return frame;
-}
-
-PatternItem coming(PatternItem item, const char *direction, double dx = 100, double dy = 100)
-{
-    item.directionText = QLatin1String(direction);
-    item.direction = palx::directionFromName(item.directionText);
-    item.dx = dx;
-    item.dy = dy;
-    return item;
-}
-
 std::string shown(const QVector<OrderHit> &hits)
 {
     QString text;

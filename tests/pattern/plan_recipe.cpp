@@ -62,3 +62,35 @@ Node oneLayerRecipe(const QVector<PatternItem> &items)
     stack.find(u"patterns.A")->assign(patternOf(items));
     return stack;
 }
+
+std::string placesOf(const QVector<PatternItem> &items)
+{
+    QStringList texts;
+    for (const PatternItem &item : items)
+        texts << QStringLiteral("%1,%2/%3").arg(item.x, 0, 'g', 12).arg(item.y, 0, 'g', 12).arg(item.r);
+    return texts.join(QLatin1Char(' ')).toStdString();
+}
+
+std::string approachesOf(const QVector<PatternItem> &items)
+{
+    QStringList texts;
+    for (const PatternItem &item : items)
+        texts << QStringLiteral("%1 %2,%3").arg(item.directionText).arg(item.dx).arg(item.dy);
+    return texts.join(QLatin1String("; ")).toStdString();
+}
+
+PatternItem coming(PatternItem item, const char *direction, double dx, double dy)
+{
+    item.directionText = QLatin1String(direction);
+    item.direction = palx::directionFromName(item.directionText);
+    item.dx = dx;
+    item.dy = dy;
+    return item;
+}
+
+palx::ApproachFrame namedSides()
+{
+    palx::ApproachFrame frame;
+    frame.side.towards[0] = frame.side.towards[1] = 1;
+    return frame;
+}

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "orba/node.h"
+#include "pattern/rules/approach.h"
 #include "pattern/rules/pattern_items.h"
+
+#include <string>
 
 /// Recipes and items for the tests of plans.
 
@@ -18,3 +21,11 @@ QVector<palx::PatternItem> planGrid(int across, int along, double w, double h);
 orba::Node patternOf(const QVector<palx::PatternItem> &items);
 /// A recipe of one layer with that pattern on a pallet of 1200 x 800.
 orba::Node oneLayerRecipe(const QVector<palx::PatternItem> &items);
+/// "x,y/turn" of every item, for comparing whole results.
+std::string placesOf(const QVector<palx::PatternItem> &items);
+/// "direction dx,dy" of every item.
+std::string approachesOf(const QVector<palx::PatternItem> &items);
+/// The item coming from a side; offsets as in a record.
+palx::PatternItem coming(palx::PatternItem item, const char *direction, double dx = 100, double dy = 100);
+/// Work objects that look along the plan's axes: "Top" waits on the upper side of the plan.
+palx::ApproachFrame namedSides();
