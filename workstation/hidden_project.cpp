@@ -5,6 +5,7 @@
 #include "workstation/config_log.h"
 #include "workstation/controller_sync.h"
 #include "workstation/plugin_node.h"
+#include "workstation/workspace.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
@@ -88,11 +89,8 @@ HiddenProject *HiddenProject::current()
 
 QString HiddenProject::folder()
 {
-    const QString workspace = m("nexo.setting.workspace")->getString();
-    const QString robot = m("nexo.r.id")->getString();
-    if (workspace.isEmpty() || robot.isEmpty() || robot.contains(QLatin1Char('/')) || robot.startsWith(QLatin1Char('.')))
-        return QString();
-    return QDir(workspace).filePath(robot + QLatin1Char('/') + hidden_project_name);
+    const QString robot = robotFolder();
+    return robot.isEmpty() ? QString() : QDir(robot).filePath(hidden_project_name);
 }
 
 void HiddenProject::followRobot()
