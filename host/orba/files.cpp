@@ -7,8 +7,12 @@ namespace orba {
 
 QString damagedName(const QString &file)
 {
-    return file + QStringLiteral(".damaged-") +
-           QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
+    const QString name = file + QStringLiteral(".damaged-") +
+                         QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
+    QString free = name;
+    for (int more = 2; QFile::exists(free); ++more) // another one in the same millisecond
+        free = QStringLiteral("%1-%2").arg(name).arg(more);
+    return free;
 }
 
 QString setAside(const QString &file)
