@@ -38,6 +38,7 @@ LogPage::LogPage(QWidget *parent)
     setupTable();
     fillLevels();
     connect(ui_->cmbLevel, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &LogPage::filter);
+    ix::xtheme::addClearAction(ui_->edtSearch);
     connect(ui_->edtSearch, &QLineEdit::textChanged, this, &LogPage::filter);
     connect(ui_->btnExport, &QPushButton::clicked, this, &LogPage::exportRecords);
     connect(ui_->btnClear, &QPushButton::clicked, this, &LogPage::clearRecords);

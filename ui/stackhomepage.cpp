@@ -79,6 +79,7 @@ void StackHomePage::setupList()
     connect(ui_->lstRecipes->selectionModel(), &QItemSelectionModel::currentChanged, wgt_,
             [this] { showChoice(); });
     connect(ui_->lstRecipes, &QAbstractItemView::doubleClicked, wgt_, [this] { openRecipe(); });
+    ix::xtheme::addClearAction(ui_->edtSearch);
     connect(ui_->edtSearch, &QLineEdit::textChanged, wgt_, [this](const QString &text) {
         const QString name = chosenStack()->getString("name");
         found_->setFilterFixedString(text);
