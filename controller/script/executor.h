@@ -8,7 +8,6 @@
 namespace controller::script {
 
 class Program;
-struct Frame;
 
 /// What a task waits for.
 enum class Activity {
@@ -18,13 +17,6 @@ enum class Activity {
     Moving, ///< for the robot, see Machine::moveState()
     Ended,  ///< `main` is at its end
     Failed, ///< see Executor::fault()
-};
-
-/// An error while a program ran.
-struct Fault
-{
-    Location where;
-    std::string what;
 };
 
 /// Runs one task as a step machine. Turns of several executors on one machine, in a fixed order, run tasks side by side:
@@ -38,7 +30,7 @@ public:
     Executor(Executor &&) noexcept;
     Executor &operator=(Executor &&) noexcept;
 
-    /// Runs until the task must wait, is over, or has made kStepsPerTurn steps. Call it once per turn of simulated time;
+    /// Runs until the task must wait, is over, or has made kStepsPerTurn steps (limits.h) and is between two statements. Call it once per turn of simulated time;
     /// a task that is Ended or Failed does nothing.
     Activity turn();
     /// Goes back to the start of `main`. A fault is forgotten; moves that were handed over are the machine's.

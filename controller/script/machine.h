@@ -18,6 +18,13 @@ struct Location
     std::string procedure; ///< that holds the line
 };
 
+/// An error while a program ran.
+struct Fault
+{
+    Location where;
+    std::string what;
+};
+
 // ---------------------------------------------------------------- what programs can name
 
 /// Digital signals stand on cards of 16 channels: inputs "DI2_0" to "DI3_15", outputs "DO2_0" to "DO3_15".
@@ -109,8 +116,8 @@ public:
     virtual MoveAnswer move(const Move &move) = 0;
     /// Statements that are seen from outside (signals, variables, waits, ...) come only when every move is reached.
     virtual MoveState moveState() const = 0;
-    /// Of Failed. The task that waited for it ends with this reason.
-    virtual Refusal moveFault() const = 0;
+    /// Of Failed: the move and why. The task ends with it.
+    virtual Fault moveFault() const = 0;
     /// Where the point of PalletTool is, in the robot's base (Wobj0).
     virtual Target currentTarget() const = 0;
 

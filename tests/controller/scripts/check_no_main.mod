@@ -1,0 +1,3 @@
+! !! 1 there is no procedure "main" in this task
+GLOBAL PROC Main()
+ENDPROC
