@@ -1,5 +1,6 @@
 #include "panel/log_page.h"
 
+#include "ix/clear_button.h"
 #include "ix/xtheme.h"
 #include "nexo/manager_helper.h"
 #include "panel/log_export.h"
@@ -38,7 +39,7 @@ LogPage::LogPage(QWidget *parent)
     setupTable();
     fillLevels();
     connect(ui_->cmbLevel, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &LogPage::filter);
-    ix::xtheme::addClearAction(ui_->edtSearch);
+    new ix::ClearButton(ui_->edtSearch);
     connect(ui_->edtSearch, &QLineEdit::textChanged, this, &LogPage::filter);
     connect(ui_->btnExport, &QPushButton::clicked, this, &LogPage::exportRecords);
     connect(ui_->btnClear, &QPushButton::clicked, this, &LogPage::clearRecords);

@@ -1,5 +1,6 @@
 #include "ui/stackhomepage.h"
 
+#include "ix/clear_button.h"
 #include "ix/xtheme.h"
 #include "nexo/manager_helper.h"
 #include "ui/current_recipe.h"
@@ -79,7 +80,7 @@ void StackHomePage::setupList()
     connect(ui_->lstRecipes->selectionModel(), &QItemSelectionModel::currentChanged, wgt_,
             [this] { showChoice(); });
     connect(ui_->lstRecipes, &QAbstractItemView::doubleClicked, wgt_, [this] { openRecipe(); });
-    ix::xtheme::addClearAction(ui_->edtSearch);
+    new ix::ClearButton(ui_->edtSearch);
     connect(ui_->edtSearch, &QLineEdit::textChanged, wgt_, [this](const QString &text) {
         const QString name = chosenStack()->getString("name");
         found_->setFilterFixedString(text);

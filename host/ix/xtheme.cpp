@@ -1,9 +1,7 @@
 #include "ix/xtheme.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QFont>
-#include <QLineEdit>
 #include <QPainter>
 #include <QPalette>
 #include <QStyle>
@@ -200,15 +198,6 @@ QPixmap tinted(const QPixmap &picture, const QColor &color)
 QPixmap tinted(const QString &file, const QColor &color)
 {
     return tinted(QPixmap(file), color);
-}
-
-void addClearAction(QLineEdit *field)
-{
-    QAction *clear = field->addAction(icon(Glyph::Close), QLineEdit::TrailingPosition);
-    clear->setEnabled(!field->text().isEmpty());
-    QObject::connect(clear, &QAction::triggered, field, &QLineEdit::clear);
-    QObject::connect(field, &QLineEdit::textChanged, clear,
-                     [clear](const QString &text) { clear->setEnabled(!text.isEmpty()); });
 }
 
 } // namespace xtheme

@@ -8,7 +8,6 @@
 #include <QString>
 
 class QApplication;
-class QLineEdit;
 class QWidget;
 
 /// The panel's looks: grey ground, colour only for state, sizes for fingers. Widgets choose their looks
@@ -71,10 +70,6 @@ PALX_API QIcon icon(Glyph glyph, const QColor &color = QColor());
 /// The picture with all its colour replaced and its transparency kept; null stays null.
 PALX_API QPixmap tinted(const QPixmap &picture, const QColor &color);
 PALX_API QPixmap tinted(const QString &file, const QColor &color);
-
-/// A button in the field that empties it. It stays in sight and does not fade as Qt's own does, so that nothing is under
-/// way when a page ends.
-PALX_API void addClearAction(QLineEdit *field);
 
 } // namespace xtheme
 } // namespace ix

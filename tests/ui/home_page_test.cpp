@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -200,7 +201,9 @@ TEST(HomePage, SearchFindsNamesAndDescriptions)
         EXPECT_EQ(shownNames(pages).join(QLatin1Char(' ')), QLatin1String(c.found)) << c.search;
     }
     EXPECT_FALSE(pages.field<QPushButton>("btnOpen")->isEnabled());
-    pages.field<QLineEdit>("edtSearch")->clear();
+    pages.field<QToolButton>("btnClear")->click();
+    EXPECT_EQ(shownNames(pages).size(), 2);
+    EXPECT_FALSE(pages.field<QToolButton>("btnClear")->isVisible());
     EXPECT_TRUE(pages.home->chosenStack()->isEmptyMobj() || pages.field<QPushButton>("btnOpen")->isEnabled());
 }
 
