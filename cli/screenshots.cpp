@@ -2,6 +2,7 @@
 
 #include "bwaf/bmodule.h"
 #include "ix/xtheme.h"
+#include "move_pictures.h"
 #include "nexo/setting_manager.h"
 #include "panel/message_dialog.h"
 #include "panel/panel_window.h"
@@ -78,6 +79,13 @@ public:
         settle();
         if (!taken)
             fail(QStringLiteral("no dialog came up for ") + name);
+    }
+
+    /// A window as it stands.
+    void takeWindow(QWidget *widget, const QString &name)
+    {
+        widget->grab(); // lays it out
+        take(widget, name);
     }
 
     void fail(const QString &reason)
@@ -213,6 +221,14 @@ void takeOthers(Camera &camera, bwaf::CenterWidget *center)
     }
 }
 
+/// The dialog that drives the robot, with a controller of its own.
+void takeMoves(Camera &camera)
+{
+    const auto take = [&camera](QWidget *dialog, const QString &name) { camera.takeWindow(dialog, name); };
+    if (!showMoves(camera.window(), take))
+        camera.fail(QStringLiteral("the simulated controller does not answer"));
+}
+
 bool fillPages(const QString &examples)
 {
     QString error;
@@ -249,6 +265,7 @@ QString takeAll(Session &session, const ScreenshotRequest &request, int *count)
     takeHome(camera);
     takeSetup(camera);
     takeOthers(camera, session.host().centerWidget());
+    takeMoves(camera);
     *count = camera.count();
     return camera.error();
 }

@@ -1,6 +1,7 @@
 #include "stack/recipe_points.h"
 
 #include "stack/place_frame.h"
+#include "workstation/plugin_node.h"
 
 #include <QCoreApplication>
 
@@ -72,6 +73,23 @@ bool isTaught(const Node *point)
         }
     }
     return false;
+}
+
+bool teachPoint(Node &point, const Node &robot)
+{
+    constexpr int kNumbers = 3;
+    const Node *pose = robot.child(u"pose");
+    const Node *trans = pose ? pose->child(u"trans") : nullptr;
+    const Node *rot = pose ? pose->child(u"rot") : nullptr;
+    if (!trans || !rot || trans->size() != kNumbers || rot->size() != kNumbers)
+        return false;
+    makePointRecord(point);
+    copyPointData(point, *pose);
+    const Node *joints = robot.child(u"joints");
+    Node *near = point.child(u"near");
+    for (int i = 0; joints && i < near->size(); ++i)
+        near->setNumber(i, joints->number(i));
+    return true;
 }
 
 QStringList untaughtPoints(const Node &stack, const Node &plugin)

@@ -9,6 +9,10 @@ namespace palx {
 /// Whether a point record was taught or typed in: it holds some number other than 0.
 PALX_API bool isTaught(const orba::Node *point);
 
+/// The point where the robot stands, from its mirrored state: "pose" of the flange, and "joints" as "near". False, with
+/// `point` as it was, when the state has no whole pose.
+PALX_API bool teachPoint(orba::Node &point, const orba::Node &robot);
+
 /// Taught points that generation will need and that are not there, one sentence each. `plugin` holds the
 /// global lists.
 PALX_API QStringList untaughtPoints(const orba::Node &stack, const orba::Node &plugin);

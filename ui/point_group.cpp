@@ -2,6 +2,7 @@
 
 #include "ix/xtheme.h"
 #include "stack/recipe_points.h"
+#include "ui/move_to_point.h"
 #include "ui_point_group.h"
 #include "workstation/plugin_node.h"
 #include "workstation/point_editor.h"
@@ -16,6 +17,8 @@ PointGroup::PointGroup(QWidget *parent) : QFrame(parent), ui_(std::make_unique<U
         field->setLocale(QLocale::c());
         connect(field, &QDoubleSpinBox::editingFinished, this, &PointGroup::write);
     }
+    connect(ui_->btnTeach, &QPushButton::clicked, this, &PointGroup::teachPoint);
+    connect(ui_->btnMove, &QPushButton::clicked, this, [this] { palx::moveToPoint(point(), this); });
     connect(ui_->btnMake, &QPushButton::clicked, this, &PointGroup::makePoint);
     connect(ui_->btnClear, &QPushButton::clicked, this, &PointGroup::clearPoint);
     reload();
@@ -75,6 +78,8 @@ void PointGroup::showState()
     const bool taught = there && palx::isTaught(&point()->node());
     for (const QString &name : palx::trans_list + palx::rot_list)
         palx::findDouleSpin(name, this)->setEnabled(there && !computed_);
+    ui_->btnTeach->setEnabled(holder_ && !computed_);
+    ui_->btnMove->setEnabled(taught);
     ui_->btnMake->setVisible(!there && !computed_);
     ui_->btnMake->setEnabled(holder_ != nullptr);
     ui_->btnClear->setVisible(there && !computed_);
@@ -82,6 +87,22 @@ void PointGroup::showState()
     ui_->lblState->setText(computed_ ? tr("Computed") : taught ? tr("Taught") : lack);
     ix::xtheme::setState(ui_->lblState,
                          computed_ || taught ? ix::xtheme::State::None : ix::xtheme::State::Attention);
+}
+
+void PointGroup::teachPoint()
+{
+    orba::Node record;
+    if (!holder_)
+        return;
+    if (!m("nexo.r")->getBool("connected"))
+        return Q_EMIT refused(tr("The controller is not connected: where the robot stands is not known."));
+    if (m("nexo.robot")->getBool("moving"))
+        return Q_EMIT refused(tr("The robot is moving. Teach the point when it stands."));
+    if (!palx::teachPoint(record, m("nexo.robot")->node()))
+        return Q_EMIT refused(tr("The controller does not tell where the robot stands."));
+    holder_->ensure(key_)->copyFrom(record);
+    reload();
+    Q_EMIT edited();
 }
 
 void PointGroup::makePoint()

@@ -13,7 +13,7 @@ class PointGroup;
 
 /// A point record in millimetres and degrees, with the state it is in: not taught, all zero, taught, or
 /// computed by generation and therefore only shown. Values are written when editing of a field is finished; a
-/// point that is not there can be made, one that is there can be cleared.
+/// point can be taught where the robot stands, made by hand, cleared, and be the target of a move.
 class PALX_API PointGroup : public QFrame
 {
     Q_OBJECT
@@ -32,6 +32,8 @@ public:
 
 Q_SIGNALS:
     void edited();
+    /// Why the robot's place could not be taken over.
+    void refused(const QString &reason);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -39,6 +41,7 @@ protected:
 private:
     orba::ModuleObject *point() const;
     void showState();
+    void teachPoint();
     void makePoint();
     void clearPoint();
     void write();

@@ -94,6 +94,12 @@ const orba::Node *PointTableModel::point(const Row &row) const
     return item ? item->child(QStringView(row.key)) : nullptr;
 }
 
+QString PointTableModel::pointPath(int row) const
+{
+    const orba::Node *record = row >= 0 && row < rows_.size() ? point(rows_[row]) : nullptr;
+    return record ? record->pathFrom(*stack()) : QString();
+}
+
 QStringList PointTableModel::columns() const
 {
     const QString degree(QChar(0x00B0));

@@ -20,6 +20,8 @@ public:
     void setFilter(int layer, const QString &point);
     /// Number of layers that have points.
     int layerCount() const;
+    /// Where the point record of a row lies below the recipe; an empty path when there is none.
+    QString pointPath(int row) const;
     /// Header and shown rows, cells parted by tabs, numbers with a point: for spreadsheets.
     QString toText() const;
 

@@ -5,6 +5,7 @@
 #include "stack/recipe_layers.h"
 #include "stack/recipe_points.h"
 #include "ui/form_style.h"
+#include "ui/move_to_point.h"
 #include "ui_points_frame.h"
 #include "workstation/controller_sync.h"
 #include "workstation/plugin_node.h"
@@ -12,6 +13,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 
 using ix::xtheme::State;
 
@@ -30,6 +32,9 @@ PointsFrame::PointsFrame(QWidget *parent)
     connect(ui_->btnCopy, &QPushButton::clicked, this, &PointsFrame::copyTable);
     connect(ui_->cmbLayer, QOverload<int>::of(&QComboBox::activated), this, &PointsFrame::filter);
     connect(ui_->cmbPoint, QOverload<int>::of(&QComboBox::activated), this, &PointsFrame::filter);
+    connect(ui_->btnMove, &QPushButton::clicked, this, [this] { palx::moveToPoint(chosenPoint(), this); });
+    connect(ui_->tblPoints->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &PointsFrame::showChoice);
     setStack(nullptr);
 }
 
@@ -80,6 +85,20 @@ void PointsFrame::filter()
                        ui_->cmbPoint->currentData().toString());
     showCount();
     ui_->btnCopy->setEnabled(points_->rowCount() > 0);
+    showChoice();
+}
+
+/// The point of the selected row; the empty node without one.
+orba::ModuleObject *PointsFrame::chosenPoint() const
+{
+    const QModelIndexList rows = ui_->tblPoints->selectionModel()->selectedRows();
+    const QString path = rows.isEmpty() ? QString() : points_->pointPath(rows.first().row());
+    return path.isEmpty() || !stack() ? emptyMobj() : stack()->r(path);
+}
+
+void PointsFrame::showChoice()
+{
+    ui_->btnMove->setEnabled(palx::isTaught(&chosenPoint()->node()));
 }
 
 void PointsFrame::showCount()

@@ -9,7 +9,7 @@ namespace Ui {
 class PointsFrame;
 }
 
-/// Generates the points of the recipe and lists them, with what they lack: taught points, layers, or a new
+/// Generates the points of the recipe and lists them, each of them the target of a move, with what they lack: taught points, layers, or a new
 /// generation after an edit.
 class PALX_API PointsFrame : public RecipeFrame
 {
@@ -33,6 +33,8 @@ private:
     void showCount();
     void showState();
     void copyTable();
+    orba::ModuleObject *chosenPoint() const;
+    void showChoice();
 
     std::unique_ptr<Ui::PointsFrame> ui_;
     PointTableModel *points_;

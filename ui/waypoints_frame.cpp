@@ -70,8 +70,10 @@ void WaypointsFrame::bindOffsets()
 
 void WaypointsFrame::connectPoints()
 {
-    for (PointGroup *group : {ui_->grpPutPoint, ui_->grpPutEnter, ui_->grpGetPoint, ui_->grpGetEnter})
+    for (PointGroup *group : {ui_->grpPutPoint, ui_->grpPutEnter, ui_->grpGetPoint, ui_->grpGetEnter}) {
         connect(group, &PointGroup::edited, this, &RecipeFrame::edited);
+        connect(group, &PointGroup::refused, this, &RecipeFrame::refused);
+    }
 }
 
 void WaypointsFrame::setTitles()

@@ -101,6 +101,7 @@ QString roleRules()
                "QPushButton:pressed, QToolButton:pressed, QPushButton:checked, QToolButton:checked "
                "{ background-color: %4; color: #ffffff; }\n"
                "QPushButton:disabled, QToolButton:disabled { background-color: %5; color: %6; }\n"
+               "QPushButton:checked:disabled { background-color: %6; color: #ffffff; }\n"
                "QPushButton[role=\"primary\"] { background-color: %4; color: #ffffff; }\n"
                "QPushButton[role=\"primary\"]:disabled { background-color: %5; color: %6; }\n"
                "QPushButton[role=\"nav\"] { text-align: left; padding: 0px 12px; }\n"
