@@ -70,7 +70,8 @@ private:
 class Trip
 {
 public:
-    Trip(QWidget *window, Cell *cell, double x, double y, double z) : cell_(cell), point_(QStringLiteral("put_p"))
+    Trip(QWidget *window, Cell *cell, double x, double y, double z)
+        : cell_(cell), point_(QStringLiteral("put_p"))
     {
         orba::Node record;
         palx::makePointRecord(record);
@@ -82,10 +83,7 @@ public:
         dialog_ = window->findChild<MoveToDialog *>();
         cell_->settle();
     }
-    ~Trip()
-    {
-        delete dialog_;
-    }
+    ~Trip() { delete dialog_; }
     Trip(const Trip &) = delete;
     Trip &operator=(const Trip &) = delete;
 

@@ -134,10 +134,12 @@ void MoveToDialog::connectMove()
             ui_->btnHold->letGo();
     });
     connect(ui_->btnHold, &HoldButton::holdEnded, this, [this] { move_->release(); });
-    connect(ui_->btnLinear, &QPushButton::clicked, this, [this] { motion_.set(this, "type", QStringLiteral("l")); });
-    connect(ui_->btnJoint, &QPushButton::clicked, this, [this] { motion_.set(this, "type", QStringLiteral("j")); });
+    connect(ui_->btnLinear, &QPushButton::clicked, this,
+            [this] { motion_.set(this, "type", QStringLiteral("l")); });
+    connect(ui_->btnJoint, &QPushButton::clicked, this,
+            [this] { motion_.set(this, "type", QStringLiteral("j")); });
     connect(ui_->btnClose, &QPushButton::clicked, this, &QDialog::reject);
-    connect(move_.get(), &HeldMove::changed, this, [this] { showMove(); });
+    connect(move_.get(), &HeldMove::changed, this, &MoveToDialog::showAll);
 }
 
 void MoveToDialog::followRobot()
@@ -177,6 +179,7 @@ void MoveToDialog::setTexts()
 void MoveToDialog::showAll()
 {
     showPoses();
+    showJoints();
     showMove();
 }
 
@@ -207,7 +210,6 @@ void MoveToDialog::showMove()
 {
     const HeldMove::State state = move_->state();
     const bool isFree = !move_->isUnderWay();
-    showJoints();
     ui_->lblStatus->setText(statusText());
     ix::xtheme::setState(ui_->lblStatus, lookOf(*move_));
     ui_->prgMove->setValue(qRound(move_->progress() * kProgressSteps));

@@ -32,9 +32,11 @@ HeldMove::HeldMove(ModuleObject *motion, ModuleObject *point, QObject *parent)
 {
     auto *controller = nexo::ControllerManager::instance();
     connect(controller, &nexo::ControllerManager::rcConnectedChanged, this, &HeldMove::takeLink);
-    for (const char *path : {"nexo.robot.moving", "nexo.robot.arrived", "nexo.robot.fault", "nexo.robot.move"})
+    for (const char *path :
+         {"nexo.robot.moving", "nexo.robot.arrived", "nexo.robot.fault", "nexo.robot.move"})
         connect(m(path), &ModuleObject::changed, this, &HeldMove::follow);
-    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this, &HeldMove::look);
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            &HeldMove::look);
     connect(&signs_, &QTimer::timeout, this, &HeldMove::giveSign);
     signs_.setTimerType(Qt::PreciseTimer);
     signs_.setInterval(kSignMs);
@@ -168,7 +170,8 @@ void HeldMove::check()
     ModuleObject request;
     request.copyFrom(wish_);
     const int check = ++checks_;
-    xservice()->command(this, kCheck, &request, [this, check](const XReply &reply) { takeCheck(check, reply); });
+    xservice()->command(this, kCheck, &request,
+                        [this, check](const XReply &reply) { takeCheck(check, reply); });
 }
 
 void HeldMove::takeCheck(int check, const XReply &reply)

@@ -21,14 +21,14 @@ public:
     static constexpr int kSignMs = 100;
 
     enum class State {
-        NoLink,    ///< there is no controller now
-        Untaught,  ///< there is no point to go to
-        Ready,     ///< waits for the button
-        Refused,   ///< the controller would not make this move: `reason`
-        Starting,  ///< asked for and not answered yet
-        Moving,    ///< the button is held
-        Stopping,  ///< released; the robot brakes
-        Stopped,   ///< before the point; `reason` is empty when the operator wanted it
+        NoLink,   ///< there is no controller now
+        Untaught, ///< there is no point to go to
+        Ready,    ///< waits for the button
+        Refused,  ///< the controller would not make this move: `reason`
+        Starting, ///< asked for and not answered yet
+        Moving,   ///< the button is held
+        Stopping, ///< released; the robot brakes
+        Stopped,  ///< before the point; `reason` is empty when the operator wanted it
         Arrived,
     };
 
