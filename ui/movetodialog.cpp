@@ -45,16 +45,22 @@ QString shownTurn(double radians)
     return text.toDouble() == -180 ? text.mid(1) : text;
 }
 
-/// X, Y, Z in millimetres, A, B, C in degrees; empty texts without a pose.
+/// Stands for a number that is not known.
+QString unknown()
+{
+    return QStringLiteral("\u2013");
+}
+
+/// X, Y, Z in millimetres, A, B, C in degrees.
 QStringList shownPose(const orba::Node *pose)
 {
     const orba::Node *trans = pose ? pose->child(u"trans") : nullptr;
     const orba::Node *rot = pose ? pose->child(u"rot") : nullptr;
     QStringList texts;
     for (int i = 0; i < kAxes; ++i)
-        texts << (trans ? shown(trans->number(i) * kMmPerM, 1) : QString());
+        texts << (trans ? shown(trans->number(i) * kMmPerM, 1) : unknown());
     for (int i = 0; i < kAxes; ++i)
-        texts << (rot ? shownTurn(rot->number(i)) : QString());
+        texts << (rot ? shownTurn(rot->number(i)) : unknown());
     return texts;
 }
 
@@ -183,10 +189,12 @@ void MoveToDialog::showAll()
     showMove();
 }
 
+/// Without a link nobody knows where the robot is now.
 void MoveToDialog::showPoses()
 {
+    const bool isKnown = move_->state() != HeldMove::State::NoLink;
     const QStringList target = shownPose(point_ ? &point_->node() : nullptr);
-    const QStringList present = shownPose(&m("nexo.robot.pose")->node());
+    const QStringList present = shownPose(isKnown ? &m("nexo.robot.pose")->node() : nullptr);
     for (int i = 0; i < pose_.size(); ++i) {
         pose_[i].target->setText(target[i]);
         pose_[i].present->setText(present[i]);
@@ -195,12 +203,13 @@ void MoveToDialog::showPoses()
 
 void MoveToDialog::showJoints()
 {
+    const bool isKnown = move_->state() != HeldMove::State::NoLink;
     const orba::Node &present = m("nexo.robot.joints")->node();
     const orba::Node &target = move_->targetJoints();
     for (int i = 0; i < joints_.size(); ++i) {
         const Row &row = joints_[i];
-        row.present->setText(shownAngle(present.number(i)));
-        row.target->setText(i < target.size() ? shownAngle(target.number(i)) : QStringLiteral("\u2013"));
+        row.present->setText(isKnown ? shownAngle(present.number(i)) : unknown());
+        row.target->setText(i < target.size() ? shownAngle(target.number(i)) : unknown());
         for (QLabel *label : {row.axis, row.target, row.present})
             label->setVisible(i < present.size()); // this robot may have six
     }

@@ -229,6 +229,8 @@ TEST_F(MoveDialogTest, ALostLinkIsShownAndMovesNothingWhenItIsBack)
     EXPECT_EQ(look(), QStringLiteral("fault"));
     EXPECT_FALSE(hold()->isEnabled());
     EXPECT_FALSE(hold()->isHeld());
+    EXPECT_EQ(text("lblPosePresent0"), QStringLiteral("\u2013")) << "it moves on, nobody knows how far";
+    EXPECT_EQ(text("lblPoseTarget0"), QStringLiteral("1200.0"));
     cell.pass(0.3);
     EXPECT_FALSE(cell.isMoving());
     cell.carrier->restore();
