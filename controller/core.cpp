@@ -138,7 +138,7 @@ void Core::request(LinkMessage &read)
     LinkMessage reply = message(Kind::Reply, read.name);
     reply.id = read.id;
     reply.knows = taken_;
-    if (read.knows > taken_) {
+    if (read.knows > taken_ && read.name != QLatin1String("motion.stop")) { // a stop waits for nothing
         reply.status = host::status::kBehind;
     } else if (read.name == QLatin1String("link.info")) {
         reply.payload.ensure(u"controller")->setString(station_.title());

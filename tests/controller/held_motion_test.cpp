@@ -1,0 +1,111 @@
+// The held button over the link: whose signs count, and what stops the robot.
+
+#include "core_panel.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace controller;
+using orba::Node;
+using Kind = host::LinkMessage::Kind;
+
+namespace {
+
+class HeldMotion : public ::testing::Test
+{
+protected:
+    HeldMotion()
+    {
+        panel->hello();
+        EXPECT_EQ(host::status::kDone, panel->request("motion.start", move).status);
+        panel->wait(0.2);
+    }
+    /// Time passes while `from` gives signs.
+    void hold(CorePanel &from, double seconds)
+    {
+        for (double t = 0; t < seconds - 1e-9; t += 0.1) {
+            from.request("motion.hold");
+            from.wait(0.1);
+        }
+    }
+    Node robot() { return *core.station().tree().find(u"nexo.robot"); }
+    bool isMoving() { return robot().getBool(u"moving"); }
+
+    const Node move = nodeFromJson(R"({"type":"l","motion":{"toolset":"no use","speed":250},
+        "point":{"trans":[1.2,0.4,0.8],"rot":[3.141592653589793,0,0]}})");
+    Core core{StationOptions(), "run-1"};
+    std::unique_ptr<CorePanel> panel = std::make_unique<CorePanel>(&core, 1);
+};
+
+} // namespace
+
+TEST_F(HeldMotion, AnotherStartIsRefusedAndStopsTheRobot)
+{
+    const auto reply = panel->request("motion.start", move);
+    EXPECT_EQ(host::status::kRefused, reply.status);
+    EXPECT_EQ("the robot is moving already", reply.text);
+    hold(*panel, 0.5);
+    EXPECT_FALSE(isMoving());
+    EXPECT_EQ("stopped: another move was asked for", panel->tree.getString(u"nexo.robot.fault"));
+    EXPECT_EQ(2, panel->request("motion.start", move).payload.toInt());
+}
+
+TEST_F(HeldMotion, ARefusedStartAndACheckTellNothingElse)
+{
+    Node far = move;
+    far.find(u"point.trans")->setNumber(0, 9);
+    panel->request("motion.stop");
+    panel->wait(1);
+    for (const char *name : {"motion.start", "motion.check"}) {
+        const auto reply = panel->request(name, far);
+        EXPECT_EQ(host::status::kRefused, reply.status) << name;
+        EXPECT_TRUE(reply.text.contains("out of reach") || reply.text.contains("joint")) << reply.text;
+        EXPECT_EQ(QStringList(), panel->updatePaths()) << name;
+    }
+    EXPECT_EQ(6, panel->request("motion.check", move).payload.find(u"joints")->size());
+    EXPECT_EQ(QStringList(), panel->updatePaths());
+}
+
+TEST_F(HeldMotion, AStopWaitsForNoEdit)
+{
+    EXPECT_EQ(host::status::kBehind, panel->request("motion.hold", Node(), 7).status);
+    EXPECT_EQ(host::status::kDone, panel->request("motion.stop", Node(), 7).status);
+    panel->wait(0.2);
+    EXPECT_FALSE(isMoving());
+}
+
+TEST_F(HeldMotion, AGreetingOnTheSameWayLetsItGoOn)
+{
+    panel->hello();
+    hold(*panel, 0.5);
+    EXPECT_TRUE(isMoving());
+}
+
+TEST_F(HeldMotion, ANewWayStopsItAndSignsOfTheOldOneCountForNothing)
+{
+    CorePanel again(&core, 2); // the same panel
+    again.hello();
+    EXPECT_EQ("stopped: the link to the panel is lost", again.tree.getString(u"nexo.robot.fault"));
+    again.wait(0.2);
+    EXPECT_FALSE(isMoving());
+    again.request("motion.start", move);
+    for (int i = 0; i < 4; ++i) {
+        host::LinkMessage sign;
+        sign.kind = Kind::Request;
+        sign.name = "motion.hold";
+        panel->send(sign);
+        again.wait(0.1);
+    }
+    EXPECT_EQ("stopped: no sign from the held button for 300 ms", robot().getString(u"fault"));
+}
+
+TEST_F(HeldMotion, ANewRunHasNoneOfTheOldOnesMoves)
+{
+    Core fresh{StationOptions(), "run-2"};
+    CorePanel other(&fresh, 1);
+    other.hello();
+    EXPECT_EQ(0, other.tree.getInt(u"nexo.robot.move"));
+    hold(other, 0.5);
+    EXPECT_FALSE(fresh.station().isBusy()) << "signs alone move nothing";
+}
