@@ -22,6 +22,8 @@ struct Arguments
 {
     std::string file, stack, format, language = "en", size = "1280x800", output, examples = PALX_EXAMPLES;
     int layer = 0;
+    int pieces = 0;
+    double turn = 0;
     bool drawsPictures = false; ///< needs an application with fonts and widgets
     std::function<int()> command;
 };
@@ -98,14 +100,25 @@ void addRender(CLI::App &app, Arguments &arguments)
     CLI::Option *layer =
         command->add_option("--layer", arguments.layer, "plan of this layer, from 1 at the pallet")
             ->check(kLayers);
+    command->add_option("--turn", arguments.turn, "the stack turned clockwise by so many degrees")
+        ->check(CLI::Range(-360.0, 360.0))
+        ->excludes(layer);
+    CLI::Option *pieces = command
+                              ->add_option("--pieces", arguments.pieces,
+                                           "the stack with only the first products and sheets laid")
+                              ->check(CLI::Range(0, std::numeric_limits<int>::max()))
+                              ->excludes(layer);
     command->add_option("-o,--output", arguments.output, "PNG file")->required();
     addSize(command, arguments);
-    command->callback([&arguments, layer] {
+    command->callback([&arguments, layer, pieces] {
         cli::RenderOptions options;
         options.file = text(arguments.file);
         options.stack = text(arguments.stack);
         if (layer->count() > 0)
             options.layer = arguments.layer;
+        if (pieces->count() > 0)
+            options.pieces = arguments.pieces;
+        options.turn = arguments.turn;
         options.output = text(arguments.output);
         options.size = sizeOf(arguments.size);
         arguments.drawsPictures = true;

@@ -1,11 +1,13 @@
 #include "render.h"
 
 #include "pattern/recipe_picture.h"
-#include "pattern/rules/stack_plan.h"
+#include "pattern/rules/stack_courses.h"
 #include "recipe_commands.h"
 
 #include <QImage>
 #include <QSaveFile>
+
+#include <limits>
 
 namespace cli {
 namespace {
@@ -18,6 +20,28 @@ QString quotedNames(const RecipeList &stacks)
     return names.join(QStringLiteral(", "));
 }
 
+QString layerRefusal(const orba::Node &stack, int layer)
+{
+    const int count = palx::readStackPlan(stack).layers.size();
+    if (layer >= 1 && layer <= count)
+        return QString();
+    const QString name = stack.getString(u"name");
+    if (count == 0)
+        return QStringLiteral("recipe \"%1\" has no layers").arg(name);
+    return QStringLiteral("recipe \"%1\" has no layer %2, only 1 to %3").arg(name).arg(layer).arg(count);
+}
+
+QString piecesRefusal(const orba::Node &stack, int pieces)
+{
+    const int count = palx::pieceCount(
+        palx::stackCourses(stack, palx::readStackPlan(stack), std::numeric_limits<int>::max()));
+    return pieces <= count ? QString()
+                           : QStringLiteral("recipe \"%1\" has %2 products and sheets, not %3")
+                                 .arg(stack.getString(u"name"))
+                                 .arg(count)
+                                 .arg(pieces);
+}
+
 /// Why the picture cannot be drawn; empty when it can.
 QString refusalOf(const RenderOptions &options, const RecipeList &stacks)
 {
@@ -27,16 +51,9 @@ QString refusalOf(const RenderOptions &options, const RecipeList &stacks)
         return QStringLiteral("%1 recipes to draw, choose one with --stack: %2")
             .arg(stacks.size())
             .arg(quotedNames(stacks));
-    const int count = palx::readStackPlan(stacks.first()->node()).layers.size();
-    if (!options.layer || (*options.layer >= 1 && *options.layer <= count))
-        return QString();
-    const QString name = stacks.first()->getString("name");
-    if (count == 0)
-        return QStringLiteral("recipe \"%1\" has no layers").arg(name);
-    return QStringLiteral("recipe \"%1\" has no layer %2, only 1 to %3")
-        .arg(name)
-        .arg(*options.layer)
-        .arg(count);
+    const orba::Node &stack = stacks.first()->node();
+    return options.layer ? layerRefusal(stack, *options.layer)
+                         : piecesRefusal(stack, options.pieces.value_or(0));
 }
 
 bool savePicture(const QImage &picture, const QString &fileName, QString *error)
@@ -50,8 +67,9 @@ bool savePicture(const QImage &picture, const QString &fileName, QString *error)
 
 QImage draw(const RenderOptions &options, const orba::Node &stack)
 {
-    return options.layer ? palx::planPicture(stack, *options.layer - 1, options.size)
-                         : palx::stackPicture(stack, options.size);
+    return options.layer
+               ? palx::planPicture(stack, *options.layer - 1, options.size)
+               : palx::stackPicture(stack, options.size, {options.turn, options.pieces.value_or(-1)});
 }
 
 bool isSide(int pixels)

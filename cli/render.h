@@ -17,8 +17,10 @@ struct RenderOptions
     QString stack; ///< name of the recipe; may be left out when the file holds one
     /// Counted from 1 at the pallet: the plan of that layer; unset: the whole stack.
     std::optional<int> layer;
-    QString output;        ///< PNG file; replaced when the picture is whole, else left alone
-    QSize size{1280, 800}; ///< pixels
+    double turn = 0;           ///< of the whole stack: degrees clockwise, seen from above
+    std::optional<int> pieces; ///< of the whole stack: how many products and sheets are laid; unset: all
+    QString output;            ///< PNG file; replaced when the picture is whole, else left alone
+    QSize size{1280, 800};     ///< pixels
 };
 
 /// Draws a plan or the whole stack into a file. Needs a QApplication. Returns the exit code, kWrongUsage for

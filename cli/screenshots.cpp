@@ -8,6 +8,7 @@
 #include "panel/panel_window.h"
 #include "recipe_commands.h"
 #include "stack/way_points.h"
+#include "ui/recipe_wizard.h"
 #include "ui/stackhomepage.h"
 #include "workstation/plugin_node.h"
 
@@ -18,7 +19,9 @@
 #include <QDialog>
 #include <QDir>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QTimer>
 
 #include <functional>
@@ -212,6 +215,27 @@ void takeSetup(Camera &camera)
     }
 }
 
+/// Every page of every wizard, with something chosen where the recipe holds something.
+void takeWizards(Camera &camera)
+{
+    auto *button = control<QPushButton>(camera, QStringLiteral("btnWizard"));
+    if (!button)
+        return;
+    for (QAction *entry : button->menu()->actions()) {
+        entry->trigger();
+        auto *wizard = camera.window()->findChild<RecipeWizard *>();
+        if (!wizard)
+            return camera.fail(QStringLiteral("no wizard came up for ") + entry->objectName());
+        for (int page = 0; page < wizard->pages().size(); ++page) {
+            camera.takeWindow(wizard, QStringLiteral("%1-%2").arg(entry->objectName()).arg(page + 1));
+            if (page + 1 < wizard->pages().size())
+                wizard->next();
+        }
+        wizard->reject();
+        settle();
+    }
+}
+
 /// The panel's own pages.
 void takeOthers(Camera &camera, bwaf::CenterWidget *center)
 {
@@ -264,6 +288,7 @@ QString takeAll(Session &session, const ScreenshotRequest &request, int *count)
     Camera camera(&window, QDir(request.folder));
     takeHome(camera);
     takeSetup(camera);
+    takeWizards(camera);
     takeOthers(camera, session.host().centerWidget());
     takeMoves(camera);
     *count = camera.count();

@@ -2,6 +2,7 @@
 
 #include "ui/layers_frame.h"
 #include "ui/patterns_frame.h"
+#include "ui/stack_frame.h"
 
 PlanarNestingWizard::PlanarNestingWizard(orba::ModuleObject *stack, QWidget *parent)
     : RecipeWizard(stack, parent)
@@ -24,6 +25,7 @@ CascadeNestingWizard::CascadeNestingWizard(orba::ModuleObject *stack, QWidget *p
     : RecipeWizard(stack, parent)
 {
     addPage(new LayersFrame(this));
+    addPage(new StackFrame(this));
     start();
 }
 
@@ -32,7 +34,18 @@ QString CascadeNestingWizard::titleText() const
     return tr("Layers");
 }
 
-QString CascadeNestingWizard::pageTitle(int) const
+QString CascadeNestingWizard::pageTitle(int page) const
 {
-    return tr("Layer sequence");
+    return page == 0 ? tr("Layer sequence") : tr("Stack");
+}
+
+RecipeWizard *openNestingWizard(NestingWizard kind, orba::ModuleObject *stack, QWidget *parent)
+{
+    RecipeWizard *wizard = nullptr;
+    if (kind == NestingWizard::Planar)
+        wizard = new PlanarNestingWizard(stack, parent);
+    else
+        wizard = new CascadeNestingWizard(stack, parent);
+    wizard->openUnique();
+    return wizard;
 }

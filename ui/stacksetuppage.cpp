@@ -6,6 +6,7 @@
 #include "ui/form_style.h"
 #include "ui/keypad.h"
 #include "ui/layers_frame.h"
+#include "ui/nesting_wizards.h"
 #include "ui/pallet_frame.h"
 #include "ui/patterns_frame.h"
 #include "ui/points_frame.h"
@@ -16,6 +17,7 @@
 
 #include <QEvent>
 #include <QKeySequence>
+#include <QMenu>
 #include <QShortcut>
 
 using ix::xtheme::Glyph;
@@ -44,6 +46,7 @@ StackSetupPage::StackSetupPage(QWidget *parent, bwaf::BModule *module)
     wgt_->installEventFilter(this);
     makeFrames();
     connectHeader();
+    makeWizardMenu();
     new KeypadOpener(wgt_);
     setFieldMargins(wgt_);
     setStack(nullptr);
@@ -94,6 +97,32 @@ void StackSetupPage::connectHeader()
     connect(new QShortcut(QKeySequence::Undo, wgt_), &QShortcut::activated, wgt_, [this] { undo(); });
     connect(new QShortcut(QKeySequence::Redo, wgt_), &QShortcut::activated, wgt_, [this] { redo(); });
     connect(palx::triggerNode()->c("refresh_cmb"), &ModuleObject::changed, wgt_, [this] { fillRecipes(); });
+}
+
+void StackSetupPage::makeWizardMenu()
+{
+    auto *menu = new QMenu(wgt_);
+    menu->setObjectName(QStringLiteral("mnuWizard"));
+    const struct
+    {
+        NestingWizard kind;
+        const char *name;
+    } entries[] = {{NestingWizard::Planar, "wizard-patterns"}, {NestingWizard::Cascade, "wizard-layers"}};
+    for (const auto &entry : entries) {
+        const NestingWizard kind = entry.kind;
+        wizards_ << menu->addAction(QString(), wgt_.data(), [this, kind] { openWizard(kind); });
+        wizards_.last()->setObjectName(QLatin1String(entry.name));
+    }
+    ui_->btnWizard->setMenu(menu);
+    retranslate();
+}
+
+void StackSetupPage::openWizard(NestingWizard kind)
+{
+    finishField();
+    editing_.save(); // a wizard that is cancelled goes back to what stands here now
+    RecipeWizard *wizard = openNestingWizard(kind, stack(), wgt_);
+    connect(wizard, &QDialog::finished, wgt_, [this] { pageDateRefresh(); });
 }
 
 void StackSetupPage::showFrame(int index)
@@ -191,6 +220,7 @@ void StackSetupPage::updateHeader()
 {
     ui_->btnUndo->setEnabled(editing_.canUndo());
     ui_->btnRedo->setEnabled(editing_.canRedo());
+    ui_->btnWizard->setEnabled(stack() != nullptr);
 }
 
 bool StackSetupPage::eventFilter(QObject *watched, QEvent *event)
@@ -205,4 +235,7 @@ bool StackSetupPage::eventFilter(QObject *watched, QEvent *event)
 void StackSetupPage::retranslate()
 {
     ui_->retranslateUi(wgt_);
+    const QString names[] = {tr("Patterns"), tr("Layers")};
+    for (int i = 0; i < wizards_.size(); ++i)
+        wizards_[i]->setText(names[i]);
 }

@@ -8,7 +8,9 @@
 #include <memory>
 
 class QAbstractButton;
+class QAction;
 class RecipeFrame;
+enum class NestingWizard;
 namespace Ui {
 class StackSetupPage;
 }
@@ -47,6 +49,8 @@ protected:
 private:
     void makeFrames();
     void connectHeader();
+    void makeWizardMenu();
+    void openWizard(NestingWizard kind);
     void setStack(orba::ModuleObject *stack);
     void fillRecipes();
     void finishField();
@@ -61,5 +65,6 @@ private:
     std::unique_ptr<Ui::StackSetupPage> ui_;
     QList<RecipeFrame *> frames_;
     QList<QAbstractButton *> buttons_; ///< one for each frame
+    QList<QAction *> wizards_;         ///< entries of the menu, in the order of their kinds
     RecipeEditing editing_;
 };

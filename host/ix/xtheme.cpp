@@ -84,6 +84,8 @@ QString sizeRules()
                           "QCheckBox, QRadioButton { min-height: %3px; spacing: 10px; }\n"
                           "QCheckBox::indicator, QRadioButton::indicator { width: 28px; height: 28px; }\n"
                           "QListView::item { min-height: %1px; }\n"
+                          "QMenu::item { min-height: %1px; padding: 0px 24px; }\n"
+                          "QMenu::item:selected { background: palette(highlight); color: #ffffff; }\n"
                           "QHeaderView::section { min-height: 40px; padding: 0px 6px; }\n"
                           "QScrollBar:vertical { width: 24px; }\n"
                           "QScrollBar:horizontal { height: 24px; }\n"
@@ -107,6 +109,20 @@ QString roleRules()
                "QPushButton[role=\"nav\"] { text-align: left; padding: 0px 12px; }\n"
                "QPushButton[role=\"tab\"] { padding: 0px 8px; }\n")
         .arg(hex(kButton), hex(kText), hex(kBorder), hex(kSelection), hex(kGround), hex(kDisabledText));
+}
+
+/// A groove with a handle that a finger can take.
+QString sliderRules()
+{
+    return QStringLiteral(
+               "QSlider::groove:horizontal { height: 12px; background: %1; border-radius: 6px; margin: 0px "
+               "4px; }\n"
+               "QSlider::sub-page:horizontal { background: %2; border-radius: 6px; }\n"
+               "QSlider::handle:horizontal { width: 36px; background: %2; border: 1px solid %3; "
+               "border-radius: 6px; "
+               "margin: -17px 0px; }\n"
+               "QSlider::handle:horizontal:disabled { background: %4; }\n")
+        .arg(hex(kBorder), hex(kSelection), hex(kText), hex(kDisabledText));
 }
 
 QString textRules()
@@ -168,7 +184,8 @@ void setRole(QWidget *widget, const QString &role)
 
 QString styleSheet()
 {
-    return sizeRules() + roleRules() + textRules() + stateRules(); // states last: they win over roles
+    return sizeRules() + roleRules() + sliderRules() + textRules() +
+           stateRules(); // states last: they win over roles
 }
 
 void apply(QApplication *application)

@@ -41,7 +41,10 @@ enum class Glyph {
     Settings,
     Log,
     Pallet,
-    Robot
+    Robot,
+    Remove,
+    TurnLeft,
+    TurnRight
 };
 
 constexpr int kTextPixels = 16; ///< smallest text, readable from 0.7 m

@@ -1,8 +1,9 @@
 #include "pattern/rules/iso_scene.h"
 
+#include <QtMath>
+
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 namespace palx {
 
@@ -11,12 +12,13 @@ namespace {
 // Isometric projection: both ground axes fall at 30 degrees.
 constexpr double kCos30 = 0.8660254037844386;
 constexpr double kSin30 = 0.5;
+constexpr double kFacing = 1e-9; // a wall that looks this little to the viewer is seen edge on
 
 /// One vertical face of a prism.
 struct Wall
 {
     QPointF begin, end;
-    FaceSide side;
+    QPointF outwards; ///< on the plan
 };
 
 /// One prism of a course: what is visible of it whatever lies above.
@@ -25,6 +27,11 @@ struct Prism
     int outline = 0;
     QVector<Wall> walls;
 };
+
+double dot(const QPointF &a, const QPointF &b)
+{
+    return QPointF::dotProduct(a, b);
+}
 
 QRectF rectOf(const Corners &outline)
 {
@@ -42,23 +49,6 @@ bool isUpright(const Corners &outline)
 {
     const QPointF side = outline[1] - outline[0];
     return std::min(std::abs(side.x()), std::abs(side.y())) < kContactMm;
-}
-
-double nearness(const QRectF &rect)
-{
-    return rect.center().x() + rect.center().y();
-}
-
-/// Whether `front` may cover `back` on the picture: it lies further along one axis and their views meet.
-bool standsBefore(const QRectF &front, const QRectF &back)
-{
-    const bool beyondAcross = front.left() >= back.right() - kContactMm;
-    const bool beyondAlong = front.top() >= back.bottom() - kContactMm;
-    if (!beyondAcross && !beyondAlong)
-        return false;
-    // Boxes beside each other's line of sight do not hide anything of each other.
-    return front.left() - front.bottom() < back.right() - back.top() &&
-           back.left() - back.bottom() < front.right() - front.top();
 }
 
 /// Whether rectangles cover `rest` wholly, beginning with the `from`-th of them.
@@ -89,197 +79,213 @@ QVector<QRectF> uprightRects(const QVector<Corners> &outlines, double grow)
     return rects;
 }
 
-/// A strip of the gap's width in front of a wall; the wall is hidden when neighbours fill the strip's far
-/// edge.
-QRectF stripBefore(const QRectF &box, FaceSide side, double gap)
-{
-    return side == FaceSide::Left ? QRectF(box.left(), box.bottom() + gap / 2, box.width(), gap / 2)
-                                  : QRectF(box.right() + gap / 2, box.top(), gap / 2, box.height());
-}
-
-void addUprightWalls(const QRectF &box, const QVector<QRectF> &neighbours, double gap, Prism *prism)
-{
-    if (!isCovered(stripBefore(box, FaceSide::Left, gap), neighbours, 0))
-        prism->walls.append({box.bottomLeft(), box.bottomRight(), FaceSide::Left});
-    if (!isCovered(stripBefore(box, FaceSide::Right, gap), neighbours, 0))
-        prism->walls.append({box.topRight(), box.bottomRight(), FaceSide::Right});
-}
-
-void addTurnedWalls(const Corners &outline, Prism *prism)
-{
-    for (int i = 0; i < 4; ++i) {
-        const QPointF begin = outline[i];
-        const QPointF end = outline[(i + 1) % 4];
-        const QPointF outwards(end.y() - begin.y(), begin.x() - end.x()); // corners go round clockwise
-        if (outwards.x() + outwards.y() > 0)
-            prism->walls.append({begin, end, outwards.y() > outwards.x() ? FaceSide::Left : FaceSide::Right});
-    }
-}
-
-QVector<Prism> arrange(const QVector<Corners> &outlines, double gap)
-{
-    // A box hides its own walls' strips from nobody: strips begin half a gap away and boxes grow by less.
-    const QVector<QRectF> neighbours = uprightRects(outlines, gap * 0.49);
-    QVector<Prism> prisms;
-    for (const int index : backToFront(outlines)) {
-        Prism prism;
-        prism.outline = index;
-        if (isUpright(outlines[index]))
-            addUprightWalls(rectOf(outlines[index]), neighbours, gap, &prism);
-        else
-            addTurnedWalls(outlines[index], &prism);
-        prisms.append(prism);
-    }
-    return prisms;
-}
-
-void addWall(const Course &course, const Wall &wall, QVector<IsoFace> *faces)
-{
-    faces->append({course.kind,
-                   wall.side,
-                   {isoPoint(wall.begin, course.topMm), isoPoint(wall.end, course.topMm),
-                    isoPoint(wall.end, course.bottomMm), isoPoint(wall.begin, course.bottomMm)}});
-}
-
-void addTop(const Course &course, const Corners &outline, QVector<IsoFace> *faces)
-{
-    IsoFace face{course.kind, FaceSide::Top, {}};
-    for (int i = 0; i < 4; ++i)
-        face.corners[i] = isoPoint(outline[i], course.topMm);
-    faces->append(face);
-}
-
-void addCourse(const Course &course, const QVector<QRectF> &above, double gap, QVector<IsoFace> *faces)
-{
-    for (const Prism &prism : arrange(course.outlines, gap)) {
-        const Corners &outline = course.outlines[prism.outline];
-        if (course.topMm > course.bottomMm) {
-            for (const Wall &wall : prism.walls)
-                addWall(course, wall, faces);
-        }
-        if (!isCovered(rectOf(outline), above, 0))
-            addTop(course, outline, faces);
-    }
-}
-
 Corners cornersOf(const QRectF &rect)
 {
     return {rect.topLeft(), rect.topRight(), rect.bottomRight(), rect.bottomLeft()};
 }
 
-/// Runners, blocks and deck, in the proportions of a usual pallet, so that it is told from a product at a
-/// glance.
-void addPallet(const StackPlan &plan, QVector<Course> *courses)
+/// The strip of the gap's width in front of an edge, counted from the upper one clockwise, without its nearer
+/// half; the wall is hidden when neighbours fill the strip.
+QRectF stripBefore(const QRectF &box, int edge, double gap)
 {
-    const QSizeF size = plan.pallet.plan();
-    const double height = plan.pallet.height;
-    Course runners{SolidKind::Pallet, -height, -height * 0.85, {}};
-    Course blocks{SolidKind::Pallet, -height * 0.85, -height * 0.2, {}};
-    const double block = std::min(size.width(), size.height()) * 0.14;
-    for (const double across : {0.0, 0.5, 1.0}) {
-        const double left = (size.width() - block) * across;
-        runners.outlines.append(cornersOf(QRectF(left, 0, block, size.height())));
-        for (const double along : {0.0, 0.5, 1.0})
-            blocks.outlines.append(cornersOf(QRectF(left, (size.height() - block) * along, block, block)));
+    switch (edge) {
+    case 0:
+        return QRectF(box.left(), box.top() - gap, box.width(), gap / 2);
+    case 1:
+        return QRectF(box.right() + gap / 2, box.top(), gap / 2, box.height());
+    case 2:
+        return QRectF(box.left(), box.bottom() + gap / 2, box.width(), gap / 2);
+    default:
+        return QRectF(box.left() - gap, box.top(), gap / 2, box.height());
     }
-    *courses << runners << blocks
-             << Course{SolidKind::Pallet, -height * 0.2, 0, {cornersOf(QRectF(QPointF(), size))}};
 }
 
-Course layerCourse(const orba::Node &stack, const StackPlan &plan, int layer)
+Wall wallAt(const Corners &outline, int edge)
 {
-    Course course;
-    course.bottomMm = plan.layers[layer].bottomMm;
-    course.topMm = plan.layers[layer].topMm();
-    if (plan.layers[layer].kind == LayerKind::Sheet) {
-        course.kind = SolidKind::Sheet;
-        course.outlines.append(cornersOf(sheetRect(plan.sheet.plan(), plan.pallet.plan())));
-        return course;
+    return {outline[edge], outline[(edge + 1) % 4], outwardsOf(outline, edge)};
+}
+
+QVector<Wall> facingWalls(const Corners &outline, const QPointF &viewer)
+{
+    QVector<Wall> walls;
+    for (int edge = 0; edge < 4; ++edge) {
+        const Wall wall = wallAt(outline, edge);
+        if (dot(wall.outwards, viewer) > kFacing)
+            walls.append(wall);
     }
-    for (const PatternItem &item : layerItems(stack, plan, layer))
-        course.outlines.append(itemCorners(item));
-    return course;
+    return walls;
+}
+
+/// The walls of an upright box that are seen beside its neighbours.
+QVector<Wall> openWalls(const QRectF &box, const QVector<QRectF> &neighbours, double gap,
+                        const QPointF &viewer)
+{
+    QVector<Wall> walls;
+    for (int edge = 0; edge < 4; ++edge) {
+        const Wall wall = wallAt(cornersOf(box), edge);
+        if (dot(wall.outwards, viewer) > kFacing && !isCovered(stripBefore(box, edge, gap), neighbours, 0))
+            walls.append(wall);
+    }
+    return walls;
+}
+
+QVector<Prism> arrange(const QVector<Corners> &outlines, double gap, const IsoProjection &view)
+{
+    // A box hides its own walls' strips from nobody: strips begin half a gap away and boxes grow by less.
+    const QVector<QRectF> neighbours = uprightRects(outlines, gap * 0.49);
+    const QPointF viewer = view.towardsViewer();
+    QVector<Prism> prisms;
+    for (const int index : backToFront(outlines, view)) {
+        const Corners &outline = outlines[index];
+        prisms.append({index, isUpright(outline) ? openWalls(rectOf(outline), neighbours, gap, viewer)
+                                                 : facingWalls(outline, viewer)});
+    }
+    return prisms;
+}
+
+IsoFace wallFace(const Course &course, const Wall &wall, const IsoProjection &view)
+{
+    const QPointF seen = view.turnedVector(wall.outwards);
+    const double length = std::hypot(seen.x(), seen.y());
+    IsoFace face;
+    face.kind = course.kind;
+    face.side = seen.y() > seen.x() ? FaceSide::Left : FaceSide::Right;
+    face.light = std::clamp((1 + (seen.y() - seen.x()) / length) / 2, 0.0, 1.0);
+    face.corners = {view.point(wall.begin, course.topMm), view.point(wall.end, course.topMm),
+                    view.point(wall.end, course.bottomMm), view.point(wall.begin, course.bottomMm)};
+    return face;
+}
+
+IsoFace topFace(const Course &course, const Corners &outline, const IsoProjection &view)
+{
+    IsoFace face;
+    face.kind = course.kind;
+    for (int i = 0; i < 4; ++i)
+        face.corners[i] = view.point(outline[i], course.topMm);
+    return face;
+}
+
+/// What the courses of one picture share: layers of one pattern are arranged alike.
+class Arranger
+{
+public:
+    Arranger(double gap, const IsoProjection &view) : gap_(gap), view_(view) {}
+
+    const QVector<Prism> &prisms(const QVector<Corners> &outlines)
+    {
+        for (const Known &known : known_) {
+            if (known.outlines == outlines)
+                return known.prisms;
+        }
+        known_.append({outlines, arrange(outlines, gap_, view_)});
+        return known_.last().prisms;
+    }
+
+private:
+    struct Known
+    {
+        QVector<Corners> outlines;
+        QVector<Prism> prisms;
+    };
+    double gap_;
+    IsoProjection view_;
+    QList<Known> known_; // a list, so that what was handed out stays
+};
+
+void addPrism(const Course &course, const Prism &prism, bool coveredTop, const IsoProjection &view,
+              int number, QVector<IsoFace> *faces)
+{
+    const int begin = faces->size();
+    if (course.topMm > course.bottomMm) {
+        for (const Wall &wall : prism.walls)
+            faces->append(wallFace(course, wall, view));
+    }
+    if (!coveredTop)
+        faces->append(topFace(course, course.outlines[prism.outline], view));
+    for (int i = begin; i < faces->size(); ++i) {
+        (*faces)[i].course = number;
+        (*faces)[i].outline = prism.outline;
+    }
 }
 
 } // namespace
 
-QPointF isoPoint(const QPointF &plan, double heightMm)
+IsoProjection::IsoProjection(double turnDeg, const QPointF &centre)
+    : cos_(std::cos(qDegreesToRadians(turnDeg))), sin_(std::sin(qDegreesToRadians(turnDeg))), centre_(centre)
 {
-    return QPointF((plan.x() - plan.y()) * kCos30, (plan.x() + plan.y()) * kSin30 - heightMm);
 }
 
-QVector<Course> stackCourses(const orba::Node &stack, const StackPlan &plan, int maxProducts)
+QPointF IsoProjection::turnedVector(const QPointF &plan) const
 {
-    QVector<Course> courses;
-    addPallet(plan, &courses);
-    int products = 0;
-    for (int i = 0; i < plan.layers.size() && products < maxProducts; ++i) {
-        if (!plan.layers[i].isPlaced())
-            continue;
-        courses.append(layerCourse(stack, plan, i));
-        products += courses.last().kind == SolidKind::Product ? courses.last().outlines.size() : 0;
-    }
-    return courses;
+    return QPointF(plan.x() * cos_ - plan.y() * sin_, plan.x() * sin_ + plan.y() * cos_);
 }
 
-QVector<int> backToFront(const QVector<Corners> &outlines)
+QPointF IsoProjection::point(const QPointF &plan, double heightMm) const
 {
-    const int count = outlines.size();
-    QVector<QRectF> rects;
-    for (const Corners &outline : outlines)
-        rects.append(rectOf(outline));
-    QVector<QVector<int>> fronts(count);
-    QVector<int> waitsFor(count, 0);
-    for (int back = 0; back < count; ++back) {
-        for (int front = 0; front < count; ++front) {
-            if (front == back || !standsBefore(rects[front], rects[back]) ||
-                standsBefore(rects[back], rects[front]))
-                continue;
-            fronts[back].append(front);
-            ++waitsFor[front];
-        }
-    }
-    QVector<int> rest(count), order;
-    std::iota(rest.begin(), rest.end(), 0);
-    std::stable_sort(rest.begin(), rest.end(),
-                     [&](int a, int b) { return nearness(rects[a]) < nearness(rects[b]); });
-    while (!rest.isEmpty()) {
-        // Overlapping boxes can wait for each other in a ring; the farthest of them then goes first.
-        auto next = std::find_if(rest.begin(), rest.end(), [&](int i) { return waitsFor[i] <= 0; });
-        const int taken =
-            next == rest.end() ? rest.takeFirst() : rest.takeAt(static_cast<int>(next - rest.begin()));
-        order.append(taken);
-        for (const int front : qAsConst(fronts[taken]))
-            --waitsFor[front];
-    }
-    return order;
+    const QPointF at = turnedVector(plan - centre_);
+    return QPointF((at.x() - at.y()) * kCos30, (at.x() + at.y()) * kSin30 - heightMm);
 }
 
-QVector<IsoFace> visibleFaces(const QVector<Course> &courses, double gapMm)
+QPointF IsoProjection::towardsViewer() const
+{
+    return QPointF(cos_ + sin_, cos_ - sin_); // (1, 1) turned back
+}
+
+QVector<IsoFace> visibleFaces(const QVector<Course> &courses, double gapMm, const IsoProjection &view)
 {
     QVector<IsoFace> faces;
+    Arranger arranger(gapMm, view);
     for (int i = 0; i < courses.size(); ++i) {
         QVector<QRectF> above;
         if (i + 1 < courses.size() && std::abs(courses[i + 1].bottomMm - courses[i].topMm) < gapMm)
             above = uprightRects(courses[i + 1].outlines, gapMm / 2);
-        addCourse(courses[i], above, gapMm, &faces);
+        for (const Prism &prism : arranger.prisms(courses[i].outlines)) {
+            const bool covered = isCovered(rectOf(courses[i].outlines[prism.outline]), above, 0);
+            addPrism(courses[i], prism, covered, view, i, &faces);
+        }
     }
     return faces;
 }
 
-QRectF isoBounds(const QVector<Course> &courses)
+QVector<IsoFace> facesOf(const Course &course, int outline, const IsoProjection &view)
+{
+    QVector<IsoFace> faces;
+    const Prism prism{outline, facingWalls(course.outlines[outline], view.towardsViewer())};
+    addPrism(course, prism, false, view, 0, &faces);
+    return faces;
+}
+
+QRectF isoBounds(const QVector<Course> &courses, const IsoProjection &view)
 {
     QRectF bounds;
     for (const Course &course : courses) {
         for (const Corners &outline : course.outlines) {
             for (const QPointF &corner : outline) {
-                const QRectF edge(isoPoint(corner, course.topMm), isoPoint(corner, course.bottomMm));
+                const QRectF edge(view.point(corner, course.topMm), view.point(corner, course.bottomMm));
                 bounds |=
                     edge.normalized().adjusted(-1, -1, 1, 1); // a rectangle without area would not count
             }
         }
     }
     return bounds;
+}
+
+QRectF turningBounds(const QVector<Course> &courses, const QPointF &centre)
+{
+    double radius = 1;
+    double top = 1;
+    double bottom = 0;
+    for (const Course &course : courses) {
+        top = std::max(top, course.topMm);
+        bottom = std::min(bottom, course.bottomMm);
+        for (const Corners &outline : course.outlines) {
+            for (const QPointF &corner : outline)
+                radius = std::max(radius, std::hypot(corner.x() - centre.x(), corner.y() - centre.y()));
+        }
+    }
+    const double across = radius * M_SQRT2 * kCos30;
+    const double down = radius * M_SQRT2 * kSin30;
+    return QRectF(QPointF(-across, -down - top), QPointF(across, down - bottom));
 }
 
 } // namespace palx

@@ -1,53 +1,64 @@
 #pragma once
 
-#include "pattern/rules/item_geometry.h"
-#include "pattern/rules/stack_plan.h"
+#include "pattern/rules/stack_courses.h"
 
 #include <QRectF>
 
 #include <array>
 
-/// A stack as the faces that one sees of it from its front corner (the far end of both axes of the plan), in
-/// the order in which to paint them. Millimetres.
+/// A stack as the faces that one sees of it from a corner, at any turn, in the order in which to paint them.
+/// Millimetres.
 ///
-/// Steps: a course is a set of prisms between two heights; courses are painted from the bottom up. Within a
-/// course a prism is painted before those that stand in front of it. Faces that neighbours or the next course
-/// hide are left out. Correct for boxes that stand parallel to the pallet and do not overlap; other turns are
-/// sorted by their distance.
+/// Steps: courses are painted from the bottom up. Within a course a prism is painted before those that stand
+/// in front of it. Faces that neighbours or the next course hide are left out. Correct for boxes that do not
+/// overlap, turned or not.
 namespace palx {
 
-enum class SolidKind { Pallet, Sheet, Product };
-enum class FaceSide {
-    Top,
-    Left,
-    Right
-}; ///< as seen: the left one looks along the plan's length, the right one across
-
-struct PALX_API Course
+/// From where one looks: from above a corner, so that lengths along all three axes are drawn alike. Without a
+/// turn the far end of both axes of the plan is nearest.
+class PALX_API IsoProjection
 {
-    SolidKind kind = SolidKind::Product;
-    double bottomMm = 0, topMm = 0;
-    QVector<Corners> outlines;
+public:
+    IsoProjection() = default;
+    /// The stack is turned clockwise, seen from above, about a point of the plan, which becomes the picture's
+    /// origin.
+    IsoProjection(double turnDeg, const QPointF &centre);
+
+    /// A point of the stack on the picture, y down.
+    QPointF point(const QPointF &plan, double heightMm) const;
+    /// A direction of the plan as it lies after the turn.
+    QPointF turnedVector(const QPointF &plan) const;
+    /// The direction on the plan that leads towards who looks.
+    QPointF towardsViewer() const;
+
+private:
+    double cos_ = 1, sin_ = 0;
+    QPointF centre_;
 };
+
+/// As seen: a left wall looks more to the left of the picture, a right one more to the right.
+enum class FaceSide { Top, Left, Right };
 
 struct PALX_API IsoFace
 {
     SolidKind kind = SolidKind::Product;
     FaceSide side = FaceSide::Top;
     std::array<QPointF, 4> corners; ///< on the picture, millimetres, y down
+    double light = 1;               ///< of a wall: from 0, looking right, to 1, looking left
+    int course = 0, outline = 0;    ///< where it belongs in what was given
 };
 
-/// A point of the stack on the picture.
-PALX_API QPointF isoPoint(const QPointF &plan, double heightMm);
-
-/// Pallet and placed layers. Layers above the first `maxProducts` products are left out.
-PALX_API QVector<Course> stackCourses(const orba::Node &stack, const StackPlan &plan, int maxProducts);
 /// The faces to paint. A gap narrower than `gapMm` (about a pixel) cannot be looked into.
-PALX_API QVector<IsoFace> visibleFaces(const QVector<Course> &courses, double gapMm);
+PALX_API QVector<IsoFace> visibleFaces(const QVector<Course> &courses, double gapMm,
+                                       const IsoProjection &view = {});
+/// The three faces of one box that look to the viewer, hidden or not; the top comes last.
+PALX_API QVector<IsoFace> facesOf(const Course &course, int outline, const IsoProjection &view);
 /// Around everything in the picture.
-PALX_API QRectF isoBounds(const QVector<Course> &courses);
+PALX_API QRectF isoBounds(const QVector<Course> &courses, const IsoProjection &view = {});
+/// Around everything at any turn about `centre`, which lies in the picture's origin.
+PALX_API QRectF turningBounds(const QVector<Course> &courses, const QPointF &centre);
 
-/// An order of upright or turned outlines in which none stands in front of a later one.
-PALX_API QVector<int> backToFront(const QVector<Corners> &outlines);
+/// An order of outlines in which none stands in front of a later one.
+PALX_API QVector<int> backToFront(const QVector<Corners> &outlines, const IsoProjection &view = {});
 
 } // namespace palx

@@ -66,6 +66,12 @@ Corners itemCorners(const PatternItem &item)
             centre - across + along};
 }
 
+QPointF outwardsOf(const Corners &outline, int edge)
+{
+    const QPointF along = outline[(edge + 1) % 4] - outline[edge];
+    return QPointF(along.y(), -along.x()); // corners go round clockwise
+}
+
 QRectF itemBounds(const PatternItem &item)
 {
     return boundsOf(itemCorners(item));

@@ -20,6 +20,8 @@ using Corners = std::array<QPointF, 4>;
 /// A vector turned clockwise as seen on the plan; exact for multiples of 90 degrees.
 PALX_API QPointF turned(const QPointF &vector, int degrees);
 PALX_API Corners itemCorners(const PatternItem &item);
+/// The direction, as long as the edge, that looks away from the edge after that corner.
+PALX_API QPointF outwardsOf(const Corners &outline, int edge);
 /// The smallest upright rectangle around the item.
 PALX_API QRectF itemBounds(const PatternItem &item);
 /// Around all items; null without items.

@@ -113,7 +113,7 @@ TEST_F(Theme, TintingKeepsTransparency)
 
 TEST_F(Theme, EveryGlyphDrawsSomethingInside)
 {
-    for (int i = 0; i <= static_cast<int>(Glyph::Robot); ++i) {
+    for (int i = 0; i <= static_cast<int>(Glyph::TurnRight); ++i) {
         const QImage image = pixmap(static_cast<Glyph>(i), 48, Qt::black).toImage();
         int marked = 0;
         for (int y = 0; y < 48; ++y)

@@ -52,49 +52,135 @@ void cut(const QRectF &rect, int depth, std::mt19937 &random, QVector<Corners> *
     }
 }
 
-/// What one really sees at a point of the picture: the side of the nearest box on the line of sight, 0 for
-/// none, -1 when an edge is too near to tell.
-int sideSeenAt(const QPointF &at, const QVector<Course> &courses)
+/// The part of a line on which a linear function stays below a limit.
+struct Clip
 {
-    constexpr double margin = 1.5;
-    const double across = at.x() / std::sqrt(3.0);
+    double enter = -1e9, leave = 1e9;
+    int entered = 0, left = 0; ///< which limit it was, from 1
+    /// Keeps where `at` + `slope` * t <= `limit`.
+    void keep(double at, double slope, double limit, int which)
+    {
+        if (std::abs(slope) < 1e-12) {
+            if (at > limit)
+                leave = -1e9;
+            return;
+        }
+        const double t = (limit - at) / slope;
+        if (slope > 0 && t < leave) {
+            leave = t;
+            left = which;
+        } else if (slope < 0 && t > enter) {
+            enter = t;
+            entered = which;
+        }
+    }
+};
+
+/// What one really sees at a point of the picture: the face of the nearest box on the line of sight as its
+/// number (from 1, faces of a box in turn: top, edges), 0 for none, -1 when an edge is too near to tell.
+int faceSeenAt(const QPointF &at, const QVector<Course> &courses, const palx::IsoProjection &view)
+{
+    constexpr double margin = 2.5;
+    // The point of the floor below the picture's point; the line rises along t, towards the viewer.
+    const QPointF zero = view.point(QPointF(), 0);
+    const QPointF right = view.point(QPointF(1, 0), 0) - zero;
+    const QPointF down = view.point(QPointF(0, 1), 0) - zero;
+    const double area = right.x() * down.y() - right.y() * down.x();
+    const QPointF off = at - zero;
+    const QPointF floor((off.x() * down.y() - off.y() * down.x()) / area,
+                        (right.x() * off.y() - right.y() * off.x()) / area);
+    const QPointF viewer = view.towardsViewer();
     double best = -1e9;
     int seen = 0;
+    int number = 0;
     for (const Course &course : courses) {
         for (const Corners &outline : course.outlines) {
-            // On the line of sight x = z + at.y + across and y = z + at.y - across.
-            const double limits[3] = {course.topMm, outline[2].x() - at.y() - across,
-                                      outline[2].y() - at.y() + across};
-            const double enter = std::max(
-                {course.bottomMm, outline[0].x() - at.y() - across, outline[0].y() - at.y() + across});
-            const int nearest = static_cast<int>(std::min_element(limits, limits + 3) - limits);
-            if (limits[nearest] < enter - margin)
-                continue;
-            const bool doubtful = std::abs(limits[nearest] - best) < margin ||
-                                  limits[nearest] < enter + margin ||
-                                  std::abs(limits[(nearest + 1) % 3] - limits[nearest]) < margin ||
-                                  std::abs(limits[(nearest + 2) % 3] - limits[nearest]) < margin;
-            if (limits[nearest] > best - margin)
-                seen = doubtful ? -1 : limits[nearest] > best ? nearest + 1 : seen;
-            best = std::max(best, limits[nearest]);
+            Clip clip;
+            clip.keep(0, 1, course.topMm, 1);
+            clip.keep(0, -1, -course.bottomMm, 6);
+            double second = 1e9; // how clearly the line leaves through one face only
+            for (int edge = 0; edge < 4; ++edge) {
+                QPointF normal = palx::outwardsOf(outline, edge);
+                normal /= std::hypot(normal.x(), normal.y());
+                const double limit = QPointF::dotProduct(outline[edge], normal);
+                clip.keep(QPointF::dotProduct(floor, normal), QPointF::dotProduct(viewer, normal), limit,
+                          2 + edge);
+            }
+            for (int edge = 0; edge < 4; ++edge) {
+                QPointF normal = palx::outwardsOf(outline, edge);
+                normal /= std::hypot(normal.x(), normal.y());
+                const double gone = QPointF::dotProduct(floor + viewer * clip.leave - outline[edge], normal);
+                if (clip.left != 2 + edge)
+                    second = std::min(second, std::abs(gone));
+            }
+            if (clip.left != 1)
+                second = std::min(second, std::abs(course.topMm - clip.leave));
+            second = std::min(second, std::abs(clip.leave - course.bottomMm));
+            const bool near = clip.leave > clip.enter - margin;
+            if (near &&
+                (second < margin || clip.leave < clip.enter + margin || std::abs(clip.leave - best) < margin))
+                seen = clip.leave > best - margin ? -1 : seen;
+            else if (near && clip.leave > best)
+                seen = 1 + number * 5 + clip.left - 1;
+            if (near)
+                best = std::max(best, clip.leave);
+            ++number;
         }
     }
     return seen;
 }
 
-/// Paints faces as 1 (top), 2 (right), 3 (left): the codes of `sideSeenAt`.
-QImage paintCodes(const QVector<IsoFace> &faces, const QRectF &bounds)
+/// Which edge of its outline a wall stands on.
+int edgeOf(const IsoFace &face, const Corners &outline, const palx::IsoProjection &view, double topMm)
 {
+    for (int edge = 0; edge < 4; ++edge) {
+        const QPointF middle = view.point((outline[edge] + outline[(edge + 1) % 4]) / 2, topMm);
+        const QPointF off = (face.corners[0] + face.corners[1]) / 2 - middle;
+        if (std::hypot(off.x(), off.y()) < 1e-6)
+            return edge;
+    }
+    ADD_FAILURE() << "a wall that stands on no edge";
+    return 0;
+}
+
+/// Paints faces in the numbers of `faceSeenAt`.
+QImage paintNumbers(const QVector<IsoFace> &faces, const QVector<Course> &courses,
+                    const palx::IsoProjection &view, const QRectF &bounds)
+{
+    QVector<int> before{0};
+    for (const Course &course : courses)
+        before.append(before.last() + course.outlines.size());
     QImage image(bounds.size().toSize(), QImage::Format_RGB32);
     image.fill(QColor(0, 0, 0));
     QPainter painter(&image);
     painter.translate(-bounds.topLeft());
     painter.setPen(Qt::NoPen);
     for (const IsoFace &face : faces) {
-        painter.setBrush(QColor(face.side == FaceSide::Top ? 1 : face.side == FaceSide::Right ? 2 : 3, 0, 0));
+        const Course &course = courses[face.course];
+        const int box = before[face.course] + face.outline;
+        const int part = face.side == FaceSide::Top
+                             ? 0
+                             : 1 + edgeOf(face, course.outlines[face.outline], view, course.topMm);
+        painter.setBrush(QColor::fromRgb(QRgb(1 + box * 5 + part)));
         painter.drawPolygon(face.corners.data(), 4);
     }
     return image;
+}
+
+/// Boxes cut from rectangles in three levels, each level turned a little where `turnedBy` says so.
+QVector<Course> cutStack(unsigned seed, int turnedBy)
+{
+    std::mt19937 random(seed);
+    QVector<Course> courses;
+    for (int level = 0; level < 3; ++level) {
+        courses.append({SolidKind::Product, level * 120.0, level * 120.0 + 120, {}});
+        cut(QRectF(0, 0, 500 - 60 * level, 700), 4, random, &courses.last().outlines);
+        for (Corners &outline : courses.last().outlines) {
+            for (QPointF &corner : outline)
+                corner = palx::turned(corner, turnedBy * level);
+        }
+    }
+    return courses;
 }
 
 } // namespace
@@ -145,29 +231,48 @@ TEST(IsoScene, HiddenFacesAreLeftOut)
     EXPECT_EQ(count(palx::visibleFaces({course, upper}, 2), FaceSide::Top), 200);
 }
 
-TEST(IsoScene, PictureAgreesWithTheLinesOfSight)
+TEST(IsoScene, PictureAgreesWithTheLinesOfSightAtAnyTurn)
 {
     for (unsigned seed = 1; seed <= 12; ++seed) {
-        std::mt19937 random(seed);
-        QVector<Course> courses;
-        for (int level = 0; level < 3; ++level) {
-            courses.append({SolidKind::Product, level * 120.0, level * 120.0 + 120, {}});
-            cut(QRectF(0, 0, 500 - 60 * level, 700), 4, random, &courses.last().outlines);
-        }
-        const QRectF bounds = palx::isoBounds(courses).toAlignedRect();
-        const QImage image = paintCodes(palx::visibleFaces(courses, 0.5), bounds);
+        const QVector<Course> courses = cutStack(seed, seed % 3 == 0 ? 17 : 0);
+        const palx::IsoProjection view(seed <= 4 ? 0 : 23.0 * seed, QPointF(200, 300));
+        const QRectF bounds = palx::isoBounds(courses, view).toAlignedRect();
+        const QImage image = paintNumbers(palx::visibleFaces(courses, 0.5, view), courses, view, bounds);
         int compared = 0;
         int wrong = 0;
-        for (int y = 2; y < image.height(); y += 5) {
-            for (int x = 2; x < image.width(); x += 5) {
-                const int seen = sideSeenAt(bounds.topLeft() + QPointF(x + 0.5, y + 0.5), courses);
+        for (int y = 2; y < image.height(); y += 9) {
+            for (int x = 2; x < image.width(); x += 9) {
+                const int seen = faceSeenAt(bounds.topLeft() + QPointF(x + 0.5, y + 0.5), courses, view);
                 compared += seen >= 0 ? 1 : 0;
-                wrong += seen >= 0 && seen != qRed(image.pixel(x, y)) ? 1 : 0;
+                wrong += seen >= 0 && seen != int(image.pixel(x, y) & 0xffffff) ? 1 : 0;
             }
         }
-        EXPECT_GT(compared, 10000) << seed;
+        EXPECT_GT(compared, 5000) << seed;
         EXPECT_EQ(wrong, 0) << "of " << compared << " points, seed " << seed;
     }
+}
+
+TEST(IsoScene, TurningKeepsTheStackInItsBounds)
+{
+    const QVector<Course> courses = cutStack(5, 0);
+    const QPointF centre(250, 350);
+    const QRectF round = palx::turningBounds(courses, centre).adjusted(-1, -1, 1, 1);
+    for (int turn = 0; turn < 360; turn += 7)
+        EXPECT_TRUE(round.contains(palx::isoBounds(courses, palx::IsoProjection(turn, centre)))) << turn;
+}
+
+TEST(IsoScene, AQuarterTurnShowsTheNextSide)
+{
+    // A wall that looks along the width stands right at first; turned clockwise by 90 degrees it stands left.
+    const Course course{SolidKind::Product, 0, 100, {box(0, 0, 400, 300)}};
+    const auto middleOfRightEdge = [](double turn) {
+        return palx::IsoProjection(turn, QPointF(200, 150)).point(QPointF(400, 150), 0);
+    };
+    EXPECT_GT(middleOfRightEdge(0).x(), 0);
+    EXPECT_LT(middleOfRightEdge(90).x(), 0);
+    EXPECT_GT(middleOfRightEdge(90).y(), 0) << "it came nearer";
+    EXPECT_EQ(palx::visibleFaces({course}, 1, palx::IsoProjection(45, QPointF())).size(), 2)
+        << "seen straight from the front only one wall shows";
 }
 
 TEST(IsoScene, CoursesFollowThePlacedLayers)
@@ -183,6 +288,59 @@ TEST(IsoScene, CoursesFollowThePlacedLayers)
     EXPECT_EQ(courses.first().bottomMm, -144);
     const auto few = palx::stackCourses(stack, palx::readStackPlan(stack), 2);
     EXPECT_EQ(few.last().topMm, 200) << "the limit must end the stack, not tear holes into it";
+}
+
+TEST(IsoScene, PiecesAreCountedAsTheyAreLaid)
+{
+    // Two products, a sheet, one turned product, two products; then a layer whose pattern is missing.
+    const orba::Node stack = planRecipe();
+    const QVector<Course> courses = palx::stackCourses(stack, palx::readStackPlan(stack), 1000);
+    const palx::Piece pieces[] = {{0, 0}, {0, 1}, {1, -1}, {2, 0}, {4, 0}, {4, 1}};
+    ASSERT_EQ(palx::pieceCount(courses), 6);
+    for (int n = 0; n < 6; ++n) {
+        EXPECT_EQ(palx::pieceAt(courses, n), pieces[n]) << n;
+        EXPECT_EQ(palx::numberOf(courses, pieces[n]), n);
+    }
+    for (const int n : {-1, 6, 100})
+        EXPECT_FALSE(palx::pieceAt(courses, n).isSet()) << n;
+    for (const palx::Piece &none :
+         {palx::Piece{0, 2}, palx::Piece{0, -1}, palx::Piece{3, 0}, palx::Piece{9, 0}})
+        EXPECT_EQ(palx::numberOf(courses, none), -1) << none.layer << ' ' << none.item;
+}
+
+TEST(IsoScene, FirstPiecesEndInTheMiddleOfALayer)
+{
+    const orba::Node stack = planRecipe();
+    const QVector<Course> courses = palx::stackCourses(stack, palx::readStackPlan(stack), 1000);
+    for (int pieces = 0; pieces <= 6; ++pieces) {
+        const QVector<Course> placed = palx::firstPieces(courses, pieces);
+        EXPECT_EQ(palx::pieceCount(placed), pieces);
+        EXPECT_EQ(placed.first().bottomMm, -144) << "the pallet is there from the beginning";
+    }
+}
+
+TEST(IsoScene, LayersAreSteppedThroughWhole)
+{
+    const orba::Node stack = planRecipe();
+    const QVector<Course> courses = palx::stackCourses(stack, palx::readStackPlan(stack), 1000);
+    const struct
+    {
+        int from, up, down;
+    } cases[] = {{0, 2, 0}, {1, 2, 0}, {2, 3, 0}, {3, 4, 2}, {4, 6, 3}, {5, 6, 4}, {6, 6, 4}};
+    for (const auto &c : cases) {
+        EXPECT_EQ(palx::stepLayer(courses, c.from, true), c.up) << c.from;
+        EXPECT_EQ(palx::stepLayer(courses, c.from, false), c.down) << c.from;
+    }
+}
+
+TEST(IsoScene, CoursesSayWhatOverlapsOrReachesOver)
+{
+    const orba::Node stack = oneLayerRecipe({planItem(100, 100, 100, 100), planItem(150, 100, 100, 100),
+                                             planItem(780, 500, 100, 100), planItem(400, 500, 100, 100)});
+    const QVector<Course> courses = palx::stackCourses(stack, palx::readStackPlan(stack), 1000);
+    using palx::Flaw;
+    EXPECT_EQ(courses.last().flaws,
+              (QVector<Flaw>{Flaw::Overlap, Flaw::Overlap, Flaw::Overhang, Flaw::None}));
 }
 
 TEST(IsoScene, TurnedBoxesShowTheirNearSides)
