@@ -19,6 +19,8 @@ public:
     void showPlan(PatternScene *scene);
     /// The place of a product in the placing order, from 0; -1 marks none.
     void markItem(int item);
+    /// A plan takes what room there is and asks for none.
+    QSize sizeHint() const override { return minimumSize(); }
 
 Q_SIGNALS:
     void itemTouched(int item);

@@ -28,6 +28,7 @@ public:
 
     double zoom() const { return zoom_; }
     QSize minimumSizeHint() const override { return QSize(160, 160); }
+    QSize sizeHint() const override { return minimumSizeHint(); }
 
 public Q_SLOTS:
     /// Clockwise as seen from above, degrees.
