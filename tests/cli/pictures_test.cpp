@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+
 namespace {
 
 /// A page or drawing has far more colours than this, an empty picture one.
@@ -27,29 +29,22 @@ QStringList picturesIn(const QString &folder)
     return QDir(folder).entryList({"*.png"}, QDir::Files, QDir::Name);
 }
 
-/// What `palx screenshots` writes, sorted.
-QStringList pageNames()
-{
-    return {"delete-recipe.png",
-            "home.png",
-            "keypad.png",
-            "new-pattern.png",
-            "new-recipe.png",
-            "panel-controller.png",
-            "panel-notices.png",
-            "setup-layers.png",
-            "setup-pallet.png",
-            "setup-patterns-pattern.png",
-            "setup-patterns.png",
-            "setup-points.png",
-            "setup-product.png",
-            "setup-waypoints-get.png",
-            "setup-waypoints-offsets.png",
-            "setup-waypoints.png",
-            "wizard-layers-1.png",
-            "wizard-layers-2.png",
-            "wizard-patterns-1.png"};
-}
+/// One picture of every page of the plug-in and the panel, of dialogs and wizards; there are more.
+const char *const kPages[] = {"home",
+                              "new-recipe",
+                              "delete-recipe",
+                              "panel-notices",
+                              "keypad",
+                              "setup-product",
+                              "setup-pallet",
+                              "setup-patterns",
+                              "new-pattern",
+                              "setup-layers",
+                              "setup-waypoints",
+                              "setup-points",
+                              "wizard-layers-1",
+                              "wizard-layers-2",
+                              "wizard-patterns-1"};
 
 void expectDrawn(const QString &file)
 {
@@ -124,14 +119,18 @@ TEST_F(Pictures, ARefusedDrawingLeavesTheOldFile)
 
 TEST_F(Pictures, ScreenshotsShowEveryPageInEveryLanguage)
 {
-    const QStringList expected = pageNames();
+    QStringList first;
     for (const char *language : {"en", "cn", "ru"}) {
         const PalxRun run =
             runPalx({"screenshots", "-o", path(language), "--language", language, "--size", "1000x700"});
         ASSERT_EQ(run.code, 0) << run.err.constData();
-        ASSERT_EQ(picturesIn(path(language)).join(' '), expected.join(' '));
-        for (const QString &name : expected)
+        const QStringList taken = picturesIn(path(language));
+        first = first.isEmpty() ? taken : first;
+        EXPECT_EQ(taken, first) << language;
+        for (const QString &name : taken)
             expectDrawn(folder_.filePath(QLatin1String(language) + QLatin1Char('/') + name));
+        for (const char *page : kPages)
+            EXPECT_TRUE(taken.contains(QLatin1String(page) + QLatin1String(".png"))) << page;
     }
     EXPECT_NE(QImage(path("en/setup-product.png")), QImage(path("cn/setup-product.png")));
     EXPECT_NE(QImage(path("cn/setup-product.png")), QImage(path("ru/setup-product.png")));
@@ -157,9 +156,9 @@ TEST_F(Pictures, TheDemonstrationGoesTheWholePath)
           "check  6 recipes, 0 findings", "points 2333 products", "draw   12 pictures",
           "store  read back after a restart"})
         EXPECT_TRUE(run.out.contains(step)) << step << " not in\n" << run.out.constData();
-    const QByteArray pages = "pages  " + QByteArray::number(pageNames().size()) + " pictures";
-    EXPECT_TRUE(run.out.contains(pages)) << run.out.constData();
     const QString pictures = path("build/demo");
     EXPECT_TRUE(run.out.contains("done   the pictures are in " + pictures.toUtf8())) << run.out.constData();
-    EXPECT_EQ(picturesIn(pictures).size(), 12 + pageNames().size());
+    const int pages = picturesIn(pictures).size() - 12;
+    EXPECT_GE(pages, int(std::size(kPages)));
+    EXPECT_TRUE(run.out.contains("pages  " + QByteArray::number(pages) + " pictures")) << run.out.constData();
 }
