@@ -42,6 +42,8 @@ const char *const kPages[] = {"home",
                               "setup-layers",
                               "setup-waypoints",
                               "setup-points",
+                              "move-ready",
+                              "panel-controller",
                               "wizard-layers-1",
                               "wizard-layers-2",
                               "wizard-patterns-1"};
