@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace palx {
 
@@ -17,6 +18,8 @@ using namespace plan_style;
 constexpr double kLargestNumber = 26; // pixels
 constexpr double kSmallestNumber = 7; // smaller digits cannot be told apart
 constexpr double kSmallestBold = 9;   // bold digits run together below
+constexpr double kOffsetsPixels = 14;
+constexpr double kSmallestOffsets = 10;
 constexpr double kRoomForArrow = 24;  // pixels of a product's shorter side; below, the number is worth more
 constexpr double kShortestArrow = 12; // pixels; a shorter shift is drawn this long, to be seen at all
 constexpr ItemFaults kValueFaults = ItemFaults(ItemFault::MissingValue) | ItemFault::BadValue |
@@ -89,13 +92,28 @@ void ItemView::setApproach(const Approach &approach)
     update();
 }
 
-void ItemView::setFlaws(bool overlaps, bool overhangs, ItemFaults faults)
+void ItemView::setFlaws(const ItemFlaws &flaws, ItemFaults faults)
 {
-    if (overlaps == overlaps_ && overhangs == overhangs_ && faults == item_.faults)
+    if (flaws == flaws_ && faults == item_.faults)
         return;
-    overlaps_ = overlaps;
-    overhangs_ = overhangs;
+    flaws_ = flaws;
     item_.faults = faults;
+    update();
+}
+
+void ItemView::setOffsets(double dx, double dy, double dz)
+{
+    if (std::tie(dx, dy, dz) == std::tie(item_.dx, item_.dy, item_.dz))
+        return;
+    std::tie(item_.dx, item_.dy, item_.dz) = std::tie(dx, dy, dz);
+    update();
+}
+
+void ItemView::setOffsetsShown(bool shown)
+{
+    if (shown == offsetsShown_)
+        return;
+    offsetsShown_ = shown;
     update();
 }
 
@@ -131,12 +149,12 @@ void ItemView::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidge
 void ItemView::paintFill(QPainter *painter, const QPolygonF &polygon) const
 {
     const QRgb plain = item_.r % 180 == 0 ? kItemFill : kItemTurnedFill;
-    const QRgb fill = overlaps_ ? kFaultFill : overhangs_ ? kAttentionFill : plain;
+    const QRgb fill = flaws_.overlaps ? kFaultFill : flaws_.overhangs ? kAttentionFill : plain;
     painter->setPen(Qt::NoPen);
     painter->setBrush(QColor::fromRgba(fill));
     painter->drawPolygon(polygon);
-    if (overlaps_ || overhangs_)
-        drawHatch(painter, polygon, overlaps_ ? kFault : kAttention, overlaps_);
+    if (flaws_.overlaps || flaws_.overhangs)
+        drawHatch(painter, polygon, flaws_.overlaps ? kFault : kAttention, flaws_.overlaps);
 }
 
 void ItemView::paintLabelSide(QPainter *painter, const QPolygonF &polygon) const
@@ -159,8 +177,9 @@ void ItemView::paintLabelSide(QPainter *painter, const QPolygonF &polygon) const
 
 void ItemView::paintOutline(QPainter *painter, const QPolygonF &polygon) const
 {
-    const bool flawed = overlaps_ || overhangs_;
-    const QRgb color = overlaps_ ? kFault : overhangs_ ? kAttention : kInk;
+    const bool amber = flaws_.overhangs || flaws_.cramped;
+    const bool flawed = flaws_.overlaps || amber;
+    const QRgb color = flaws_.overlaps ? kFault : amber ? kAttention : kInk;
     const bool doubtful = item_.faults & kValueFaults;
     painter->setPen(pen(color, flawed ? 2 : 1, doubtful ? Qt::DashLine : Qt::SolidLine));
     painter->setBrush(Qt::NoBrush);
@@ -187,8 +206,30 @@ void ItemView::paintNumber(QPainter *painter, double scale) const
     if (size < kSmallestNumber || size > room.height() * 0.8)
         return;
     painter->setFont(font(size, size >= kSmallestBold));
-    painter->setPen(QColor::fromRgba(overlaps_ ? kFault : kInk));
-    drawText(painter, QPointF(), text, Qt::AlignCenter, overlaps_ || overhangs_);
+    painter->setPen(QColor::fromRgba(flaws_.overlaps ? kFault : kInk));
+    drawText(painter, QPointF(), text, Qt::AlignCenter, flaws_.overlaps || flaws_.overhangs);
+    if (offsetsShown_)
+        paintOffsets(painter, scale, size);
+}
+
+/// "dx dy dz" below the number, where there are any and the product has room for them.
+void ItemView::paintOffsets(QPainter *painter, double scale, double numberPixels) const
+{
+    if (item_.dx == 0 && item_.dy == 0 && item_.dz == 0)
+        return;
+    const QString text = QStringLiteral("%1 / %2 / %3")
+                             .arg(millimetres(item_.dx), millimetres(item_.dy), millimetres(item_.dz));
+    const QSizeF room = itemBounds(item_).size() * scale;
+    const double size = std::min(kOffsetsPixels, numberPixels * 0.7);
+    if (size < kSmallestOffsets)
+        return;
+    painter->setFont(font(size));
+    const double below = numberPixels * 0.5 + size * 0.75;
+    if (below + size > room.height() / 2 ||
+        painter->fontMetrics().horizontalAdvance(text) > room.width() * 0.9)
+        return;
+    painter->setPen(QColor::fromRgba(kQuietInk));
+    drawText(painter, QPointF(0, below), text, Qt::AlignCenter, flaws_.overlaps || flaws_.overhangs);
 }
 
 void ItemView::paintApproach(QPainter *painter, double scale) const
@@ -201,7 +242,8 @@ void ItemView::paintApproach(QPainter *painter, double scale) const
     const double length =
         shifted ? std::max(lengthOf(approach_.shift) * scale, kShortestArrow) : kShortestArrow * 0.7;
     const QPointF tip = unit * tipDistance(item_, scale);
-    painter->setPen(QPen(QColor::fromRgba(kDimension), 1.6));
+    painter->setPen(flaws_.blocked ? QPen(QColor::fromRgba(kFault), 3)
+                                   : QPen(QColor::fromRgba(kDimension), 1.6));
     drawArrow(painter, tip + unit * length, tip, std::min(8.0, length * 0.8), shifted);
 }
 

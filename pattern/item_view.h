@@ -7,6 +7,21 @@
 
 namespace palx {
 
+/// What is wrong with a product, for its looks.
+struct ItemFlaws
+{
+    bool overlaps = false;  ///< reaches into another
+    bool overhangs = false; ///< reaches over the pallet
+    bool cramped = false;   ///< too near to another, or in a margin
+    bool blocked = false;   ///< cannot come to its place in its order
+
+    bool operator==(const ItemFlaws &o) const
+    {
+        return overlaps == o.overlaps && overhangs == o.overhangs && cramped == o.cramped &&
+               blocked == o.blocked;
+    }
+};
+
 /// One product on the plan: a view of an item's record, in the plan's millimetres, placed at the item's
 /// centre. Every attribute has its own update; an equal value repaints nothing.
 class ItemView : public QGraphicsItem
@@ -21,7 +36,9 @@ public:
     void setNumber(int number);
     void setOrient(int orient);
     void setApproach(const Approach &approach);
-    void setFlaws(bool overlaps, bool overhangs, ItemFaults faults);
+    void setFlaws(const ItemFlaws &flaws, ItemFaults faults);
+    void setOffsets(double dx, double dy, double dz);
+    void setOffsetsShown(bool shown);
 
     QRectF boundingRect() const override;
     QPainterPath shape() const override;
@@ -35,12 +52,13 @@ private:
     void paintLabelSide(QPainter *painter, const QPolygonF &outline) const;
     void paintOutline(QPainter *painter, const QPolygonF &outline) const;
     void paintNumber(QPainter *painter, double scale) const;
+    void paintOffsets(QPainter *painter, double scale, double numberPixels) const;
     void paintApproach(QPainter *painter, double scale) const;
 
     PatternItem item_;
     Approach approach_;
-    bool overlaps_ = false;
-    bool overhangs_ = false;
+    ItemFlaws flaws_;
+    bool offsetsShown_ = false;
 };
 
 } // namespace palx

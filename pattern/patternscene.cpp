@@ -52,6 +52,7 @@ void updateView(ItemView *view, const PatternItem &item, const palx::ApproachFra
     view->setTurn(item.r);
     view->setNumber(item.index);
     view->setOrient(item.orient);
+    view->setOffsets(item.dx, item.dy, item.dz);
     view->setApproach(palx::approachOf(item, frame));
 }
 
@@ -75,7 +76,7 @@ void PatternScene::setStack(const Node &stack)
 {
     stack_ = nullptr;
     stackCopy_ = std::make_unique<Node>(planPart(stack));
-    frame_ = palx::readApproachFrame(stack); // reaches beyond the recipe, to the node that holds it
+    copiedFrame_ = palx::readApproachFrame(stack); // reaches beyond the recipe, to the node that holds it
     markStale(true);
 }
 
@@ -157,10 +158,36 @@ const QVector<PatternItem> &PatternScene::shownItems()
     return content_.items;
 }
 
-const palx::LayoutFindings &PatternScene::findings()
+const palx::EditFindings &PatternScene::checks()
 {
     sync();
     return findings_;
+}
+
+const palx::EditRules &PatternScene::rules()
+{
+    sync();
+    return rules_;
+}
+
+void PatternScene::setHandEditing(bool on)
+{
+    handEditing_ = on;
+    markStale(false);
+}
+
+void PatternScene::showPreview(const QVector<PatternItem> &items)
+{
+    sync();
+    preview_ = true;
+    content_.items = items;
+    showContent();
+}
+
+void PatternScene::endPreview()
+{
+    if (preview_)
+        markStale(false);
 }
 
 QString PatternScene::message()
@@ -195,6 +222,7 @@ void PatternScene::followNodes(const QList<ModuleObject *> &patterns)
         follower_->follow(stack_);
         follower_->followTree(stack_->r("product_cfg"));
         follower_->followTree(stack_->r("wobj_margin"));
+        follower_->followTree(stack_->r("automatic_stacker"));
         for (const int side : {0, 1})
             follower_->follow(stack_->p(1)->r("global_wobj")->c(side)->r("towards"));
     }
@@ -224,14 +252,41 @@ void PatternScene::sync()
     if (std::exchange(structureStale_, false) || patterns != followedPatterns_)
         followNodes(patterns);
     plan_ = palx::readStackPlan(stackNode());
-    if (stack_)
-        frame_ = palx::readApproachFrame(stack_->node());
+    readRules();
     content_ = readContent(plan_);
-    findings_ = palx::judgeLayout(content_.items, plan_.pallet.plan());
+    preview_ = false;
+    showContent();
+}
+
+void PatternScene::readRules()
+{
+    rules_ = palx::readEditRules(stackNode());
+    if (!stack_)
+        rules_.frame = copiedFrame_;
+}
+
+void PatternScene::showContent()
+{
+    if (handEditing_)
+        findings_ = palx::judgeEdit(content_.items, rules_);
+    else
+        findings_.layout = palx::judgeLayout(content_.items, rules_.pallet);
     showItems();
     setSceneRect(contentRect());
     update();
     Q_EMIT planChanged();
+}
+
+palx::ItemFlaws PatternScene::flawsOf(int item) const
+{
+    palx::ItemFlaws flaws;
+    flaws.overlaps = findings_.layout.overlapping[item];
+    flaws.overhangs = findings_.layout.overhangs[item].any();
+    if (!handEditing_)
+        return flaws;
+    flaws.cramped = findings_.tight[item] || findings_.margins[item].any();
+    flaws.blocked = findings_.order.blocked[item];
+    return flaws;
 }
 
 void PatternScene::showItems()
@@ -243,8 +298,9 @@ void PatternScene::showItems()
             views_.append(new ItemView(content_.items[i]));
             addItem(views_.last());
         }
-        updateView(views_[i], content_.items[i], frame_);
-        views_[i]->setFlaws(findings_.overlapping[i], findings_.overhangs[i].any(), content_.items[i].faults);
+        updateView(views_[i], content_.items[i], rules_.frame);
+        views_[i]->setFlaws(flawsOf(i), content_.items[i].faults);
+        views_[i]->setOffsetsShown(handEditing_);
     }
 }
 
@@ -319,7 +375,7 @@ void PatternScene::drawForeground(QPainter *painter, const QRectF &)
     palx::paintMargins(painter, plan_);
     for (const ItemView *view : qAsConst(views_))
         view->paintMarks(painter);
-    palx::paintOverhang(painter, pallet, content_.items, findings_, textPixels_);
+    palx::paintOverhang(painter, pallet, content_.items, findings_.layout, textPixels_);
     if (framed_) {
         palx::paintDimensions(painter, pallet, contentRect(), textPixels_);
         palx::paintOrigin(painter, pallet, textPixels_);

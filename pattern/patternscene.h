@@ -1,8 +1,7 @@
 #pragma once
 
 #include "orba/module_object.h"
-#include "pattern/rules/approach.h"
-#include "pattern/rules/item_geometry.h"
+#include "pattern/rules/edit_findings.h"
 #include "pattern/rules/stack_plan.h"
 
 #include <QGraphicsScene>
@@ -13,6 +12,7 @@
 namespace palx {
 class ItemView;
 class NodeFollower;
+struct ItemFlaws;
 } // namespace palx
 
 /// The plan of one layer, seen from above, in millimetres: pallet, products with their order numbers, label
@@ -49,10 +49,24 @@ public:
                      QList<double> offsets, QString direction);
     void clearItems();
 
+    // --- editing by hand, see PatternEditing
+    /// Shows what an editor needs: offsets on the products, gaps, margins and the order of placing judged too.
+    void setHandEditing(bool on);
+    /// The followed pattern that edits are written to, or null.
+    orba::ModuleObject *editedPattern() const { return targetPattern(); }
+    /// Shows other items in place of the pattern's own until `endPreview`, or until the pattern changes.
+    void showPreview(const QVector<palx::PatternItem> &items);
+    void endPreview();
+    bool hasPreview() const { return preview_; }
+
     // --- what is shown now
     const palx::StackPlan &plan();
     const QVector<palx::PatternItem> &shownItems();
-    const palx::LayoutFindings &findings();
+    const palx::LayoutFindings &findings() { return checks().layout; }
+    /// Beyond `findings` filled only while editing by hand.
+    const palx::EditFindings &checks();
+    /// What the items are judged by.
+    const palx::EditRules &rules();
     /// Says why no products are shown; empty when there are some or the pattern simply holds none.
     QString message();
 
@@ -100,7 +114,10 @@ protected:
 
 private:
     void followNodes(const QList<orba::ModuleObject *> &patterns);
+    void readRules();
+    void showContent();
     void showItems();
+    palx::ItemFlaws flawsOf(int item) const;
     QRectF contentRect() const;
 
     QPointer<orba::ModuleObject> stack_;
@@ -111,13 +128,16 @@ private:
     QList<orba::ModuleObject *> followedPatterns_; // only compared: their nodes may have ended
 
     palx::StackPlan plan_;
-    palx::ApproachFrame frame_;
+    palx::ApproachFrame copiedFrame_; ///< of a recipe given as a plain node
+    palx::EditRules rules_;
     Content content_;
-    palx::LayoutFindings findings_;
+    palx::EditFindings findings_;
     QVector<palx::ItemView *> views_; // in the order of the items; the scene owns them
     double textPixels_ = 16;
     bool framed_ = true; ///< the present size has room for axes and dimensions
     bool stale_ = true;
     bool structureStale_ = true;
     bool syncQueued_ = false;
+    bool handEditing_ = false;
+    bool preview_ = false;
 };

@@ -5,13 +5,22 @@
 #include "pattern/patternscene.h"
 #include "stack/recipe_fields.h"
 #include "stack/recipe_patterns.h"
+#include "ui/edit_icons.h"
 #include "ui/form_style.h"
 #include "ui/name_dialog.h"
-#include "ui/pattern_problems.h"
+#include "ui/plan_status.h"
 #include "ui_patterns_frame.h"
 
 #include <QHeaderView>
-#include <QSignalBlocker>
+#include <QScopedValueRollback>
+
+using palx::PatternEditing;
+
+namespace {
+
+constexpr double kZoomStep = 1.5;
+
+} // namespace
 
 PatternsFrame::PatternsFrame(QWidget *parent)
     : RecipeFrame(parent), ui_(std::make_unique<Ui::PatternsFrame>()), scene_(new PatternScene(this)),
@@ -19,15 +28,15 @@ PatternsFrame::PatternsFrame(QWidget *parent)
 {
     ui_->setupUi(this);
     ui_->view->showPlan(scene_);
+    ui_->pagEdit->attach(ui_->view);
+    ui_->pagOrder->attach(ui_->view);
+    ui_->pagCheck->attach(ui_->view);
     ui_->tblItems->setModel(items_);
     setupTable(ui_->tblItems, ItemTableModel::kDirection, false);
     fillDirections(ui_->cmbDirection);
     bindItemFields();
     connect(ui_->cmbPattern, QOverload<int>::of(&QComboBox::activated), this, &PatternsFrame::showPattern);
-    connect(ui_->tblItems->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            &PatternsFrame::showItem);
-    connect(items_, &QAbstractItemModel::modelReset, this, &PatternsFrame::showItem);
-    connect(ui_->view, &PlanView::itemTouched, this, &PatternsFrame::selectItem);
+    connectEditing();
     connectPages();
     connectButtons();
     setStack(nullptr);
@@ -35,7 +44,7 @@ PatternsFrame::PatternsFrame(QWidget *parent)
 
 PatternsFrame::~PatternsFrame()
 {
-    ui_->view->setScene(nullptr); // the scene ends before the view
+    delete ui_->view; // before the scene that it shows
 }
 
 void PatternsFrame::bindItemFields()
@@ -61,9 +70,34 @@ void PatternsFrame::bindItemFields()
             [this](QWidget *, const QString &reason) { Q_EMIT refused(reason); });
 }
 
+void PatternsFrame::connectEditing()
+{
+    PatternEditing *editing = ui_->view->editing();
+    connect(editing, &PatternEditing::edited, this, [this] {
+        showPattern();
+        Q_EMIT edited();
+    });
+    connect(editing, &PatternEditing::refused, this, &RecipeFrame::refused);
+    connect(editing, &PatternEditing::selectionChanged, this, &PatternsFrame::followSelection);
+    connect(scene_, &PatternScene::planChanged, this, &PatternsFrame::showStatus);
+    connect(ui_->pagEdit, &EditTools::addWanted, this, &PatternsFrame::addItem);
+    connect(ui_->tblItems->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex &row) {
+                if (!following_)
+                    ui_->view->editing()->select({row.row()});
+            });
+    connect(ui_->btnZoomIn, &QPushButton::clicked, this, [this] { ui_->view->zoomBy(kZoomStep); });
+    connect(ui_->btnZoomOut, &QPushButton::clicked, this, [this] { ui_->view->zoomBy(1 / kZoomStep); });
+    connect(ui_->btnZoomFit, &QPushButton::clicked, ui_->view, &PatternView::fitPlan);
+    ui_->btnZoomIn->setIcon(editIcon(EditIcon::ZoomIn));
+    ui_->btnZoomOut->setIcon(editIcon(EditIcon::ZoomOut));
+    ui_->btnZoomFit->setIcon(editIcon(EditIcon::ZoomFit));
+}
+
 void PatternsFrame::connectPages()
 {
-    const QList<QAbstractButton *> tabs{ui_->tabPattern, ui_->tabProducts}; // in the order of the pages
+    const QList<QAbstractButton *> tabs{ui_->tabPattern, ui_->tabProducts, ui_->tabEdit, ui_->tabOrder,
+                                        ui_->tabCheck}; // in the order of the pages
     for (int i = 0; i < tabs.size(); ++i)
         connect(tabs[i], &QAbstractButton::clicked, this, [this, i] { ui_->stkPages->setCurrentIndex(i); });
 }
@@ -86,12 +120,6 @@ void PatternsFrame::connectButtons()
         showPattern();
         Q_EMIT edited();
     });
-    connect(ui_->btnAddItem, &QPushButton::clicked, this, &PatternsFrame::addItem);
-    connect(ui_->btnRemoveItem, &QPushButton::clicked, this, &PatternsFrame::removeItem);
-    ui_->btnUpItem->setIcon(ix::xtheme::icon(ix::xtheme::Glyph::Up));
-    ui_->btnDownItem->setIcon(ix::xtheme::icon(ix::xtheme::Glyph::Down));
-    connect(ui_->btnUpItem, &QPushButton::clicked, this, [this] { moveItem(-1); });
-    connect(ui_->btnDownItem, &QPushButton::clicked, this, [this] { moveItem(1); });
 }
 
 QString PatternsFrame::pattern() const
@@ -110,6 +138,7 @@ void PatternsFrame::stackChanged()
     scene_->setStack(stack());
     items_->setStack(stack());
     ui_->cmbPattern->clear(); // the choice belongs to the recipe
+    shownPattern_.clear();
 }
 
 void PatternsFrame::refresh()
@@ -133,51 +162,62 @@ void PatternsFrame::fillPatterns()
 
 void PatternsFrame::showPattern()
 {
-    orba::ModuleObject *node = stack() ? stack()->r("patterns")->c(pattern()) : nullptr;
-    scene_->setPattern(node);
-    const int selected = item();
-    items_->setPattern(pattern());
-    selectItem(std::min(std::max(selected, 0), items_->rowCount() - 1));
+    const bool another = pattern() != shownPattern_;
+    shownPattern_ = pattern();
+    scene_->setPattern(stack() ? stack()->r("patterns")->c(pattern()) : nullptr);
+    {
+        const QScopedValueRollback<bool> following(following_, true);
+        items_->setPattern(pattern());
+    }
+    if (another)
+        ui_->view->editing()->select({0});
     const QString facts =
         items_->rowCount() == 1 ? tr("1 product") : tr("%1 products").arg(items_->rowCount());
     ui_->lblFacts->setText(pattern().isEmpty() ? tr("This recipe has no pattern yet.") : facts);
-    showWarnings(ui_->lblProblems,
-                 stack() ? palx::patternProblems(stack()->node(), pattern()) : QStringList());
-    showItem();
+    countProblems_ =
+        stack() ? palx::countProblems(stack()->node(), pattern()) : QVector<palx::PatternProblem>();
+    followSelection();
 }
 
+/// The one product that is chosen, or -1.
 int PatternsFrame::item() const
 {
-    return ui_->tblItems->currentIndex().row();
+    const palx::Selection &chosen = ui_->view->editing()->selection();
+    return chosen.size() == 1 ? chosen.first() : -1;
 }
 
-void PatternsFrame::selectItem(int index)
+void PatternsFrame::followSelection()
 {
-    ui_->tblItems->setCurrentIndex(items_->index(index, 0));
-}
-
-void PatternsFrame::showItem()
-{
+    const QScopedValueRollback<bool> following(following_, true);
+    ui_->tblItems->setCurrentIndex(items_->index(item(), 0));
     orba::ModuleObject *node =
         stack() && item() >= 0 ? stack()->r("patterns")->c(pattern())->c(item()) : nullptr;
     itemBinder_->setRoot(node);
-    ui_->view->markItem(item());
-    ui_->lblItem->setText(item() >= 0 ? tr("Product %1").arg(item() + 1) : tr("No product chosen"));
+    const int chosen = ui_->view->editing()->selection().size();
+    ui_->lblItem->setText(item() >= 0  ? tr("Product %1").arg(item() + 1)
+                          : chosen > 1 ? tr("%1 products chosen").arg(chosen)
+                                       : tr("No product chosen"));
     updateButtons();
+    showStatus();
+}
+
+void PatternsFrame::showStatus()
+{
+    const QVector<palx::PatternProblem> problems =
+        palx::problemsOf(scene_->shownItems(), scene_->checks(), scene_->rules()) + countProblems_;
+    ui_->pagCheck->showProblems(problems);
+    ui_->tabCheck->setText(problems.isEmpty() ? tr("Check") : tr("Check %1").arg(problems.size()));
+    showPlanStatus(ui_->lblProblems, *ui_->view, problems);
 }
 
 void PatternsFrame::updateButtons()
 {
     const bool hasPattern = stack() && ui_->cmbPattern->currentIndex() >= 0;
-    const bool hasItem = hasPattern && item() >= 0;
     ui_->cmbPattern->setEnabled(hasPattern);
     ui_->btnAdd->setEnabled(stack() != nullptr);
-    for (QWidget *button : {ui_->btnCopy, ui_->btnRename, ui_->btnDelete, ui_->btnAddItem})
+    for (QWidget *button : {ui_->btnCopy, ui_->btnRename, ui_->btnDelete})
         button->setEnabled(hasPattern);
     ui_->btnResize->setVisible(hasPattern && palx::otherSizedItems(stack()->node(), pattern()) > 0);
-    ui_->btnRemoveItem->setEnabled(hasItem);
-    ui_->btnUpItem->setEnabled(hasItem && item() > 0);
-    ui_->btnDownItem->setEnabled(hasItem && item() + 1 < items_->rowCount());
 }
 
 void PatternsFrame::askName(const QString &title, const QString &proposal,
@@ -242,24 +282,7 @@ void PatternsFrame::addItem()
         return;
     }
     showPattern();
-    selectItem(index);
-    Q_EMIT edited();
-}
-
-void PatternsFrame::removeItem()
-{
-    palx::removeItem(stack(), pattern(), item());
-    showPattern();
-    Q_EMIT edited();
-}
-
-void PatternsFrame::moveItem(int by)
-{
-    const int target = item() + by;
-    if (!palx::moveItem(stack(), pattern(), item(), target))
-        return;
-    showPattern();
-    selectItem(target);
+    ui_->view->editing()->select({index});
     Q_EMIT edited();
 }
 
@@ -268,4 +291,5 @@ void PatternsFrame::retranslate()
     ui_->retranslateUi(this);
     fillDirections(ui_->cmbDirection);
     itemBinder_->reload();
+    showStatus();
 }

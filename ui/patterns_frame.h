@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/pattern_problems.h"
 #include "ui/recipe_frame.h"
 #include "ui/recipe_tables.h"
 
@@ -11,8 +12,8 @@ namespace Ui {
 class PatternsFrame;
 }
 
-/// The plane patterns of a recipe: choosing, making, renaming and deleting one, its plan, and its products
-/// with their places.
+/// The plane patterns of a recipe: choosing, making, renaming and deleting one, its plan to edit by hand, and on
+/// pages beside it its products with their places, tools, the order of placing, and what is wrong.
 class PALX_API PatternsFrame : public RecipeFrame
 {
     Q_OBJECT
@@ -30,15 +31,16 @@ protected:
     void retranslate() override;
 
 private:
+    void connectEditing();
     void connectPages();
     void connectButtons();
     void bindItemFields();
     void fillPatterns();
     void showPattern();
-    void showItem();
+    void followSelection();
+    void showStatus();
     void updateButtons();
     int item() const;
-    void selectItem(int index);
 
     void askName(const QString &title, const QString &proposal, void (PatternsFrame::*act)(const QString &));
     void addPattern(const QString &name);
@@ -46,11 +48,12 @@ private:
     void renamePattern(const QString &name);
     void deletePattern();
     void addItem();
-    void removeItem();
-    void moveItem(int by);
 
     std::unique_ptr<Ui::PatternsFrame> ui_;
     PatternScene *scene_;
     ItemTableModel *items_;
-    NodeBinder *itemBinder_; ///< to the selected product
+    NodeBinder *itemBinder_; ///< to the one product that is chosen
+    QString shownPattern_;
+    QVector<palx::PatternProblem> countProblems_;
+    bool following_ = false; ///< the table follows the plan and not the other way round
 };

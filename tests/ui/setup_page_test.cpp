@@ -8,8 +8,8 @@
 #include "ui/layers_frame.h"
 #include "ui/message_bar.h"
 #include "ui/page_fixture.h"
+#include "ui/pattern_view.h"
 #include "ui/patterns_frame.h"
-#include "ui/plan_view.h"
 #include "ui/point_group.h"
 #include "ui/point_table_model.h"
 #include "workstation/plugin_node.h"
@@ -381,12 +381,14 @@ TEST(PatternsFrame, SaysWhatCollides)
 {
     SetupPage page(Patterns);
     auto *problems = page.at<QLabel>(Patterns, "lblProblems");
-    EXPECT_FALSE(problems->isVisible());
+    EXPECT_EQ(problems->toolTip(), QStringLiteral("Product 1: x 75, y 100 mm, 0\u00b0\n"
+                                                  "Products 1 and 2 are 0.0 mm apart, less than 1.0 mm."));
+    enter(page.at<QDoubleSpinBox>(Patterns, "spnX"), 74.0);
+    EXPECT_EQ(problems->toolTip(), QStringLiteral("Product 1: x 74, y 100 mm, 0\u00b0\n"
+                                                  "Product 1 reaches 1.0 mm over the pallet."));
     enter(page.at<QDoubleSpinBox>(Patterns, "spnX"), 100.0);
-    EXPECT_TRUE(problems->text().contains(QStringLiteral("Products 1 and 2 overlap by 25.0 mm")))
-        << problems->text();
-    enter(page.at<QDoubleSpinBox>(Patterns, "spnX"), 50.0);
-    EXPECT_TRUE(problems->text().contains(QStringLiteral("Product 1 reaches 25.0 mm"))) << problems->text();
+    EXPECT_EQ(problems->toolTip(), QStringLiteral("Product 1: x 100, y 100 mm, 0\u00b0\n"
+                                                  "Products 1 and 2 overlap by 25.0 mm."));
 }
 
 TEST(PatternsFrame, OffersTheSizeOfAChangedProduct)
@@ -406,12 +408,13 @@ TEST(PatternsFrame, OffersTheSizeOfAChangedProduct)
 TEST(PatternsFrame, TouchingAProductOnThePlanChoosesIt)
 {
     SetupPage page(Patterns);
-    auto *view = page.at<PlanView>(Patterns, "view");
+    auto *view = page.at<PatternView>(Patterns, "view");
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->mapFromScene(225, 100));
     EXPECT_EQ(page.at<QDoubleSpinBox>(Patterns, "spnX")->value(), 225);
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
                       view->mapFromScene(600, 900)); // bare pallet
-    EXPECT_EQ(page.at<QDoubleSpinBox>(Patterns, "spnX")->value(), 225);
+    EXPECT_FALSE(page.at<QDoubleSpinBox>(Patterns, "spnX")->isEnabled());
+    EXPECT_EQ(page.at<QLabel>(Patterns, "lblItem")->text(), QStringLiteral("No product chosen"));
 }
 
 TEST(LayersFrame, EditsTheSequence)
