@@ -150,7 +150,8 @@ public:
     /// Name of a recipe: of that index on a side (0 left, 1 right), or without a side of that index among all.
     virtual Refusal palletName(std::int64_t index, std::optional<std::int64_t> side,
                                std::string *name) const = 0;
-    /// Makes the points of a piece the current ones. Refuses a recipe, layer or piece that is not there.
+    /// Makes the points of a piece the current ones. Refuses a recipe, layer or piece that is not there. A separator sheet
+    /// counts as piece 1 of its layer here: programs look at the first piece of a layer before they count its pieces.
     virtual Refusal palletUpdate(const std::string &name, std::int64_t layer, std::int64_t piece) = 0;
     /// Layers that have points.
     virtual Refusal palletLayerCount(const std::string &name, std::int64_t *count) const = 0;

@@ -1,6 +1,5 @@
 #include "project/rules/program_template.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -76,18 +75,18 @@ QStringList programTemplates()
     return paths;
 }
 
-QString programTemplateRoot()
+QString programTemplateRoot(const QString &programFolder)
 {
-    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/mod");
+    const QString beside = programFolder + QStringLiteral("/mod");
     return QDir(beside).exists() ? beside : QStringLiteral(":/palx_workstation/mod");
 }
 
-bool readProgramTemplate(const QString &path, QByteArray *text, QString *why)
+bool readProgramTemplate(const QString &path, QByteArray *text, QString *why, const QString &root)
 {
     text->clear();
     if (path.isEmpty())
         return true;
-    QFile file(programTemplateRoot() + path);
+    QFile file(root + path);
     const bool isRead = file.open(QIODevice::ReadOnly);
     if (isRead)
         *text = file.readAll();

@@ -2,7 +2,7 @@
 
 #include "orba/export.h"
 
-#include <QString>
+#include <QCoreApplication>
 #include <QStringList>
 
 /// Robot program templates: which one a program file of a project starts from, and where they lie.
@@ -24,10 +24,11 @@ PALX_API QString programTemplate(const QString &task, const QString &file, const
 /// Every path that programTemplate can give.
 PALX_API QStringList programTemplates();
 
-/// The folder "mod" beside the program when there is one, else the built-in tree ":/palx_workstation/mod".
-PALX_API QString programTemplateRoot();
+/// The folder "mod" in the program's folder when there is one, else the built-in tree ":/palx_workstation/mod".
+PALX_API QString programTemplateRoot(const QString &programFolder = QCoreApplication::applicationDirPath());
 
 /// Reads the template of that path, or nothing for an empty path. False with a reason when it cannot be read.
-PALX_API bool readProgramTemplate(const QString &path, QByteArray *text, QString *why);
+PALX_API bool readProgramTemplate(const QString &path, QByteArray *text, QString *why,
+                                  const QString &root = programTemplateRoot());
 
 } // namespace palx

@@ -60,11 +60,10 @@ std::map<std::pair<std::string, int>, std::string> ScriptRecorder::run(Executor 
 {
     executor_ = executor;
     do {
-        for (; !events_.empty() && events_.begin()->first <= now_; events_.erase(events_.begin()))
-            events_.begin()->second();
+        for (; !due_.empty() && due_.begin()->first <= now_; due_.erase(due_.begin()))
+            due_.begin()->second();
         finishMoves();
         executor->turn();
-        ++turns;
     } while (step(limit));
     if (executor->activity() == Activity::Failed)
         note(executor->fault().where, "fault: " + executor->fault().what);
@@ -86,8 +85,8 @@ bool ScriptRecorder::step(double limit)
         next = executor_->wakeTime();
     if (!moves_.empty())
         next = std::min(next, moves_.front().first);
-    if (!events_.empty())
-        next = std::min(next, events_.begin()->first);
+    if (!due_.empty())
+        next = std::min(next, due_.begin()->first);
     if (next > limit)
         return false;
     now_ = std::max(now_, next);
@@ -103,7 +102,8 @@ void ScriptRecorder::finishMoves()
 void ScriptRecorder::note(const Location &where, const std::string &what)
 {
     std::string &line = trace_[{where.file, where.line}];
-    line += (line.empty() ? "" : "; ") + what + (now_ > 0 ? '@' + text(now_) : "");
+    events.push_back(what + (now_ > 0 ? '@' + text(now_) : ""));
+    line += (line.empty() ? "" : "; ") + events.back();
 }
 
 void ScriptRecorder::note(const std::string &what)
@@ -164,6 +164,8 @@ Refusal ScriptRecorder::writeRegister(const std::string &name, std::int64_t valu
         return "there is no register \"" + name + '"';
     registers[name] = value;
     note(name + '=' + std::to_string(value));
+    if (onWritten)
+        onWritten(name);
     return {};
 }
 

@@ -23,13 +23,15 @@ public:
                                                            double limit);
 
     /// At a time [s] something happens in the world.
-    void at(double time, std::function<void()> what) { events_.emplace(time, std::move(what)); }
+    void at(double time, std::function<void()> what) { due_.emplace(time, std::move(what)); }
+    void stand(const Target &place) { place_ = place; }
     void setInput(int index, bool on) { inputs_[index] = on; }
     void setState(controller::script::State state, bool on) { states_[static_cast<int>(state)] = on; }
     std::vector<Value> variables;
     std::map<std::string, std::int64_t> registers{
         {"ControlwordWrite", 0}, {"PositionRead", 0}, {"TargetReached", 1}};
-    int turns = 0; ///< made by run()
+    std::vector<std::string> events;                    ///< what happened, in the order of time
+    std::function<void(const std::string &)> onWritten; ///< a register was written
 
     double now() const override { return now_; }
     controller::script::MoveAnswer move(const controller::script::Move &move) override;
@@ -62,7 +64,7 @@ private:
     std::vector<std::string> names_;
     controller::script::Executor *executor_ = nullptr;
     std::map<std::pair<std::string, int>, std::string> trace_;
-    std::multimap<double, std::function<void()>> events_;
+    std::multimap<double, std::function<void()>> due_;
     std::deque<std::pair<double, controller::script::Move>> moves_; ///< with their ends
     controller::script::Fault fault_;
     Target place_;

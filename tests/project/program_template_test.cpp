@@ -1,5 +1,8 @@
 #include "project/rules/program_template.h"
 
+#include <QDirIterator>
+#include <QFile>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -56,10 +59,39 @@ TEST(ProgramTemplate, isChosenByTaskFileAndParameters)
             << c.task << " " << c.file << " scheme " << c.choice.schemeLayout;
 }
 
-TEST(ProgramTemplate, thereAreThirtyOneFiles)
+TEST(ProgramTemplate, thereAreThirtyOneFilesAndNoOthers)
 {
-    EXPECT_EQ(palx::programTemplates().size(), 31);
-    EXPECT_FALSE(palx::programTemplates().contains(QString()));
+    QStringList wanted = palx::programTemplates();
+    QStringList built;
+    const QString root = QStringLiteral(":/palx_workstation/mod");
+    for (QDirIterator file(root, QDir::Files, QDirIterator::Subdirectories); file.hasNext();)
+        built.append(file.next().mid(root.size()));
+    wanted.sort();
+    built.sort();
+    EXPECT_EQ(wanted.size(), 31);
+    EXPECT_EQ(wanted.join('\n').toStdString(), built.join('\n').toStdString());
+}
+
+TEST(ProgramTemplate, aFolderBesideTheProgramTakesThePlaceOfTheBuiltInTree)
+{
+    const QTemporaryDir folder;
+    QByteArray text;
+    QString why;
+    EXPECT_EQ(palx::programTemplateRoot(folder.path()), QStringLiteral(":/palx_workstation/mod"));
+    ASSERT_TRUE(QDir(folder.path()).mkpath("mod/normal"));
+    const QString root = palx::programTemplateRoot(folder.path());
+    EXPECT_EQ(root, folder.path() + "/mod");
+    QFile file(root + "/normal/task_stop.mod");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("own");
+    file.close();
+    EXPECT_TRUE(palx::readProgramTemplate("/normal/task_stop.mod", &text, &why, root));
+    EXPECT_EQ(text, "own");
+    EXPECT_FALSE(
+        palx::readProgramTemplate("/helper/bollard_helper.mod", &text, &why, root)); // all or nothing
+    EXPECT_TRUE(why.startsWith(root + "/helper/bollard_helper.mod: ")) << why.toStdString();
+    EXPECT_TRUE(palx::readProgramTemplate(QString(), &text, &why, root));
+    EXPECT_TRUE(text.isEmpty());
 }
 
 } // namespace

@@ -1,0 +1,40 @@
+! Way home from wherever the robot stands, for a cell whose work objects look forward.
+! Only the left side is in use.
+!
+! The sign of y tells at which pallet the robot stands: y > 0 is the left one, y <= 0 the right one. Further than Margin
+! from its home it first lifts what it may be carrying out of the stack, if that stays below MaxZ, and leaves the pallet
+! by the enter point.
+
+GLOBAL PROC BackHome()
+    VAR string name
+    VAR bool isAway
+    boxheight := 300
+    name := GetPalletName(0)
+    PalletUpdate(name, 1, 1)
+    BHOME := CurrentTarget(PalletTool, Wobj0)
+    IF BHOME.y > 0
+        ! Left pallet. Its counters may stand behind the last layer, or come from another recipe.
+        name := GetPalletName(palletIndexL, 0)
+        IF currentLayerL > PalletLayerCount(name)
+            currentLayerL := PalletLayerCount(name)
+        ENDIF
+        IF layerCountL > PalletWobjCount(name, currentLayerL)
+            layerCountL := PalletWobjCount(name, currentLayerL)
+        ENDIF
+        IF layerCountL < 1
+            layerCountL := 1      ! a layer without pieces: a separator sheet
+        ENDIF
+        PalletUpdate(name, currentLayerL, layerCountL)
+        boxheight := boxHeightL
+        isAway := Abs(BHOME.x - PalletHomePoint.x) > Margin
+        isAway := isAway OR Abs(BHOME.y - PalletHomePoint.y) > Margin
+        isAway := isAway OR Abs(BHOME.z - PalletHomePoint.z) > Margin
+        IF isAway
+            IF BHOME.z + boxheight < MaxZ
+                MoveL(Offs(BHOME, 0, 0, boxheight), v1000, fine, PalletTool)
+            ENDIF
+            MoveL(PalletEnterPoint, v1000, z200, PalletTool)
+        ENDIF
+        MoveL(PalletHomePoint, v1000, fine, PalletTool)
+    ENDIF
+ENDPROC

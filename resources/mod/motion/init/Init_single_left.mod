@@ -1,0 +1,9 @@
+! State at the start of the program: nobody is served, and the left side counts from 0.
+! Layers and pieces are kept, so that a half-full pallet is finished.
+
+GLOBAL PROC Init()
+    palletStatus := 0
+    totalPalletsL := 0
+    flagL := 0
+    flagL1 := 0
+ENDPROC
