@@ -21,7 +21,7 @@ constexpr double kRightWall = 0.73;
 constexpr double kSecondLayer = 0.95; // every second layer is a little darker, so that layers can be counted
 
 constexpr QRgb kPalletTop = 0xffc3bdb1, kPalletLine = 0xff5a554b;
-constexpr QRgb kSheetTop = 0xfff3f4f6, kSheetLine = 0xff6b747d;
+constexpr QRgb kSheetTop = 0xffd3dce4, kSheetLine = 0xff6b747d;
 constexpr QRgb kProductTop = 0xffe9e6df, kProductLine = 0xff4a4841;
 constexpr QRgb kMarked = 0xff8fa6bc, kMarkLine = 0xff20303f;
 
@@ -76,6 +76,22 @@ QPen cosmetic(const QColor &color, double pixels, Qt::PenStyle style = Qt::Solid
 double lineOpacity(double shortestMm, double scale)
 {
     return std::clamp(shortestMm * scale / 10, 0.15, 0.9);
+}
+
+/// What fits onto the painter's device.
+QRectF shownPart(const QPainter &painter)
+{
+    const QPaintDevice *device = painter.device();
+    return painter.worldTransform().inverted().mapRect(QRectF(0, 0, device->width(), device->height()));
+}
+
+QRectF boundsOf(const IsoFace &face)
+{
+    const auto [left, right] =
+        std::minmax({face.corners[0].x(), face.corners[1].x(), face.corners[2].x(), face.corners[3].x()});
+    const auto [top, bottom] =
+        std::minmax({face.corners[0].y(), face.corners[1].y(), face.corners[2].y(), face.corners[3].y()});
+    return QRectF(QPointF(left, top), QPointF(right, bottom)).adjusted(-1, -1, 1, 1);
 }
 
 bool contains(const IsoFace &face, const QPointF &at)
@@ -146,7 +162,10 @@ void StackDrawing::paint(QPainter *painter, double scale)
         return;
     makeFaces(1 / scale);
     const double opacity = lineOpacity(shortestMm_, scale);
+    const QRectF seen = painter->hasClipping() ? painter->clipBoundingRect() : shownPart(*painter);
     for (const IsoFace &face : qAsConst(faces_)) {
+        if (!seen.intersects(boundsOf(face)))
+            continue;
         const Course &course = placed_[face.course];
         QColor line = QColor::fromRgba(lineOf(face, course));
         line.setAlphaF(opacity);

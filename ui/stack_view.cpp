@@ -92,7 +92,8 @@ void StackView::paintEvent(QPaintEvent *)
     if (!shown_)
         return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing,
+                          !dragged_); // smooth lines would hold up a large stack that turns
     painter.translate(origin());
     painter.scale(scale(), scale());
     drawing_.paint(&painter, scale());
@@ -119,6 +120,8 @@ void StackView::mouseReleaseEvent(QMouseEvent *event)
 {
     if (!dragged_ && shown_)
         Q_EMIT pieceTouched(drawing_.pieceAt((event->pos() - origin()) / scale()));
+    dragged_ = false;
+    update();
 }
 
 void StackView::wheelEvent(QWheelEvent *event)
@@ -140,7 +143,7 @@ bool StackView::pinch(QGestureEvent *event)
     auto *gesture = static_cast<QPinchGesture *>(event->gesture(Qt::PinchGesture));
     if (!gesture)
         return false;
-    dragged_ = true; // two fingers are no touch of a piece
+    dragged_ = gesture->state() != Qt::GestureFinished; // two fingers are no touch of a piece
     zoomBy(gesture->scaleFactor());
     event->accept(gesture);
     return true;

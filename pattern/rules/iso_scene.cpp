@@ -129,16 +129,48 @@ QVector<Wall> openWalls(const QRectF &box, const QVector<QRectF> &neighbours, do
     return walls;
 }
 
-QVector<Prism> arrange(const QVector<Corners> &outlines, double gap, const IsoProjection &view)
+/// What a course is arranged under.
+struct Roof
+{
+    QVector<Corners> outlines; ///< of the course that lies on it; empty when none does
+    double gap = 0;            ///< below it a gap this wide cannot be looked into either
+};
+
+/// Numbers of the boxes that have neighbours on all sides and others above: nothing of them is seen, also
+/// where the gaps around them are a few pixels wide.
+QVector<bool> enclosed(const QVector<Corners> &outlines, const Roof &roof)
+{
+    QVector<bool> hidden(outlines.size(), false);
+    if (roof.outlines.isEmpty())
+        return hidden;
+    const QVector<QRectF> neighbours = uprightRects(outlines, roof.gap * 0.49);
+    const QVector<QRectF> above = uprightRects(roof.outlines, roof.gap / 2);
+    for (int i = 0; i < outlines.size(); ++i) {
+        const QRectF box = rectOf(outlines[i]);
+        bool shut = isUpright(outlines[i]) && isCovered(box, above, 0);
+        for (int edge = 0; edge < 4 && shut; ++edge)
+            shut = isCovered(stripBefore(box, edge, roof.gap), neighbours, 0);
+        hidden[i] = shut;
+    }
+    return hidden;
+}
+
+QVector<Prism> arrange(const QVector<Corners> &outlines, const Roof &roof, double gap,
+                       const IsoProjection &view)
 {
     // A box hides its own walls' strips from nobody: strips begin half a gap away and boxes grow by less.
     const QVector<QRectF> neighbours = uprightRects(outlines, gap * 0.49);
+    const QVector<bool> hidden = enclosed(outlines, roof);
     const QPointF viewer = view.towardsViewer();
     QVector<Prism> prisms;
     for (const int index : backToFront(outlines, view)) {
         const Corners &outline = outlines[index];
-        prisms.append({index, isUpright(outline) ? openWalls(rectOf(outline), neighbours, gap, viewer)
-                                                 : facingWalls(outline, viewer)});
+        if (hidden[index])
+            prisms.append(Prism{index, {}});
+        else if (isUpright(outline))
+            prisms.append({index, openWalls(rectOf(outline), neighbours, gap, viewer)});
+        else
+            prisms.append({index, facingWalls(outline, viewer)});
     }
     return prisms;
 }
@@ -165,19 +197,20 @@ IsoFace topFace(const Course &course, const Corners &outline, const IsoProjectio
     return face;
 }
 
-/// What the courses of one picture share: layers of one pattern are arranged alike.
+/// What the courses of one picture share: layers of one pattern under another are arranged alike.
 class Arranger
 {
 public:
     Arranger(double gap, const IsoProjection &view) : gap_(gap), view_(view) {}
 
-    const QVector<Prism> &prisms(const QVector<Corners> &outlines)
+    const QVector<Prism> &prisms(const QVector<Corners> &outlines, const Roof &roof)
     {
         for (const Known &known : known_) {
-            if (known.outlines == outlines)
+            if (known.outlines == outlines && known.roof.outlines == roof.outlines &&
+                known.roof.gap == roof.gap)
                 return known.prisms;
         }
-        known_.append({outlines, arrange(outlines, gap_, view_)});
+        known_.append({outlines, roof, arrange(outlines, roof, gap_, view_)});
         return known_.last().prisms;
     }
 
@@ -185,12 +218,24 @@ private:
     struct Known
     {
         QVector<Corners> outlines;
+        Roof roof;
         QVector<Prism> prisms;
     };
     double gap_;
     IsoProjection view_;
     QList<Known> known_; // a list, so that what was handed out stays
 };
+
+/// How wide a gap between boxes below another course may be until one looks into it: not as deep as the other
+/// course is high, and in any case narrow on the picture.
+Roof roofOver(const QVector<Course> &courses, int index, double gap)
+{
+    constexpr double kFewPixels = 4;
+    if (index + 1 >= courses.size() || std::abs(courses[index + 1].bottomMm - courses[index].topMm) >= gap)
+        return {};
+    const Course &next = courses[index + 1];
+    return {next.outlines, std::max(gap, std::min((next.topMm - next.bottomMm) / 2, gap * kFewPixels))};
+}
 
 void addPrism(const Course &course, const Prism &prism, bool coveredTop, const IsoProjection &view,
               int number, QVector<IsoFace> *faces)
@@ -236,10 +281,10 @@ QVector<IsoFace> visibleFaces(const QVector<Course> &courses, double gapMm, cons
     QVector<IsoFace> faces;
     Arranger arranger(gapMm, view);
     for (int i = 0; i < courses.size(); ++i) {
-        QVector<QRectF> above;
-        if (i + 1 < courses.size() && std::abs(courses[i + 1].bottomMm - courses[i].topMm) < gapMm)
-            above = uprightRects(courses[i + 1].outlines, gapMm / 2);
-        for (const Prism &prism : arranger.prisms(courses[i].outlines)) {
+        const Roof roof = roofOver(courses, i, gapMm);
+        const bool underOpenSky = roofOver(courses, i + 1, gapMm).outlines.isEmpty();
+        const QVector<QRectF> above = uprightRects(roof.outlines, (underOpenSky ? gapMm : roof.gap) / 2);
+        for (const Prism &prism : arranger.prisms(courses[i].outlines, roof)) {
             const bool covered = isCovered(rectOf(courses[i].outlines[prism.outline]), above, 0);
             addPrism(courses[i], prism, covered, view, i, &faces);
         }

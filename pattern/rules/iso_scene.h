@@ -48,7 +48,8 @@ struct PALX_API IsoFace
     int course = 0, outline = 0;    ///< where it belongs in what was given
 };
 
-/// The faces to paint. A gap narrower than `gapMm` (about a pixel) cannot be looked into.
+/// The faces to paint. A gap narrower than `gapMm` (about a pixel) cannot be looked into, nor one of a few
+/// pixels around a box that is enclosed on all sides and from above.
 PALX_API QVector<IsoFace> visibleFaces(const QVector<Course> &courses, double gapMm,
                                        const IsoProjection &view = {});
 /// The three faces of one box that look to the viewer, hidden or not; the top comes last.

@@ -3,6 +3,8 @@
 #include "pattern/rules/item_geometry.h"
 #include "pattern/rules/stack_plan.h"
 
+#include <QMetaType>
+
 /// A stack as prisms, course by course from the floor up. Millimetres.
 namespace palx {
 
@@ -49,3 +51,5 @@ PALX_API QVector<Course> firstPieces(const QVector<Course> &courses, int pieces)
 PALX_API int stepLayer(const QVector<Course> &courses, int pieces, bool up);
 
 } // namespace palx
+
+Q_DECLARE_METATYPE(palx::Piece)
