@@ -72,6 +72,6 @@ update() {
     done
 }
 
-update palx_workstation resources/language workstation stack pattern ui
+update palx_workstation resources/language workstation stack pattern project ui
 update palx_host host/language host panel controller
 exit $status

@@ -2,6 +2,108 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>LogPage</name>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Number of records</source>
+        <translation>记录数</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Export the shown records</source>
+        <translation>导出显示的记录</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <source>Clear the log</source>
+        <translation>清空日志</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search the log</source>
+        <translation>搜索日志</translation>
+    </message>
+    <message>
+        <source>The chosen record</source>
+        <translation>所选记录</translation>
+    </message>
+</context>
+<context>
+    <name>PanelControllerPage</name>
+    <message>
+        <source>Controller</source>
+        <translation>控制器</translation>
+    </message>
+    <message>
+        <source>State of the link</source>
+        <translation>通信状态</translation>
+    </message>
+    <message>
+        <source>What the state of the link means</source>
+        <translation>通信状态的含义</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Controller name</source>
+        <translation>控制器名称</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>软件</translation>
+    </message>
+    <message>
+        <source>Controller software</source>
+        <translation>控制器软件</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>机器人</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>运动</translation>
+    </message>
+    <message>
+        <source>Motion of the robot</source>
+        <translation>机器人运动</translation>
+    </message>
+    <message>
+        <source>Active tool</source>
+        <translation>当前工具</translation>
+    </message>
+    <message>
+        <source>Current project</source>
+        <translation>当前工程</translation>
+    </message>
+    <message>
+        <source>Start project</source>
+        <translation>启动工程</translation>
+    </message>
+    <message>
+        <source>Project that starts by itself</source>
+        <translation>自动启动的工程</translation>
+    </message>
+</context>
+<context>
     <name>bwaf::BModule</name>
     <message>
         <source>The data of the module %1 is incomplete: %2</source>
@@ -180,7 +282,7 @@
     </message>
     <message>
         <source>the folder &quot;%1&quot; cannot be written</source>
-        <translation>无法写入文件夹“%1”</translation>
+        <translation type="vanished">无法写入文件夹“%1”</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is damaged (%2) and was set aside as &quot;%3&quot;</source>
@@ -224,7 +326,7 @@
     </message>
     <message>
         <source>The project %1 cannot be built: there is no folder &quot;%2&quot;</source>
-        <translation>无法构建工程 %1：没有文件夹“%2”</translation>
+        <translation type="vanished">无法构建工程 %1：没有文件夹“%2”</translation>
     </message>
     <message>
         <source>stopped: the link to the panel is lost</source>
@@ -306,6 +408,18 @@
         <source>%1 ended</source>
         <translation>%1 已结束</translation>
     </message>
+    <message>
+        <source>stopped: another move was asked for</source>
+        <translation>已停止：请求了其他移动</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; cannot be written: %2</source>
+        <translation>无法写入文件夹“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The project %1 cannot be built: it has no folder in the workspace &quot;%2&quot;</source>
+        <translation>无法构建工程 %1：工作区“%2”中没有其文件夹</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>
@@ -371,7 +485,7 @@
     </message>
     <message>
         <source>The controller did not answer.</source>
-        <translation>控制器未应答。</translation>
+        <translation type="vanished">控制器未应答。</translation>
     </message>
     <message>
         <source>The controller did not carry out &quot;%1&quot;: %2</source>
@@ -404,6 +518,22 @@
     <message>
         <source>The controller did not take a message of the panel: %1.</source>
         <translation>控制器未接受面板的消息：%1。</translation>
+    </message>
+    <message>
+        <source>Messages that could not be read: %1.</source>
+        <translation>无法读取的消息：%1。</translation>
+    </message>
+    <message>
+        <source>Answers that came late or twice: %1.</source>
+        <translation>迟到或重复的应答：%1。</translation>
+    </message>
+    <message>
+        <source>Requests without an answer: %1.</source>
+        <translation>无应答的请求：%1。</translation>
+    </message>
+    <message>
+        <source>The controller answered a request too late or twice. The answer was dropped.</source>
+        <translation>控制器应答过迟或重复。该应答已丢弃。</translation>
     </message>
 </context>
 <context>
@@ -516,6 +646,14 @@
     <message>
         <source>it has no title</source>
         <translation>它没有标题</translation>
+    </message>
+    <message>
+        <source>%1; it was kept as %2</source>
+        <translation>%1；已保存为 %2</translation>
+    </message>
+    <message>
+        <source>The log cannot be kept over a restart: %1</source>
+        <translation>重启后无法保留日志：%1</translation>
     </message>
 </context>
 <context>
@@ -685,6 +823,13 @@
     <message>
         <source>Stored values do not fit the template and were left out: %1</source>
         <translation>存储的值与模板不符，已忽略：%1</translation>
+    </message>
+</context>
+<context>
+    <name>ix::ClearButton</name>
+    <message>
+        <source>Empty the field</source>
+        <translation>清空该字段</translation>
     </message>
 </context>
 <context>
@@ -912,6 +1057,107 @@
     </message>
 </context>
 <context>
+    <name>panel::ControllerPage</name>
+    <message>
+        <source>Moving</source>
+        <translation>移动中</translation>
+    </message>
+    <message>
+        <source>Standing</source>
+        <translation>静止</translation>
+    </message>
+</context>
+<context>
+    <name>panel::LogModel</name>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>机器人</translation>
+    </message>
+</context>
+<context>
+    <name>panel::LogPage</name>
+    <message>
+        <source>All levels</source>
+        <translation>所有级别</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Errors and warnings</source>
+        <translation>错误和警告</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>记录：%1</translation>
+    </message>
+    <message>
+        <source>Records: %1 of %2</source>
+        <translation>记录：%1/%2</translation>
+    </message>
+    <message>
+        <source>Export the log</source>
+        <translation>导出日志</translation>
+    </message>
+    <message>
+        <source>Table (*.csv)</source>
+        <translation>表格 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>文本 (*.txt)</translation>
+    </message>
+    <message>
+        <source>%1 records were exported to %2.</source>
+        <translation>已导出 %1 条记录到 %2。</translation>
+    </message>
+    <message>
+        <source>The log was not exported. %1</source>
+        <translation>日志未导出。%1</translation>
+    </message>
+    <message>
+        <source>Clear the log</source>
+        <translation>清空日志</translation>
+    </message>
+    <message>
+        <source>All %1 records are deleted for good, those that the filter hides as well. Export them first to keep them.</source>
+        <translation>全部 %1 条记录将被永久删除，包括被筛选隐藏的记录。如需保留请先导出。</translation>
+    </message>
+</context>
+<context>
     <name>panel::MessageDialog</name>
     <message>
         <source>OK</source>
@@ -933,7 +1179,7 @@
     <name>panel::NoticePage</name>
     <message>
         <source>Log</source>
-        <translation>日志</translation>
+        <translation type="vanished">日志</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1259,10 @@
         <source>Keep open</source>
         <translation>保持打开</translation>
     </message>
+    <message>
+        <source>Controller</source>
+        <translation>控制器</translation>
+    </message>
 </context>
 <context>
     <name>panel::ProblemPage</name>
@@ -1046,6 +1296,22 @@
     <message>
         <source>No controller</source>
         <translation>无控制器</translation>
+    </message>
+    <message>
+        <source>Check controller</source>
+        <translation>检查控制器</translation>
+    </message>
+    <message>
+        <source>Controller refuses</source>
+        <translation>控制器拒绝</translation>
+    </message>
+    <message>
+        <source>This panel has no link to a controller.</source>
+        <translation>该面板未与控制器通信。</translation>
+    </message>
+    <message>
+        <source>Editing goes on; the recipes stay in the panel.</source>
+        <translation>可继续编辑；配方保存在面板中。</translation>
     </message>
 </context>
 </TS>

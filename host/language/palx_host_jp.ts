@@ -2,6 +2,108 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>LogPage</name>
+    <message>
+        <source>Log</source>
+        <translation>ログ</translation>
+    </message>
+    <message>
+        <source>Number of records</source>
+        <translation>記録の数</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>書き出し</translation>
+    </message>
+    <message>
+        <source>Export the shown records</source>
+        <translation>表示中の記録を書き出す</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Clear the log</source>
+        <translation>ログを消去</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>レベル</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search the log</source>
+        <translation>ログを検索</translation>
+    </message>
+    <message>
+        <source>The chosen record</source>
+        <translation>選択した記録</translation>
+    </message>
+</context>
+<context>
+    <name>PanelControllerPage</name>
+    <message>
+        <source>Controller</source>
+        <translation>コントローラ</translation>
+    </message>
+    <message>
+        <source>State of the link</source>
+        <translation>接続の状態</translation>
+    </message>
+    <message>
+        <source>What the state of the link means</source>
+        <translation>接続の状態の意味</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Controller name</source>
+        <translation>コントローラ名</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>ソフトウェア</translation>
+    </message>
+    <message>
+        <source>Controller software</source>
+        <translation>コントローラのソフトウェア</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>ロボット</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>動作</translation>
+    </message>
+    <message>
+        <source>Motion of the robot</source>
+        <translation>ロボットの動作</translation>
+    </message>
+    <message>
+        <source>Active tool</source>
+        <translation>有効なツール</translation>
+    </message>
+    <message>
+        <source>Current project</source>
+        <translation>現在のプロジェクト</translation>
+    </message>
+    <message>
+        <source>Start project</source>
+        <translation>起動プロジェクト</translation>
+    </message>
+    <message>
+        <source>Project that starts by itself</source>
+        <translation>自動で始まるプロジェクト</translation>
+    </message>
+</context>
+<context>
     <name>bwaf::BModule</name>
     <message>
         <source>The data of the module %1 is incomplete: %2</source>
@@ -180,7 +282,7 @@
     </message>
     <message>
         <source>the folder &quot;%1&quot; cannot be written</source>
-        <translation>フォルダ「%1」に書き込めません</translation>
+        <translation type="vanished">フォルダ「%1」に書き込めません</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is damaged (%2) and was set aside as &quot;%3&quot;</source>
@@ -224,7 +326,7 @@
     </message>
     <message>
         <source>The project %1 cannot be built: there is no folder &quot;%2&quot;</source>
-        <translation>プロジェクト %1 をビルドできません: フォルダ「%2」がありません</translation>
+        <translation type="vanished">プロジェクト %1 をビルドできません: フォルダ「%2」がありません</translation>
     </message>
     <message>
         <source>stopped: the link to the panel is lost</source>
@@ -306,6 +408,18 @@
         <source>%1 ended</source>
         <translation>%1 が終了しました</translation>
     </message>
+    <message>
+        <source>stopped: another move was asked for</source>
+        <translation>停止: 別の動きが求められました</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; cannot be written: %2</source>
+        <translation>フォルダ「%1」に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>The project %1 cannot be built: it has no folder in the workspace &quot;%2&quot;</source>
+        <translation>プロジェクト %1 をビルドできません。作業領域「%2」にフォルダがありません</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>
@@ -371,7 +485,7 @@
     </message>
     <message>
         <source>The controller did not answer.</source>
-        <translation>コントローラが応答しませんでした。</translation>
+        <translation type="vanished">コントローラが応答しませんでした。</translation>
     </message>
     <message>
         <source>The controller did not carry out &quot;%1&quot;: %2</source>
@@ -404,6 +518,22 @@
     <message>
         <source>The controller did not take a message of the panel: %1.</source>
         <translation>コントローラがパネルのメッセージを受け付けませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>Messages that could not be read: %1.</source>
+        <translation>読めなかったメッセージ: %1。</translation>
+    </message>
+    <message>
+        <source>Answers that came late or twice: %1.</source>
+        <translation>遅れたか重複した応答: %1。</translation>
+    </message>
+    <message>
+        <source>Requests without an answer: %1.</source>
+        <translation>応答のない要求: %1。</translation>
+    </message>
+    <message>
+        <source>The controller answered a request too late or twice. The answer was dropped.</source>
+        <translation>コントローラの応答が遅すぎるか重複しました。応答は破棄されました。</translation>
     </message>
 </context>
 <context>
@@ -516,6 +646,14 @@
     <message>
         <source>it has no title</source>
         <translation>見出しがありません</translation>
+    </message>
+    <message>
+        <source>%1; it was kept as %2</source>
+        <translation>%1。%2 として残しました</translation>
+    </message>
+    <message>
+        <source>The log cannot be kept over a restart: %1</source>
+        <translation>ログを再起動後まで残せません: %1</translation>
     </message>
 </context>
 <context>
@@ -685,6 +823,13 @@
     <message>
         <source>Stored values do not fit the template and were left out: %1</source>
         <translation>保存値がテンプレートに合わないため省きました: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ix::ClearButton</name>
+    <message>
+        <source>Empty the field</source>
+        <translation>欄を空にする</translation>
     </message>
 </context>
 <context>
@@ -912,6 +1057,107 @@
     </message>
 </context>
 <context>
+    <name>panel::ControllerPage</name>
+    <message>
+        <source>Moving</source>
+        <translation>移動中</translation>
+    </message>
+    <message>
+        <source>Standing</source>
+        <translation>停止中</translation>
+    </message>
+</context>
+<context>
+    <name>panel::LogModel</name>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>お知らせ</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>レベル</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>メッセージ</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>ロボット</translation>
+    </message>
+</context>
+<context>
+    <name>panel::LogPage</name>
+    <message>
+        <source>All levels</source>
+        <translation>すべてのレベル</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Errors and warnings</source>
+        <translation>エラーと警告</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>お知らせ</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>記録: %1</translation>
+    </message>
+    <message>
+        <source>Records: %1 of %2</source>
+        <translation>記録: %1／%2</translation>
+    </message>
+    <message>
+        <source>Export the log</source>
+        <translation>ログの書き出し</translation>
+    </message>
+    <message>
+        <source>Table (*.csv)</source>
+        <translation>表 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>テキスト (*.txt)</translation>
+    </message>
+    <message>
+        <source>%1 records were exported to %2.</source>
+        <translation>%1 件の記録を %2 に書き出しました。</translation>
+    </message>
+    <message>
+        <source>The log was not exported. %1</source>
+        <translation>ログを書き出せませんでした。%1</translation>
+    </message>
+    <message>
+        <source>Clear the log</source>
+        <translation>ログを消去</translation>
+    </message>
+    <message>
+        <source>All %1 records are deleted for good, those that the filter hides as well. Export them first to keep them.</source>
+        <translation>フィルタで隠れているものも含め、%1 件の記録がすべて完全に削除されます。残すには先に書き出してください。</translation>
+    </message>
+</context>
+<context>
     <name>panel::MessageDialog</name>
     <message>
         <source>OK</source>
@@ -933,7 +1179,7 @@
     <name>panel::NoticePage</name>
     <message>
         <source>Log</source>
-        <translation>ログ</translation>
+        <translation type="vanished">ログ</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1259,10 @@
         <source>Keep open</source>
         <translation>閉じない</translation>
     </message>
+    <message>
+        <source>Controller</source>
+        <translation>コントローラ</translation>
+    </message>
 </context>
 <context>
     <name>panel::ProblemPage</name>
@@ -1046,6 +1296,22 @@
     <message>
         <source>No controller</source>
         <translation>コントローラなし</translation>
+    </message>
+    <message>
+        <source>Check controller</source>
+        <translation>コントローラを確認</translation>
+    </message>
+    <message>
+        <source>Controller refuses</source>
+        <translation>コントローラが拒否</translation>
+    </message>
+    <message>
+        <source>This panel has no link to a controller.</source>
+        <translation>このパネルはコントローラに接続されていません。</translation>
+    </message>
+    <message>
+        <source>Editing goes on; the recipes stay in the panel.</source>
+        <translation>編集は続けられます。レシピはパネルに残ります。</translation>
     </message>
 </context>
 </TS>

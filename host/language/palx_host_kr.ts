@@ -2,6 +2,108 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en_US">
 <context>
+    <name>LogPage</name>
+    <message>
+        <source>Log</source>
+        <translation>로그</translation>
+    </message>
+    <message>
+        <source>Number of records</source>
+        <translation>기록 수</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>내보내기</translation>
+    </message>
+    <message>
+        <source>Export the shown records</source>
+        <translation>표시된 기록 내보내기</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>지우기</translation>
+    </message>
+    <message>
+        <source>Clear the log</source>
+        <translation>로그 지우기</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>수준</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>검색</translation>
+    </message>
+    <message>
+        <source>Search the log</source>
+        <translation>로그 검색</translation>
+    </message>
+    <message>
+        <source>The chosen record</source>
+        <translation>선택한 기록</translation>
+    </message>
+</context>
+<context>
+    <name>PanelControllerPage</name>
+    <message>
+        <source>Controller</source>
+        <translation>컨트롤러</translation>
+    </message>
+    <message>
+        <source>State of the link</source>
+        <translation>연결 상태</translation>
+    </message>
+    <message>
+        <source>What the state of the link means</source>
+        <translation>연결 상태의 뜻</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Controller name</source>
+        <translation>컨트롤러 이름</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>소프트웨어</translation>
+    </message>
+    <message>
+        <source>Controller software</source>
+        <translation>컨트롤러 소프트웨어</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>로봇</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>동작</translation>
+    </message>
+    <message>
+        <source>Motion of the robot</source>
+        <translation>로봇의 동작</translation>
+    </message>
+    <message>
+        <source>Active tool</source>
+        <translation>사용 중인 툴</translation>
+    </message>
+    <message>
+        <source>Current project</source>
+        <translation>현재 프로젝트</translation>
+    </message>
+    <message>
+        <source>Start project</source>
+        <translation>시작 프로젝트</translation>
+    </message>
+    <message>
+        <source>Project that starts by itself</source>
+        <translation>자동으로 시작되는 프로젝트</translation>
+    </message>
+</context>
+<context>
     <name>bwaf::BModule</name>
     <message>
         <source>The data of the module %1 is incomplete: %2</source>
@@ -180,7 +282,7 @@
     </message>
     <message>
         <source>the folder &quot;%1&quot; cannot be written</source>
-        <translation>폴더 &quot;%1&quot;에 쓸 수 없습니다</translation>
+        <translation type="vanished">폴더 &quot;%1&quot;에 쓸 수 없습니다</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is damaged (%2) and was set aside as &quot;%3&quot;</source>
@@ -224,7 +326,7 @@
     </message>
     <message>
         <source>The project %1 cannot be built: there is no folder &quot;%2&quot;</source>
-        <translation>프로젝트 %1을(를) 빌드할 수 없습니다: 폴더 &quot;%2&quot;이(가) 없습니다</translation>
+        <translation type="vanished">프로젝트 %1을(를) 빌드할 수 없습니다: 폴더 &quot;%2&quot;이(가) 없습니다</translation>
     </message>
     <message>
         <source>stopped: the link to the panel is lost</source>
@@ -306,6 +408,18 @@
         <source>%1 ended</source>
         <translation>%1이(가) 종료되었습니다</translation>
     </message>
+    <message>
+        <source>stopped: another move was asked for</source>
+        <translation>정지: 다른 이동이 요청됨</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; cannot be written: %2</source>
+        <translation>폴더 &quot;%1&quot;에 쓸 수 없음: %2</translation>
+    </message>
+    <message>
+        <source>The project %1 cannot be built: it has no folder in the workspace &quot;%2&quot;</source>
+        <translation>프로젝트 %1을(를) 빌드할 수 없습니다. 작업 공간 &quot;%2&quot;에 폴더가 없습니다</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>
@@ -371,7 +485,7 @@
     </message>
     <message>
         <source>The controller did not answer.</source>
-        <translation>컨트롤러가 응답하지 않았습니다.</translation>
+        <translation type="vanished">컨트롤러가 응답하지 않았습니다.</translation>
     </message>
     <message>
         <source>The controller did not carry out &quot;%1&quot;: %2</source>
@@ -404,6 +518,22 @@
     <message>
         <source>The controller did not take a message of the panel: %1.</source>
         <translation>컨트롤러가 패널의 메시지를 받아들이지 않았습니다: %1.</translation>
+    </message>
+    <message>
+        <source>Messages that could not be read: %1.</source>
+        <translation>읽을 수 없는 메시지: %1.</translation>
+    </message>
+    <message>
+        <source>Answers that came late or twice: %1.</source>
+        <translation>늦거나 두 번 온 응답: %1.</translation>
+    </message>
+    <message>
+        <source>Requests without an answer: %1.</source>
+        <translation>응답이 없는 요청: %1.</translation>
+    </message>
+    <message>
+        <source>The controller answered a request too late or twice. The answer was dropped.</source>
+        <translation>컨트롤러가 너무 늦게 또는 두 번 응답했습니다. 응답을 버렸습니다.</translation>
     </message>
 </context>
 <context>
@@ -516,6 +646,14 @@
     <message>
         <source>it has no title</source>
         <translation>제목이 없습니다</translation>
+    </message>
+    <message>
+        <source>%1; it was kept as %2</source>
+        <translation>%1; %2(으)로 보관했습니다</translation>
+    </message>
+    <message>
+        <source>The log cannot be kept over a restart: %1</source>
+        <translation>로그를 재시작 후까지 보관할 수 없음: %1</translation>
     </message>
 </context>
 <context>
@@ -685,6 +823,13 @@
     <message>
         <source>Stored values do not fit the template and were left out: %1</source>
         <translation>저장된 값이 템플릿과 맞지 않아 제외했습니다: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ix::ClearButton</name>
+    <message>
+        <source>Empty the field</source>
+        <translation>필드 비우기</translation>
     </message>
 </context>
 <context>
@@ -912,6 +1057,107 @@
     </message>
 </context>
 <context>
+    <name>panel::ControllerPage</name>
+    <message>
+        <source>Moving</source>
+        <translation>이동 중</translation>
+    </message>
+    <message>
+        <source>Standing</source>
+        <translation>정지</translation>
+    </message>
+</context>
+<context>
+    <name>panel::LogModel</name>
+    <message>
+        <source>Error</source>
+        <translation>오류</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>알림</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>수준</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>시간</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>메시지</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>로봇</translation>
+    </message>
+</context>
+<context>
+    <name>panel::LogPage</name>
+    <message>
+        <source>All levels</source>
+        <translation>모든 수준</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>오류</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Errors and warnings</source>
+        <translation>오류와 경고</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>알림</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>기록: %1</translation>
+    </message>
+    <message>
+        <source>Records: %1 of %2</source>
+        <translation>기록: %1/%2</translation>
+    </message>
+    <message>
+        <source>Export the log</source>
+        <translation>로그 내보내기</translation>
+    </message>
+    <message>
+        <source>Table (*.csv)</source>
+        <translation>표 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>텍스트 (*.txt)</translation>
+    </message>
+    <message>
+        <source>%1 records were exported to %2.</source>
+        <translation>기록 %1개를 %2(으)로 내보냈습니다.</translation>
+    </message>
+    <message>
+        <source>The log was not exported. %1</source>
+        <translation>로그를 내보내지 못했습니다. %1</translation>
+    </message>
+    <message>
+        <source>Clear the log</source>
+        <translation>로그 지우기</translation>
+    </message>
+    <message>
+        <source>All %1 records are deleted for good, those that the filter hides as well. Export them first to keep them.</source>
+        <translation>필터로 숨긴 것을 포함하여 기록 %1개가 모두 영구히 삭제됩니다. 보관하려면 먼저 내보내십시오.</translation>
+    </message>
+</context>
+<context>
     <name>panel::MessageDialog</name>
     <message>
         <source>OK</source>
@@ -933,7 +1179,7 @@
     <name>panel::NoticePage</name>
     <message>
         <source>Log</source>
-        <translation>로그</translation>
+        <translation type="vanished">로그</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1259,10 @@
         <source>Keep open</source>
         <translation>열어 두기</translation>
     </message>
+    <message>
+        <source>Controller</source>
+        <translation>컨트롤러</translation>
+    </message>
 </context>
 <context>
     <name>panel::ProblemPage</name>
@@ -1046,6 +1296,22 @@
     <message>
         <source>No controller</source>
         <translation>컨트롤러 없음</translation>
+    </message>
+    <message>
+        <source>Check controller</source>
+        <translation>컨트롤러 확인</translation>
+    </message>
+    <message>
+        <source>Controller refuses</source>
+        <translation>컨트롤러 거부</translation>
+    </message>
+    <message>
+        <source>This panel has no link to a controller.</source>
+        <translation>이 패널은 컨트롤러에 연결되어 있지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Editing goes on; the recipes stay in the panel.</source>
+        <translation>편집은 계속할 수 있습니다. 레시피는 패널에 남습니다.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,108 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>LogPage</name>
+    <message>
+        <source>Log</source>
+        <translation>Журнал</translation>
+    </message>
+    <message>
+        <source>Number of records</source>
+        <translation>Число записей</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Экспорт</translation>
+    </message>
+    <message>
+        <source>Export the shown records</source>
+        <translation>Экспорт показанных записей</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Clear the log</source>
+        <translation>Очистить журнал</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Уровень</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Search the log</source>
+        <translation>Поиск в журнале</translation>
+    </message>
+    <message>
+        <source>The chosen record</source>
+        <translation>Выбранная запись</translation>
+    </message>
+</context>
+<context>
+    <name>PanelControllerPage</name>
+    <message>
+        <source>Controller</source>
+        <translation>Контроллер</translation>
+    </message>
+    <message>
+        <source>State of the link</source>
+        <translation>Состояние связи</translation>
+    </message>
+    <message>
+        <source>What the state of the link means</source>
+        <translation>Что означает состояние связи</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Controller name</source>
+        <translation>Имя контроллера</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>ПО</translation>
+    </message>
+    <message>
+        <source>Controller software</source>
+        <translation>ПО контроллера</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>Робот</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>Движение</translation>
+    </message>
+    <message>
+        <source>Motion of the robot</source>
+        <translation>Движение робота</translation>
+    </message>
+    <message>
+        <source>Active tool</source>
+        <translation>Активный инструмент</translation>
+    </message>
+    <message>
+        <source>Current project</source>
+        <translation>Текущий проект</translation>
+    </message>
+    <message>
+        <source>Start project</source>
+        <translation>Стартовый проект</translation>
+    </message>
+    <message>
+        <source>Project that starts by itself</source>
+        <translation>Проект, запускаемый сам</translation>
+    </message>
+</context>
+<context>
     <name>bwaf::BModule</name>
     <message>
         <source>The data of the module %1 is incomplete: %2</source>
@@ -180,7 +282,7 @@
     </message>
     <message>
         <source>the folder &quot;%1&quot; cannot be written</source>
-        <translation>в папку «%1» нельзя писать</translation>
+        <translation type="vanished">в папку «%1» нельзя писать</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is damaged (%2) and was set aside as &quot;%3&quot;</source>
@@ -224,7 +326,7 @@
     </message>
     <message>
         <source>The project %1 cannot be built: there is no folder &quot;%2&quot;</source>
-        <translation>Проект %1 нельзя собрать: нет папки «%2»</translation>
+        <translation type="vanished">Проект %1 нельзя собрать: нет папки «%2»</translation>
     </message>
     <message>
         <source>stopped: the link to the panel is lost</source>
@@ -306,6 +408,18 @@
         <source>%1 ended</source>
         <translation>%1 завершил работу</translation>
     </message>
+    <message>
+        <source>stopped: another move was asked for</source>
+        <translation>остановлено: запрошено другое движение</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; cannot be written: %2</source>
+        <translation>в папку «%1» нельзя записать: %2</translation>
+    </message>
+    <message>
+        <source>The project %1 cannot be built: it has no folder in the workspace &quot;%2&quot;</source>
+        <translation>Проект %1 нельзя собрать: в рабочей папке «%2» нет его папки</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>
@@ -371,7 +485,7 @@
     </message>
     <message>
         <source>The controller did not answer.</source>
-        <translation>Контроллер не ответил.</translation>
+        <translation type="vanished">Контроллер не ответил.</translation>
     </message>
     <message>
         <source>The controller did not carry out &quot;%1&quot;: %2</source>
@@ -404,6 +518,22 @@
     <message>
         <source>The controller did not take a message of the panel: %1.</source>
         <translation>Контроллер не принял сообщение панели: %1.</translation>
+    </message>
+    <message>
+        <source>Messages that could not be read: %1.</source>
+        <translation>Нечитаемых сообщений: %1.</translation>
+    </message>
+    <message>
+        <source>Answers that came late or twice: %1.</source>
+        <translation>Ответов с опозданием или дважды: %1.</translation>
+    </message>
+    <message>
+        <source>Requests without an answer: %1.</source>
+        <translation>Запросов без ответа: %1.</translation>
+    </message>
+    <message>
+        <source>The controller answered a request too late or twice. The answer was dropped.</source>
+        <translation>Контроллер ответил слишком поздно или дважды. Ответ отброшен.</translation>
     </message>
 </context>
 <context>
@@ -516,6 +646,14 @@
     <message>
         <source>it has no title</source>
         <translation>у неё нет заголовка</translation>
+    </message>
+    <message>
+        <source>%1; it was kept as %2</source>
+        <translation>%1; сохранён как %2</translation>
+    </message>
+    <message>
+        <source>The log cannot be kept over a restart: %1</source>
+        <translation>Журнал нельзя сохранить до перезапуска: %1</translation>
     </message>
 </context>
 <context>
@@ -685,6 +823,13 @@
     <message>
         <source>Stored values do not fit the template and were left out: %1</source>
         <translation>Сохранённые значения не подходят к шаблону и пропущены: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ix::ClearButton</name>
+    <message>
+        <source>Empty the field</source>
+        <translation>Очистить поле</translation>
     </message>
 </context>
 <context>
@@ -912,6 +1057,107 @@
     </message>
 </context>
 <context>
+    <name>panel::ControllerPage</name>
+    <message>
+        <source>Moving</source>
+        <translation>Движется</translation>
+    </message>
+    <message>
+        <source>Standing</source>
+        <translation>Стоит</translation>
+    </message>
+</context>
+<context>
+    <name>panel::LogModel</name>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Сообщение</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Уровень</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Сообщение</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>Робот</translation>
+    </message>
+</context>
+<context>
+    <name>panel::LogPage</name>
+    <message>
+        <source>All levels</source>
+        <translation>Все уровни</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Ошибки</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Предупреждения</translation>
+    </message>
+    <message>
+        <source>Errors and warnings</source>
+        <translation>Ошибки и предупреждения</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Сообщения</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>Записей: %1</translation>
+    </message>
+    <message>
+        <source>Records: %1 of %2</source>
+        <translation>Записей: %1 из %2</translation>
+    </message>
+    <message>
+        <source>Export the log</source>
+        <translation>Экспорт журнала</translation>
+    </message>
+    <message>
+        <source>Table (*.csv)</source>
+        <translation>Таблица (*.csv)</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>Текст (*.txt)</translation>
+    </message>
+    <message>
+        <source>%1 records were exported to %2.</source>
+        <translation>Экспортировано записей: %1, файл %2.</translation>
+    </message>
+    <message>
+        <source>The log was not exported. %1</source>
+        <translation>Журнал не экспортирован. %1</translation>
+    </message>
+    <message>
+        <source>Clear the log</source>
+        <translation>Очистить журнал</translation>
+    </message>
+    <message>
+        <source>All %1 records are deleted for good, those that the filter hides as well. Export them first to keep them.</source>
+        <translation>Все записи (%1) будут удалены навсегда, скрытые фильтром тоже. Чтобы сохранить их, сначала сделайте экспорт.</translation>
+    </message>
+</context>
+<context>
     <name>panel::MessageDialog</name>
     <message>
         <source>OK</source>
@@ -933,7 +1179,7 @@
     <name>panel::NoticePage</name>
     <message>
         <source>Log</source>
-        <translation>Журнал</translation>
+        <translation type="vanished">Журнал</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1259,10 @@
         <source>Keep open</source>
         <translation>Не закрывать</translation>
     </message>
+    <message>
+        <source>Controller</source>
+        <translation>Контроллер</translation>
+    </message>
 </context>
 <context>
     <name>panel::ProblemPage</name>
@@ -1046,6 +1296,22 @@
     <message>
         <source>No controller</source>
         <translation>Нет контроллера</translation>
+    </message>
+    <message>
+        <source>Check controller</source>
+        <translation>Проверьте контроллер</translation>
+    </message>
+    <message>
+        <source>Controller refuses</source>
+        <translation>Контроллер отказал</translation>
+    </message>
+    <message>
+        <source>This panel has no link to a controller.</source>
+        <translation>У этой панели нет связи с контроллером.</translation>
+    </message>
+    <message>
+        <source>Editing goes on; the recipes stay in the panel.</source>
+        <translation>Править можно; рецепты остаются в панели.</translation>
     </message>
 </context>
 </TS>

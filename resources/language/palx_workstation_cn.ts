@@ -2,6 +2,140 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>CascadeNestingWizard</name>
+    <message>
+        <source>Layers</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Layer sequence</source>
+        <translation>层顺序</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>垛</translation>
+    </message>
+</context>
+<context>
+    <name>EditTools</name>
+    <message>
+        <source>Choose all products</source>
+        <translation>选择所有产品</translation>
+    </message>
+    <message>
+        <source>Choose several products by tapping</source>
+        <translation>点按选择多个产品</translation>
+    </message>
+    <message>
+        <source>Move the plan with a finger</source>
+        <translation>用手指移动平面图</translation>
+    </message>
+    <message>
+        <source>Snap to edges and neighbours</source>
+        <translation>吸附到边缘和相邻产品</translation>
+    </message>
+    <message>
+        <source>Add a product</source>
+        <translation>添加产品</translation>
+    </message>
+    <message>
+        <source>Copy the chosen products</source>
+        <translation>复制所选产品</translation>
+    </message>
+    <message>
+        <source>Paste products</source>
+        <translation>粘贴产品</translation>
+    </message>
+    <message>
+        <source>Remove the chosen products</source>
+        <translation>删除所选产品</translation>
+    </message>
+    <message>
+        <source>Turn by 90 degrees to the left</source>
+        <translation>向左旋转 90 度</translation>
+    </message>
+    <message>
+        <source>Turn by 90 degrees to the right</source>
+        <translation>向右旋转 90 度</translation>
+    </message>
+    <message>
+        <source>Move left</source>
+        <translation>左移</translation>
+    </message>
+    <message>
+        <source>Move right</source>
+        <translation>右移</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Step of moving</source>
+        <translation>移动步长</translation>
+    </message>
+    <message>
+        <source>Mirror the pattern, left and right</source>
+        <translation>左右镜像垛型</translation>
+    </message>
+    <message>
+        <source>Mirror the pattern, top and bottom</source>
+        <translation>上下镜像垛型</translation>
+    </message>
+    <message>
+        <source>Turn the whole pattern by 180 degrees</source>
+        <translation>整个垛型旋转 180 度</translation>
+    </message>
+    <message>
+        <source>Angle to turn by</source>
+        <translation>旋转角度</translation>
+    </message>
+    <message>
+        <source>Turn by the angle beside</source>
+        <translation>按旁边的角度旋转</translation>
+    </message>
+    <message>
+        <source>Align left edges</source>
+        <translation>左边缘对齐</translation>
+    </message>
+    <message>
+        <source>Align middles across</source>
+        <translation>横向居中对齐</translation>
+    </message>
+    <message>
+        <source>Align right edges</source>
+        <translation>右边缘对齐</translation>
+    </message>
+    <message>
+        <source>Space evenly across</source>
+        <translation>横向均匀分布</translation>
+    </message>
+    <message>
+        <source>Align upper edges</source>
+        <translation>上边缘对齐</translation>
+    </message>
+    <message>
+        <source>Align middles along</source>
+        <translation>纵向居中对齐</translation>
+    </message>
+    <message>
+        <source>Align lower edges</source>
+        <translation>下边缘对齐</translation>
+    </message>
+    <message>
+        <source>Space evenly along</source>
+        <translation>纵向均匀分布</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+</context>
+<context>
     <name>FieldText</name>
     <message>
         <source>%1 is outside of %2 to %3%4.</source>
@@ -369,6 +503,121 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>MoveToDialog</name>
+    <message>
+        <source>Position of the flange</source>
+        <translation>法兰位置</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>目标</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>关节</translation>
+    </message>
+    <message>
+        <source>Straight</source>
+        <translation>直线</translation>
+    </message>
+    <message>
+        <source>Move on a straight line</source>
+        <translation>沿直线移动</translation>
+    </message>
+    <message>
+        <source>By joints</source>
+        <translation>按关节</translation>
+    </message>
+    <message>
+        <source>Move joint by joint</source>
+        <translation>按关节移动</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>State of the move</source>
+        <translation>移动状态</translation>
+    </message>
+    <message>
+        <source>Share of the way</source>
+        <translation>已走路程比例</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Hold to move</source>
+        <translation>按住移动</translation>
+    </message>
+    <message>
+        <source>Hold to move the robot to the point</source>
+        <translation>按住使机器人移至该点</translation>
+    </message>
+    <message>
+        <source>Move to the point: %1</source>
+        <translation>移至点：%1</translation>
+    </message>
+    <message>
+        <source>Move to the point</source>
+        <translation>移至点</translation>
+    </message>
+    <message>
+        <source>Target %1</source>
+        <translation>目标 %1</translation>
+    </message>
+    <message>
+        <source>Present %1</source>
+        <translation>当前 %1</translation>
+    </message>
+    <message>
+        <source>No controller. %1</source>
+        <translation>没有控制器。%1</translation>
+    </message>
+    <message>
+        <source>Nobody has taught this point.</source>
+        <translation>该点未示教。</translation>
+    </message>
+    <message>
+        <source>Hold the button to move. The way takes %1 s.</source>
+        <translation>按住按钮移动。行程需 %1 s。</translation>
+    </message>
+    <message>
+        <source>Hold the button to move.</source>
+        <translation>按住按钮移动。</translation>
+    </message>
+    <message>
+        <source>The controller refuses the move: %1.</source>
+        <translation>控制器拒绝移动：%1。</translation>
+    </message>
+    <message>
+        <source>Waiting for the controller.</source>
+        <translation>正在等待控制器。</translation>
+    </message>
+    <message>
+        <source>The robot moves. Let go to stop it.</source>
+        <translation>机器人正在移动。松开即停止。</translation>
+    </message>
+    <message>
+        <source>The robot is stopping.</source>
+        <translation>机器人正在停止。</translation>
+    </message>
+    <message>
+        <source>Stopped before the point.</source>
+        <translation>在到达该点前停止。</translation>
+    </message>
+    <message>
+        <source>Arrived.</source>
+        <translation>已到达。</translation>
+    </message>
+</context>
+<context>
     <name>NameDialog</name>
     <message>
         <source>Name</source>
@@ -389,6 +638,113 @@ mm</translation>
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>OrderTools</name>
+    <message>
+        <source>Begin at</source>
+        <translation>起始于</translation>
+    </message>
+    <message>
+        <source>Corner at which the order begins</source>
+        <translation>顺序起始的角</translation>
+    </message>
+    <message>
+        <source>By rows</source>
+        <translation>按行</translation>
+    </message>
+    <message>
+        <source>Number row by row from the corner</source>
+        <translation>从角开始逐行编号</translation>
+    </message>
+    <message>
+        <source>By columns</source>
+        <translation>按列</translation>
+    </message>
+    <message>
+        <source>Number column by column from the corner</source>
+        <translation>从角开始逐列编号</translation>
+    </message>
+    <message>
+        <source>Outward</source>
+        <translation>向外</translation>
+    </message>
+    <message>
+        <source>Number outward from the corner</source>
+        <translation>从角向外编号</translation>
+    </message>
+    <message>
+        <source>By tapping</source>
+        <translation>点按</translation>
+    </message>
+    <message>
+        <source>Number the products as they are tapped</source>
+        <translation>按点按顺序编号</translation>
+    </message>
+    <message>
+        <source>Place the product earlier</source>
+        <translation>将产品提前放置</translation>
+    </message>
+    <message>
+        <source>Place the product later</source>
+        <translation>将产品推后放置</translation>
+    </message>
+    <message>
+        <source>Propose sides</source>
+        <translation>建议方向</translation>
+    </message>
+    <message>
+        <source>Let products come from their open sides</source>
+        <translation>让产品从空侧进入</translation>
+    </message>
+    <message>
+        <source>Blocked ways</source>
+        <translation>受阻路径</translation>
+    </message>
+    <message>
+        <source>Show the ways of products that hit others</source>
+        <translation>显示会碰撞的产品路径</translation>
+    </message>
+    <message>
+        <source>Back to the product placed before</source>
+        <translation>回到上一个放置的产品</translation>
+    </message>
+    <message>
+        <source>Product that is being placed</source>
+        <translation>正在放置的产品</translation>
+    </message>
+    <message>
+        <source>On to the product placed next</source>
+        <translation>转到下一个放置的产品</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Tap product %1 of %2</source>
+        <translation>请点按第 %1 个产品，共 %2 个</translation>
+    </message>
+    <message>
+        <source>Walk through the placing</source>
+        <translation>逐步查看放置</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1/%2：%3</translation>
     </message>
 </context>
 <context>
@@ -556,7 +912,7 @@ mm</translation>
     </message>
     <message>
         <source>What is wrong with the pattern</source>
-        <translation>垛型的问题</translation>
+        <translation type="vanished">垛型的问题</translation>
     </message>
     <message>
         <source>Products of the pattern</source>
@@ -564,19 +920,19 @@ mm</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation>添加</translation>
+        <translation type="vanished">添加</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>移除</translation>
+        <translation type="vanished">移除</translation>
     </message>
     <message>
         <source>Place the product earlier</source>
-        <translation>将该产品提前放置</translation>
+        <translation type="vanished">将该产品提前放置</translation>
     </message>
     <message>
         <source>Place the product later</source>
-        <translation>将该产品推后放置</translation>
+        <translation type="vanished">将该产品推后放置</translation>
     </message>
     <message>
         <source>Product</source>
@@ -624,7 +980,7 @@ mm</translation>
     </message>
     <message>
         <source>Pattern %1 (in %2 layers)</source>
-        <translation>垛型 %1（用于 %2 层）</translation>
+        <translation type="vanished">垛型 %1（用于 %2 层）</translation>
     </message>
     <message>
         <source>Product %1</source>
@@ -661,6 +1017,93 @@ mm</translation>
     <message>
         <source>Give every product the size of the recipe&apos;s product</source>
         <translation>将配方产品的尺寸赋给所有产品</translation>
+    </message>
+    <message>
+        <source>Make, rename and delete patterns</source>
+        <translation>新建、重命名和删除垛型</translation>
+    </message>
+    <message>
+        <source>Products</source>
+        <translation>产品</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Tools for editing the plan</source>
+        <translation>平面图编辑工具</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>顺序</translation>
+    </message>
+    <message>
+        <source>Order and sides of placing</source>
+        <translation>放置顺序与方向</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>Check of the pattern</source>
+        <translation>垛型检查</translation>
+    </message>
+    <message>
+        <source>What is chosen or wrong on the plan</source>
+        <translation>平面图上的选择或问题</translation>
+    </message>
+    <message>
+        <source>Show the plan smaller</source>
+        <translation>缩小平面图</translation>
+    </message>
+    <message>
+        <source>Show the plan larger</source>
+        <translation>放大平面图</translation>
+    </message>
+    <message>
+        <source>Show the whole plan</source>
+        <translation>显示整个平面图</translation>
+    </message>
+    <message>
+        <source>Figures of the pattern</source>
+        <translation>垛型数据</translation>
+    </message>
+    <message>
+        <source>%1 (in %2 layers)</source>
+        <translation>%1（%2 层）</translation>
+    </message>
+    <message>
+        <source>1 product</source>
+        <translation>1 个产品</translation>
+    </message>
+    <message>
+        <source>%1 products</source>
+        <translation>%1 个产品</translation>
+    </message>
+    <message>
+        <source>This recipe has no pattern yet.</source>
+        <translation>该配方还没有垛型。</translation>
+    </message>
+    <message>
+        <source>%1 products chosen</source>
+        <translation>已选 %1 个产品</translation>
+    </message>
+    <message>
+        <source>Check %1</source>
+        <translation>检查 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlanarNestingWizard</name>
+    <message>
+        <source>Patterns</source>
+        <translation>垛型</translation>
+    </message>
+    <message>
+        <source>Products in a layer</source>
+        <translation>一层中的产品</translation>
     </message>
 </context>
 <context>
@@ -704,6 +1147,34 @@ mm</translation>
     <message>
         <source>By hand</source>
         <translation>手动</translation>
+    </message>
+    <message>
+        <source>Teach</source>
+        <translation>示教</translation>
+    </message>
+    <message>
+        <source>Teach the point where the robot stands</source>
+        <translation>以机器人当前位置示教该点</translation>
+    </message>
+    <message>
+        <source>Move to</source>
+        <translation>移至</translation>
+    </message>
+    <message>
+        <source>Move the robot to the point</source>
+        <translation>将机器人移至该点</translation>
+    </message>
+    <message>
+        <source>The controller is not connected: where the robot stands is not known.</source>
+        <translation>控制器未连接：机器人位置未知。</translation>
+    </message>
+    <message>
+        <source>The robot is moving. Teach the point when it stands.</source>
+        <translation>机器人正在移动。请在其停止后示教。</translation>
+    </message>
+    <message>
+        <source>The controller does not tell where the robot stands.</source>
+        <translation>控制器未提供机器人位置。</translation>
     </message>
 </context>
 <context>
@@ -872,6 +1343,35 @@ mm</translation>
         <source>Points copied: %1</source>
         <translation>已复制点数：%1</translation>
     </message>
+    <message>
+        <source>Move to</source>
+        <translation>移至</translation>
+    </message>
+    <message>
+        <source>Move the robot to the chosen point</source>
+        <translation>将机器人移至所选点</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemList</name>
+    <message>
+        <source>Result of the check</source>
+        <translation>检查结果</translation>
+    </message>
+    <message>
+        <source>What is wrong with the pattern</source>
+        <translation>垛型的问题</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong with the pattern.</source>
+        <translation>垛型没有问题。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things are wrong. Touch one to choose its products.</source>
+        <translation>
+            <numerusform>有 %n 个问题。点按其中一个可选择相关产品。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ProblemText</name>
@@ -890,6 +1390,38 @@ mm</translation>
     <message>
         <source>Product %1 was stored with a value that cannot be used.</source>
         <translation>产品 %1 存有无法使用的值。</translation>
+    </message>
+    <message>
+        <source>Products %1 and %2 lie in the same place.</source>
+        <translation>产品 %1 与 %2 位于同一位置。</translation>
+    </message>
+    <message>
+        <source>Product %1 hits product %2 on its way in, by %3 mm.</source>
+        <translation>产品 %1 在进入途中与产品 %2 碰撞 %3 mm。</translation>
+    </message>
+    <message>
+        <source>Products %1 and %2 are %3 mm apart, less than %4 mm.</source>
+        <translation>产品 %1 与 %2 相距 %3 mm，小于 %4 mm。</translation>
+    </message>
+    <message>
+        <source>Product %1 has the unknown direction &quot;%2&quot;: it comes from above.</source>
+        <translation>产品 %1 的方向“%2”未知：将从上方进入。</translation>
+    </message>
+    <message>
+        <source>The numbers of %1 products do not follow the order of placing.</source>
+        <translation>有 %1 个产品的编号与放置顺序不符。</translation>
+    </message>
+    <message>
+        <source>Product %1 reaches %2 mm into the margin.</source>
+        <translation>产品 %1 伸入边距 %2 mm。</translation>
+    </message>
+    <message>
+        <source>There are %1 products; the controller takes at most %2 in a pattern.</source>
+        <translation>共有 %1 个产品；控制器每个垛型最多接受 %2 个。</translation>
+    </message>
+    <message>
+        <source>Only the first %1 products are shown.</source>
+        <translation>仅显示前 %1 个产品。</translation>
     </message>
 </context>
 <context>
@@ -960,6 +1492,13 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>RecipeEditing</name>
+    <message>
+        <source>The margins left no room for a product and were set to 0.</source>
+        <translation>边距没有为产品留出空间，已设为 0。</translation>
+    </message>
+</context>
+<context>
     <name>RecipeFrame</name>
     <message numerus="yes">
         <source>%n more</source>
@@ -1020,6 +1559,65 @@ Pallet: %4</source>
     <message>
         <source>Weight: %1 kg (load %2 kg)</source>
         <translation>重量：%1 kg（货物 %2 kg）</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeWizard</name>
+    <message>
+        <source>Recipe</source>
+        <translation>配方</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Undo the last edit</source>
+        <translation>撤销上次编辑</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Redo the undone edit</source>
+        <translation>重做已撤销的编辑</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Cancel and take the edits back</source>
+        <translation>取消并撤回所做编辑</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Back to the page before</source>
+        <translation>返回上一页</translation>
+    </message>
+    <message>
+        <source>Take back all edits?</source>
+        <translation>撤回所有编辑？</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1/%2：%3</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一步</translation>
     </message>
 </context>
 <context>
@@ -1174,6 +1772,29 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>StackFrame</name>
+    <message>
+        <source>Layer of the plan</source>
+        <translation>平面图的层</translation>
+    </message>
+    <message>
+        <source>Plan of the layer</source>
+        <translation>该层平面图</translation>
+    </message>
+    <message>
+        <source>What is wrong with the layers</source>
+        <translation>层的问题</translation>
+    </message>
+    <message>
+        <source>Totals of the recipe</source>
+        <translation>配方合计</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>第 %1 层</translation>
+    </message>
+</context>
+<context>
     <name>StackHomePage</name>
     <message>
         <source>Recipes</source>
@@ -1270,6 +1891,65 @@ Pallet: %4</source>
     <message>
         <source>The recipe cannot be made: the list of recipes is missing.</source>
         <translation>无法创建配方：缺少配方列表。</translation>
+    </message>
+</context>
+<context>
+    <name>StackPanel</name>
+    <message>
+        <source>The stack from above a corner; drag to turn it</source>
+        <translation>从角上方看的垛；拖动可旋转</translation>
+    </message>
+    <message>
+        <source>Turn the stack anticlockwise</source>
+        <translation>逆时针旋转垛</translation>
+    </message>
+    <message>
+        <source>Turn the stack clockwise</source>
+        <translation>顺时针旋转垛</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>What is laid</source>
+        <translation>已放置内容</translation>
+    </message>
+    <message>
+        <source>Take the last layer off</source>
+        <translation>取下最后一层</translation>
+    </message>
+    <message>
+        <source>Take the last box off</source>
+        <translation>取下最后一箱</translation>
+    </message>
+    <message>
+        <source>How much is laid</source>
+        <translation>已放置数量</translation>
+    </message>
+    <message>
+        <source>Lay the next box</source>
+        <translation>放置下一箱</translation>
+    </message>
+    <message>
+        <source>Lay the next layer</source>
+        <translation>放置下一层</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>%1: layer %2, sheet</source>
+        <translation>%1：第 %2 层，隔板</translation>
+    </message>
+    <message>
+        <source>%1: layer %2, box %3</source>
+        <translation>%1：第 %2 层，第 %3 箱</translation>
     </message>
 </context>
 <context>
@@ -1371,7 +2051,38 @@ Pallet: %4</source>
     </message>
     <message>
         <source>The margins left no room for a product and were set to 0.</source>
-        <translation>边距没有给产品留出空间，已设为 0。</translation>
+        <translation type="vanished">边距没有给产品留出空间，已设为 0。</translation>
+    </message>
+    <message>
+        <source>Wizard</source>
+        <translation>向导</translation>
+    </message>
+    <message>
+        <source>Go through a part of the recipe page by page</source>
+        <translation>逐页设置配方的一部分</translation>
+    </message>
+</context>
+<context>
+    <name>StatusText</name>
+    <message>
+        <source>Moved by x %1, y %2 mm</source>
+        <translation>移动 x %1，y %2 mm</translation>
+    </message>
+    <message>
+        <source>No product chosen</source>
+        <translation>未选择产品</translation>
+    </message>
+    <message>
+        <source>%1 products, %2 x %3 mm</source>
+        <translation>%1 个产品，%2 x %3 mm</translation>
+    </message>
+    <message>
+        <source>Product %1: x %2, y %3 mm, %4°</source>
+        <translation>产品 %1：x %2，y %3 mm，%4°</translation>
+    </message>
+    <message>
+        <source>(1 of %1) %2</source>
+        <translation>（1/%1）%2</translation>
     </message>
 </context>
 <context>
@@ -1572,6 +2283,13 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>palx::HeldMove</name>
+    <message>
+        <source>The move could not be sent to the controller.</source>
+        <translation>无法将移动发送到控制器。</translation>
+    </message>
+</context>
+<context>
     <name>palx::JogLabels</name>
     <message>
         <source>J1(%1)</source>
@@ -1612,6 +2330,120 @@ Pallet: %4</source>
     <message>
         <source>C(%1)</source>
         <translation>C(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>palx::PatternEditing</name>
+    <message>
+        <source>Choose at least three products to space them evenly.</source>
+        <translation>均匀分布至少需选择三个产品。</translation>
+    </message>
+    <message>
+        <source>A pattern holds at most %1 products; there would be %2.</source>
+        <translation>一个垛型最多 %1 个产品；这样会有 %2 个。</translation>
+    </message>
+</context>
+<context>
+    <name>palx::ProjectText</name>
+    <message>
+        <source>The robot is not known yet: connect the controller first</source>
+        <translation>尚不知道机器人：请先连接控制器</translation>
+    </message>
+    <message>
+        <source>Cannot create path: %1</source>
+        <translation>无法创建路径：%1</translation>
+    </message>
+    <message>
+        <source>Remove folder %1 failed</source>
+        <translation>删除文件夹 %1 失败</translation>
+    </message>
+    <message>
+        <source>Try to add invalid project name</source>
+        <translation>工程名称无效</translation>
+    </message>
+    <message>
+        <source>Project already exists</source>
+        <translation>工程已存在</translation>
+    </message>
+    <message>
+        <source>Are you sure to create and switch to new project: %1?</source>
+        <translation>确定创建并切换到新工程：%1？</translation>
+    </message>
+    <message>
+        <source>Failed to clone project from: %1</source>
+        <translation>克隆工程失败：%1</translation>
+    </message>
+    <message>
+        <source>Cannot rename to an existing project</source>
+        <translation>不能重命名为已有工程</translation>
+    </message>
+    <message>
+        <source>Are you sure to update and switch to project %1?</source>
+        <translation>确定更新并切换到工程 %1？</translation>
+    </message>
+    <message>
+        <source>Cannot remove empty project</source>
+        <translation>不能删除空工程</translation>
+    </message>
+    <message>
+        <source>Are you sure to delete project %1?</source>
+        <translation>确定删除工程 %1？</translation>
+    </message>
+    <message>
+        <source>Project %1 removed</source>
+        <translation>工程 %1 已删除</translation>
+    </message>
+    <message>
+        <source>Empty project</source>
+        <translation>空工程</translation>
+    </message>
+    <message>
+        <source>Are you sure to switch to project %1?</source>
+        <translation>确定切换到工程 %1？</translation>
+    </message>
+    <message>
+        <source>Reload project %1</source>
+        <translation>重新加载工程 %1</translation>
+    </message>
+    <message>
+        <source>The controller did not take the start-up project</source>
+        <translation>控制器未接受启动工程</translation>
+    </message>
+    <message>
+        <source>Auto load project is set to null!</source>
+        <translation>自动加载工程已清空！</translation>
+    </message>
+    <message>
+        <source>Set %1 to auto load project success!</source>
+        <translation>已将 %1 设为自动加载工程！</translation>
+    </message>
+    <message>
+        <source>File %1 already exists!</source>
+        <translation>文件 %1 已存在！</translation>
+    </message>
+    <message>
+        <source>Cannot create task folder: %1</source>
+        <translation>无法创建任务文件夹：%1</translation>
+    </message>
+    <message>
+        <source>Cannot read program template: %1</source>
+        <translation>无法读取程序模板：%1</translation>
+    </message>
+    <message>
+        <source>Cannot write to file: %1</source>
+        <translation>无法写入文件：%1</translation>
+    </message>
+    <message>
+        <source>Project Manager</source>
+        <translation>工程管理</translation>
+    </message>
+    <message>
+        <source>Left side</source>
+        <translation>左侧</translation>
+    </message>
+    <message>
+        <source>Right side</source>
+        <translation>右侧</translation>
     </message>
 </context>
 </TS>

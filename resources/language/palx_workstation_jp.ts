@@ -2,6 +2,140 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>CascadeNestingWizard</name>
+    <message>
+        <source>Layers</source>
+        <translation>段</translation>
+    </message>
+    <message>
+        <source>Layer sequence</source>
+        <translation>段の順序</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>積み付け</translation>
+    </message>
+</context>
+<context>
+    <name>EditTools</name>
+    <message>
+        <source>Choose all products</source>
+        <translation>すべての製品を選択</translation>
+    </message>
+    <message>
+        <source>Choose several products by tapping</source>
+        <translation>タップで複数の製品を選択</translation>
+    </message>
+    <message>
+        <source>Move the plan with a finger</source>
+        <translation>指で平面図を動かす</translation>
+    </message>
+    <message>
+        <source>Snap to edges and neighbours</source>
+        <translation>端と隣に吸着</translation>
+    </message>
+    <message>
+        <source>Add a product</source>
+        <translation>製品を追加</translation>
+    </message>
+    <message>
+        <source>Copy the chosen products</source>
+        <translation>選択した製品をコピー</translation>
+    </message>
+    <message>
+        <source>Paste products</source>
+        <translation>製品を貼り付け</translation>
+    </message>
+    <message>
+        <source>Remove the chosen products</source>
+        <translation>選択した製品を削除</translation>
+    </message>
+    <message>
+        <source>Turn by 90 degrees to the left</source>
+        <translation>左へ 90 度回す</translation>
+    </message>
+    <message>
+        <source>Turn by 90 degrees to the right</source>
+        <translation>右へ 90 度回す</translation>
+    </message>
+    <message>
+        <source>Move left</source>
+        <translation>左へ移動</translation>
+    </message>
+    <message>
+        <source>Move right</source>
+        <translation>右へ移動</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下へ移動</translation>
+    </message>
+    <message>
+        <source>Step of moving</source>
+        <translation>移動の刻み</translation>
+    </message>
+    <message>
+        <source>Mirror the pattern, left and right</source>
+        <translation>パターンを左右に反転</translation>
+    </message>
+    <message>
+        <source>Mirror the pattern, top and bottom</source>
+        <translation>パターンを上下に反転</translation>
+    </message>
+    <message>
+        <source>Turn the whole pattern by 180 degrees</source>
+        <translation>パターン全体を 180 度回す</translation>
+    </message>
+    <message>
+        <source>Angle to turn by</source>
+        <translation>回す角度</translation>
+    </message>
+    <message>
+        <source>Turn by the angle beside</source>
+        <translation>横の角度だけ回す</translation>
+    </message>
+    <message>
+        <source>Align left edges</source>
+        <translation>左端をそろえる</translation>
+    </message>
+    <message>
+        <source>Align middles across</source>
+        <translation>横方向の中央をそろえる</translation>
+    </message>
+    <message>
+        <source>Align right edges</source>
+        <translation>右端をそろえる</translation>
+    </message>
+    <message>
+        <source>Space evenly across</source>
+        <translation>横に等間隔</translation>
+    </message>
+    <message>
+        <source>Align upper edges</source>
+        <translation>上端をそろえる</translation>
+    </message>
+    <message>
+        <source>Align middles along</source>
+        <translation>縦方向の中央をそろえる</translation>
+    </message>
+    <message>
+        <source>Align lower edges</source>
+        <translation>下端をそろえる</translation>
+    </message>
+    <message>
+        <source>Space evenly along</source>
+        <translation>縦に等間隔</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+</context>
+<context>
     <name>FieldText</name>
     <message>
         <source>%1 is outside of %2 to %3%4.</source>
@@ -369,6 +503,121 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>MoveToDialog</name>
+    <message>
+        <source>Position of the flange</source>
+        <translation>フランジの位置</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>目標</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>現在</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>軸</translation>
+    </message>
+    <message>
+        <source>Straight</source>
+        <translation>直線</translation>
+    </message>
+    <message>
+        <source>Move on a straight line</source>
+        <translation>直線で動く</translation>
+    </message>
+    <message>
+        <source>By joints</source>
+        <translation>軸で</translation>
+    </message>
+    <message>
+        <source>Move joint by joint</source>
+        <translation>各軸で動く</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>State of the move</source>
+        <translation>動きの状態</translation>
+    </message>
+    <message>
+        <source>Share of the way</source>
+        <translation>進んだ割合</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Hold to move</source>
+        <translation>押している間動く</translation>
+    </message>
+    <message>
+        <source>Hold to move the robot to the point</source>
+        <translation>押している間ロボットが点へ動く</translation>
+    </message>
+    <message>
+        <source>Move to the point: %1</source>
+        <translation>点へ移動: %1</translation>
+    </message>
+    <message>
+        <source>Move to the point</source>
+        <translation>点へ移動</translation>
+    </message>
+    <message>
+        <source>Target %1</source>
+        <translation>目標 %1</translation>
+    </message>
+    <message>
+        <source>Present %1</source>
+        <translation>現在 %1</translation>
+    </message>
+    <message>
+        <source>No controller. %1</source>
+        <translation>コントローラがありません。%1</translation>
+    </message>
+    <message>
+        <source>Nobody has taught this point.</source>
+        <translation>この点は教示されていません。</translation>
+    </message>
+    <message>
+        <source>Hold the button to move. The way takes %1 s.</source>
+        <translation>ボタンを押している間動きます。所要時間は %1 s です。</translation>
+    </message>
+    <message>
+        <source>Hold the button to move.</source>
+        <translation>ボタンを押している間動きます。</translation>
+    </message>
+    <message>
+        <source>The controller refuses the move: %1.</source>
+        <translation>コントローラが動きを拒否しました: %1。</translation>
+    </message>
+    <message>
+        <source>Waiting for the controller.</source>
+        <translation>コントローラを待っています。</translation>
+    </message>
+    <message>
+        <source>The robot moves. Let go to stop it.</source>
+        <translation>ロボットが動いています。離すと止まります。</translation>
+    </message>
+    <message>
+        <source>The robot is stopping.</source>
+        <translation>ロボットが停止中です。</translation>
+    </message>
+    <message>
+        <source>Stopped before the point.</source>
+        <translation>点の手前で止まりました。</translation>
+    </message>
+    <message>
+        <source>Arrived.</source>
+        <translation>到着しました。</translation>
+    </message>
+</context>
+<context>
     <name>NameDialog</name>
     <message>
         <source>Name</source>
@@ -389,6 +638,113 @@ mm</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OrderTools</name>
+    <message>
+        <source>Begin at</source>
+        <translation>開始位置</translation>
+    </message>
+    <message>
+        <source>Corner at which the order begins</source>
+        <translation>順序を始める角</translation>
+    </message>
+    <message>
+        <source>By rows</source>
+        <translation>行ごと</translation>
+    </message>
+    <message>
+        <source>Number row by row from the corner</source>
+        <translation>角から行ごとに番号を付ける</translation>
+    </message>
+    <message>
+        <source>By columns</source>
+        <translation>列ごと</translation>
+    </message>
+    <message>
+        <source>Number column by column from the corner</source>
+        <translation>角から列ごとに番号を付ける</translation>
+    </message>
+    <message>
+        <source>Outward</source>
+        <translation>外向き</translation>
+    </message>
+    <message>
+        <source>Number outward from the corner</source>
+        <translation>角から外へ番号を付ける</translation>
+    </message>
+    <message>
+        <source>By tapping</source>
+        <translation>タップ順</translation>
+    </message>
+    <message>
+        <source>Number the products as they are tapped</source>
+        <translation>タップした順に番号を付ける</translation>
+    </message>
+    <message>
+        <source>Place the product earlier</source>
+        <translation>製品を先に移す</translation>
+    </message>
+    <message>
+        <source>Place the product later</source>
+        <translation>製品を後に移す</translation>
+    </message>
+    <message>
+        <source>Propose sides</source>
+        <translation>方向を提案</translation>
+    </message>
+    <message>
+        <source>Let products come from their open sides</source>
+        <translation>製品を空いた側から入れる</translation>
+    </message>
+    <message>
+        <source>Blocked ways</source>
+        <translation>ふさがれた経路</translation>
+    </message>
+    <message>
+        <source>Show the ways of products that hit others</source>
+        <translation>ほかに当たる製品の経路を表示</translation>
+    </message>
+    <message>
+        <source>Back to the product placed before</source>
+        <translation>前に置く製品へ戻る</translation>
+    </message>
+    <message>
+        <source>Product that is being placed</source>
+        <translation>置いている製品</translation>
+    </message>
+    <message>
+        <source>On to the product placed next</source>
+        <translation>次に置く製品へ</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Tap product %1 of %2</source>
+        <translation>製品 %1／%2 をタップ</translation>
+    </message>
+    <message>
+        <source>Walk through the placing</source>
+        <translation>置く順にたどる</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1／%2: %3</translation>
     </message>
 </context>
 <context>
@@ -556,7 +912,7 @@ mm</translation>
     </message>
     <message>
         <source>What is wrong with the pattern</source>
-        <translation>パターンの問題点</translation>
+        <translation type="vanished">パターンの問題点</translation>
     </message>
     <message>
         <source>Products of the pattern</source>
@@ -564,19 +920,19 @@ mm</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation>追加</translation>
+        <translation type="vanished">追加</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>削除</translation>
+        <translation type="vanished">削除</translation>
     </message>
     <message>
         <source>Place the product earlier</source>
-        <translation>製品を先に置く</translation>
+        <translation type="vanished">製品を先に置く</translation>
     </message>
     <message>
         <source>Place the product later</source>
-        <translation>製品を後に置く</translation>
+        <translation type="vanished">製品を後に置く</translation>
     </message>
     <message>
         <source>Product</source>
@@ -624,7 +980,7 @@ mm</translation>
     </message>
     <message>
         <source>Pattern %1 (in %2 layers)</source>
-        <translation>パターン %1（%2 段で使用）</translation>
+        <translation type="vanished">パターン %1（%2 段で使用）</translation>
     </message>
     <message>
         <source>Product %1</source>
@@ -661,6 +1017,93 @@ mm</translation>
     <message>
         <source>Give every product the size of the recipe&apos;s product</source>
         <translation>すべての製品にレシピの製品の寸法を使う</translation>
+    </message>
+    <message>
+        <source>Make, rename and delete patterns</source>
+        <translation>パターンの作成、名前の変更、削除</translation>
+    </message>
+    <message>
+        <source>Products</source>
+        <translation>製品</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Tools for editing the plan</source>
+        <translation>平面図の編集ツール</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>順序</translation>
+    </message>
+    <message>
+        <source>Order and sides of placing</source>
+        <translation>置く順序と方向</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>確認</translation>
+    </message>
+    <message>
+        <source>Check of the pattern</source>
+        <translation>パターンの確認</translation>
+    </message>
+    <message>
+        <source>What is chosen or wrong on the plan</source>
+        <translation>平面図の選択または問題</translation>
+    </message>
+    <message>
+        <source>Show the plan smaller</source>
+        <translation>平面図を縮小</translation>
+    </message>
+    <message>
+        <source>Show the plan larger</source>
+        <translation>平面図を拡大</translation>
+    </message>
+    <message>
+        <source>Show the whole plan</source>
+        <translation>平面図全体を表示</translation>
+    </message>
+    <message>
+        <source>Figures of the pattern</source>
+        <translation>パターンの数値</translation>
+    </message>
+    <message>
+        <source>%1 (in %2 layers)</source>
+        <translation>%1 (%2 段)</translation>
+    </message>
+    <message>
+        <source>1 product</source>
+        <translation>製品 1 個</translation>
+    </message>
+    <message>
+        <source>%1 products</source>
+        <translation>製品 %1 個</translation>
+    </message>
+    <message>
+        <source>This recipe has no pattern yet.</source>
+        <translation>このレシピにはまだパターンがありません。</translation>
+    </message>
+    <message>
+        <source>%1 products chosen</source>
+        <translation>製品を %1 個選択</translation>
+    </message>
+    <message>
+        <source>Check %1</source>
+        <translation>確認 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlanarNestingWizard</name>
+    <message>
+        <source>Patterns</source>
+        <translation>パターン</translation>
+    </message>
+    <message>
+        <source>Products in a layer</source>
+        <translation>段の製品</translation>
     </message>
 </context>
 <context>
@@ -704,6 +1147,34 @@ mm</translation>
     <message>
         <source>By hand</source>
         <translation>手入力</translation>
+    </message>
+    <message>
+        <source>Teach</source>
+        <translation>教示</translation>
+    </message>
+    <message>
+        <source>Teach the point where the robot stands</source>
+        <translation>ロボットの現在位置を教示</translation>
+    </message>
+    <message>
+        <source>Move to</source>
+        <translation>移動</translation>
+    </message>
+    <message>
+        <source>Move the robot to the point</source>
+        <translation>ロボットを点へ動かす</translation>
+    </message>
+    <message>
+        <source>The controller is not connected: where the robot stands is not known.</source>
+        <translation>コントローラが接続されていないため、ロボットの位置が分かりません。</translation>
+    </message>
+    <message>
+        <source>The robot is moving. Teach the point when it stands.</source>
+        <translation>ロボットが動いています。止まってから教示してください。</translation>
+    </message>
+    <message>
+        <source>The controller does not tell where the robot stands.</source>
+        <translation>コントローラがロボットの位置を知らせません。</translation>
     </message>
 </context>
 <context>
@@ -872,6 +1343,35 @@ mm</translation>
         <source>Points copied: %1</source>
         <translation>コピーした点: %1</translation>
     </message>
+    <message>
+        <source>Move to</source>
+        <translation>移動</translation>
+    </message>
+    <message>
+        <source>Move the robot to the chosen point</source>
+        <translation>選択した点へロボットを動かす</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemList</name>
+    <message>
+        <source>Result of the check</source>
+        <translation>確認の結果</translation>
+    </message>
+    <message>
+        <source>What is wrong with the pattern</source>
+        <translation>パターンの問題</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong with the pattern.</source>
+        <translation>パターンに問題はありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things are wrong. Touch one to choose its products.</source>
+        <translation>
+            <numerusform>問題が %n 件あります。触れるとその製品を選択します。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ProblemText</name>
@@ -890,6 +1390,38 @@ mm</translation>
     <message>
         <source>Product %1 was stored with a value that cannot be used.</source>
         <translation>製品 %1 に使えない値が保存されています。</translation>
+    </message>
+    <message>
+        <source>Products %1 and %2 lie in the same place.</source>
+        <translation>製品 %1 と %2 が同じ場所にあります。</translation>
+    </message>
+    <message>
+        <source>Product %1 hits product %2 on its way in, by %3 mm.</source>
+        <translation>製品 %1 は入る途中で製品 %2 に %3 mm 当たります。</translation>
+    </message>
+    <message>
+        <source>Products %1 and %2 are %3 mm apart, less than %4 mm.</source>
+        <translation>製品 %1 と %2 の間隔は %3 mm で、%4 mm 未満です。</translation>
+    </message>
+    <message>
+        <source>Product %1 has the unknown direction &quot;%2&quot;: it comes from above.</source>
+        <translation>製品 %1 の方向「%2」は不明なため、上から入ります。</translation>
+    </message>
+    <message>
+        <source>The numbers of %1 products do not follow the order of placing.</source>
+        <translation>%1 個の製品の番号が置く順序と一致しません。</translation>
+    </message>
+    <message>
+        <source>Product %1 reaches %2 mm into the margin.</source>
+        <translation>製品 %1 が余白に %2 mm 入っています。</translation>
+    </message>
+    <message>
+        <source>There are %1 products; the controller takes at most %2 in a pattern.</source>
+        <translation>製品が %1 個あります。コントローラが受け取るのはパターンごとに最大 %2 個です。</translation>
+    </message>
+    <message>
+        <source>Only the first %1 products are shown.</source>
+        <translation>最初の %1 個の製品だけを表示しています。</translation>
     </message>
 </context>
 <context>
@@ -960,6 +1492,13 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>RecipeEditing</name>
+    <message>
+        <source>The margins left no room for a product and were set to 0.</source>
+        <translation>余白のために製品が入らないので 0 にしました。</translation>
+    </message>
+</context>
+<context>
     <name>RecipeFrame</name>
     <message numerus="yes">
         <source>%n more</source>
@@ -1020,6 +1559,65 @@ Pallet: %4</source>
     <message>
         <source>Weight: %1 kg (load %2 kg)</source>
         <translation>重量: %1 kg（荷 %2 kg）</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeWizard</name>
+    <message>
+        <source>Recipe</source>
+        <translation>レシピ</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Undo the last edit</source>
+        <translation>最後の編集を元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Redo the undone edit</source>
+        <translation>元に戻した編集をやり直す</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Cancel and take the edits back</source>
+        <translation>キャンセルして編集を取り消す</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Back to the page before</source>
+        <translation>前のページへ戻る</translation>
+    </message>
+    <message>
+        <source>Take back all edits?</source>
+        <translation>すべての編集を取り消しますか？</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1／%2: %3</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
     </message>
 </context>
 <context>
@@ -1174,6 +1772,29 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>StackFrame</name>
+    <message>
+        <source>Layer of the plan</source>
+        <translation>平面図の段</translation>
+    </message>
+    <message>
+        <source>Plan of the layer</source>
+        <translation>段の平面図</translation>
+    </message>
+    <message>
+        <source>What is wrong with the layers</source>
+        <translation>段の問題</translation>
+    </message>
+    <message>
+        <source>Totals of the recipe</source>
+        <translation>レシピの合計</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>%1 段目</translation>
+    </message>
+</context>
+<context>
     <name>StackHomePage</name>
     <message>
         <source>Recipes</source>
@@ -1270,6 +1891,65 @@ Pallet: %4</source>
     <message>
         <source>The recipe cannot be made: the list of recipes is missing.</source>
         <translation>レシピを作れません: レシピの一覧がありません。</translation>
+    </message>
+</context>
+<context>
+    <name>StackPanel</name>
+    <message>
+        <source>The stack from above a corner; drag to turn it</source>
+        <translation>斜め上から見た積み付け。ドラッグで回せます</translation>
+    </message>
+    <message>
+        <source>Turn the stack anticlockwise</source>
+        <translation>積み付けを反時計回りに回す</translation>
+    </message>
+    <message>
+        <source>Turn the stack clockwise</source>
+        <translation>積み付けを時計回りに回す</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>拡大</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>What is laid</source>
+        <translation>置いたもの</translation>
+    </message>
+    <message>
+        <source>Take the last layer off</source>
+        <translation>最後の段を外す</translation>
+    </message>
+    <message>
+        <source>Take the last box off</source>
+        <translation>最後の箱を外す</translation>
+    </message>
+    <message>
+        <source>How much is laid</source>
+        <translation>置いた量</translation>
+    </message>
+    <message>
+        <source>Lay the next box</source>
+        <translation>次の箱を置く</translation>
+    </message>
+    <message>
+        <source>Lay the next layer</source>
+        <translation>次の段を置く</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1／%2</translation>
+    </message>
+    <message>
+        <source>%1: layer %2, sheet</source>
+        <translation>%1: %2 段目、合紙</translation>
+    </message>
+    <message>
+        <source>%1: layer %2, box %3</source>
+        <translation>%1: %2 段目、箱 %3</translation>
     </message>
 </context>
 <context>
@@ -1371,7 +2051,38 @@ Pallet: %4</source>
     </message>
     <message>
         <source>The margins left no room for a product and were set to 0.</source>
-        <translation>余白のため製品を置く場所がなく、余白を 0 にしました。</translation>
+        <translation type="vanished">余白のため製品を置く場所がなく、余白を 0 にしました。</translation>
+    </message>
+    <message>
+        <source>Wizard</source>
+        <translation>ウィザード</translation>
+    </message>
+    <message>
+        <source>Go through a part of the recipe page by page</source>
+        <translation>レシピの一部をページごとに設定</translation>
+    </message>
+</context>
+<context>
+    <name>StatusText</name>
+    <message>
+        <source>Moved by x %1, y %2 mm</source>
+        <translation>移動量 x %1、y %2 mm</translation>
+    </message>
+    <message>
+        <source>No product chosen</source>
+        <translation>製品が選択されていません</translation>
+    </message>
+    <message>
+        <source>%1 products, %2 x %3 mm</source>
+        <translation>製品 %1 個、%2 x %3 mm</translation>
+    </message>
+    <message>
+        <source>Product %1: x %2, y %3 mm, %4°</source>
+        <translation>製品 %1: x %2、y %3 mm、%4°</translation>
+    </message>
+    <message>
+        <source>(1 of %1) %2</source>
+        <translation>(1／%1) %2</translation>
     </message>
 </context>
 <context>
@@ -1572,6 +2283,13 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>palx::HeldMove</name>
+    <message>
+        <source>The move could not be sent to the controller.</source>
+        <translation>動きをコントローラへ送れませんでした。</translation>
+    </message>
+</context>
+<context>
     <name>palx::JogLabels</name>
     <message>
         <source>J1(%1)</source>
@@ -1612,6 +2330,120 @@ Pallet: %4</source>
     <message>
         <source>C(%1)</source>
         <translation>C(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>palx::PatternEditing</name>
+    <message>
+        <source>Choose at least three products to space them evenly.</source>
+        <translation>等間隔にするには製品を 3 個以上選択してください。</translation>
+    </message>
+    <message>
+        <source>A pattern holds at most %1 products; there would be %2.</source>
+        <translation>パターンの製品は最大 %1 個です。%2 個になってしまいます。</translation>
+    </message>
+</context>
+<context>
+    <name>palx::ProjectText</name>
+    <message>
+        <source>The robot is not known yet: connect the controller first</source>
+        <translation>ロボットがまだ分かりません。先にコントローラを接続してください</translation>
+    </message>
+    <message>
+        <source>Cannot create path: %1</source>
+        <translation>パスを作れません: %1</translation>
+    </message>
+    <message>
+        <source>Remove folder %1 failed</source>
+        <translation>フォルダ %1 を削除できませんでした</translation>
+    </message>
+    <message>
+        <source>Try to add invalid project name</source>
+        <translation>プロジェクト名が正しくありません</translation>
+    </message>
+    <message>
+        <source>Project already exists</source>
+        <translation>プロジェクトはすでにあります</translation>
+    </message>
+    <message>
+        <source>Are you sure to create and switch to new project: %1?</source>
+        <translation>新しいプロジェクトを作成して切り替えますか: %1？</translation>
+    </message>
+    <message>
+        <source>Failed to clone project from: %1</source>
+        <translation>プロジェクトを複製できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Cannot rename to an existing project</source>
+        <translation>既存のプロジェクトの名前にはできません</translation>
+    </message>
+    <message>
+        <source>Are you sure to update and switch to project %1?</source>
+        <translation>プロジェクト %1 を更新して切り替えますか？</translation>
+    </message>
+    <message>
+        <source>Cannot remove empty project</source>
+        <translation>空のプロジェクトは削除できません</translation>
+    </message>
+    <message>
+        <source>Are you sure to delete project %1?</source>
+        <translation>プロジェクト %1 を削除しますか？</translation>
+    </message>
+    <message>
+        <source>Project %1 removed</source>
+        <translation>プロジェクト %1 を削除しました</translation>
+    </message>
+    <message>
+        <source>Empty project</source>
+        <translation>空のプロジェクト</translation>
+    </message>
+    <message>
+        <source>Are you sure to switch to project %1?</source>
+        <translation>プロジェクト %1 に切り替えますか？</translation>
+    </message>
+    <message>
+        <source>Reload project %1</source>
+        <translation>プロジェクト %1 を再読み込み</translation>
+    </message>
+    <message>
+        <source>The controller did not take the start-up project</source>
+        <translation>コントローラが起動プロジェクトを受け取りませんでした</translation>
+    </message>
+    <message>
+        <source>Auto load project is set to null!</source>
+        <translation>自動読み込みのプロジェクトを空にしました！</translation>
+    </message>
+    <message>
+        <source>Set %1 to auto load project success!</source>
+        <translation>%1 を自動読み込みのプロジェクトにしました！</translation>
+    </message>
+    <message>
+        <source>File %1 already exists!</source>
+        <translation>ファイル %1 はすでにあります！</translation>
+    </message>
+    <message>
+        <source>Cannot create task folder: %1</source>
+        <translation>タスクのフォルダを作れません: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read program template: %1</source>
+        <translation>プログラムのテンプレートを読めません: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write to file: %1</source>
+        <translation>ファイルに書き込めません: %1</translation>
+    </message>
+    <message>
+        <source>Project Manager</source>
+        <translation>プロジェクト管理</translation>
+    </message>
+    <message>
+        <source>Left side</source>
+        <translation>左側</translation>
+    </message>
+    <message>
+        <source>Right side</source>
+        <translation>右側</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,140 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en_US">
 <context>
+    <name>CascadeNestingWizard</name>
+    <message>
+        <source>Layers</source>
+        <translation>단</translation>
+    </message>
+    <message>
+        <source>Layer sequence</source>
+        <translation>단 순서</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>적재</translation>
+    </message>
+</context>
+<context>
+    <name>EditTools</name>
+    <message>
+        <source>Choose all products</source>
+        <translation>모든 제품 선택</translation>
+    </message>
+    <message>
+        <source>Choose several products by tapping</source>
+        <translation>눌러서 여러 제품 선택</translation>
+    </message>
+    <message>
+        <source>Move the plan with a finger</source>
+        <translation>손가락으로 평면도 이동</translation>
+    </message>
+    <message>
+        <source>Snap to edges and neighbours</source>
+        <translation>가장자리와 이웃에 맞춤</translation>
+    </message>
+    <message>
+        <source>Add a product</source>
+        <translation>제품 추가</translation>
+    </message>
+    <message>
+        <source>Copy the chosen products</source>
+        <translation>선택한 제품 복사</translation>
+    </message>
+    <message>
+        <source>Paste products</source>
+        <translation>제품 붙여넣기</translation>
+    </message>
+    <message>
+        <source>Remove the chosen products</source>
+        <translation>선택한 제품 삭제</translation>
+    </message>
+    <message>
+        <source>Turn by 90 degrees to the left</source>
+        <translation>왼쪽으로 90도 회전</translation>
+    </message>
+    <message>
+        <source>Turn by 90 degrees to the right</source>
+        <translation>오른쪽으로 90도 회전</translation>
+    </message>
+    <message>
+        <source>Move left</source>
+        <translation>왼쪽으로 이동</translation>
+    </message>
+    <message>
+        <source>Move right</source>
+        <translation>오른쪽으로 이동</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>위로 이동</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>아래로 이동</translation>
+    </message>
+    <message>
+        <source>Step of moving</source>
+        <translation>이동 간격</translation>
+    </message>
+    <message>
+        <source>Mirror the pattern, left and right</source>
+        <translation>패턴 좌우 반전</translation>
+    </message>
+    <message>
+        <source>Mirror the pattern, top and bottom</source>
+        <translation>패턴 상하 반전</translation>
+    </message>
+    <message>
+        <source>Turn the whole pattern by 180 degrees</source>
+        <translation>패턴 전체 180도 회전</translation>
+    </message>
+    <message>
+        <source>Angle to turn by</source>
+        <translation>회전 각도</translation>
+    </message>
+    <message>
+        <source>Turn by the angle beside</source>
+        <translation>옆의 각도만큼 회전</translation>
+    </message>
+    <message>
+        <source>Align left edges</source>
+        <translation>왼쪽 맞춤</translation>
+    </message>
+    <message>
+        <source>Align middles across</source>
+        <translation>가로 가운데 맞춤</translation>
+    </message>
+    <message>
+        <source>Align right edges</source>
+        <translation>오른쪽 맞춤</translation>
+    </message>
+    <message>
+        <source>Space evenly across</source>
+        <translation>가로 간격 균등</translation>
+    </message>
+    <message>
+        <source>Align upper edges</source>
+        <translation>위쪽 맞춤</translation>
+    </message>
+    <message>
+        <source>Align middles along</source>
+        <translation>세로 가운데 맞춤</translation>
+    </message>
+    <message>
+        <source>Align lower edges</source>
+        <translation>아래쪽 맞춤</translation>
+    </message>
+    <message>
+        <source>Space evenly along</source>
+        <translation>세로 간격 균등</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+</context>
+<context>
     <name>FieldText</name>
     <message>
         <source>%1 is outside of %2 to %3%4.</source>
@@ -369,6 +503,121 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>MoveToDialog</name>
+    <message>
+        <source>Position of the flange</source>
+        <translation>플랜지 위치</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>목표</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>현재</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>축</translation>
+    </message>
+    <message>
+        <source>Straight</source>
+        <translation>직선</translation>
+    </message>
+    <message>
+        <source>Move on a straight line</source>
+        <translation>직선으로 이동</translation>
+    </message>
+    <message>
+        <source>By joints</source>
+        <translation>축으로</translation>
+    </message>
+    <message>
+        <source>Move joint by joint</source>
+        <translation>축별로 이동</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>속도</translation>
+    </message>
+    <message>
+        <source>State of the move</source>
+        <translation>이동 상태</translation>
+    </message>
+    <message>
+        <source>Share of the way</source>
+        <translation>이동한 비율</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Hold to move</source>
+        <translation>누르고 있으면 이동</translation>
+    </message>
+    <message>
+        <source>Hold to move the robot to the point</source>
+        <translation>누르고 있으면 로봇이 포인트로 이동</translation>
+    </message>
+    <message>
+        <source>Move to the point: %1</source>
+        <translation>포인트로 이동: %1</translation>
+    </message>
+    <message>
+        <source>Move to the point</source>
+        <translation>포인트로 이동</translation>
+    </message>
+    <message>
+        <source>Target %1</source>
+        <translation>목표 %1</translation>
+    </message>
+    <message>
+        <source>Present %1</source>
+        <translation>현재 %1</translation>
+    </message>
+    <message>
+        <source>No controller. %1</source>
+        <translation>컨트롤러가 없습니다. %1</translation>
+    </message>
+    <message>
+        <source>Nobody has taught this point.</source>
+        <translation>이 포인트는 교시되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Hold the button to move. The way takes %1 s.</source>
+        <translation>버튼을 누르고 있으면 이동합니다. %1 s 걸립니다.</translation>
+    </message>
+    <message>
+        <source>Hold the button to move.</source>
+        <translation>버튼을 누르고 있으면 이동합니다.</translation>
+    </message>
+    <message>
+        <source>The controller refuses the move: %1.</source>
+        <translation>컨트롤러가 이동을 거부했습니다: %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for the controller.</source>
+        <translation>컨트롤러를 기다리는 중입니다.</translation>
+    </message>
+    <message>
+        <source>The robot moves. Let go to stop it.</source>
+        <translation>로봇이 움직입니다. 놓으면 멈춥니다.</translation>
+    </message>
+    <message>
+        <source>The robot is stopping.</source>
+        <translation>로봇이 멈추는 중입니다.</translation>
+    </message>
+    <message>
+        <source>Stopped before the point.</source>
+        <translation>포인트 앞에서 멈췄습니다.</translation>
+    </message>
+    <message>
+        <source>Arrived.</source>
+        <translation>도착했습니다.</translation>
+    </message>
+</context>
+<context>
     <name>NameDialog</name>
     <message>
         <source>Name</source>
@@ -389,6 +638,113 @@ mm</translation>
     <message>
         <source>OK</source>
         <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>OrderTools</name>
+    <message>
+        <source>Begin at</source>
+        <translation>시작 위치</translation>
+    </message>
+    <message>
+        <source>Corner at which the order begins</source>
+        <translation>순서가 시작되는 모서리</translation>
+    </message>
+    <message>
+        <source>By rows</source>
+        <translation>행 순서</translation>
+    </message>
+    <message>
+        <source>Number row by row from the corner</source>
+        <translation>모서리부터 행별로 번호 매기기</translation>
+    </message>
+    <message>
+        <source>By columns</source>
+        <translation>열 순서</translation>
+    </message>
+    <message>
+        <source>Number column by column from the corner</source>
+        <translation>모서리부터 열별로 번호 매기기</translation>
+    </message>
+    <message>
+        <source>Outward</source>
+        <translation>바깥쪽으로</translation>
+    </message>
+    <message>
+        <source>Number outward from the corner</source>
+        <translation>모서리에서 바깥쪽으로 번호 매기기</translation>
+    </message>
+    <message>
+        <source>By tapping</source>
+        <translation>눌러서</translation>
+    </message>
+    <message>
+        <source>Number the products as they are tapped</source>
+        <translation>누른 순서로 번호 매기기</translation>
+    </message>
+    <message>
+        <source>Place the product earlier</source>
+        <translation>제품을 앞으로 이동</translation>
+    </message>
+    <message>
+        <source>Place the product later</source>
+        <translation>제품을 뒤로 이동</translation>
+    </message>
+    <message>
+        <source>Propose sides</source>
+        <translation>방향 제안</translation>
+    </message>
+    <message>
+        <source>Let products come from their open sides</source>
+        <translation>제품을 열린 쪽에서 들여오기</translation>
+    </message>
+    <message>
+        <source>Blocked ways</source>
+        <translation>막힌 경로</translation>
+    </message>
+    <message>
+        <source>Show the ways of products that hit others</source>
+        <translation>다른 제품에 부딪히는 경로 표시</translation>
+    </message>
+    <message>
+        <source>Back to the product placed before</source>
+        <translation>이전에 놓는 제품으로</translation>
+    </message>
+    <message>
+        <source>Product that is being placed</source>
+        <translation>놓는 중인 제품</translation>
+    </message>
+    <message>
+        <source>On to the product placed next</source>
+        <translation>다음에 놓는 제품으로</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>왼쪽 위</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>오른쪽 위</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>왼쪽 아래</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>오른쪽 아래</translation>
+    </message>
+    <message>
+        <source>Tap product %1 of %2</source>
+        <translation>제품 %1/%2을(를) 누르십시오</translation>
+    </message>
+    <message>
+        <source>Walk through the placing</source>
+        <translation>놓는 순서 따라가기</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1/%2: %3</translation>
     </message>
 </context>
 <context>
@@ -556,7 +912,7 @@ mm</translation>
     </message>
     <message>
         <source>What is wrong with the pattern</source>
-        <translation>패턴의 문제점</translation>
+        <translation type="vanished">패턴의 문제점</translation>
     </message>
     <message>
         <source>Products of the pattern</source>
@@ -564,19 +920,19 @@ mm</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation>추가</translation>
+        <translation type="vanished">추가</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>제거</translation>
+        <translation type="vanished">제거</translation>
     </message>
     <message>
         <source>Place the product earlier</source>
-        <translation>제품을 먼저 놓기</translation>
+        <translation type="vanished">제품을 먼저 놓기</translation>
     </message>
     <message>
         <source>Place the product later</source>
-        <translation>제품을 나중에 놓기</translation>
+        <translation type="vanished">제품을 나중에 놓기</translation>
     </message>
     <message>
         <source>Product</source>
@@ -624,7 +980,7 @@ mm</translation>
     </message>
     <message>
         <source>Pattern %1 (in %2 layers)</source>
-        <translation>패턴 %1 (%2개 단)</translation>
+        <translation type="vanished">패턴 %1 (%2개 단)</translation>
     </message>
     <message>
         <source>Product %1</source>
@@ -661,6 +1017,93 @@ mm</translation>
     <message>
         <source>Give every product the size of the recipe&apos;s product</source>
         <translation>모든 제품에 레시피 제품의 크기 적용</translation>
+    </message>
+    <message>
+        <source>Make, rename and delete patterns</source>
+        <translation>패턴 만들기, 이름 변경, 삭제</translation>
+    </message>
+    <message>
+        <source>Products</source>
+        <translation>제품</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>편집</translation>
+    </message>
+    <message>
+        <source>Tools for editing the plan</source>
+        <translation>평면도 편집 도구</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>순서</translation>
+    </message>
+    <message>
+        <source>Order and sides of placing</source>
+        <translation>놓는 순서와 방향</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Check of the pattern</source>
+        <translation>패턴 확인</translation>
+    </message>
+    <message>
+        <source>What is chosen or wrong on the plan</source>
+        <translation>평면도에서 선택되었거나 잘못된 것</translation>
+    </message>
+    <message>
+        <source>Show the plan smaller</source>
+        <translation>평면도 축소</translation>
+    </message>
+    <message>
+        <source>Show the plan larger</source>
+        <translation>평면도 확대</translation>
+    </message>
+    <message>
+        <source>Show the whole plan</source>
+        <translation>평면도 전체 표시</translation>
+    </message>
+    <message>
+        <source>Figures of the pattern</source>
+        <translation>패턴 수치</translation>
+    </message>
+    <message>
+        <source>%1 (in %2 layers)</source>
+        <translation>%1 (%2개 단)</translation>
+    </message>
+    <message>
+        <source>1 product</source>
+        <translation>제품 1개</translation>
+    </message>
+    <message>
+        <source>%1 products</source>
+        <translation>제품 %1개</translation>
+    </message>
+    <message>
+        <source>This recipe has no pattern yet.</source>
+        <translation>이 레시피에는 아직 패턴이 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 products chosen</source>
+        <translation>제품 %1개 선택됨</translation>
+    </message>
+    <message>
+        <source>Check %1</source>
+        <translation>확인 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlanarNestingWizard</name>
+    <message>
+        <source>Patterns</source>
+        <translation>패턴</translation>
+    </message>
+    <message>
+        <source>Products in a layer</source>
+        <translation>단의 제품</translation>
     </message>
 </context>
 <context>
@@ -704,6 +1147,34 @@ mm</translation>
     <message>
         <source>By hand</source>
         <translation>수동</translation>
+    </message>
+    <message>
+        <source>Teach</source>
+        <translation>교시</translation>
+    </message>
+    <message>
+        <source>Teach the point where the robot stands</source>
+        <translation>로봇의 현재 위치를 교시</translation>
+    </message>
+    <message>
+        <source>Move to</source>
+        <translation>이동</translation>
+    </message>
+    <message>
+        <source>Move the robot to the point</source>
+        <translation>로봇을 포인트로 이동</translation>
+    </message>
+    <message>
+        <source>The controller is not connected: where the robot stands is not known.</source>
+        <translation>컨트롤러가 연결되지 않아 로봇의 위치를 알 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The robot is moving. Teach the point when it stands.</source>
+        <translation>로봇이 움직이고 있습니다. 멈춘 뒤에 교시하십시오.</translation>
+    </message>
+    <message>
+        <source>The controller does not tell where the robot stands.</source>
+        <translation>컨트롤러가 로봇의 위치를 알려 주지 않습니다.</translation>
     </message>
 </context>
 <context>
@@ -872,6 +1343,35 @@ mm</translation>
         <source>Points copied: %1</source>
         <translation>복사한 포인트: %1</translation>
     </message>
+    <message>
+        <source>Move to</source>
+        <translation>이동</translation>
+    </message>
+    <message>
+        <source>Move the robot to the chosen point</source>
+        <translation>선택한 포인트로 로봇 이동</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemList</name>
+    <message>
+        <source>Result of the check</source>
+        <translation>확인 결과</translation>
+    </message>
+    <message>
+        <source>What is wrong with the pattern</source>
+        <translation>패턴의 문제</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong with the pattern.</source>
+        <translation>패턴에 문제가 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things are wrong. Touch one to choose its products.</source>
+        <translation>
+            <numerusform>문제가 %n개 있습니다. 하나를 누르면 해당 제품이 선택됩니다.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ProblemText</name>
@@ -890,6 +1390,38 @@ mm</translation>
     <message>
         <source>Product %1 was stored with a value that cannot be used.</source>
         <translation>제품 %1에 사용할 수 없는 값이 저장되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>Products %1 and %2 lie in the same place.</source>
+        <translation>제품 %1과(와) %2이(가) 같은 자리에 있습니다.</translation>
+    </message>
+    <message>
+        <source>Product %1 hits product %2 on its way in, by %3 mm.</source>
+        <translation>제품 %1이(가) 들어오는 길에 제품 %2에 %3 mm 부딪힙니다.</translation>
+    </message>
+    <message>
+        <source>Products %1 and %2 are %3 mm apart, less than %4 mm.</source>
+        <translation>제품 %1과(와) %2의 간격이 %3 mm로 %4 mm보다 작습니다.</translation>
+    </message>
+    <message>
+        <source>Product %1 has the unknown direction &quot;%2&quot;: it comes from above.</source>
+        <translation>제품 %1의 방향 &quot;%2&quot;을(를) 알 수 없어 위에서 들어옵니다.</translation>
+    </message>
+    <message>
+        <source>The numbers of %1 products do not follow the order of placing.</source>
+        <translation>제품 %1개의 번호가 놓는 순서와 다릅니다.</translation>
+    </message>
+    <message>
+        <source>Product %1 reaches %2 mm into the margin.</source>
+        <translation>제품 %1이(가) 여백을 %2 mm 침범합니다.</translation>
+    </message>
+    <message>
+        <source>There are %1 products; the controller takes at most %2 in a pattern.</source>
+        <translation>제품이 %1개입니다. 컨트롤러는 패턴마다 최대 %2개를 받습니다.</translation>
+    </message>
+    <message>
+        <source>Only the first %1 products are shown.</source>
+        <translation>처음 %1개의 제품만 표시됩니다.</translation>
     </message>
 </context>
 <context>
@@ -960,6 +1492,13 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>RecipeEditing</name>
+    <message>
+        <source>The margins left no room for a product and were set to 0.</source>
+        <translation>여백 때문에 제품이 들어가지 않아 0으로 설정했습니다.</translation>
+    </message>
+</context>
+<context>
     <name>RecipeFrame</name>
     <message numerus="yes">
         <source>%n more</source>
@@ -1020,6 +1559,65 @@ Pallet: %4</source>
     <message>
         <source>Weight: %1 kg (load %2 kg)</source>
         <translation>무게: %1 kg (적재물 %2 kg)</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeWizard</name>
+    <message>
+        <source>Recipe</source>
+        <translation>레시피</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>페이지</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Undo the last edit</source>
+        <translation>마지막 편집 실행 취소</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>다시 실행</translation>
+    </message>
+    <message>
+        <source>Redo the undone edit</source>
+        <translation>취소한 편집 다시 실행</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Cancel and take the edits back</source>
+        <translation>취소하고 편집 되돌리기</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>Back to the page before</source>
+        <translation>이전 페이지로</translation>
+    </message>
+    <message>
+        <source>Take back all edits?</source>
+        <translation>모든 편집을 되돌리시겠습니까?</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1/%2: %3</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>다음</translation>
     </message>
 </context>
 <context>
@@ -1174,6 +1772,29 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>StackFrame</name>
+    <message>
+        <source>Layer of the plan</source>
+        <translation>평면도의 단</translation>
+    </message>
+    <message>
+        <source>Plan of the layer</source>
+        <translation>단의 평면도</translation>
+    </message>
+    <message>
+        <source>What is wrong with the layers</source>
+        <translation>단의 문제</translation>
+    </message>
+    <message>
+        <source>Totals of the recipe</source>
+        <translation>레시피 합계</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>%1단</translation>
+    </message>
+</context>
+<context>
     <name>StackHomePage</name>
     <message>
         <source>Recipes</source>
@@ -1270,6 +1891,65 @@ Pallet: %4</source>
     <message>
         <source>The recipe cannot be made: the list of recipes is missing.</source>
         <translation>레시피를 만들 수 없습니다: 레시피 목록이 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>StackPanel</name>
+    <message>
+        <source>The stack from above a corner; drag to turn it</source>
+        <translation>모서리 위에서 본 적재; 끌어서 돌립니다</translation>
+    </message>
+    <message>
+        <source>Turn the stack anticlockwise</source>
+        <translation>적재를 반시계 방향으로 회전</translation>
+    </message>
+    <message>
+        <source>Turn the stack clockwise</source>
+        <translation>적재를 시계 방향으로 회전</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>확대</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>축소</translation>
+    </message>
+    <message>
+        <source>What is laid</source>
+        <translation>놓인 것</translation>
+    </message>
+    <message>
+        <source>Take the last layer off</source>
+        <translation>마지막 단 내리기</translation>
+    </message>
+    <message>
+        <source>Take the last box off</source>
+        <translation>마지막 박스 내리기</translation>
+    </message>
+    <message>
+        <source>How much is laid</source>
+        <translation>놓인 양</translation>
+    </message>
+    <message>
+        <source>Lay the next box</source>
+        <translation>다음 박스 놓기</translation>
+    </message>
+    <message>
+        <source>Lay the next layer</source>
+        <translation>다음 단 놓기</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>%1: layer %2, sheet</source>
+        <translation>%1: %2단, 간지</translation>
+    </message>
+    <message>
+        <source>%1: layer %2, box %3</source>
+        <translation>%1: %2단, 박스 %3</translation>
     </message>
 </context>
 <context>
@@ -1371,7 +2051,38 @@ Pallet: %4</source>
     </message>
     <message>
         <source>The margins left no room for a product and were set to 0.</source>
-        <translation>여백 때문에 제품을 놓을 공간이 없어 0으로 설정했습니다.</translation>
+        <translation type="vanished">여백 때문에 제품을 놓을 공간이 없어 0으로 설정했습니다.</translation>
+    </message>
+    <message>
+        <source>Wizard</source>
+        <translation>마법사</translation>
+    </message>
+    <message>
+        <source>Go through a part of the recipe page by page</source>
+        <translation>레시피의 일부를 페이지별로 진행</translation>
+    </message>
+</context>
+<context>
+    <name>StatusText</name>
+    <message>
+        <source>Moved by x %1, y %2 mm</source>
+        <translation>이동 x %1, y %2 mm</translation>
+    </message>
+    <message>
+        <source>No product chosen</source>
+        <translation>선택한 제품 없음</translation>
+    </message>
+    <message>
+        <source>%1 products, %2 x %3 mm</source>
+        <translation>제품 %1개, %2 x %3 mm</translation>
+    </message>
+    <message>
+        <source>Product %1: x %2, y %3 mm, %4°</source>
+        <translation>제품 %1: x %2, y %3 mm, %4°</translation>
+    </message>
+    <message>
+        <source>(1 of %1) %2</source>
+        <translation>(1/%1) %2</translation>
     </message>
 </context>
 <context>
@@ -1572,6 +2283,13 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>palx::HeldMove</name>
+    <message>
+        <source>The move could not be sent to the controller.</source>
+        <translation>이동을 컨트롤러로 보내지 못했습니다.</translation>
+    </message>
+</context>
+<context>
     <name>palx::JogLabels</name>
     <message>
         <source>J1(%1)</source>
@@ -1612,6 +2330,120 @@ Pallet: %4</source>
     <message>
         <source>C(%1)</source>
         <translation>C(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>palx::PatternEditing</name>
+    <message>
+        <source>Choose at least three products to space them evenly.</source>
+        <translation>균등 간격을 위해 제품을 3개 이상 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>A pattern holds at most %1 products; there would be %2.</source>
+        <translation>패턴에는 제품이 최대 %1개입니다. %2개가 됩니다.</translation>
+    </message>
+</context>
+<context>
+    <name>palx::ProjectText</name>
+    <message>
+        <source>The robot is not known yet: connect the controller first</source>
+        <translation>로봇을 아직 알 수 없습니다. 먼저 컨트롤러를 연결하십시오</translation>
+    </message>
+    <message>
+        <source>Cannot create path: %1</source>
+        <translation>경로를 만들 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>Remove folder %1 failed</source>
+        <translation>폴더 %1 삭제 실패</translation>
+    </message>
+    <message>
+        <source>Try to add invalid project name</source>
+        <translation>프로젝트 이름이 올바르지 않습니다</translation>
+    </message>
+    <message>
+        <source>Project already exists</source>
+        <translation>프로젝트가 이미 있습니다</translation>
+    </message>
+    <message>
+        <source>Are you sure to create and switch to new project: %1?</source>
+        <translation>새 프로젝트를 만들고 전환하시겠습니까: %1?</translation>
+    </message>
+    <message>
+        <source>Failed to clone project from: %1</source>
+        <translation>프로젝트 복제 실패: %1</translation>
+    </message>
+    <message>
+        <source>Cannot rename to an existing project</source>
+        <translation>기존 프로젝트의 이름으로 바꿀 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Are you sure to update and switch to project %1?</source>
+        <translation>프로젝트 %1을(를) 갱신하고 전환하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Cannot remove empty project</source>
+        <translation>빈 프로젝트는 삭제할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Are you sure to delete project %1?</source>
+        <translation>프로젝트 %1을(를) 삭제하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Project %1 removed</source>
+        <translation>프로젝트 %1이(가) 삭제되었습니다</translation>
+    </message>
+    <message>
+        <source>Empty project</source>
+        <translation>빈 프로젝트</translation>
+    </message>
+    <message>
+        <source>Are you sure to switch to project %1?</source>
+        <translation>프로젝트 %1(으)로 전환하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Reload project %1</source>
+        <translation>프로젝트 %1 다시 불러오기</translation>
+    </message>
+    <message>
+        <source>The controller did not take the start-up project</source>
+        <translation>컨트롤러가 시작 프로젝트를 받지 않았습니다</translation>
+    </message>
+    <message>
+        <source>Auto load project is set to null!</source>
+        <translation>자동 로드 프로젝트를 비웠습니다!</translation>
+    </message>
+    <message>
+        <source>Set %1 to auto load project success!</source>
+        <translation>%1을(를) 자동 로드 프로젝트로 설정했습니다!</translation>
+    </message>
+    <message>
+        <source>File %1 already exists!</source>
+        <translation>파일 %1이(가) 이미 있습니다!</translation>
+    </message>
+    <message>
+        <source>Cannot create task folder: %1</source>
+        <translation>작업 폴더를 만들 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read program template: %1</source>
+        <translation>프로그램 템플릿을 읽을 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write to file: %1</source>
+        <translation>파일에 쓸 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>Project Manager</source>
+        <translation>프로젝트 관리</translation>
+    </message>
+    <message>
+        <source>Left side</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Right side</source>
+        <translation>오른쪽</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,140 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>CascadeNestingWizard</name>
+    <message>
+        <source>Layers</source>
+        <translation>Слои</translation>
+    </message>
+    <message>
+        <source>Layer sequence</source>
+        <translation>Последовательность слоёв</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>Штабель</translation>
+    </message>
+</context>
+<context>
+    <name>EditTools</name>
+    <message>
+        <source>Choose all products</source>
+        <translation>Выбрать все изделия</translation>
+    </message>
+    <message>
+        <source>Choose several products by tapping</source>
+        <translation>Выбирать несколько изделий касанием</translation>
+    </message>
+    <message>
+        <source>Move the plan with a finger</source>
+        <translation>Двигать план пальцем</translation>
+    </message>
+    <message>
+        <source>Snap to edges and neighbours</source>
+        <translation>Привязка к краям и соседям</translation>
+    </message>
+    <message>
+        <source>Add a product</source>
+        <translation>Добавить изделие</translation>
+    </message>
+    <message>
+        <source>Copy the chosen products</source>
+        <translation>Копировать выбранные изделия</translation>
+    </message>
+    <message>
+        <source>Paste products</source>
+        <translation>Вставить изделия</translation>
+    </message>
+    <message>
+        <source>Remove the chosen products</source>
+        <translation>Удалить выбранные изделия</translation>
+    </message>
+    <message>
+        <source>Turn by 90 degrees to the left</source>
+        <translation>Повернуть на 90° влево</translation>
+    </message>
+    <message>
+        <source>Turn by 90 degrees to the right</source>
+        <translation>Повернуть на 90° вправо</translation>
+    </message>
+    <message>
+        <source>Move left</source>
+        <translation>Сдвинуть влево</translation>
+    </message>
+    <message>
+        <source>Move right</source>
+        <translation>Сдвинуть вправо</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Сдвинуть вверх</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Сдвинуть вниз</translation>
+    </message>
+    <message>
+        <source>Step of moving</source>
+        <translation>Шаг сдвига</translation>
+    </message>
+    <message>
+        <source>Mirror the pattern, left and right</source>
+        <translation>Отразить схему слева направо</translation>
+    </message>
+    <message>
+        <source>Mirror the pattern, top and bottom</source>
+        <translation>Отразить схему сверху вниз</translation>
+    </message>
+    <message>
+        <source>Turn the whole pattern by 180 degrees</source>
+        <translation>Повернуть всю схему на 180°</translation>
+    </message>
+    <message>
+        <source>Angle to turn by</source>
+        <translation>Угол поворота</translation>
+    </message>
+    <message>
+        <source>Turn by the angle beside</source>
+        <translation>Повернуть на угол рядом</translation>
+    </message>
+    <message>
+        <source>Align left edges</source>
+        <translation>Выровнять по левым краям</translation>
+    </message>
+    <message>
+        <source>Align middles across</source>
+        <translation>Выровнять середины поперёк</translation>
+    </message>
+    <message>
+        <source>Align right edges</source>
+        <translation>Выровнять по правым краям</translation>
+    </message>
+    <message>
+        <source>Space evenly across</source>
+        <translation>Распределить поперёк</translation>
+    </message>
+    <message>
+        <source>Align upper edges</source>
+        <translation>Выровнять по верхним краям</translation>
+    </message>
+    <message>
+        <source>Align middles along</source>
+        <translation>Выровнять середины вдоль</translation>
+    </message>
+    <message>
+        <source>Align lower edges</source>
+        <translation>Выровнять по нижним краям</translation>
+    </message>
+    <message>
+        <source>Space evenly along</source>
+        <translation>Распределить вдоль</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+</context>
+<context>
     <name>FieldText</name>
     <message>
         <source>%1 is outside of %2 to %3%4.</source>
@@ -369,6 +503,121 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>MoveToDialog</name>
+    <message>
+        <source>Position of the flange</source>
+        <translation>Положение фланца</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>Цель</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>Сейчас</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>Оси</translation>
+    </message>
+    <message>
+        <source>Straight</source>
+        <translation>По прямой</translation>
+    </message>
+    <message>
+        <source>Move on a straight line</source>
+        <translation>Двигаться по прямой</translation>
+    </message>
+    <message>
+        <source>By joints</source>
+        <translation>По осям</translation>
+    </message>
+    <message>
+        <source>Move joint by joint</source>
+        <translation>Двигаться по осям</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>State of the move</source>
+        <translation>Состояние движения</translation>
+    </message>
+    <message>
+        <source>Share of the way</source>
+        <translation>Пройденная часть пути</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Hold to move</source>
+        <translation>Удерживать для движения</translation>
+    </message>
+    <message>
+        <source>Hold to move the robot to the point</source>
+        <translation>Удерживать для движения робота к точке</translation>
+    </message>
+    <message>
+        <source>Move to the point: %1</source>
+        <translation>Движение к точке: %1</translation>
+    </message>
+    <message>
+        <source>Move to the point</source>
+        <translation>Движение к точке</translation>
+    </message>
+    <message>
+        <source>Target %1</source>
+        <translation>Цель: %1</translation>
+    </message>
+    <message>
+        <source>Present %1</source>
+        <translation>Сейчас: %1</translation>
+    </message>
+    <message>
+        <source>No controller. %1</source>
+        <translation>Нет контроллера. %1</translation>
+    </message>
+    <message>
+        <source>Nobody has taught this point.</source>
+        <translation>Эта точка не обучена.</translation>
+    </message>
+    <message>
+        <source>Hold the button to move. The way takes %1 s.</source>
+        <translation>Удерживайте кнопку. Путь займёт %1 s.</translation>
+    </message>
+    <message>
+        <source>Hold the button to move.</source>
+        <translation>Удерживайте кнопку для движения.</translation>
+    </message>
+    <message>
+        <source>The controller refuses the move: %1.</source>
+        <translation>Контроллер отклоняет движение: %1.</translation>
+    </message>
+    <message>
+        <source>Waiting for the controller.</source>
+        <translation>Ожидание контроллера.</translation>
+    </message>
+    <message>
+        <source>The robot moves. Let go to stop it.</source>
+        <translation>Робот движется. Отпустите, чтобы остановить.</translation>
+    </message>
+    <message>
+        <source>The robot is stopping.</source>
+        <translation>Робот останавливается.</translation>
+    </message>
+    <message>
+        <source>Stopped before the point.</source>
+        <translation>Остановлен, не дойдя до точки.</translation>
+    </message>
+    <message>
+        <source>Arrived.</source>
+        <translation>Точка достигнута.</translation>
+    </message>
+</context>
+<context>
     <name>NameDialog</name>
     <message>
         <source>Name</source>
@@ -389,6 +638,113 @@ mm</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OrderTools</name>
+    <message>
+        <source>Begin at</source>
+        <translation>Начать с</translation>
+    </message>
+    <message>
+        <source>Corner at which the order begins</source>
+        <translation>Угол, с которого начинается порядок</translation>
+    </message>
+    <message>
+        <source>By rows</source>
+        <translation>По рядам</translation>
+    </message>
+    <message>
+        <source>Number row by row from the corner</source>
+        <translation>Нумеровать по рядам от угла</translation>
+    </message>
+    <message>
+        <source>By columns</source>
+        <translation>По столбцам</translation>
+    </message>
+    <message>
+        <source>Number column by column from the corner</source>
+        <translation>Нумеровать по столбцам от угла</translation>
+    </message>
+    <message>
+        <source>Outward</source>
+        <translation>Наружу</translation>
+    </message>
+    <message>
+        <source>Number outward from the corner</source>
+        <translation>Нумеровать от угла наружу</translation>
+    </message>
+    <message>
+        <source>By tapping</source>
+        <translation>Касанием</translation>
+    </message>
+    <message>
+        <source>Number the products as they are tapped</source>
+        <translation>Нумеровать изделия в порядке касания</translation>
+    </message>
+    <message>
+        <source>Place the product earlier</source>
+        <translation>Уложить изделие раньше</translation>
+    </message>
+    <message>
+        <source>Place the product later</source>
+        <translation>Уложить изделие позже</translation>
+    </message>
+    <message>
+        <source>Propose sides</source>
+        <translation>Предложить стороны</translation>
+    </message>
+    <message>
+        <source>Let products come from their open sides</source>
+        <translation>Подводить изделия с открытых сторон</translation>
+    </message>
+    <message>
+        <source>Blocked ways</source>
+        <translation>Занятые пути</translation>
+    </message>
+    <message>
+        <source>Show the ways of products that hit others</source>
+        <translation>Показать пути изделий, задевающих другие</translation>
+    </message>
+    <message>
+        <source>Back to the product placed before</source>
+        <translation>К предыдущему изделию</translation>
+    </message>
+    <message>
+        <source>Product that is being placed</source>
+        <translation>Укладываемое изделие</translation>
+    </message>
+    <message>
+        <source>On to the product placed next</source>
+        <translation>К следующему изделию</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Верх слева</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Верх справа</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Низ слева</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Низ справа</translation>
+    </message>
+    <message>
+        <source>Tap product %1 of %2</source>
+        <translation>Коснитесь изделия %1 из %2</translation>
+    </message>
+    <message>
+        <source>Walk through the placing</source>
+        <translation>Пройти укладку по шагам</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1 из %2: %3</translation>
     </message>
 </context>
 <context>
@@ -556,7 +912,7 @@ mm</translation>
     </message>
     <message>
         <source>What is wrong with the pattern</source>
-        <translation>Ошибки в схеме</translation>
+        <translation type="vanished">Ошибки в схеме</translation>
     </message>
     <message>
         <source>Products of the pattern</source>
@@ -564,19 +920,19 @@ mm</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation>Добавить</translation>
+        <translation type="vanished">Добавить</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>Убрать</translation>
+        <translation type="vanished">Убрать</translation>
     </message>
     <message>
         <source>Place the product earlier</source>
-        <translation>Уложить изделие раньше</translation>
+        <translation type="vanished">Уложить изделие раньше</translation>
     </message>
     <message>
         <source>Place the product later</source>
-        <translation>Уложить изделие позже</translation>
+        <translation type="vanished">Уложить изделие позже</translation>
     </message>
     <message>
         <source>Product</source>
@@ -624,7 +980,7 @@ mm</translation>
     </message>
     <message>
         <source>Pattern %1 (in %2 layers)</source>
-        <translation>Схема %1 (в слоях: %2)</translation>
+        <translation type="vanished">Схема %1 (в слоях: %2)</translation>
     </message>
     <message>
         <source>Product %1</source>
@@ -661,6 +1017,93 @@ mm</translation>
     <message>
         <source>Give every product the size of the recipe&apos;s product</source>
         <translation>Задать всем изделиям размер изделия рецепта</translation>
+    </message>
+    <message>
+        <source>Make, rename and delete patterns</source>
+        <translation>Создание, переименование и удаление схем</translation>
+    </message>
+    <message>
+        <source>Products</source>
+        <translation>Изделия</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Изменить</translation>
+    </message>
+    <message>
+        <source>Tools for editing the plan</source>
+        <translation>Инструменты правки плана</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Порядок</translation>
+    </message>
+    <message>
+        <source>Order and sides of placing</source>
+        <translation>Порядок и стороны укладки</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Проверка</translation>
+    </message>
+    <message>
+        <source>Check of the pattern</source>
+        <translation>Проверка схемы</translation>
+    </message>
+    <message>
+        <source>What is chosen or wrong on the plan</source>
+        <translation>Что выбрано или неверно на плане</translation>
+    </message>
+    <message>
+        <source>Show the plan smaller</source>
+        <translation>Уменьшить план</translation>
+    </message>
+    <message>
+        <source>Show the plan larger</source>
+        <translation>Увеличить план</translation>
+    </message>
+    <message>
+        <source>Show the whole plan</source>
+        <translation>Показать весь план</translation>
+    </message>
+    <message>
+        <source>Figures of the pattern</source>
+        <translation>Данные схемы</translation>
+    </message>
+    <message>
+        <source>%1 (in %2 layers)</source>
+        <translation>%1 (слоёв: %2)</translation>
+    </message>
+    <message>
+        <source>1 product</source>
+        <translation>1 изделие</translation>
+    </message>
+    <message>
+        <source>%1 products</source>
+        <translation>Изделий: %1</translation>
+    </message>
+    <message>
+        <source>This recipe has no pattern yet.</source>
+        <translation>В этом рецепте ещё нет схем.</translation>
+    </message>
+    <message>
+        <source>%1 products chosen</source>
+        <translation>Выбрано изделий: %1</translation>
+    </message>
+    <message>
+        <source>Check %1</source>
+        <translation>Проверка %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlanarNestingWizard</name>
+    <message>
+        <source>Patterns</source>
+        <translation>Схемы</translation>
+    </message>
+    <message>
+        <source>Products in a layer</source>
+        <translation>Изделия в слое</translation>
     </message>
 </context>
 <context>
@@ -704,6 +1147,34 @@ mm</translation>
     <message>
         <source>By hand</source>
         <translation>Вручную</translation>
+    </message>
+    <message>
+        <source>Teach</source>
+        <translation>Обучить</translation>
+    </message>
+    <message>
+        <source>Teach the point where the robot stands</source>
+        <translation>Обучить точку по положению робота</translation>
+    </message>
+    <message>
+        <source>Move to</source>
+        <translation>Перейти</translation>
+    </message>
+    <message>
+        <source>Move the robot to the point</source>
+        <translation>Переместить робота к точке</translation>
+    </message>
+    <message>
+        <source>The controller is not connected: where the robot stands is not known.</source>
+        <translation>Контроллер не подключён: положение робота неизвестно.</translation>
+    </message>
+    <message>
+        <source>The robot is moving. Teach the point when it stands.</source>
+        <translation>Робот движется. Обучите точку, когда он остановится.</translation>
+    </message>
+    <message>
+        <source>The controller does not tell where the robot stands.</source>
+        <translation>Контроллер не сообщает положение робота.</translation>
     </message>
 </context>
 <context>
@@ -872,6 +1343,37 @@ mm</translation>
         <source>Points copied: %1</source>
         <translation>Скопировано точек: %1</translation>
     </message>
+    <message>
+        <source>Move to</source>
+        <translation>Перейти</translation>
+    </message>
+    <message>
+        <source>Move the robot to the chosen point</source>
+        <translation>Переместить робота к выбранной точке</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemList</name>
+    <message>
+        <source>Result of the check</source>
+        <translation>Результат проверки</translation>
+    </message>
+    <message>
+        <source>What is wrong with the pattern</source>
+        <translation>Что неверно в схеме</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong with the pattern.</source>
+        <translation>Ошибок в схеме нет.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things are wrong. Touch one to choose its products.</source>
+        <translation>
+            <numerusform>Найдена %n ошибка. Коснитесь её, чтобы выбрать изделия.</numerusform>
+            <numerusform>Найдено %n ошибки. Коснитесь одной, чтобы выбрать изделия.</numerusform>
+            <numerusform>Найдено %n ошибок. Коснитесь одной, чтобы выбрать изделия.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ProblemText</name>
@@ -890,6 +1392,38 @@ mm</translation>
     <message>
         <source>Product %1 was stored with a value that cannot be used.</source>
         <translation>Изделие %1 сохранено с недопустимым значением.</translation>
+    </message>
+    <message>
+        <source>Products %1 and %2 lie in the same place.</source>
+        <translation>Изделия %1 и %2 лежат на одном месте.</translation>
+    </message>
+    <message>
+        <source>Product %1 hits product %2 on its way in, by %3 mm.</source>
+        <translation>Изделие %1 по пути задевает изделие %2 на %3 mm.</translation>
+    </message>
+    <message>
+        <source>Products %1 and %2 are %3 mm apart, less than %4 mm.</source>
+        <translation>Между изделиями %1 и %2 только %3 mm, меньше %4 mm.</translation>
+    </message>
+    <message>
+        <source>Product %1 has the unknown direction &quot;%2&quot;: it comes from above.</source>
+        <translation>У изделия %1 неизвестное направление «%2»: оно опускается сверху.</translation>
+    </message>
+    <message>
+        <source>The numbers of %1 products do not follow the order of placing.</source>
+        <translation>Номера изделий не следуют порядку укладки, всего: %1.</translation>
+    </message>
+    <message>
+        <source>Product %1 reaches %2 mm into the margin.</source>
+        <translation>Изделие %1 заходит в отступ на %2 mm.</translation>
+    </message>
+    <message>
+        <source>There are %1 products; the controller takes at most %2 in a pattern.</source>
+        <translation>Изделий: %1; контроллер принимает не более %2 в схеме.</translation>
+    </message>
+    <message>
+        <source>Only the first %1 products are shown.</source>
+        <translation>Показаны только первые изделия: %1.</translation>
     </message>
 </context>
 <context>
@@ -960,6 +1494,13 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>RecipeEditing</name>
+    <message>
+        <source>The margins left no room for a product and were set to 0.</source>
+        <translation>Отступы не оставляли места для изделия и сброшены в 0.</translation>
+    </message>
+</context>
+<context>
     <name>RecipeFrame</name>
     <message numerus="yes">
         <source>%n more</source>
@@ -1022,6 +1563,65 @@ Pallet: %4</source>
     <message>
         <source>Weight: %1 kg (load %2 kg)</source>
         <translation>Масса: %1 kg (груз %2 kg)</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeWizard</name>
+    <message>
+        <source>Recipe</source>
+        <translation>Рецепт</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Страница</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Undo the last edit</source>
+        <translation>Отменить последнюю правку</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Redo the undone edit</source>
+        <translation>Повторить отменённую правку</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Cancel and take the edits back</source>
+        <translation>Отменить и вернуть всё как было</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Back to the page before</source>
+        <translation>К предыдущей странице</translation>
+    </message>
+    <message>
+        <source>Take back all edits?</source>
+        <translation>Отменить все правки?</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1 из %2: %3</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Далее</translation>
     </message>
 </context>
 <context>
@@ -1176,6 +1776,29 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>StackFrame</name>
+    <message>
+        <source>Layer of the plan</source>
+        <translation>Слой плана</translation>
+    </message>
+    <message>
+        <source>Plan of the layer</source>
+        <translation>План слоя</translation>
+    </message>
+    <message>
+        <source>What is wrong with the layers</source>
+        <translation>Что неверно в слоях</translation>
+    </message>
+    <message>
+        <source>Totals of the recipe</source>
+        <translation>Итоги рецепта</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Слой %1</translation>
+    </message>
+</context>
+<context>
     <name>StackHomePage</name>
     <message>
         <source>Recipes</source>
@@ -1272,6 +1895,65 @@ Pallet: %4</source>
     <message>
         <source>The recipe cannot be made: the list of recipes is missing.</source>
         <translation>Рецепт создать нельзя: нет списка рецептов.</translation>
+    </message>
+</context>
+<context>
+    <name>StackPanel</name>
+    <message>
+        <source>The stack from above a corner; drag to turn it</source>
+        <translation>Штабель под углом сверху; тяните, чтобы повернуть</translation>
+    </message>
+    <message>
+        <source>Turn the stack anticlockwise</source>
+        <translation>Повернуть штабель против часовой стрелки</translation>
+    </message>
+    <message>
+        <source>Turn the stack clockwise</source>
+        <translation>Повернуть штабель по часовой стрелке</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Крупнее</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Мельче</translation>
+    </message>
+    <message>
+        <source>What is laid</source>
+        <translation>Что уложено</translation>
+    </message>
+    <message>
+        <source>Take the last layer off</source>
+        <translation>Снять последний слой</translation>
+    </message>
+    <message>
+        <source>Take the last box off</source>
+        <translation>Снять последнюю коробку</translation>
+    </message>
+    <message>
+        <source>How much is laid</source>
+        <translation>Сколько уложено</translation>
+    </message>
+    <message>
+        <source>Lay the next box</source>
+        <translation>Уложить следующую коробку</translation>
+    </message>
+    <message>
+        <source>Lay the next layer</source>
+        <translation>Уложить следующий слой</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
+        <source>%1: layer %2, sheet</source>
+        <translation>%1: слой %2, прокладка</translation>
+    </message>
+    <message>
+        <source>%1: layer %2, box %3</source>
+        <translation>%1: слой %2, коробка %3</translation>
     </message>
 </context>
 <context>
@@ -1373,7 +2055,38 @@ Pallet: %4</source>
     </message>
     <message>
         <source>The margins left no room for a product and were set to 0.</source>
-        <translation>Отступы не оставляли места для изделия и сброшены в 0.</translation>
+        <translation type="vanished">Отступы не оставляли места для изделия и сброшены в 0.</translation>
+    </message>
+    <message>
+        <source>Wizard</source>
+        <translation>Мастер</translation>
+    </message>
+    <message>
+        <source>Go through a part of the recipe page by page</source>
+        <translation>Пройти часть рецепта по страницам</translation>
+    </message>
+</context>
+<context>
+    <name>StatusText</name>
+    <message>
+        <source>Moved by x %1, y %2 mm</source>
+        <translation>Сдвиг x %1, y %2 mm</translation>
+    </message>
+    <message>
+        <source>No product chosen</source>
+        <translation>Изделие не выбрано</translation>
+    </message>
+    <message>
+        <source>%1 products, %2 x %3 mm</source>
+        <translation>Изделий: %1, %2 x %3 mm</translation>
+    </message>
+    <message>
+        <source>Product %1: x %2, y %3 mm, %4°</source>
+        <translation>Изделие %1: x %2, y %3 mm, %4°</translation>
+    </message>
+    <message>
+        <source>(1 of %1) %2</source>
+        <translation>(1 из %1) %2</translation>
     </message>
 </context>
 <context>
@@ -1574,6 +2287,13 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>palx::HeldMove</name>
+    <message>
+        <source>The move could not be sent to the controller.</source>
+        <translation>Не удалось передать движение контроллеру.</translation>
+    </message>
+</context>
+<context>
     <name>palx::JogLabels</name>
     <message>
         <source>J1(%1)</source>
@@ -1614,6 +2334,120 @@ Pallet: %4</source>
     <message>
         <source>C(%1)</source>
         <translation>C(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>palx::PatternEditing</name>
+    <message>
+        <source>Choose at least three products to space them evenly.</source>
+        <translation>Для равного распределения выберите не менее трёх изделий.</translation>
+    </message>
+    <message>
+        <source>A pattern holds at most %1 products; there would be %2.</source>
+        <translation>В схеме не более %1 изделий; получилось бы %2.</translation>
+    </message>
+</context>
+<context>
+    <name>palx::ProjectText</name>
+    <message>
+        <source>The robot is not known yet: connect the controller first</source>
+        <translation>Робот ещё не известен: сначала подключите контроллер</translation>
+    </message>
+    <message>
+        <source>Cannot create path: %1</source>
+        <translation>Не удаётся создать путь: %1</translation>
+    </message>
+    <message>
+        <source>Remove folder %1 failed</source>
+        <translation>Не удалось удалить папку %1</translation>
+    </message>
+    <message>
+        <source>Try to add invalid project name</source>
+        <translation>Недопустимое имя проекта</translation>
+    </message>
+    <message>
+        <source>Project already exists</source>
+        <translation>Проект уже существует</translation>
+    </message>
+    <message>
+        <source>Are you sure to create and switch to new project: %1?</source>
+        <translation>Создать новый проект и перейти к нему: %1?</translation>
+    </message>
+    <message>
+        <source>Failed to clone project from: %1</source>
+        <translation>Не удалось скопировать проект: %1</translation>
+    </message>
+    <message>
+        <source>Cannot rename to an existing project</source>
+        <translation>Нельзя дать имя существующего проекта</translation>
+    </message>
+    <message>
+        <source>Are you sure to update and switch to project %1?</source>
+        <translation>Обновить проект %1 и перейти к нему?</translation>
+    </message>
+    <message>
+        <source>Cannot remove empty project</source>
+        <translation>Нельзя удалить пустой проект</translation>
+    </message>
+    <message>
+        <source>Are you sure to delete project %1?</source>
+        <translation>Удалить проект %1?</translation>
+    </message>
+    <message>
+        <source>Project %1 removed</source>
+        <translation>Проект %1 удалён</translation>
+    </message>
+    <message>
+        <source>Empty project</source>
+        <translation>Пустой проект</translation>
+    </message>
+    <message>
+        <source>Are you sure to switch to project %1?</source>
+        <translation>Перейти к проекту %1?</translation>
+    </message>
+    <message>
+        <source>Reload project %1</source>
+        <translation>Загрузить проект %1 заново</translation>
+    </message>
+    <message>
+        <source>The controller did not take the start-up project</source>
+        <translation>Контроллер не принял проект для запуска</translation>
+    </message>
+    <message>
+        <source>Auto load project is set to null!</source>
+        <translation>Проект автозагрузки сброшен!</translation>
+    </message>
+    <message>
+        <source>Set %1 to auto load project success!</source>
+        <translation>Проект %1 назначен для автозагрузки!</translation>
+    </message>
+    <message>
+        <source>File %1 already exists!</source>
+        <translation>Файл %1 уже существует!</translation>
+    </message>
+    <message>
+        <source>Cannot create task folder: %1</source>
+        <translation>Не удаётся создать папку задачи: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read program template: %1</source>
+        <translation>Не удаётся прочитать шаблон программы: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write to file: %1</source>
+        <translation>Не удаётся записать файл: %1</translation>
+    </message>
+    <message>
+        <source>Project Manager</source>
+        <translation>Менеджер проектов</translation>
+    </message>
+    <message>
+        <source>Left side</source>
+        <translation>Левая сторона</translation>
+    </message>
+    <message>
+        <source>Right side</source>
+        <translation>Правая сторона</translation>
     </message>
 </context>
 </TS>
