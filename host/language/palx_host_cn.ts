@@ -281,10 +281,6 @@
         <translation>另一个控制器正在使用文件夹“%1”</translation>
     </message>
     <message>
-        <source>the folder &quot;%1&quot; cannot be written</source>
-        <translation type="vanished">无法写入文件夹“%1”</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is damaged (%2) and was set aside as &quot;%3&quot;</source>
         <translation>“%1”已损坏（%2），已另存为“%3”</translation>
     </message>
@@ -323,10 +319,6 @@
     <message>
         <source>there is no event &quot;%1&quot;</source>
         <translation>没有事件“%1”</translation>
-    </message>
-    <message>
-        <source>The project %1 cannot be built: there is no folder &quot;%2&quot;</source>
-        <translation type="vanished">无法构建工程 %1：没有文件夹“%2”</translation>
     </message>
     <message>
         <source>stopped: the link to the panel is lost</source>
@@ -482,10 +474,6 @@
     <message>
         <source>This panel has no link to a controller.</source>
         <translation>本面板没有与控制器的连接。</translation>
-    </message>
-    <message>
-        <source>The controller did not answer.</source>
-        <translation type="vanished">控制器未应答。</translation>
     </message>
     <message>
         <source>The controller did not carry out &quot;%1&quot;: %2</source>
@@ -1173,13 +1161,6 @@
     <message>
         <source>Navigator</source>
         <translation>导航</translation>
-    </message>
-</context>
-<context>
-    <name>panel::NoticePage</name>
-    <message>
-        <source>Log</source>
-        <translation type="vanished">日志</translation>
     </message>
 </context>
 <context>

@@ -281,10 +281,6 @@
         <translation>別のコントローラがフォルダ「%1」を使用しています</translation>
     </message>
     <message>
-        <source>the folder &quot;%1&quot; cannot be written</source>
-        <translation type="vanished">フォルダ「%1」に書き込めません</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is damaged (%2) and was set aside as &quot;%3&quot;</source>
         <translation>「%1」は壊れている（%2）ため、「%3」として退避しました</translation>
     </message>
@@ -323,10 +319,6 @@
     <message>
         <source>there is no event &quot;%1&quot;</source>
         <translation>イベント「%1」がありません</translation>
-    </message>
-    <message>
-        <source>The project %1 cannot be built: there is no folder &quot;%2&quot;</source>
-        <translation type="vanished">プロジェクト %1 をビルドできません: フォルダ「%2」がありません</translation>
     </message>
     <message>
         <source>stopped: the link to the panel is lost</source>
@@ -482,10 +474,6 @@
     <message>
         <source>This panel has no link to a controller.</source>
         <translation>このパネルはコントローラに接続されていません。</translation>
-    </message>
-    <message>
-        <source>The controller did not answer.</source>
-        <translation type="vanished">コントローラが応答しませんでした。</translation>
     </message>
     <message>
         <source>The controller did not carry out &quot;%1&quot;: %2</source>
@@ -1173,13 +1161,6 @@
     <message>
         <source>Navigator</source>
         <translation>ナビゲータ</translation>
-    </message>
-</context>
-<context>
-    <name>panel::NoticePage</name>
-    <message>
-        <source>Log</source>
-        <translation type="vanished">ログ</translation>
     </message>
 </context>
 <context>

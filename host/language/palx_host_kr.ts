@@ -281,10 +281,6 @@
         <translation>다른 컨트롤러가 폴더 &quot;%1&quot;을(를) 사용하고 있습니다</translation>
     </message>
     <message>
-        <source>the folder &quot;%1&quot; cannot be written</source>
-        <translation type="vanished">폴더 &quot;%1&quot;에 쓸 수 없습니다</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is damaged (%2) and was set aside as &quot;%3&quot;</source>
         <translation>&quot;%1&quot;이(가) 손상되어(%2) &quot;%3&quot;(으)로 따로 보관했습니다</translation>
     </message>
@@ -323,10 +319,6 @@
     <message>
         <source>there is no event &quot;%1&quot;</source>
         <translation>이벤트 &quot;%1&quot;이(가) 없습니다</translation>
-    </message>
-    <message>
-        <source>The project %1 cannot be built: there is no folder &quot;%2&quot;</source>
-        <translation type="vanished">프로젝트 %1을(를) 빌드할 수 없습니다: 폴더 &quot;%2&quot;이(가) 없습니다</translation>
     </message>
     <message>
         <source>stopped: the link to the panel is lost</source>
@@ -482,10 +474,6 @@
     <message>
         <source>This panel has no link to a controller.</source>
         <translation>이 패널은 컨트롤러와 연결되어 있지 않습니다.</translation>
-    </message>
-    <message>
-        <source>The controller did not answer.</source>
-        <translation type="vanished">컨트롤러가 응답하지 않았습니다.</translation>
     </message>
     <message>
         <source>The controller did not carry out &quot;%1&quot;: %2</source>
@@ -1173,13 +1161,6 @@
     <message>
         <source>Navigator</source>
         <translation>탐색기</translation>
-    </message>
-</context>
-<context>
-    <name>panel::NoticePage</name>
-    <message>
-        <source>Log</source>
-        <translation type="vanished">로그</translation>
     </message>
 </context>
 <context>

@@ -281,10 +281,6 @@
         <translation>папку «%1» использует другой контроллер</translation>
     </message>
     <message>
-        <source>the folder &quot;%1&quot; cannot be written</source>
-        <translation type="vanished">в папку «%1» нельзя писать</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is damaged (%2) and was set aside as &quot;%3&quot;</source>
         <translation>«%1» повреждён (%2) и отложен как «%3»</translation>
     </message>
@@ -323,10 +319,6 @@
     <message>
         <source>there is no event &quot;%1&quot;</source>
         <translation>события «%1» нет</translation>
-    </message>
-    <message>
-        <source>The project %1 cannot be built: there is no folder &quot;%2&quot;</source>
-        <translation type="vanished">Проект %1 нельзя собрать: нет папки «%2»</translation>
     </message>
     <message>
         <source>stopped: the link to the panel is lost</source>
@@ -482,10 +474,6 @@
     <message>
         <source>This panel has no link to a controller.</source>
         <translation>У этой панели нет связи с контроллером.</translation>
-    </message>
-    <message>
-        <source>The controller did not answer.</source>
-        <translation type="vanished">Контроллер не ответил.</translation>
     </message>
     <message>
         <source>The controller did not carry out &quot;%1&quot;: %2</source>
@@ -1173,13 +1161,6 @@
     <message>
         <source>Navigator</source>
         <translation>Навигатор</translation>
-    </message>
-</context>
-<context>
-    <name>panel::NoticePage</name>
-    <message>
-        <source>Log</source>
-        <translation type="vanished">Журнал</translation>
     </message>
 </context>
 <context>

@@ -911,28 +911,8 @@ mm</translation>
         <translation>垛型平面图</translation>
     </message>
     <message>
-        <source>What is wrong with the pattern</source>
-        <translation type="vanished">垛型的问题</translation>
-    </message>
-    <message>
         <source>Products of the pattern</source>
         <translation>垛型中的产品</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation type="vanished">添加</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation type="vanished">移除</translation>
-    </message>
-    <message>
-        <source>Place the product earlier</source>
-        <translation type="vanished">将该产品提前放置</translation>
-    </message>
-    <message>
-        <source>Place the product later</source>
-        <translation type="vanished">将该产品推后放置</translation>
     </message>
     <message>
         <source>Product</source>
@@ -977,10 +957,6 @@ mm</translation>
     <message>
         <source>New name for pattern %1</source>
         <translation>垛型 %1 的新名称</translation>
-    </message>
-    <message>
-        <source>Pattern %1 (in %2 layers)</source>
-        <translation type="vanished">垛型 %1（用于 %2 层）</translation>
     </message>
     <message>
         <source>Product %1</source>
@@ -2048,10 +2024,6 @@ Pallet: %4</source>
     <message>
         <source>Points</source>
         <translation>点</translation>
-    </message>
-    <message>
-        <source>The margins left no room for a product and were set to 0.</source>
-        <translation type="vanished">边距没有给产品留出空间，已设为 0。</translation>
     </message>
     <message>
         <source>Wizard</source>

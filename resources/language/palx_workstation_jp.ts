@@ -911,28 +911,8 @@ mm</translation>
         <translation>パターンの平面図</translation>
     </message>
     <message>
-        <source>What is wrong with the pattern</source>
-        <translation type="vanished">パターンの問題点</translation>
-    </message>
-    <message>
         <source>Products of the pattern</source>
         <translation>パターンの製品</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation type="vanished">追加</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation type="vanished">削除</translation>
-    </message>
-    <message>
-        <source>Place the product earlier</source>
-        <translation type="vanished">製品を先に置く</translation>
-    </message>
-    <message>
-        <source>Place the product later</source>
-        <translation type="vanished">製品を後に置く</translation>
     </message>
     <message>
         <source>Product</source>
@@ -977,10 +957,6 @@ mm</translation>
     <message>
         <source>New name for pattern %1</source>
         <translation>パターン %1 の新しい名前</translation>
-    </message>
-    <message>
-        <source>Pattern %1 (in %2 layers)</source>
-        <translation type="vanished">パターン %1（%2 段で使用）</translation>
     </message>
     <message>
         <source>Product %1</source>
@@ -2048,10 +2024,6 @@ Pallet: %4</source>
     <message>
         <source>Points</source>
         <translation>点</translation>
-    </message>
-    <message>
-        <source>The margins left no room for a product and were set to 0.</source>
-        <translation type="vanished">余白のため製品を置く場所がなく、余白を 0 にしました。</translation>
     </message>
     <message>
         <source>Wizard</source>

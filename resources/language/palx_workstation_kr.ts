@@ -911,28 +911,8 @@ mm</translation>
         <translation>패턴 평면도</translation>
     </message>
     <message>
-        <source>What is wrong with the pattern</source>
-        <translation type="vanished">패턴의 문제점</translation>
-    </message>
-    <message>
         <source>Products of the pattern</source>
         <translation>패턴의 제품</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation type="vanished">추가</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation type="vanished">제거</translation>
-    </message>
-    <message>
-        <source>Place the product earlier</source>
-        <translation type="vanished">제품을 먼저 놓기</translation>
-    </message>
-    <message>
-        <source>Place the product later</source>
-        <translation type="vanished">제품을 나중에 놓기</translation>
     </message>
     <message>
         <source>Product</source>
@@ -977,10 +957,6 @@ mm</translation>
     <message>
         <source>New name for pattern %1</source>
         <translation>패턴 %1의 새 이름</translation>
-    </message>
-    <message>
-        <source>Pattern %1 (in %2 layers)</source>
-        <translation type="vanished">패턴 %1 (%2개 단)</translation>
     </message>
     <message>
         <source>Product %1</source>
@@ -2048,10 +2024,6 @@ Pallet: %4</source>
     <message>
         <source>Points</source>
         <translation>포인트</translation>
-    </message>
-    <message>
-        <source>The margins left no room for a product and were set to 0.</source>
-        <translation type="vanished">여백 때문에 제품을 놓을 공간이 없어 0으로 설정했습니다.</translation>
     </message>
     <message>
         <source>Wizard</source>

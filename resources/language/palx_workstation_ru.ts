@@ -911,28 +911,8 @@ mm</translation>
         <translation>План схемы</translation>
     </message>
     <message>
-        <source>What is wrong with the pattern</source>
-        <translation type="vanished">Ошибки в схеме</translation>
-    </message>
-    <message>
         <source>Products of the pattern</source>
         <translation>Изделия схемы</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation type="vanished">Добавить</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation type="vanished">Убрать</translation>
-    </message>
-    <message>
-        <source>Place the product earlier</source>
-        <translation type="vanished">Уложить изделие раньше</translation>
-    </message>
-    <message>
-        <source>Place the product later</source>
-        <translation type="vanished">Уложить изделие позже</translation>
     </message>
     <message>
         <source>Product</source>
@@ -977,10 +957,6 @@ mm</translation>
     <message>
         <source>New name for pattern %1</source>
         <translation>Новое имя схемы %1</translation>
-    </message>
-    <message>
-        <source>Pattern %1 (in %2 layers)</source>
-        <translation type="vanished">Схема %1 (в слоях: %2)</translation>
     </message>
     <message>
         <source>Product %1</source>
@@ -2052,10 +2028,6 @@ Pallet: %4</source>
     <message>
         <source>Points</source>
         <translation>Точки</translation>
-    </message>
-    <message>
-        <source>The margins left no room for a product and were set to 0.</source>
-        <translation type="vanished">Отступы не оставляли места для изделия и сброшены в 0.</translation>
     </message>
     <message>
         <source>Wizard</source>
