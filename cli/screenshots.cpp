@@ -6,6 +6,7 @@
 #include "nexo/setting_manager.h"
 #include "panel/message_dialog.h"
 #include "panel/panel_window.h"
+#include "plan_pictures.h"
 #include "recipe_commands.h"
 #include "stack/way_points.h"
 #include "ui/recipe_wizard.h"
@@ -192,6 +193,10 @@ void takeDialogsOfFrame(Camera &camera, const QString &frame)
         takeKeypad(camera);
     if (frame != QLatin1String("patterns"))
         return;
+    if (!showPlanEdits(camera.window(), [&camera](const QString &name) {
+            camera.takeWindow(camera.window(), QStringLiteral("setup-patterns-") + name);
+        }))
+        camera.fail(QStringLiteral("the page of patterns has no plan to edit"));
     if (auto *tab = control<QAbstractButton>(camera, QStringLiteral("tabPattern")))
         tab->click();
     takeDialogOf(camera, QStringLiteral("btnAdd"), QStringLiteral("new-pattern"));

@@ -9,8 +9,7 @@ namespace palx {
 
 namespace {
 
-constexpr double kReachPixels = 12; ///< a finger need not hit a small product
-constexpr double kStartPixels = 8;  ///< a tap may tremble by so much
+constexpr double kStartPixels = 8; ///< a tap may tremble by so much
 constexpr double kSnapPixels = 12;
 constexpr double kMostSnapMm = 30; ///< on a plan shown small, snapping must not throw products about
 
@@ -18,7 +17,8 @@ constexpr double kMostSnapMm = 30; ///< on a plan shown small, snapping must not
 
 bool DragTool::isOver(const QPointF &at, double pixelMm) const
 {
-    return !itemsAt(editing_->items(), at, kReachPixels * pixelMm).isEmpty();
+    const auto &items = editing_->items();
+    return !itemsAt(items, at, fingerReachMm(items, pixelMm)).isEmpty();
 }
 
 void DragTool::press(const QPointF &at, double pixelMm, bool adding)
@@ -27,7 +27,7 @@ void DragTool::press(const QPointF &at, double pixelMm, bool adding)
     pixelMm_ = pixelMm;
     adding_ = adding;
     dragging_ = false;
-    under_ = itemsAt(editing_->items(), at, kReachPixels * pixelMm);
+    under_ = itemsAt(editing_->items(), at, fingerReachMm(editing_->items(), pixelMm));
     if (under_.isEmpty())
         return;
     const Selection chosen = editing_->selection();

@@ -116,19 +116,20 @@ void paintBlockedWays(QPainter *painter, const QVector<PatternItem> &items, cons
 {
     int shown = 0;
     int last = -1;
+    QPolygonF way;
     for (const OrderHit &hit : findings.order.hits) {
         if (hit.item >= items.size() || (!only.isEmpty() && !only.contains(hit.item)) || ++shown > kMostShown)
             continue;
         if (hit.item != last) {
-            const QPolygonF way =
-                wayOutline(itemCorners(items[hit.item]), approachOf(items[hit.item], frame).shift);
-            drawHatch(painter, way, kFault, false);
+            way = wayOutline(itemCorners(items[hit.item]), approachOf(items[hit.item], frame).shift);
             painter->setPen(pen(kFault, 2, Qt::DashLine));
             painter->setBrush(Qt::NoBrush);
             painter->drawPolygon(way);
         }
         last = hit.item;
-        paintCross(painter, QPointF(items[hit.placed].x, items[hit.placed].y));
+        const QPolygonF common = way.intersected(outlineOf(itemCorners(items[hit.placed])));
+        drawHatch(painter, common, kFault, true);
+        paintCross(painter, common.boundingRect().center());
     }
 }
 

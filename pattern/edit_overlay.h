@@ -16,7 +16,7 @@ void paintGuides(QPainter *painter, const QVector<SnapGuide> &guides);
 /// The gaps around a dragged product, in millimetres.
 void paintSideGaps(QPainter *painter, const QVector<SideGap> &gaps);
 void paintFrame(QPainter *painter, const QRectF &frame);
-/// The ways of products that hit others: the swept area, and a cross on what it hits. `only`: the ways of these
+/// The ways of products that hit others: the swept area, and a cross where it hits. `only`: the ways of these
 /// products; empty: of all.
 void paintBlockedWays(QPainter *painter, const QVector<PatternItem> &items, const EditFindings &findings,
                       const ApproachFrame &frame, const Selection &only);

@@ -212,7 +212,8 @@ void ItemView::paintNumber(QPainter *painter, double scale) const
         paintOffsets(painter, scale, size);
 }
 
-/// "dx dy dz" below the number, where there are any and the product has room for them.
+/// "dx / dy / dz" where there are any and the product has room for them: below the number, above it when the
+/// arrow comes from below.
 void ItemView::paintOffsets(QPainter *painter, double scale, double numberPixels) const
 {
     if (item_.dx == 0 && item_.dy == 0 && item_.dz == 0)
@@ -224,12 +225,13 @@ void ItemView::paintOffsets(QPainter *painter, double scale, double numberPixels
     if (size < kSmallestOffsets)
         return;
     painter->setFont(font(size));
-    const double below = numberPixels * 0.5 + size * 0.75;
-    if (below + size > room.height() / 2 ||
+    const double away = numberPixels * 0.5 + size * 0.75;
+    if (away + size > room.height() / 2 ||
         painter->fontMetrics().horizontalAdvance(text) > room.width() * 0.9)
         return;
     painter->setPen(QColor::fromRgba(kQuietInk));
-    drawText(painter, QPointF(0, below), text, Qt::AlignCenter, flaws_.overlaps || flaws_.overhangs);
+    drawText(painter, QPointF(0, approach_.side.y() > 0 ? -away : away), text, Qt::AlignCenter,
+             flaws_.overlaps || flaws_.overhangs);
 }
 
 void ItemView::paintApproach(QPainter *painter, double scale) const

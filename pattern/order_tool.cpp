@@ -4,8 +4,6 @@
 
 namespace palx {
 
-constexpr double kReachPixels = 12; // a finger need not hit a small product
-
 OrderTool::OrderTool(PatternEditing *editing) : QObject(editing), editing_(editing)
 {
     connect(editing, &PatternEditing::previewDropped, this, &OrderTool::drop);
@@ -29,7 +27,8 @@ void OrderTool::start()
 
 void OrderTool::press(const QPointF &at, double pixelMm, bool)
 {
-    const QVector<int> under = itemsAt(editing_->items(), at, kReachPixels * pixelMm);
+    const auto &items = editing_->items();
+    const QVector<int> under = itemsAt(items, at, fingerReachMm(items, pixelMm));
     if (!active_ || under.isEmpty() || under.first() < taps_.size()) // that one has its number
         return;
     taps_.append(order_[under.first()]);

@@ -5,6 +5,7 @@
 #include "ui_edit_tools.h"
 
 #include <QEvent>
+#include <QLabel>
 
 using palx::Alignment;
 using palx::PatternEditing;
@@ -15,6 +16,7 @@ namespace {
 constexpr double kFineMm = 1;
 constexpr double kCoarseMm = 10;
 constexpr int kIconPixels = 30;
+constexpr double kZoomStep = 1.5;
 
 } // namespace
 
@@ -58,7 +60,9 @@ void EditTools::showIcons()
                    {ui_->btnAlignTop, EditIcon::AlignTop},
                    {ui_->btnAlignCentreAlong, EditIcon::AlignCentreAlong},
                    {ui_->btnAlignBottom, EditIcon::AlignBottom},
-                   {ui_->btnSpaceAlong, EditIcon::SpaceAlong}};
+                   {ui_->btnSpaceAlong, EditIcon::SpaceAlong},
+                   {ui_->btnZoomIn, EditIcon::ZoomIn},
+                   {ui_->btnZoomOut, EditIcon::ZoomOut}};
     for (const auto &entry : buttons) {
         entry.button->setIcon(editIcon(entry.icon));
         entry.button->setIconSize(QSize(kIconPixels, kIconPixels));
@@ -86,6 +90,8 @@ void EditTools::connectSwitches()
     connect(ui_->btnSnap, &QPushButton::toggled, view_,
             [this](bool on) { view_->dragTool()->setSnapping(on); });
     connect(ui_->btnStep, &QPushButton::toggled, this, &EditTools::showStep);
+    connect(ui_->btnZoomIn, &QPushButton::clicked, view_, [this] { view_->zoomBy(kZoomStep); });
+    connect(ui_->btnZoomOut, &QPushButton::clicked, view_, [this] { view_->zoomBy(1 / kZoomStep); });
 }
 
 void EditTools::connectMoves()
@@ -181,6 +187,24 @@ void EditTools::updateButtons()
         button->setEnabled(any);
     ui_->btnAddItem->setEnabled(editing->canEdit());
     ui_->btnPasteItems->setEnabled(editing->canPaste());
+}
+
+/// On a low panel the buttons need the room of their captions.
+void EditTools::showCaptions()
+{
+    const QList<QLabel *> captions = findChildren<QLabel *>();
+    int needed = 0;
+    for (int row = 0; row < ui_->layout1->rowCount(); ++row)
+        needed += ui_->layout1->verticalSpacing();
+    needed += captions.size() * (captions.first()->sizeHint().height() + ui_->btnStep->sizeHint().height());
+    for (QLabel *caption : captions)
+        caption->setVisible(height() >= needed);
+}
+
+void EditTools::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    showCaptions();
 }
 
 void EditTools::changeEvent(QEvent *event)

@@ -30,9 +30,11 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void showIcons();
+    void showCaptions();
     void connectSwitches();
     void connectMoves();
     void connectTurns();

@@ -44,6 +44,9 @@ public:
     void fitPlan();
     const PlanZoom &zoom() const { return zoom_; }
 
+    /// As large as there is room, whatever it shows.
+    QSize sizeHint() const override { return minimumSizeHint(); }
+
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;

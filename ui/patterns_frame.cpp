@@ -8,6 +8,7 @@
 #include "ui/edit_icons.h"
 #include "ui/form_style.h"
 #include "ui/name_dialog.h"
+#include "ui/page_scroll.h"
 #include "ui/plan_status.h"
 #include "ui_patterns_frame.h"
 
@@ -18,7 +19,7 @@ using palx::PatternEditing;
 
 namespace {
 
-constexpr double kZoomStep = 1.5;
+constexpr int kProductsPage = 1;
 
 } // namespace
 
@@ -86,16 +87,19 @@ void PatternsFrame::connectEditing()
                 if (!following_)
                     ui_->view->editing()->select({row.row()});
             });
-    connect(ui_->btnZoomIn, &QPushButton::clicked, this, [this] { ui_->view->zoomBy(kZoomStep); });
-    connect(ui_->btnZoomOut, &QPushButton::clicked, this, [this] { ui_->view->zoomBy(1 / kZoomStep); });
     connect(ui_->btnZoomFit, &QPushButton::clicked, ui_->view, &PatternView::fitPlan);
-    ui_->btnZoomIn->setIcon(editIcon(EditIcon::ZoomIn));
-    ui_->btnZoomOut->setIcon(editIcon(EditIcon::ZoomOut));
     ui_->btnZoomFit->setIcon(editIcon(EditIcon::ZoomFit));
 }
 
 void PatternsFrame::connectPages()
 {
+    for (int i = 0; i < ui_->stkPages->count(); ++i) { // a small panel scrolls the page and not the plan
+        QWidget *page = ui_->stkPages->widget(i);
+        ui_->stkPages->removeWidget(page);
+        ui_->stkPages->insertWidget(i, new PageScroll(page));
+        page->show();
+    }
+    ui_->stkPages->setCurrentIndex(kProductsPage);
     const QList<QAbstractButton *> tabs{ui_->tabPattern, ui_->tabProducts, ui_->tabEdit, ui_->tabOrder,
                                         ui_->tabCheck}; // in the order of the pages
     for (int i = 0; i < tabs.size(); ++i)

@@ -58,9 +58,10 @@ void showPlanStatus(QLabel *label, const PatternView &view, const QVector<palx::
     if (!problems.isEmpty())
         lines << problemText(problems);
     label->setToolTip(lines.join(QLatin1Char('\n')));
+    label->setWordWrap(problems.isEmpty()); // two lines in any case
     const int room = label->width() - 2 * label->margin() - 4;
     for (QString &line : lines)
-        line = label->fontMetrics().elidedText(line, Qt::ElideRight, room);
+        line = problems.isEmpty() ? line : label->fontMetrics().elidedText(line, Qt::ElideRight, room);
     label->setText(lines.join(QLatin1Char('\n')));
     ix::xtheme::setState(label, problems.isEmpty() ? State::None : State::Attention);
 }

@@ -78,13 +78,12 @@ int ItemTableModel::readRows()
 
 QStringList ItemTableModel::columns() const
 {
-    return {tr("No."),  tr("x\nmm"),  tr("y\nmm"),  tr("Turn"),
-            tr("Direction"), tr("dx\nmm"), tr("dy\nmm"), tr("dz\nmm")};
+    return {tr("No."), tr("x\nmm"), tr("y\nmm"), tr("Turn"), tr("Direction")};
 }
 
 QString ItemTableModel::text(int row, int column) const
 {
-    static const char *const kKeys[] = {"index", "x", "y", "r", "direction", "dx", "dy", "dz"};
+    static const char *const kKeys[] = {"index", "x", "y", "r", "direction"};
     const orba::Node *item = pattern() ? pattern()->at(row) : nullptr;
     if (!item)
         return QString();

@@ -27,7 +27,7 @@ private:
     QVector<palx::LayerFacts> layers_;
 };
 
-/// The products of one pattern in placing order, with their places and offsets.
+/// The products of one pattern in placing order, with their places and the sides they come from.
 class PALX_API ItemTableModel : public RecordTableModel
 {
     Q_OBJECT

@@ -42,6 +42,16 @@ QVector<int> itemsAt(const QVector<PatternItem> &items, const QPointF &point, do
     return found;
 }
 
+double fingerReachMm(const QVector<PatternItem> &items, double pixelMm)
+{
+    constexpr double kFingertipPixels = 40;
+    constexpr double kReachPixels = 12;
+    const bool small = std::any_of(items.begin(), items.end(), [pixelMm](const PatternItem &item) {
+        return std::min(item.w, item.h) < kFingertipPixels * pixelMm;
+    });
+    return small ? kReachPixels * pixelMm : 0;
+}
+
 Selection itemsInFrame(const QVector<PatternItem> &items, const QRectF &frame)
 {
     Selection selection;

@@ -1,0 +1,44 @@
+#include "ui/stretched_column.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QTableView>
+
+#include <algorithm>
+
+StretchedColumn::StretchedColumn(QTableView *table, int column)
+    : QObject(table), table_(table), column_(column)
+{
+    QHeaderView *header = table->horizontalHeader();
+    table->viewport()->installEventFilter(this);
+    connect(header, &QHeaderView::sectionResized, this, &StretchedColumn::stretch);
+    connect(header, &QHeaderView::sectionCountChanged, this, &StretchedColumn::stretch);
+    connect(header, &QHeaderView::geometriesChanged, this, &StretchedColumn::stretch);
+    const QAbstractItemModel *model = table->model();
+    Q_ASSERT(model);
+    connect(model, &QAbstractItemModel::modelReset, this, &StretchedColumn::stretch);
+    connect(model, &QAbstractItemModel::dataChanged, this, &StretchedColumn::stretch);
+    connect(model, &QAbstractItemModel::headerDataChanged, this, &StretchedColumn::stretch);
+}
+
+void StretchedColumn::stretch()
+{
+    QHeaderView *header = table_->horizontalHeader();
+    if (stretching_ || column_ >= header->count())
+        return;
+    const QScopedValueRollback<bool> stretching(stretching_, true);
+    if (header->sectionResizeMode(column_) != QHeaderView::Fixed) // a model that was reset has forgotten it
+        header->setSectionResizeMode(column_, QHeaderView::Fixed);
+    const QAbstractItemView *view = table_;
+    const int contents = std::max(view->sizeHintForColumn(column_), header->sectionSizeHint(column_));
+    const int others = header->length() - header->sectionSize(column_);
+    header->resizeSection(column_, std::max(contents, table_->viewport()->width() - others));
+}
+
+bool StretchedColumn::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
+        stretch();
+    return QObject::eventFilter(watched, event);
+}
