@@ -17,6 +17,8 @@ public:
     ~ScriptedPresenter() override;
     bool ask(const nexo::Message &message) override;
     void notify(const QString &level, const QString &text) override;
+    /// The answer to the next question, instead of what was left of the script.
+    void answer(bool accepts) { answers_ = {accepts}; }
 
     QList<nexo::Message> asked;
     QStringList notices; ///< "level: text"

@@ -1,0 +1,305 @@
+// Editing, deleting, switching: the order of things, the start-up project, and that nothing else is touched.
+
+#include "project_fixture.h"
+
+#include "formats/obstacles.h"
+#include "project/rules/project_place.h"
+#include "project/rules/project_record.h"
+#include "project/rules/project_variables.h"
+#include "project/rules/staged_folder.h"
+#include "workstation/plugin_node.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using orba::Node;
+
+namespace {
+
+const char *const kBoth = R"({"scheme_layout": 2, "bollard": 1})";
+const QString kBothTask = QStringLiteral("task0: main BackHome Init ZuoMaduo YouMaduo");
+
+QString startUp()
+{
+    return m("quill.project.autoload_prj_path")->getString();
+}
+
+/// What the panel and the controller know of projects, to be compared whole.
+std::string stateText()
+{
+    Node state;
+    state.ensure(u"projects")->assign(palx::projectsNode()->node());
+    state.ensure(u"project")->assign(m("quill.project")->node());
+    state.remove(u"project._list"); // the folders, as the controller saw them last
+    for (const char *part : {"task", "var", "var_monitor"})
+        state.remove(QStringLiteral("project.%1.built").arg(QLatin1String(part)));
+    return nodeText(state).toStdString();
+}
+
+} // namespace
+
+TEST_F(ProjectTest, AnEditMakesTheProjectAnew)
+{
+    add(QStringLiteral("P"));
+    putFile(QStringLiteral("P/task0/own.mod"), "by hand");
+    palx::createVar(QStringLiteral("mine"), QString(), QStringLiteral("int"), QStringLiteral("5"));
+    presenter.answer(true);
+    steps.parameters = nodeFromJson(kBoth);
+    ASSERT_TRUE(palx::editProject(QStringLiteral("P"), QStringLiteral("P"), &steps));
+    EXPECT_EQ(takeMessages(), QStringList({"ask: Are you sure to update and switch to project P?",
+                                           "info: Set P to auto load project success!"}));
+    const auto after = files();
+    EXPECT_EQ(after.count("SIM-0001/P/task0/own.mod"), 0U);
+    EXPECT_EQ(after.count("SIM-0001/P/task5/"), 0U);
+    EXPECT_EQ(after.count("SIM-0001/P/task0/YouMaduo.mod"), 1U);
+    EXPECT_EQ(after.count(".palx-staging/"), 0U);
+    start();
+    EXPECT_EQ(tasks(), QStringList({kBothTask, "task1: main", "task2: main", "task3: main", "task4: main"}));
+    EXPECT_EQ(palx::projectRecord("P")->getInt("scheme_layout"), 2);
+    EXPECT_EQ(startUp(), QStringLiteral("P/_build/P.prj"));
+    EXPECT_TRUE(palx::checkVarExists(QStringLiteral("mine"))) << "an edited project goes on with its variables";
+}
+
+TEST_F(ProjectTest, ARenamedProjectLeavesNothingOfItsOldName)
+{
+    add(QStringLiteral("Other"));
+    const auto other = files();
+    add(QStringLiteral("P"));
+    presenter.answer(true);
+    steps.parameters = nodeFromJson(kBoth);
+    ASSERT_TRUE(palx::editProject(QStringLiteral("Q"), QStringLiteral("P"), &steps));
+    EXPECT_EQ(takeMessages(), QStringList("ask: Are you sure to update and switch to project Q?"));
+    ASSERT_TRUE(palx::removeFolder(place(QStringLiteral("Q"))));
+    EXPECT_EQ(files(), other);
+    EXPECT_TRUE(palx::projectRecord("P")->isEmptyMobj());
+    start();
+    EXPECT_EQ(current(), QStringLiteral("SIM-0001/Q"));
+    EXPECT_EQ(tasks().first(), kBothTask);
+    EXPECT_EQ(tasks().size(), 5);
+    EXPECT_EQ(startUp(), QStringLiteral("Q")); // the bare name: the comparison comes after the change
+}
+
+TEST_F(ProjectTest, TheStartUpProjectStaysWhenAnotherOneIsEdited)
+{
+    add(QStringLiteral("Main"));
+    add(QStringLiteral("P"));
+    ASSERT_TRUE(palx::setDefaultProject(QStringLiteral("Main")));
+    presenter.answer(true);
+    ASSERT_TRUE(palx::editProject(QStringLiteral("P"), QStringLiteral("P"), &steps));
+    EXPECT_EQ(startUp(), QStringLiteral("Main/_build/Main.prj"));
+}
+
+TEST_F(ProjectTest, AProjectThatIsNotCurrentKeepsItsVariablesWhenEdited)
+{
+    add(QStringLiteral("P"));
+    palx::createVar(QStringLiteral("mine"), QString(), QStringLiteral("int"), QStringLiteral("5"));
+    add(QStringLiteral("Other"));
+    presenter.answer(true);
+    ASSERT_TRUE(palx::editProject(QStringLiteral("P"), QStringLiteral("P"), &steps));
+    EXPECT_EQ(current(), QStringLiteral("SIM-0001/P"));
+    EXPECT_TRUE(palx::checkVarExists(QStringLiteral("mine")));
+    EXPECT_EQ(tasks().size(), 6);
+}
+
+TEST_F(ProjectTest, AnEditCanBeRefused)
+{
+    add(QStringLiteral("P"));
+    add(QStringLiteral("Q"));
+    const struct
+    {
+        const char *name;
+        bool answer;
+        const char *message;
+    } cases[] = {{"Q", true, "error: Cannot rename to an existing project"},
+                 {"", true, "error: Try to add invalid project name"},
+                 {"../P", true, "error: Try to add invalid project name"},
+                 {"R", false, "ask: Are you sure to update and switch to project R?"}};
+    const auto before = files();
+    const std::string state = stateText();
+    for (const auto &each : cases) {
+        presenter.answer(each.answer);
+        EXPECT_FALSE(palx::editProject(each.name, QStringLiteral("P"), &steps));
+        EXPECT_EQ(takeMessages().last(), QLatin1String(each.message));
+        EXPECT_EQ(files(), before);
+        EXPECT_EQ(stateText(), state);
+    }
+}
+
+TEST_F(ProjectTest, AnEditOfNoProjectTouchesNoFolder)
+{
+    add(QStringLiteral("A"));
+    const auto before = files();
+    presenter.answer(true);
+    ASSERT_TRUE(palx::editProject(QStringLiteral("B"), QString(), &steps));
+    ASSERT_TRUE(palx::removeFolder(place(QStringLiteral("B"))));
+    EXPECT_EQ(files(), before);
+}
+
+TEST_F(ProjectTest, AFailedCommitLeavesTheOldProjectWhole)
+{
+    add(QStringLiteral("Other"), kBoth);
+    add(QStringLiteral("P"));
+    putFile(QStringLiteral("P/.rlprog"), "{}");
+    ASSERT_TRUE(palx::setDefaultProject(QStringLiteral("P")));
+    takeMessages();
+    const struct
+    {
+        const char *name;
+        const char *oldName; ///< null: an added one
+        rlim_t room;         ///< bytes that a file may have
+    } cases[] = {{"P", "P", 10}, {"New", "P", 10},     {"New", nullptr, 10},    {"Other", "Other", 10},
+                 {"P", "P", 900}, {"New", "Other", 10}, {"New", nullptr, 900}};
+    const auto before = files();
+    const std::string state = stateText();
+    for (const auto &each : cases) {
+        presenter.answer(true);
+        steps.parameters = nodeFromJson(kBoth);
+        bool isDone = true;
+        {
+            const FullDisk full(each.room);
+            isDone = each.oldName ? palx::editProject(each.name, each.oldName, &steps)
+                                  : palx::addProject(each.name, std::nullopt, &steps);
+        }
+        EXPECT_FALSE(isDone);
+        EXPECT_TRUE(takeMessages().join('|').contains("error: Cannot write to file: ")) << each.name;
+        EXPECT_EQ(files(), before) << each.name;
+        EXPECT_EQ(stateText(), state) << each.name;
+        start(); // and so does the controller
+        EXPECT_EQ(stateText(), state) << each.name;
+    }
+}
+
+TEST_F(ProjectTest, AFolderThatCannotBeRemovedDoesNotStopTheRebuild)
+{
+    add(QStringLiteral("P"), R"({"bollard": 1})");
+    ::chmod(place(QStringLiteral("P")).toLocal8Bit().constData(), 0777); // files may be written in it
+    const auto before = files();
+    presenter.answer(true);
+    {
+        const ReadOnlyFolder locked(place(QString()));
+        EXPECT_TRUE(palx::editProject(QStringLiteral("P"), QStringLiteral("P"), &steps));
+    }
+    const QStringList messages = takeMessages();
+    EXPECT_EQ(messages.at(1), QStringLiteral("error: Remove folder %1 failed").arg(place(QStringLiteral("P"))));
+    EXPECT_EQ(messages.mid(2, 4), QStringList({"warning: File main already exists!", "warning: File BackHome already exists!",
+                                               "warning: File Init already exists!",
+                                               "warning: File ZuoMaduo already exists!"}));
+    EXPECT_EQ(tasks().size(), 5);
+    presenter.answer(true);
+    const std::string state = stateText();
+    {
+        const ReadOnlyFolder locked(place(QString()));
+        EXPECT_FALSE(palx::editProject(QStringLiteral("New"), QStringLiteral("P"), &steps));
+    }
+    EXPECT_EQ(takeMessages(), QStringList({"ask: Are you sure to update and switch to project New?",
+                                           "error: Remove folder " + place(QStringLiteral("P")) + " failed",
+                                           "error: Cannot create path: " + place(QStringLiteral("New"))}));
+    EXPECT_EQ(files(), before);
+    EXPECT_EQ(stateText(), state);
+}
+
+TEST_F(ProjectTest, DeletingRemovesTheProjectAndNothingElse)
+{
+    add(QStringLiteral("Other"));
+    const auto other = files();
+    for (const bool isCurrent : {true, false}) {
+        add(QStringLiteral("P"));
+        if (!isCurrent) {
+            presenter.answer(true);
+            ASSERT_TRUE(palx::reloadProject(QStringLiteral("Other"), &steps));
+            ASSERT_TRUE(palx::setDefaultProject(QStringLiteral("P")));
+        }
+        takeMessages();
+        presenter.answer(true);
+        ASSERT_TRUE(palx::deleteProject(QStringLiteral("P"), &steps));
+        EXPECT_EQ(takeMessages(), QStringList({"ask: Are you sure to delete project P?", "info: Project P removed"}));
+        EXPECT_EQ(files(), other);
+        EXPECT_TRUE(palx::projectRecord("P")->isEmptyMobj());
+        start();
+        EXPECT_EQ(current(), isCurrent ? QString() : QStringLiteral("SIM-0001/Other"));
+        EXPECT_EQ(startUp(), QString());
+        EXPECT_EQ(tasks().size(), isCurrent ? 0 : 6);
+    }
+    add(QStringLiteral("P"), R"({"bollard": 1})"); // the controller forgot the tasks of its name
+    EXPECT_EQ(tasks().size(), 5);
+}
+
+TEST_F(ProjectTest, DeletingCanBeRefused)
+{
+    add(QStringLiteral("P"));
+    QDir().mkpath(place(QStringLiteral("_build")));
+    const auto before = files();
+    const std::string state = stateText();
+    const struct
+    {
+        QString name;
+        bool answer;
+        QString message;
+    } cases[] = {{QString(), true, "error: Cannot remove empty project"},
+                 {"P", false, "ask: Are you sure to delete project P?"},
+                 {"_build", true, "error: Remove folder _build failed"},
+                 {"../SIM-0001", true, "error: Remove folder ../SIM-0001 failed"}};
+    for (const auto &each : cases) {
+        presenter.answer(each.answer);
+        EXPECT_FALSE(palx::deleteProject(each.name, &steps));
+        EXPECT_EQ(takeMessages().last(), each.message);
+        EXPECT_EQ(files(), before);
+        EXPECT_EQ(stateText(), state);
+    }
+    presenter.answer(true);
+    {
+        const ReadOnlyFolder locked(place(QString()));
+        EXPECT_FALSE(palx::deleteProject(QStringLiteral("P"), &steps));
+    }
+    EXPECT_EQ(takeMessages().last(), QStringLiteral("error: Remove folder %1 failed").arg(place(QStringLiteral("P"))));
+    EXPECT_EQ(files(), before);
+    EXPECT_EQ(stateText(), state);
+}
+
+TEST_F(ProjectTest, ReloadingSwitchesAndTouchesNoFile)
+{
+    add(QStringLiteral("A"), kBoth);
+    add(QStringLiteral("B"));
+    const auto before = files();
+    QStringList loading;
+    QObject context;
+    QObject::connect(m("quill.project._loading"), &orba::ModuleObject::changed, &context,
+                     [&loading](const QVariant &value) { loading.append(value.toString()); });
+    presenter.answer(false);
+    EXPECT_FALSE(palx::reloadProject(QStringLiteral("A"), &steps));
+    presenter.answer(true);
+    records.clear();
+    ASSERT_TRUE(palx::reloadProject(QStringLiteral("A"), &steps));
+    EXPECT_EQ(takeMessages(), QStringList({"ask: Are you sure to switch to project A?",
+                                           "ask: Are you sure to switch to project A?",
+                                           "warning: Reload project A",
+                                           "info: Set A to auto load project success!"}));
+    EXPECT_EQ(steps.told, QStringList({"progress", "current", "progress over", "changed"}));
+    EXPECT_EQ(loading, QStringList({"true", "false"}));
+    EXPECT_EQ(tasks().first(), kBothTask);
+    presenter.answer(true);
+    ASSERT_TRUE(palx::reloadProject(QString(), &steps));
+    EXPECT_EQ(takeMessages(), QStringList({"ask: Are you sure to switch to project Empty project?",
+                                           "warning: Reload project ", "info: Auto load project is set to null!"}));
+    EXPECT_EQ(current(), QString());
+    EXPECT_EQ(startUp(), QString());
+    EXPECT_TRUE(tasks().isEmpty());
+    EXPECT_EQ(files(), before);
+}
+
+TEST_F(ProjectTest, AnInterruptedOperationIsPutRight)
+{
+    add(QStringLiteral("P"));
+    const auto before = files();
+    const QDir top(workspace());
+    for (const bool isBegun : {false, true}) { // the power failed before or after the new folder was made
+        ASSERT_TRUE(top.mkpath(QStringLiteral(".palx-staging/SIM-0001")));
+        ASSERT_TRUE(top.mkpath(QStringLiteral(".palx-staging/.discarded/0/task0")));
+        ASSERT_TRUE(QDir().rename(place(QStringLiteral("P")), top.filePath(QStringLiteral(".palx-staging/SIM-0001/P"))));
+        if (isBegun)
+            putFile(QStringLiteral("P/task0/main.mod"), "half");
+        presenter.answer(false);
+        EXPECT_FALSE(palx::editProject(QStringLiteral("P"), QStringLiteral("P"), &steps));
+        EXPECT_EQ(files(), before);
+    }
+}
