@@ -5,7 +5,6 @@
 
 #include <QEvent>
 #include <QFile>
-#include <QFontDatabase>
 #include <QPainter>
 #include <QTextBlock>
 
@@ -15,7 +14,8 @@ constexpr int kGap = 8; // between the numbers and what is beside them [px]
 
 QFont programFont()
 {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    QFont font(QStringLiteral("DejaVu Sans Mono")); // with the panel's own text font in one family
+    font.setStyleHint(QFont::Monospace);
     font.setPixelSize(ix::xtheme::kTextPixels);
     return font;
 }

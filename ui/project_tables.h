@@ -34,6 +34,7 @@ class PALX_API VariableTableModel : public RecordTableModel
     Q_OBJECT
 
 public:
+    static constexpr int kValue = 2;       ///< column
     static constexpr int kDescription = 4; ///< column
 
     using RecordTableModel::RecordTableModel;

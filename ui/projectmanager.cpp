@@ -14,8 +14,8 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QDir>
 #include <QEvent>
+#include <QHeaderView>
 #include <QProgressDialog>
 #include <QScopedValueRollback>
 #include <QTimer>
@@ -26,6 +26,14 @@ using orba::ModuleObject;
 namespace {
 
 constexpr int kRefreshMs = 1000;
+
+/// "task0/main.mod - Default (motion)"; of a project that is not current only its folder is known.
+QString programTitle(const palx::ProgramFile &file)
+{
+    const QString name = QStringLiteral("%1/%2.mod").arg(file.task, file.name);
+    return file.type.isEmpty() ? name
+                               : QStringLiteral("%1 - %2 (%3)").arg(name, file.taskDescription, file.type);
+}
 
 } // namespace
 
@@ -65,6 +73,7 @@ void ProjectManager::setupParts()
     setupTable(ui_->tblPrograms, ProgramTableModel::kDescription, false);
     ui_->tblVariables->setModel(variables_);
     setupTable(ui_->tblVariables, VariableTableModel::kDescription, true);
+    ui_->tblVariables->horizontalHeader()->setSectionResizeMode(VariableTableModel::kValue, QHeaderView::Stretch);
     connect(ui_->tblPrograms->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &ProjectManager::showProgram);
     const QList<QPushButton *> parts{ui_->btnParameters, ui_->btnTasks, ui_->btnVariables};
@@ -99,8 +108,9 @@ void ProjectManager::connectButtons()
 
 void ProjectManager::followNodes()
 {
-    for (const char *path : {"nexo.r.id", "quill.project.cur_project", "quill.project.autoload_prj_path"})
+    for (const char *path : {"nexo.r.id", "quill.project.cur_project"})
         connect(m(path), &ModuleObject::changed, this, &ProjectManager::refreshUnlessBusy);
+    connect(m("quill.project.autoload_prj_path"), &ModuleObject::changed, this, &ProjectManager::showState);
     connect(palx::triggerNode()->c("refresh_data"), &ModuleObject::changed, this,
             &ProjectManager::refreshUnlessBusy);
     auto *clock = new QTimer(this); // values of variables change while programs run
@@ -226,7 +236,6 @@ void ProjectManager::runAction(bool (*act)(const QString &name, palx::ProjectSte
 {
     const QScopedValueRollback<bool> working(isWorking_, true);
     act(chosenProject(), this);
-    showState();
 }
 
 void ProjectManager::deleteProject()
@@ -242,7 +251,6 @@ void ProjectManager::reloadProject()
 void ProjectManager::setDefaultProject()
 {
     palx::setDefaultProject(chosenProject());
-    showState();
 }
 
 // ---------------------------------------------------------------- showing
@@ -312,13 +320,14 @@ void ProjectManager::showProgram()
 {
     const palx::ProgramFile file = programs_->program(ui_->tblPrograms->currentIndex().row());
     const bool isRead = ui_->program->showFile(file.path);
-    QString text = QDir::toNativeSeparators(file.path);
-    if (file.path.isEmpty())
-        text = tr("Touch a program file to look at it.");
-    else if (!isRead)
-        text = tr("The file cannot be read: %1").arg(file.path);
-    else if (ui_->program->toPlainText().isEmpty())
-        text = tr("%1 is empty.").arg(file.path);
+    QString text = tr("Touch a program file to look at it.");
+    if (!file.path.isEmpty())
+        text = programTitle(file);
+    if (!file.path.isEmpty() && !isRead)
+        text += tr(": the file cannot be read");
+    else if (!file.path.isEmpty() && ui_->program->toPlainText().isEmpty())
+        text += tr(": empty");
+    ui_->lblProgram->setToolTip(file.path);
     ui_->lblProgram->setText(text);
 }
 

@@ -6,6 +6,7 @@
 #include "ui/current_recipe.h"
 #include "ui/form_style.h"
 #include "ui/name_dialog.h"
+#include "ui/projectmanager.h"
 #include "ui/recipe_list_model.h"
 #include "ui/recipe_tables.h"
 #include "ui/recipe_texts.h"
@@ -21,6 +22,8 @@ using orba::ModuleObject;
 
 namespace {
 
+const QString kProjectManager = QStringLiteral("project_manager");
+
 QString pageKey(const char *page)
 {
     return mName(palx::getPluginName(), QLatin1String(page));
@@ -34,11 +37,13 @@ void raise(const char *trigger)
 } // namespace
 
 StackHomePage::StackHomePage(QWidget *parent, bwaf::BModule *module)
-    : BModule(module), module_(module), wgt_(new QWidget(parent)), ui_(std::make_unique<Ui::StackHomePage>()),
+    : BModule(module), module_(module), wgt_(new SubPageStack(parent)), ui_(std::make_unique<Ui::StackHomePage>()),
       recipes_(new RecipeListModel(wgt_)), found_(new QSortFilterProxyModel(wgt_)),
       layers_(new LayerTableModel(wgt_))
 {
-    ui_->setupUi(wgt_);
+    ui_->setupUi(subPages()->content());
+    subPages()->registSubPage(kProjectManager,
+                              [](QWidget *page, QWidget *owner) { return new ProjectManager(page, owner); });
     wgt_->installEventFilter(this);
     setupList();
     connectActions();
@@ -61,6 +66,16 @@ QString StackHomePage::name() const
 QWidget *StackHomePage::wgt()
 {
     return wgt_;
+}
+
+SubPageStack *StackHomePage::subPages() const
+{
+    return static_cast<SubPageStack *>(wgt_.data());
+}
+
+void StackHomePage::openProjects()
+{
+    subPages()->openSubPage(kProjectManager);
 }
 
 void StackHomePage::setupList()
@@ -99,7 +114,8 @@ void StackHomePage::connectActions()
                    {ui_->btnCopy, Glyph::Copy, &StackHomePage::copyRecipe},
                    {ui_->btnRename, Glyph::Settings, &StackHomePage::renameRecipe},
                    {ui_->btnDelete, Glyph::Delete, &StackHomePage::deleteRecipe},
-                   {ui_->btnOpen, Glyph::Open, &StackHomePage::openRecipe}};
+                   {ui_->btnOpen, Glyph::Open, &StackHomePage::openRecipe},
+                   {ui_->btnProjects, Glyph::Robot, &StackHomePage::openProjects}};
     for (const auto &action : actions) {
         const bool primary = action.button == ui_->btnOpen;
         action.button->setIcon(ix::xtheme::icon(action.glyph, primary ? QColor(Qt::white) : QColor()));
@@ -301,6 +317,6 @@ bool StackHomePage::eventFilter(QObject *watched, QEvent *event)
 
 void StackHomePage::retranslate()
 {
-    ui_->retranslateUi(wgt_);
+    ui_->retranslateUi(subPages()->content());
     reload();
 }

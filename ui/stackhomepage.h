@@ -12,6 +12,7 @@ class LayerTableModel;
 class QModelIndex;
 class QSortFilterProxyModel;
 class RecipeListModel;
+class SubPageStack;
 namespace Ui {
 class StackHomePage;
 }
@@ -33,6 +34,8 @@ public:
 
     QString name() const override;
     QWidget *wgt() override;
+    /// This page's sub-pages: "project_manager".
+    SubPageStack *subPages() const;
 
     /// The chosen recipe; the empty node when there is none.
     orba::ModuleObject *chosenStack() const;
@@ -60,6 +63,7 @@ private:
     void deleteRecipe();
     void undoDelete();
     void openRecipe();
+    void openProjects();
     void listChanged(const QString &choose);
 
     bwaf::BModule *module_;
