@@ -6,6 +6,7 @@
 #include "ix/xtheme.h"
 #include "support/test_support.h"
 #include "ui/page_fixture.h"
+#include "ui/base_sub_page.h"
 #include "ui/point_group.h"
 #include "ui/recipe_frame.h"
 
@@ -77,6 +78,28 @@ void expectReadable(const QWidget *form, const QString &where)
     }
 }
 
+void expectTouchable(const QWidget *form, const QString &where)
+{
+    for (const QWidget *control : controls(form)) {
+        if (!control->isVisible() || qobject_cast<const QAbstractItemView *>(control))
+            continue;
+        EXPECT_GE(control->height(), 56) << where << control->objectName();
+    }
+}
+
+/// The project manager in its two views: looking at a project, and adding one.
+template <typename Visit> void eachProjectView(Pages &pages, Visit visit)
+{
+    QWidget *manager = pages.home->subPages()->openSubPage(QStringLiteral("project_manager"));
+    for (const char *button : {"btnTasks", "btnVariables", "btnParameters", "btnAdd", "btnCancel"}) {
+        manager->findChild<QAbstractButton *>(QLatin1String(button))->setEnabled(true); // without a controller, too
+        manager->findChild<QAbstractButton *>(QLatin1String(button))->click();
+        QCoreApplication::processEvents();
+        visit(manager, QStringLiteral("projects after %1: ").arg(QLatin1String(button)));
+    }
+    pages.home->subPages()->closeSubPage();
+}
+
 /// Every frame in turn with its scroll bars.
 template <typename Visit> void eachFrame(Pages &pages, Visit visit)
 {
@@ -93,6 +116,7 @@ template <typename Visit> void eachFrame(Pages &pages, Visit visit)
 TEST(Forms, EveryControlHasANameForTestsAndForReaders)
 {
     Pages pages;
+    pages.home->subPages()->openSubPage(QStringLiteral("project_manager"));
     Keypad keypad(KeypadRequest{QStringLiteral("Length"), {}, 0, 1, 0, 0}, &pages.center);
     NameDialog name(
         QStringLiteral("Name"), [](const QString &) { return QString(); }, &pages.center);
@@ -115,6 +139,7 @@ TEST(Forms, FitThePanelsTheyAreMadeFor)
         pages.center.resize(size);
         QCoreApplication::processEvents();
         expectReadable(pages.home->wgt(), QStringLiteral("home "));
+        eachProjectView(pages, expectReadable);
         pages.open("Box");
         eachFrame(pages, [&](RecipeFrame *frame, QScrollArea *area) {
             const QString where = QStringLiteral("%1 at %2: ").arg(frame->objectName()).arg(size.width());
@@ -134,6 +159,7 @@ TEST(Forms, LeaveRoomForLongerLanguages)
     pages.tree.addRecipe("Box");
     QCoreApplication::processEvents();
     expectReadable(pages.home->wgt(), QStringLiteral("home "));
+    eachProjectView(pages, expectReadable);
     pages.open("Box");
     eachFrame(pages, [](RecipeFrame *frame, QScrollArea *area) {
         EXPECT_FALSE(area->horizontalScrollBar()->isVisible()) << frame->objectName();
@@ -146,14 +172,10 @@ TEST(Forms, ControlsAreLargeEnoughForFingers)
     const Looks looks;
     Pages pages;
     pages.tree.addRecipe("Box");
+    eachProjectView(pages, expectTouchable);
     pages.open("Box");
-    eachFrame(pages, [](RecipeFrame *frame, QScrollArea *) {
-        for (const QWidget *control : controls(frame)) {
-            if (!control->isVisible() || qobject_cast<const QAbstractItemView *>(control))
-                continue;
-            EXPECT_GE(control->height(), 56) << frame->objectName() << control->objectName();
-        }
-    });
+    eachFrame(pages,
+              [](RecipeFrame *frame, QScrollArea *) { expectTouchable(frame, frame->objectName()); });
 }
 
 TEST(Forms, FollowAChangeOfLanguage)

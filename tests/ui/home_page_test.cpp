@@ -6,6 +6,7 @@
 #include "ui/message_bar.h"
 #include "ui/name_dialog.h"
 #include "ui/page_fixture.h"
+#include "ui/projectmanager.h"
 #include "workstation/plugin_node.h"
 
 #include <QElapsedTimer>
@@ -66,6 +67,23 @@ QString answerName(const Pages &pages, const char *name, const char *desc = null
 }
 
 } // namespace
+
+TEST(HomePage, LeadsToTheProjectsAndBackWithOneTouchEach)
+{
+    Pages pages;
+    SubPageStack *stack = pages.home->subPages();
+    EXPECT_FALSE(stack->subPage(QStringLiteral("project_manager"))); // made when it is opened
+    pages.field<QPushButton>("btnProjects")->click();
+    auto *manager = qobject_cast<ProjectManager *>(stack->currentWidget());
+    ASSERT_TRUE(manager);
+    EXPECT_EQ(manager->title(), QStringLiteral("Project Manager"));
+    manager->findChild<QPushButton *>(QStringLiteral("btnBack"))->click();
+    EXPECT_EQ(stack->currentWidget(), stack->content());
+    pages.field<QPushButton>("btnProjects")->click();
+    EXPECT_EQ(stack->currentWidget(), manager);
+    EXPECT_FALSE(stack->openSubPage(QStringLiteral("unknown")));
+    EXPECT_EQ(stack->currentWidget(), manager);
+}
 
 TEST(HomePage, MakesARecipeFromTheTemplate)
 {
