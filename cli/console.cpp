@@ -79,6 +79,8 @@ ConsolePresenter::~ConsolePresenter()
 
 bool ConsolePresenter::ask(const nexo::Message &message)
 {
+    if (accepting_)
+        return true;
     const bool canRefuse = !message.rejectText.isEmpty();
     say(QStringLiteral("%1: %2%3")
             .arg(message.title, message.text, canRefuse ? QStringLiteral(" (answered: no)") : QString()));

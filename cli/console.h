@@ -37,7 +37,8 @@ private:
     QElapsedTimer sinceShown_;
 };
 
-/// The host's messages on standard error. Questions are answered with a refusal: nobody is there to ask.
+/// The host's messages on standard error. Questions are answered with a refusal: nobody is there to ask, unless the command
+/// itself is the answer.
 class ConsolePresenter : public nexo::MessagePresenter
 {
 public:
@@ -47,9 +48,12 @@ public:
     void notify(const QString &level, const QString &text) override;
     /// Notices are left out while a command prints the same texts as its result.
     void setQuiet(bool quiet) { quiet_ = quiet; }
+    /// Questions are accepted, and not printed.
+    void setAccepting(bool accepting) { accepting_ = accepting; }
 
 private:
     bool quiet_ = false;
+    bool accepting_ = false;
 };
 
 } // namespace cli

@@ -1,6 +1,7 @@
 // The command line of the palletizing workstation; docs/command-line.md says what each command does.
 
 #include "demo.h"
+#include "project_options.h"
 #include "recipe_commands.h"
 #include "render.h"
 #include "screenshots.h"
@@ -189,6 +190,7 @@ int run(int argc, char **argv)
                      &cli::runPoints);
     addRecipeCommand(app, arguments, "check", "check recipes; print repairs, refusals and warnings",
                      &cli::runCheck);
+    cli::addProjectCommands(app, &arguments.command);
     addRender(app, arguments);
     addScreenshots(app, arguments);
     addDemo(app, arguments);

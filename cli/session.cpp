@@ -14,14 +14,27 @@ Session::Session(Pages pages, const QString &language, const QString &dataFolder
                      [](const QString &text) { say(text); });
 }
 
+Session::Session(host::SessionOptions options) : host_(completed(std::move(options)))
+{
+    QObject::connect(&host_, &host::HostSession::problemFound, &host_,
+                     [](const QString &text) { say(text); });
+}
+
+host::SessionOptions Session::completed(host::SessionOptions options)
+{
+    options.language = QStringLiteral("en");
+    options.touch = false;
+    options.linkedPlugins = QStringList(palx::getPluginName());
+    return options;
+}
+
 host::SessionOptions Session::options(Pages pages, const QString &language, const QString &dataFolder) const
 {
-    host::SessionOptions result;
+    host::SessionOptions result = completed(host::SessionOptions());
     result.dataFolder = dataFolder;
     result.workspaceFolder = folder_.path();
-    result.language = language.isEmpty() ? QStringLiteral("en") : language;
-    result.touch = false;
-    result.linkedPlugins = QStringList(palx::getPluginName());
+    if (!language.isEmpty())
+        result.language = language;
     result.pages = pages == Pages::With;
     return result;
 }

@@ -23,6 +23,8 @@ class Session
 public:
     enum class Pages { Without, With };
     explicit Session(Pages pages, const QString &language = QString(), const QString &dataFolder = QString());
+    /// On the folders and with the controller of the options; the plug-in and the language are filled in.
+    explicit Session(host::SessionOptions options);
 
     /// False when the plug-in did not come up; every problem has then been said.
     bool start();
@@ -34,6 +36,7 @@ public:
 
 private:
     host::SessionOptions options(Pages pages, const QString &language, const QString &dataFolder) const;
+    static host::SessionOptions completed(host::SessionOptions options);
     void keepRecord(const QVariant &json);
 
     QTemporaryDir folder_;

@@ -196,10 +196,10 @@ bool buildProjectTasks(QObject *sender)
 
 QVector<ProgramFile> projectPrograms(const QString &project)
 {
-    if (!project.isEmpty() && project == currentProject())
-        return listedPrograms();
+    const bool isCurrent = !project.isEmpty() && project == currentProject();
+    const QVector<ProgramFile> listed = isCurrent ? listedPrograms() : QVector<ProgramFile>();
     const QString folder = projectFolder(project);
-    return folder.isEmpty() ? QVector<ProgramFile>() : storedPrograms(folder);
+    return listed.isEmpty() && !folder.isEmpty() ? storedPrograms(folder) : listed;
 }
 
 } // namespace palx

@@ -27,7 +27,8 @@ struct ProgramFile
     QString path; ///< where the program is, or would be
 };
 
-/// The program files of a project: of the current one as its tasks list them, of another one as its folder holds them.
+/// The program files of a project: of the current one as its tasks list them; of another one, and of a current one without
+/// tasks (a copied one), as its folder holds them.
 PALX_API QVector<ProgramFile> projectPrograms(const QString &project);
 
 } // namespace palx

@@ -165,6 +165,7 @@ TEST_F(ProjectPage, ClonesTheChosenProject)
     click("btnWork");
     EXPECT_EQ(content("C/.rlprog"), QByteArray(R"({"project_name": "C"})"));
     EXPECT_EQ(listed(), QStringList({"A", "B", "C"}));
+    EXPECT_EQ(column("tblPrograms", 2).count("main"), 6); // it has no tasks yet, but their files
     EXPECT_FALSE(find<QCheckBox>("chbClone")->isChecked());
 }
 

@@ -1,0 +1,226 @@
+#include "project_command.h"
+
+#include "core/controller_link.h"
+#include "orba/module_manager.h"
+#include "panel/controller_choice.h"
+#include "project/rules/project_commit.h"
+#include "project/rules/project_place.h"
+#include "project/rules/project_record.h"
+#include "project/rules/project_tasks.h"
+#include "project/rules/project_variables.h"
+#include "workstation/plugin_node.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+
+#include <functional>
+
+namespace cli {
+namespace {
+
+using orba::Node;
+using What = ProjectRequest::What;
+
+constexpr int kBoundMs = 10000;
+
+bool waitFor(const std::function<bool()> &condition)
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (!condition() && clock.elapsed() < kBoundMs)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    return condition();
+}
+
+bool waitForRobot()
+{
+    return waitFor([] { return !m("nexo.r.id")->getString().isEmpty(); });
+}
+
+/// What was written goes out when the event loop rests; this program ends before.
+bool waitForController()
+{
+    QCoreApplication::processEvents();
+    return waitFor([] { return host::ControllerLink::current()->unsettledEdits() == 0; });
+}
+
+class Steps : public palx::ProjectSteps
+{
+public:
+    explicit Steps(Node parameters) : parameters_(std::move(parameters)) {}
+    void saveParameters(const QString &name) override { palx::writeProjectParameters(name, parameters_); }
+    void becameCurrent() override { palx::createProjectVariables(); }
+    void projectsChanged() override {}
+    void showProgress(bool) override {}
+
+private:
+    Node parameters_;
+};
+
+// ---------------------------------------------------------------- what is asked
+
+/// The place of a recipe in its side's list; -1, with the reason said, when there is none.
+int recipePlace(const QString &key, const QString &name)
+{
+    const bool isLeft = key == QLatin1String("left_stack_recipe");
+    const QStringList names = palx::sideRecipes(palx::stacksNode()->node(), isLeft);
+    if (!names.contains(name))
+        say(QStringLiteral("no recipe of the %1 pallet is called \"%2\"; there are: %3")
+                .arg(isLeft ? QStringLiteral("left") : QStringLiteral("right"), name,
+                     names.isEmpty() ? QStringLiteral("none") : names.join(QStringLiteral(", "))));
+    return names.indexOf(name);
+}
+
+/// Those of the project that is edited or copied, with what was asked on top.
+bool readParameters(const ProjectRequest &request, Node *parameters)
+{
+    const QString from = request.what == What::Edit ? request.name : request.source;
+    if (!from.isEmpty())
+        parameters->assign(palx::projectRecord(from)->node());
+    for (auto each = request.parameters.begin(); each != request.parameters.end(); ++each)
+        parameters->ensure(each.key())->setInt(each.value());
+    for (auto each = request.recipes.begin(); each != request.recipes.end(); ++each) {
+        const int place = recipePlace(each.key(), each.value());
+        if (place < 0)
+            return false;
+        parameters->ensure(each.key())->setInt(place);
+    }
+    return true;
+}
+
+/// Whether the projects that a command speaks of are there.
+bool areThere(const ProjectRequest &request)
+{
+    QStringList wanted;
+    if (request.what != What::List && request.what != What::Create && !request.name.isEmpty())
+        wanted.append(request.name);
+    if (!request.source.isEmpty())
+        wanted.append(request.source);
+    const QStringList names = palx::projectNames();
+    for (const QString &name : wanted) {
+        if (names.contains(name))
+            continue;
+        say(QStringLiteral("no project is called \"%1\"; there are: %2")
+                .arg(name, names.isEmpty() ? QStringLiteral("none") : names.join(QStringLiteral(", "))));
+        return false;
+    }
+    return true;
+}
+
+bool carryOut(const ProjectRequest &request, Steps *steps)
+{
+    switch (request.what) {
+    case What::List:
+        return true;
+    case What::Create:
+        return palx::addProject(request.name,
+                                request.source.isEmpty() ? std::nullopt : std::make_optional(request.source),
+                                steps);
+    case What::Edit:
+        return palx::editProject(request.newName.isEmpty() ? request.name : request.newName, request.name,
+                                 steps);
+    case What::Delete:
+        return palx::deleteProject(request.name, steps);
+    case What::Switch:
+        return palx::reloadProject(request.name, steps);
+    case What::StartUp:
+        return palx::setDefaultProject(request.name);
+    }
+    return false;
+}
+
+// ---------------------------------------------------------------- what is printed
+
+void describeFiles(const QString &project, Node *files)
+{
+    files->reset(Node::Kind::List);
+    for (const palx::ProgramFile &program : palx::projectPrograms(project)) {
+        Node *file = files->add();
+        file->ensure(u"task")->setString(program.task);
+        file->ensure(u"name")->setString(program.name);
+        file->ensure(u"path")->setString(QDir::cleanPath(program.path));
+    }
+}
+
+void describe(const QString &project, Node *described)
+{
+    described->ensure(u"name")->setString(project);
+    described->ensure(u"folder")->setString(QDir::cleanPath(palx::projectFolder(project)));
+    described->ensure(u"current")->setBool(project == palx::currentProject());
+    described->ensure(u"start_up")->setBool(project == palx::startUpProject());
+    Node *parameters = described->ensure(u"parameters");
+    parameters->reset(Node::Kind::Map);
+    for (const QString &key : palx::projectParameters())
+        if (const Node *value = palx::projectRecord(project)->node().child(QStringView(key)))
+            parameters->ensure(key)->assign(*value);
+    describeFiles(project, described->ensure(u"files"));
+}
+
+Node describeAll()
+{
+    Node all;
+    Node *projects = all.ensure(u"projects");
+    projects->reset(Node::Kind::List);
+    for (const QString &name : palx::projectNames())
+        describe(name, projects->add());
+    return all;
+}
+
+QByteArray table(const Node &projects)
+{
+    QString text;
+    for (int i = 0; i < projects.size(); ++i) {
+        const Node &project = *projects.at(i);
+        QStringList marks;
+        if (project.getBool(u"current"))
+            marks.append(QStringLiteral("current"));
+        if (project.getBool(u"start_up"))
+            marks.append(QStringLiteral("loaded at start-up"));
+        text += QStringLiteral("%1  %2 program files  %3\n")
+                    .arg(project.getString(u"name"))
+                    .arg(project.child(QStringView(u"files"))->size())
+                    .arg(marks.join(QStringLiteral(", ")));
+    }
+    return text.toUtf8();
+}
+
+bool print(Output output)
+{
+    const Node all = describeAll();
+    if (output == Output::Json)
+        return putResult(orba::ModuleManager::toJson(all, false));
+    return putResult(table(*all.child(QStringView(u"projects"))));
+}
+
+} // namespace
+
+int runProject(const ProjectRequest &request)
+{
+    panel::ControllerChoice choice;
+    if (!panel::ControllerChoice::parse(request.controller, &choice))
+        return refuse(QStringLiteral("\"%1\" is no controller").arg(request.controller));
+    const QString data = QDir(request.dataFolder).absolutePath();
+    host::SessionOptions options;
+    options.dataFolder = data;
+    if (!request.workspaceFolder.isEmpty())
+        options.workspaceFolder = QDir(request.workspaceFolder).absolutePath();
+    options.carrier = panel::carrierFactory(choice, data, QCoreApplication::applicationDirPath());
+    options.pages = false;
+    Session session(options);
+    session.presenter().setAccepting(true); // who gives the command has decided
+    if (!session.start())
+        return kRefused;
+    if (!waitForRobot())
+        return refuse(QStringLiteral("the controller does not answer"));
+    Node parameters;
+    if (!areThere(request) || !readParameters(request, &parameters))
+        return kRefused;
+    Steps steps(parameters);
+    const bool isDone = carryOut(request, &steps);
+    if (!waitForController())
+        return refuse(QStringLiteral("the controller did not take what was changed"));
+    return isDone && session.host().save() && print(request.output) ? kDone : kRefused;
+}
+
+} // namespace cli

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "recipe_commands.h"
+
+#include <QMap>
+
+namespace cli {
+
+/// What a `palx project` command is asked.
+struct ProjectRequest
+{
+    enum class What { List, Create, Edit, Delete, Switch, StartUp } what = What::List;
+    QString name;
+    QString newName; ///< of an edited project; empty: the same
+    QString source;  ///< project to be copied; empty: none
+    QMap<QString, int>
+        parameters; ///< by key of the record; those that are missing stay, or are 0 in a new project
+    QMap<QString, QString> recipes;                   ///< the two recipes by their names
+    QString dataFolder;                               ///< the panel's data
+    QString workspaceFolder;                          ///< empty: as the panel's settings say
+    QString controller = QStringLiteral("inprocess"); ///< as for the panel
+    Output output = Output::Table;
+};
+
+/// Does it and prints the project, or all of them. Returns the exit code.
+int runProject(const ProjectRequest &request);
+
+} // namespace cli

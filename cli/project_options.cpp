@@ -1,0 +1,138 @@
+#include "project_options.h"
+
+#include "project_command.h"
+
+#include <memory>
+
+namespace cli {
+namespace {
+
+using What = ProjectRequest::What;
+
+/// Options as the parser fills them; shared by the commands, of which one runs.
+struct Arguments
+{
+    std::string name, newName, source, data, workspace, controller = "inprocess", format;
+    std::string scheme, type, sucker, lift, clapboard, leftRecipe, rightRecipe;
+};
+
+/// An option whose words stand for 0, 1, ...
+struct Words
+{
+    const char *option;
+    std::string Arguments::*value;
+    const char *key;
+    std::vector<std::string> words;
+    const char *help;
+};
+
+const std::vector<Words> &allWords()
+{
+    static const std::vector<Words> all{
+        {"--scheme",
+         &Arguments::scheme,
+         "scheme_layout",
+         {"left", "right", "both", "double"},
+         "lines and sides"},
+        {"--type",
+         &Arguments::type,
+         "palletizing_type",
+         {"palletizing", "depalletizing"},
+         "kept, selects nothing"},
+        {"--sucker", &Arguments::sucker, "type_of_sucker", {"single", "double"}, "kept, selects nothing"},
+        {"--lift", &Arguments::lift, "bollard", {"yes", "no"}, "whether the cell has a lift column"},
+        {"--clapboard", &Arguments::clapboard, "clapboard", {"yes", "no"}, "kept, selects nothing"},
+    };
+    return all;
+}
+
+QString text(const std::string &value)
+{
+    return QString::fromStdString(value);
+}
+
+ProjectRequest requestOf(What what, const Arguments &arguments)
+{
+    ProjectRequest request;
+    request.what = what;
+    request.name = text(arguments.name);
+    request.newName = text(arguments.newName);
+    request.source = text(arguments.source);
+    request.dataFolder = text(arguments.data);
+    request.workspaceFolder = text(arguments.workspace);
+    request.controller = text(arguments.controller);
+    for (const Words &each : allWords()) {
+        const std::string &word = arguments.*each.value;
+        const auto found = std::find(each.words.begin(), each.words.end(), word);
+        if (found != each.words.end())
+            request.parameters.insert(QLatin1String(each.key), int(found - each.words.begin()));
+    }
+    if (!arguments.leftRecipe.empty())
+        request.recipes.insert(QStringLiteral("left_stack_recipe"), text(arguments.leftRecipe));
+    if (!arguments.rightRecipe.empty())
+        request.recipes.insert(QStringLiteral("right_stack_recipe"), text(arguments.rightRecipe));
+    const bool json = arguments.format.empty() ? !resultGoesToTerminal() : arguments.format == "json";
+    request.output = json ? Output::Json : Output::Table;
+    return request;
+}
+
+void addParameters(CLI::App *command, Arguments *arguments)
+{
+    for (const Words &each : allWords())
+        command->add_option(each.option, arguments->*each.value, each.help)->check(CLI::IsMember(each.words));
+    command->add_option("--left-recipe", arguments->leftRecipe, "name of the left pallet's recipe");
+    command->add_option("--right-recipe", arguments->rightRecipe, "name of the right pallet's recipe");
+}
+
+void addPlaces(CLI::App *command, Arguments *arguments)
+{
+    command->add_option("--data", arguments->data, "the panel's data; made when missing")->required();
+    command->add_option("--workspace", arguments->workspace,
+                        "the controller workspace; as the panel's settings say unless given");
+    command->add_option("--controller", arguments->controller, "inprocess, spawn or HOST:PORT")
+        ->capture_default_str();
+    command->add_option("--format", arguments->format, "json or table; otherwise table on a terminal")
+        ->check(CLI::IsMember({"json", "table"}));
+}
+
+} // namespace
+
+void addProjectCommands(CLI::App &app, std::function<int()> *command)
+{
+    const auto arguments = std::make_shared<Arguments>();
+    CLI::App *project = app.add_subcommand("project", "robot projects: list, make, edit, delete, switch");
+    project->require_subcommand(1);
+    const struct
+    {
+        const char *name;
+        const char *help;
+        What what;
+        bool hasName, needsName, hasParameters;
+    } commands[] = {
+        {"list", "print all projects", What::List, false, false, false},
+        {"create", "make a project and switch to it", What::Create, true, true, true},
+        {"edit", "make a project anew with other parameters, and switch to it", What::Edit, true, true, true},
+        {"delete", "delete a project", What::Delete, true, true, false},
+        {"switch", "switch to a project; without NAME to none", What::Switch, true, false, false},
+        {"start-up", "have the controller load a project when it starts; without NAME none", What::StartUp,
+         true, false, false},
+    };
+    for (const auto &each : commands) {
+        CLI::App *sub = project->add_subcommand(each.name, each.help);
+        if (each.hasName)
+            sub->add_option("NAME", arguments->name, "project")->required(each.needsName);
+        if (each.what == What::Create)
+            sub->add_option("--clone", arguments->source, "copy the files of this project");
+        if (each.what == What::Edit)
+            sub->add_option("--rename", arguments->newName, "new name");
+        if (each.hasParameters)
+            addParameters(sub, arguments.get());
+        addPlaces(sub, arguments.get());
+        sub->callback([command, arguments, what = each.what] {
+            const ProjectRequest request = requestOf(what, *arguments);
+            *command = [request] { return runProject(request); };
+        });
+    }
+}
+
+} // namespace cli
