@@ -73,7 +73,8 @@ void ProjectManager::setupParts()
     setupTable(ui_->tblPrograms, ProgramTableModel::kDescription, false);
     ui_->tblVariables->setModel(variables_);
     setupTable(ui_->tblVariables, VariableTableModel::kDescription, true);
-    ui_->tblVariables->horizontalHeader()->setSectionResizeMode(VariableTableModel::kValue, QHeaderView::Stretch);
+    ui_->tblVariables->horizontalHeader()->setSectionResizeMode(VariableTableModel::kValue,
+                                                                QHeaderView::Stretch);
     connect(ui_->tblPrograms->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &ProjectManager::showProgram);
     const QList<QPushButton *> parts{ui_->btnParameters, ui_->btnTasks, ui_->btnVariables};

@@ -17,13 +17,11 @@ class PalxProject : public ::testing::Test
 protected:
     PalxRun run(const QStringList &arguments) const
     {
-        return runPalx(QStringList{"project"} + arguments + QStringList{"--data", "data", "--workspace", "work"},
+        return runPalx(QStringList{"project"} + arguments +
+                           QStringList{"--data", "data", "--workspace", "work"},
                        folder.path());
     }
-    QStringList names() const
-    {
-        return childTexts(run({"list"}).out, u"name");
-    }
+    QStringList names() const { return childTexts(run({"list"}).out, u"name"); }
     static QStringList childTexts(const QByteArray &out, QStringView key)
     {
         QStringList found;

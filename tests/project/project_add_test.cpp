@@ -58,8 +58,8 @@ TEST_F(ProjectTest, ANameMustBeOneFolder)
 
 TEST_F(ProjectTest, OtherNamesAreTakenAsTheyAre)
 {
-    const QStringList names{"Line 1", " ", "v1.2", ".line", "Линия", "码垛", "a\"b", "%1", "#1",
-                            QString(255, QLatin1Char('n'))};
+    const QStringList names{"Line 1", " ",    "v1.2", ".line", "Линия",
+                            "码垛",   "a\"b", "%1",   "#1",    QString(255, QLatin1Char('n'))};
     for (const QString &name : names)
         add(name, R"({"scheme_layout": 2})");
     QStringList sorted = names;
@@ -91,19 +91,21 @@ TEST_F(ProjectTest, AnAddedProjectHasItsPartsEverywhere)
     EXPECT_EQ(takeMessages(), QStringList({"ask: Are you sure to create and switch to new project: P?",
                                            "info: Set P to auto load project success!"}));
     EXPECT_EQ(steps.told, QStringList({"current", "changed"}));
-    EXPECT_EQ(palx::projectRecord("P")->node(), nodeFromJson(R"({"name": "P", "scheme_layout": 1, "palletizing_type": 1,
+    EXPECT_EQ(palx::projectRecord("P")->node(),
+              nodeFromJson(R"({"name": "P", "scheme_layout": 1, "palletizing_type": 1,
         "type_of_sucker": 1, "bollard": 1, "clapboard": 1, "left_stack_recipe": 2, "right_stack_recipe": 3})"));
     QStringList paths;
     for (const auto &each : files())
         paths.append(QString::fromStdString(each.first).section('/', 2));
-    EXPECT_EQ(paths.join(' '), QStringLiteral("  task0/ task0/BackHome.mod task0/Init.mod task0/YouMaduo.mod task0/main.mod "
-                                              "task1/ task1/main.mod task2/ task2/main.mod task3/ task3/main.mod "
-                                              "task4/ task4/main.mod var.json var_monitor.json"));
+    EXPECT_EQ(paths.join(' '),
+              QStringLiteral("  task0/ task0/BackHome.mod task0/Init.mod task0/YouMaduo.mod task0/main.mod "
+                             "task1/ task1/main.mod task2/ task2/main.mod task3/ task3/main.mod "
+                             "task4/ task4/main.mod var.json var_monitor.json"));
     start(); // what the controller knows
     EXPECT_EQ(current(), QStringLiteral("SIM-0001/P"));
     EXPECT_EQ(m("quill.project.autoload_prj_path")->getString(), QStringLiteral("P/_build/P.prj"));
-    EXPECT_EQ(tasks(), QStringList({"task0: main BackHome Init YouMaduo", "task1: main", "task2: main", "task3: main",
-                                    "task4: main"}));
+    EXPECT_EQ(tasks(), QStringList({"task0: main BackHome Init YouMaduo", "task1: main", "task2: main",
+                                    "task3: main", "task4: main"}));
     EXPECT_EQ(m("quill.project.var._list")->cmobjCount(), 38);
     EXPECT_TRUE(m("quill.project.task.built")->getBool());
     EXPECT_EQ(m("quill.project._list")->node(), nodeFromJson(R"(["P"])"));
@@ -176,9 +178,11 @@ TEST_F(ProjectTest, WithoutAControllerTheRobotIsNotKnown)
     startWithoutController();
     const auto before = files();
     for (const bool edits : {false, true}) {
-        const bool done = edits ? palx::editProject("P", "Old", &steps) : palx::addProject("P", std::nullopt, &steps);
+        const bool done =
+            edits ? palx::editProject("P", "Old", &steps) : palx::addProject("P", std::nullopt, &steps);
         EXPECT_FALSE(done);
-        EXPECT_EQ(takeMessages(), QStringList("error: The robot is not known yet: connect the controller first"));
+        EXPECT_EQ(takeMessages(),
+                  QStringList("error: The robot is not known yet: connect the controller first"));
     }
     EXPECT_EQ(files(), before);
     EXPECT_TRUE(palx::projectNames().isEmpty());

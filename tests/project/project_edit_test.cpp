@@ -57,7 +57,8 @@ TEST_F(ProjectTest, AnEditMakesTheProjectAnew)
     EXPECT_EQ(tasks(), QStringList({kBothTask, "task1: main", "task2: main", "task3: main", "task4: main"}));
     EXPECT_EQ(palx::projectRecord("P")->getInt("scheme_layout"), 2);
     EXPECT_EQ(startUp(), QStringLiteral("P/_build/P.prj"));
-    EXPECT_TRUE(palx::checkVarExists(QStringLiteral("mine"))) << "an edited project goes on with its variables";
+    EXPECT_TRUE(palx::checkVarExists(QStringLiteral("mine")))
+        << "an edited project goes on with its variables";
 }
 
 TEST_F(ProjectTest, ARenamedProjectLeavesNothingOfItsOldName)
@@ -147,7 +148,7 @@ TEST_F(ProjectTest, AFailedCommitLeavesTheOldProjectWhole)
         const char *name;
         const char *oldName; ///< null: an added one
         rlim_t room;         ///< bytes that a file may have
-    } cases[] = {{"P", "P", 10}, {"New", "P", 10},     {"New", nullptr, 10},    {"Other", "Other", 10},
+    } cases[] = {{"P", "P", 10},  {"New", "P", 10},     {"New", nullptr, 10}, {"Other", "Other", 10},
                  {"P", "P", 900}, {"New", "Other", 10}, {"New", nullptr, 900}};
     const auto before = files();
     const std::string state = stateText();
@@ -180,10 +181,11 @@ TEST_F(ProjectTest, AFolderThatCannotBeRemovedDoesNotStopTheRebuild)
         EXPECT_TRUE(palx::editProject(QStringLiteral("P"), QStringLiteral("P"), &steps));
     }
     const QStringList messages = takeMessages();
-    EXPECT_EQ(messages.at(1), QStringLiteral("error: Remove folder %1 failed").arg(place(QStringLiteral("P"))));
-    EXPECT_EQ(messages.mid(2, 4), QStringList({"warning: File main already exists!", "warning: File BackHome already exists!",
-                                               "warning: File Init already exists!",
-                                               "warning: File ZuoMaduo already exists!"}));
+    EXPECT_EQ(messages.at(1),
+              QStringLiteral("error: Remove folder %1 failed").arg(place(QStringLiteral("P"))));
+    EXPECT_EQ(messages.mid(2, 4),
+              QStringList({"warning: File main already exists!", "warning: File BackHome already exists!",
+                           "warning: File Init already exists!", "warning: File ZuoMaduo already exists!"}));
     EXPECT_EQ(tasks().size(), 5);
     presenter.answer(true);
     const std::string state = stateText();
@@ -212,7 +214,8 @@ TEST_F(ProjectTest, DeletingRemovesTheProjectAndNothingElse)
         takeMessages();
         presenter.answer(true);
         ASSERT_TRUE(palx::deleteProject(QStringLiteral("P"), &steps));
-        EXPECT_EQ(takeMessages(), QStringList({"ask: Are you sure to delete project P?", "info: Project P removed"}));
+        EXPECT_EQ(takeMessages(),
+                  QStringList({"ask: Are you sure to delete project P?", "info: Project P removed"}));
         EXPECT_EQ(files(), other);
         EXPECT_TRUE(palx::projectRecord("P")->isEmptyMobj());
         start();
@@ -251,7 +254,8 @@ TEST_F(ProjectTest, DeletingCanBeRefused)
         const ReadOnlyFolder locked(place(QString()));
         EXPECT_FALSE(palx::deleteProject(QStringLiteral("P"), &steps));
     }
-    EXPECT_EQ(takeMessages().last(), QStringLiteral("error: Remove folder %1 failed").arg(place(QStringLiteral("P"))));
+    EXPECT_EQ(takeMessages().last(),
+              QStringLiteral("error: Remove folder %1 failed").arg(place(QStringLiteral("P"))));
     EXPECT_EQ(files(), before);
     EXPECT_EQ(stateText(), state);
 }
@@ -270,17 +274,18 @@ TEST_F(ProjectTest, ReloadingSwitchesAndTouchesNoFile)
     presenter.answer(true);
     records.clear();
     ASSERT_TRUE(palx::reloadProject(QStringLiteral("A"), &steps));
-    EXPECT_EQ(takeMessages(), QStringList({"ask: Are you sure to switch to project A?",
-                                           "ask: Are you sure to switch to project A?",
-                                           "warning: Reload project A",
-                                           "info: Set A to auto load project success!"}));
+    EXPECT_EQ(
+        takeMessages(),
+        QStringList({"ask: Are you sure to switch to project A?", "ask: Are you sure to switch to project A?",
+                     "warning: Reload project A", "info: Set A to auto load project success!"}));
     EXPECT_EQ(steps.told, QStringList({"progress", "current", "progress over", "changed"}));
     EXPECT_EQ(loading, QStringList({"true", "false"}));
     EXPECT_EQ(tasks().first(), kBothTask);
     presenter.answer(true);
     ASSERT_TRUE(palx::reloadProject(QString(), &steps));
-    EXPECT_EQ(takeMessages(), QStringList({"ask: Are you sure to switch to project Empty project?",
-                                           "warning: Reload project ", "info: Auto load project is set to null!"}));
+    EXPECT_EQ(takeMessages(),
+              QStringList({"ask: Are you sure to switch to project Empty project?",
+                           "warning: Reload project ", "info: Auto load project is set to null!"}));
     EXPECT_EQ(current(), QString());
     EXPECT_EQ(startUp(), QString());
     EXPECT_TRUE(tasks().isEmpty());
@@ -295,7 +300,8 @@ TEST_F(ProjectTest, AnInterruptedOperationIsPutRight)
     for (const bool isBegun : {false, true}) { // the power failed before or after the new folder was made
         ASSERT_TRUE(top.mkpath(QStringLiteral(".palx-staging/SIM-0001")));
         ASSERT_TRUE(top.mkpath(QStringLiteral(".palx-staging/.discarded/0/task0")));
-        ASSERT_TRUE(QDir().rename(place(QStringLiteral("P")), top.filePath(QStringLiteral(".palx-staging/SIM-0001/P"))));
+        ASSERT_TRUE(QDir().rename(place(QStringLiteral("P")),
+                                  top.filePath(QStringLiteral(".palx-staging/SIM-0001/P"))));
         if (isBegun)
             putFile(QStringLiteral("P/task0/main.mod"), "half");
         presenter.answer(false);

@@ -31,8 +31,9 @@ QStringList variableTexts()
     QStringList lines;
     for (const orba::ModuleObject *each : m("quill.project.var._list")->cmobjs())
         lines.append(QStringLiteral("%1|%2|%3|%4|%5")
-                         .arg(each->getString("name"), each->getString("description"), each->getString("type"),
-                              each->getString("value.[0][0][0]"), each->getString("pers")));
+                         .arg(each->getString("name"), each->getString("description"),
+                              each->getString("type"), each->getString("value.[0][0][0]"),
+                              each->getString("pers")));
     return lines;
 }
 
@@ -113,7 +114,8 @@ TEST_F(ProjectTest, AProgramIsWrittenOrToldWhyNot)
 TEST_F(ProjectTest, AClonedProjectIsACopyWithItsNewName)
 {
     add(QStringLiteral("Old"), R"({"scheme_layout": 2, "bollard": 1})");
-    putFile("Old/.rlprog", "{\"project_name\":  \"Old\", \"x\": \"\xff\", \n\"project_name\":\"a\", \"other\": \"Old\"}");
+    putFile("Old/.rlprog",
+            "{\"project_name\":  \"Old\", \"x\": \"\xff\", \n\"project_name\":\"a\", \"other\": \"Old\"}");
     putFile("Old/deep/er/.rlprog", "{\"project_name\": \"\"}");
     putFile("Old/deep/.hidden", QByteArray("\0\1\2", 3));
     putFile("Old/project.rlprog", "{\"project_name\": \"Old\"}");
@@ -124,7 +126,8 @@ TEST_F(ProjectTest, AClonedProjectIsACopyWithItsNewName)
     steps.parameters = nodeFromJson(R"({"scheme_layout": 1})");
     ASSERT_TRUE(palx::addProject(name, QStringLiteral("Old"), &steps)) << takeMessages().join('|');
     const QByteArray field = "\"project_name\": \"N\\u0022ew\"";
-    EXPECT_EQ(content(name + "/.rlprog"), "{" + field + ", \"x\": \"\xff\", \n" + field + ", \"other\": \"Old\"}");
+    EXPECT_EQ(content(name + "/.rlprog"),
+              "{" + field + ", \"x\": \"\xff\", \n" + field + ", \"other\": \"Old\"}");
     EXPECT_EQ(content(name + "/deep/er/.rlprog"), "{" + field + "}");
     for (const char *file : {"deep/.hidden", "project.rlprog", "task0/main.mod", "task0/YouMaduo.mod"})
         EXPECT_EQ(content(name + '/' + file), content(QStringLiteral("Old/") + file)) << file;
@@ -157,7 +160,8 @@ TEST_F(ProjectTest, VariablesAreCreatedOnceInTheirOrder)
     QStringList expected{"enableStackL|Enable left-side stacking|bool|false|true",
                          "enableStackR|Enable right-side stacking|bool|false|true"};
     for (const QChar side : QStringLiteral("LR")) {
-        for (const char *line : {"palletIndex%1|%2 side recipe index|int|0|true", "palletCount%1|%2 side pallet count|int|0|true",
+        for (const char *line : {"palletIndex%1|%2 side recipe index|int|0|true",
+                                 "palletCount%1|%2 side pallet count|int|0|true",
                                  "palletTotalCount%1|%2 side pallet total count|int|0|true",
                                  "currentLayer%1|%2 side current layer|int|1|true",
                                  "layerCount%1|%2 side current layer count|int|1|true",
@@ -165,31 +169,34 @@ TEST_F(ProjectTest, VariablesAreCreatedOnceInTheirOrder)
                                  "totalPiledCount%1|%2 side total piled count|int|0|true",
                                  "cycleTime%1|%2 side cycle time|double|0.0|true",
                                  "boxHeight%1|%2 side box height|int|300|true"})
-            expected.append(QString::fromLatin1(line).arg(side, side == 'L' ? QStringLiteral("Left") : QStringLiteral("Right")));
+            expected.append(QString::fromLatin1(line).arg(side, side == 'L' ? QStringLiteral("Left")
+                                                                            : QStringLiteral("Right")));
     }
-    expected += QStringList{"palletStatus|Left: 1, Right: 2|int|0|true",
-                            "flagL|Left full flag|int|0|true",
-                            "flagR|Right full flag|int|0|true",
-                            "flagL1||int|0|true",
-                            "flagR1||int|0|true",
-                            "rise|Lifting column state, 1 up, 0 down|int|1|true",
-                            "use_rise|Using lifting column|int|0|true",
-                            "SetZ|Stacking maximum height|int|700|true",
-                            "MaxZ|Maximum height reachable by the robot in the stacking scene|int|1000|true",
-                            "grabbing|Gripping materials|bool|false|true",
-                            "Margin|StandBy Point Margin|int|400|true",
-                            "liftHeight|Lift height|int|550|true",
-                            "clock0|calculate time|clock||false",
-                            "boxheight|box height|int|300|false",
-                            "flagLL||bool|false|false",
-                            "flagRR||bool|false|false",
-                            "flag||bool|false|false",
-                            "BHOME|current pos|robtarget|p:{{0,0,0},{0,0,0,0},0}{cfg 0,0,0,0,0,0,0,0}{EJ 0,0,0,0,0,0}|false"};
+    expected += QStringList{
+        "palletStatus|Left: 1, Right: 2|int|0|true",
+        "flagL|Left full flag|int|0|true",
+        "flagR|Right full flag|int|0|true",
+        "flagL1||int|0|true",
+        "flagR1||int|0|true",
+        "rise|Lifting column state, 1 up, 0 down|int|1|true",
+        "use_rise|Using lifting column|int|0|true",
+        "SetZ|Stacking maximum height|int|700|true",
+        "MaxZ|Maximum height reachable by the robot in the stacking scene|int|1000|true",
+        "grabbing|Gripping materials|bool|false|true",
+        "Margin|StandBy Point Margin|int|400|true",
+        "liftHeight|Lift height|int|550|true",
+        "clock0|calculate time|clock||false",
+        "boxheight|box height|int|300|false",
+        "flagLL||bool|false|false",
+        "flagRR||bool|false|false",
+        "flag||bool|false|false",
+        "BHOME|current pos|robtarget|p:{{0,0,0},{0,0,0,0},0}{cfg 0,0,0,0,0,0,0,0}{EJ 0,0,0,0,0,0}|false"};
     EXPECT_EQ(variableTexts(), expected);
     palx::createProjectVariables();
     palx::createVar("SetZ", QString(), "int", "1");
     EXPECT_EQ(variableTexts(), expected);
-    EXPECT_EQ(m("quill.project.var._list")->cmobj(1)->node(), nodeFromJson(R"({"id": 1, "name": "enableStackR",
+    EXPECT_EQ(m("quill.project.var._list")->cmobj(1)->node(),
+              nodeFromJson(R"({"id": 1, "name": "enableStackR",
         "description": "Enable right-side stacking", "type": "bool", "pers": "true", "d": [0, 0, 0],
         "value": {"[0][0][0]": "false"}})"));
 }
@@ -206,7 +213,8 @@ TEST_F(ProjectTest, VariablesAreKeptInFilesAsTheSoftwareWants)
     Node monitored;
     ASSERT_TRUE(orba::ModuleManager::readFromJson(place("P/var_monitor.json"), &monitored));
     EXPECT_EQ(monitored.size(), 33);
-    EXPECT_EQ(*monitored.at(32), nodeFromJson(R"({"name": "more", "description": "one more", "type": "int", "marker": 3})"));
+    EXPECT_EQ(*monitored.at(32),
+              nodeFromJson(R"({"name": "more", "description": "one more", "type": "int", "marker": 3})"));
     start("2.5.0");
     add(QStringLiteral("Q"));
     EXPECT_FALSE(QFileInfo::exists(place("Q/var.json")));
@@ -225,7 +233,8 @@ TEST_F(ProjectTest, WithoutARecordNoVariablesAreCreated)
 
 TEST_F(ProjectTest, RecipesAreListedByTheirSide)
 {
-    const Node stacks = nodeFromJson(R"([{"name": "a", "pallet_position": 0}, {"name": "b", "pallet_position": 1},
+    const Node stacks =
+        nodeFromJson(R"([{"name": "a", "pallet_position": 0}, {"name": "b", "pallet_position": 1},
                                          {"name": "c"}, {"name": "d", "pallet_position": 2}])");
     EXPECT_EQ(palx::sideRecipes(stacks, true), QStringList({"a", "c"}));
     EXPECT_EQ(palx::sideRecipes(stacks, false), QStringList({"b", "d"}));

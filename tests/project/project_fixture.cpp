@@ -33,7 +33,8 @@ void ScriptedSteps::showProgress(bool isRunning)
 
 ProjectTest::ProjectTest()
 {
-    ::chmod(folder_.path().toLocal8Bit().constData(), 0755); // tests of read-only folders lay down the rights of root
+    ::chmod(folder_.path().toLocal8Bit().constData(),
+            0755); // tests of read-only folders lay down the rights of root
 }
 
 void ProjectTest::start(const char *version)
@@ -81,10 +82,11 @@ void ProjectTest::open(bool isLinked)
         };
     session_ = std::make_unique<host::HostSession>(options);
     EXPECT_TRUE(session_->start());
-    QObject::connect(m("quill.log.current"), &orba::ModuleObject::changed, session_.get(), [this](const QVariant &json) {
-        const Node record = nodeFromJson(json.toString().toUtf8());
-        records.append(record.getString(u"level") + QStringLiteral(": ") + record.getString(u"title"));
-    });
+    QObject::connect(
+        m("quill.log.current"), &orba::ModuleObject::changed, session_.get(), [this](const QVariant &json) {
+            const Node record = nodeFromJson(json.toString().toUtf8());
+            records.append(record.getString(u"level") + QStringLiteral(": ") + record.getString(u"title"));
+        });
     takeMessages();
 }
 
@@ -123,7 +125,8 @@ std::map<std::string, std::string> ProjectTest::files() const
         else if (!each.fileInfo().isFile())
             found[path.toStdString()] = "(special)"; // a pipe would be waited for
         else
-            found[path.toStdString()] = file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(closed)";
+            found[path.toStdString()] =
+                file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(closed)";
     }
     return found;
 }

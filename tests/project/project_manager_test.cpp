@@ -97,8 +97,8 @@ TEST_F(ProjectPage, AddsWhatWasChosen)
         "right_stack_recipe": 0})"));
     EXPECT_EQ(page->chosenProject(), QStringLiteral("Line 1"));
     EXPECT_EQ(find<QLabel>("lblState")->text(), QStringLiteral("Current, loaded at start-up"));
-    EXPECT_EQ(column("tblPrograms", 2), QStringList({"main", "BackHome", "Init", "ZuoMaduo", "YouMaduo", "main", "main",
-                                                     "main", "main"}));
+    EXPECT_EQ(column("tblPrograms", 2), QStringList({"main", "BackHome", "Init", "ZuoMaduo", "YouMaduo",
+                                                     "main", "main", "main", "main"}));
     EXPECT_EQ(column("tblPrograms", 1), QStringList({"0", "1", "2", "3", "4", "0", "0", "0", "0"}));
     EXPECT_EQ(column("tblVariables", 0).size(), 38);
     EXPECT_TRUE(palx::checkVarExists("SetZ"));
@@ -318,7 +318,8 @@ TEST_F(ProjectPage, ShowsTheProgramsOfEveryProject)
     add(QStringLiteral("B"));
     page->refreshData();
     choose(QStringLiteral("A"));
-    EXPECT_EQ(column("tblPrograms", 2), QStringList({"BackHome", "Init", "ZuoMaduo", "main", "main", "main", "main"}));
+    EXPECT_EQ(column("tblPrograms", 2),
+              QStringList({"BackHome", "Init", "ZuoMaduo", "main", "main", "main", "main"}));
     table->selectRow(3);
     EXPECT_EQ(title->text(), QStringLiteral("task0/main.mod"));
     EXPECT_EQ(program->blockCount(), 4);

@@ -5,8 +5,8 @@
 
 #include "ix/xtheme.h"
 #include "support/test_support.h"
-#include "ui/page_fixture.h"
 #include "ui/base_sub_page.h"
+#include "ui/page_fixture.h"
 #include "ui/point_group.h"
 #include "ui/recipe_frame.h"
 
@@ -92,7 +92,8 @@ template <typename Visit> void eachProjectView(Pages &pages, Visit visit)
 {
     QWidget *manager = pages.home->subPages()->openSubPage(QStringLiteral("project_manager"));
     for (const char *button : {"btnTasks", "btnVariables", "btnParameters", "btnAdd", "btnCancel"}) {
-        manager->findChild<QAbstractButton *>(QLatin1String(button))->setEnabled(true); // without a controller, too
+        manager->findChild<QAbstractButton *>(QLatin1String(button))
+            ->setEnabled(true); // without a controller, too
         manager->findChild<QAbstractButton *>(QLatin1String(button))->click();
         QCoreApplication::processEvents();
         visit(manager, QStringLiteral("projects after %1: ").arg(QLatin1String(button)));
@@ -174,8 +175,7 @@ TEST(Forms, ControlsAreLargeEnoughForFingers)
     pages.tree.addRecipe("Box");
     eachProjectView(pages, expectTouchable);
     pages.open("Box");
-    eachFrame(pages,
-              [](RecipeFrame *frame, QScrollArea *) { expectTouchable(frame, frame->objectName()); });
+    eachFrame(pages, [](RecipeFrame *frame, QScrollArea *) { expectTouchable(frame, frame->objectName()); });
 }
 
 TEST(Forms, FollowAChangeOfLanguage)

@@ -2,6 +2,7 @@
 #include "nexo/setting_manager.h"
 #include "stack/recipe_layers.h"
 #include "support/test_support.h"
+#include "ui/base_sub_page.h"
 #include "ui/page_fixture.h"
 #include "ui/stackhomepage.h"
 #include "ui/stacksetuppage.h"
@@ -94,6 +95,8 @@ struct FilledPages : Pages
         orba::ModuleObject *stack = tree.addRecipe("R1");
         palx::insertLayer(stack, -1, palx::kSheetPattern);
         palx::stacksNode()->announceStructure(); // the home page lists it anew
+        home->subPages()->openSubPage(QStringLiteral("project_manager"));
+        home->subPages()->closeSubPage();
         open("R1", frame);
     }
 };
