@@ -134,6 +134,38 @@
         <source>%1 mm</source>
         <translation>%1 mm</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Copy, remove, turn</source>
+        <translation>复制、删除、旋转</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>Whole pattern; turn by an angle</source>
+        <translation>整个垛型；按角度旋转</translation>
+    </message>
+    <message>
+        <source>Align and space across</source>
+        <translation>横向对齐与分布</translation>
+    </message>
+    <message>
+        <source>Align and space along</source>
+        <translation>纵向对齐与分布</translation>
+    </message>
+    <message>
+        <source>Show the plan larger</source>
+        <translation>放大平面图</translation>
+    </message>
+    <message>
+        <source>Show the plan smaller</source>
+        <translation>缩小平面图</translation>
+    </message>
 </context>
 <context>
     <name>FieldText</name>
@@ -219,24 +251,6 @@ mm</translation>
     <message>
         <source>Direction</source>
         <translation>方向</translation>
-    </message>
-    <message>
-        <source>dx
-mm</source>
-        <translation>dx
-mm</translation>
-    </message>
-    <message>
-        <source>dy
-mm</source>
-        <translation>dy
-mm</translation>
-    </message>
-    <message>
-        <source>dz
-mm</source>
-        <translation>dz
-mm</translation>
     </message>
 </context>
 <context>
@@ -746,6 +760,14 @@ mm</translation>
         <source>%1 of %2: %3</source>
         <translation>%1/%2：%3</translation>
     </message>
+    <message>
+        <source>Earlier</source>
+        <translation>提前</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>推后</translation>
+    </message>
 </context>
 <context>
     <name>PalletFrame</name>
@@ -1029,14 +1051,6 @@ mm</translation>
     <message>
         <source>What is chosen or wrong on the plan</source>
         <translation>平面图上的选择或问题</translation>
-    </message>
-    <message>
-        <source>Show the plan smaller</source>
-        <translation>缩小平面图</translation>
-    </message>
-    <message>
-        <source>Show the plan larger</source>
-        <translation>放大平面图</translation>
     </message>
     <message>
         <source>Show the whole plan</source>
@@ -1468,6 +1482,275 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>ProgramTableModel</name>
+    <message>
+        <source>Task</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectManager</name>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Back to the page before</source>
+        <translation>返回上一页</translation>
+    </message>
+    <message>
+        <source>Project Manager</source>
+        <translation>工程管理</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>工程</translation>
+    </message>
+    <message>
+        <source>State of the project</source>
+        <translation>工程状态</translation>
+    </message>
+    <message>
+        <source>What is being done</source>
+        <translation>正在执行的操作</translation>
+    </message>
+    <message>
+        <source>Name of the project</source>
+        <translation>工程名称</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>克隆</translation>
+    </message>
+    <message>
+        <source>Copy the chosen project&apos;s files</source>
+        <translation>复制所选工程的文件</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Tasks and their program files</source>
+        <translation>任务及其程序文件</translation>
+    </message>
+    <message>
+        <source>Shown program file</source>
+        <translation>显示的程序文件</translation>
+    </message>
+    <message>
+        <source>Program text</source>
+        <translation>程序文本</translation>
+    </message>
+    <message>
+        <source>Whose variables are shown</source>
+        <translation>显示的变量所属</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Add a project</source>
+        <translation>添加工程</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Edit the project</source>
+        <translation>编辑工程</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Remove the project</source>
+        <translation>删除工程</translation>
+    </message>
+    <message>
+        <source>Set Default</source>
+        <translation>设为默认</translation>
+    </message>
+    <message>
+        <source>Load the project when the controller starts</source>
+        <translation>控制器启动时加载该工程</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>重新加载</translation>
+    </message>
+    <message>
+        <source>Switch to the project</source>
+        <translation>切换到该工程</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>新建工程</translation>
+    </message>
+    <message>
+        <source>Edit Project</source>
+        <translation>编辑工程</translation>
+    </message>
+    <message>
+        <source>Preparing data...</source>
+        <translation>正在准备数据...</translation>
+    </message>
+    <message>
+        <source>Connect the controller first</source>
+        <translation>请先连接控制器</translation>
+    </message>
+    <message>
+        <source>No project is current.</source>
+        <translation>没有当前工程。</translation>
+    </message>
+    <message>
+        <source>Variables of the current project: %1</source>
+        <translation>当前工程的变量：%1</translation>
+    </message>
+    <message>
+        <source>Current, loaded at start-up</source>
+        <translation>当前，启动时加载</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>Loaded at start-up</source>
+        <translation>启动时加载</translation>
+    </message>
+    <message>
+        <source>Not current</source>
+        <translation>非当前</translation>
+    </message>
+    <message>
+        <source>Touch a program file to look at it.</source>
+        <translation>点按程序文件可查看。</translation>
+    </message>
+    <message>
+        <source>: the file cannot be read</source>
+        <translation>：无法读取文件</translation>
+    </message>
+    <message>
+        <source>: empty</source>
+        <translation>：空</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectParamSetupPage</name>
+    <message>
+        <source>Scheme layout</source>
+        <translation>方案布局</translation>
+    </message>
+    <message>
+        <source>Single Line - Left</source>
+        <translation>单线 - 左</translation>
+    </message>
+    <message>
+        <source>Single Line - Right</source>
+        <translation>单线 - 右</translation>
+    </message>
+    <message>
+        <source>Single Line - Both</source>
+        <translation>单线 - 两侧</translation>
+    </message>
+    <message>
+        <source>Double Line - Both</source>
+        <translation>双线 - 两侧</translation>
+    </message>
+    <message>
+        <source>Palletizing type</source>
+        <translation>码垛类型</translation>
+    </message>
+    <message>
+        <source>Palletizing</source>
+        <translation>码垛</translation>
+    </message>
+    <message>
+        <source>Depalletizing</source>
+        <translation>拆垛</translation>
+    </message>
+    <message>
+        <source>Type of sucker</source>
+        <translation>吸盘类型</translation>
+    </message>
+    <message>
+        <source>Single Suction</source>
+        <translation>单吸盘</translation>
+    </message>
+    <message>
+        <source>Double Suction</source>
+        <translation>双吸盘</translation>
+    </message>
+    <message>
+        <source>Lift platform</source>
+        <translation>升降柱</translation>
+    </message>
+    <message>
+        <source>With Bollard</source>
+        <translation>带升降柱</translation>
+    </message>
+    <message>
+        <source>Without Bollard</source>
+        <translation>无升降柱</translation>
+    </message>
+    <message>
+        <source>Other accessories</source>
+        <translation>其他附件</translation>
+    </message>
+    <message>
+        <source>With Clapboard</source>
+        <translation>带隔板</translation>
+    </message>
+    <message>
+        <source>Without Clapboard</source>
+        <translation>无隔板</translation>
+    </message>
+    <message>
+        <source>Left Recipe</source>
+        <translation>左侧配方</translation>
+    </message>
+    <message>
+        <source>Right Recipe</source>
+        <translation>右侧配方</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空</translation>
+    </message>
+</context>
+<context>
     <name>RecipeEditing</name>
     <message>
         <source>The margins left no room for a product and were set to 0.</source>
@@ -1868,6 +2151,14 @@ Pallet: %4</source>
         <source>The recipe cannot be made: the list of recipes is missing.</source>
         <translation>无法创建配方：缺少配方列表。</translation>
     </message>
+    <message>
+        <source>Projects</source>
+        <translation>工程</translation>
+    </message>
+    <message>
+        <source>Robot projects</source>
+        <translation>机器人工程</translation>
+    </message>
 </context>
 <context>
     <name>StackPanel</name>
@@ -2082,6 +2373,37 @@ Pallet: %4</source>
     <message>
         <source>layer below</source>
         <translation>下层</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTableModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>保持</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,38 @@
         <source>%1 mm</source>
         <translation>%1 mm</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Copy, remove, turn</source>
+        <translation>コピー、削除、回転</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移動</translation>
+    </message>
+    <message>
+        <source>Whole pattern; turn by an angle</source>
+        <translation>パターン全体、角度で回転</translation>
+    </message>
+    <message>
+        <source>Align and space across</source>
+        <translation>横にそろえる、等間隔</translation>
+    </message>
+    <message>
+        <source>Align and space along</source>
+        <translation>縦にそろえる、等間隔</translation>
+    </message>
+    <message>
+        <source>Show the plan larger</source>
+        <translation>平面図を拡大</translation>
+    </message>
+    <message>
+        <source>Show the plan smaller</source>
+        <translation>平面図を縮小</translation>
+    </message>
 </context>
 <context>
     <name>FieldText</name>
@@ -219,24 +251,6 @@ mm</translation>
     <message>
         <source>Direction</source>
         <translation>方向</translation>
-    </message>
-    <message>
-        <source>dx
-mm</source>
-        <translation>dx
-mm</translation>
-    </message>
-    <message>
-        <source>dy
-mm</source>
-        <translation>dy
-mm</translation>
-    </message>
-    <message>
-        <source>dz
-mm</source>
-        <translation>dz
-mm</translation>
     </message>
 </context>
 <context>
@@ -746,6 +760,14 @@ mm</translation>
         <source>%1 of %2: %3</source>
         <translation>%1／%2: %3</translation>
     </message>
+    <message>
+        <source>Earlier</source>
+        <translation>前へ</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>後へ</translation>
+    </message>
 </context>
 <context>
     <name>PalletFrame</name>
@@ -1029,14 +1051,6 @@ mm</translation>
     <message>
         <source>What is chosen or wrong on the plan</source>
         <translation>平面図の選択または問題</translation>
-    </message>
-    <message>
-        <source>Show the plan smaller</source>
-        <translation>平面図を縮小</translation>
-    </message>
-    <message>
-        <source>Show the plan larger</source>
-        <translation>平面図を拡大</translation>
     </message>
     <message>
         <source>Show the whole plan</source>
@@ -1468,6 +1482,275 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>ProgramTableModel</name>
+    <message>
+        <source>Task</source>
+        <translation>タスク</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>番号</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectManager</name>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Back to the page before</source>
+        <translation>前のページへ戻る</translation>
+    </message>
+    <message>
+        <source>Project Manager</source>
+        <translation>プロジェクト管理</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>プロジェクト</translation>
+    </message>
+    <message>
+        <source>State of the project</source>
+        <translation>プロジェクトの状態</translation>
+    </message>
+    <message>
+        <source>What is being done</source>
+        <translation>実行中の操作</translation>
+    </message>
+    <message>
+        <source>Name of the project</source>
+        <translation>プロジェクト名</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Copy the chosen project&apos;s files</source>
+        <translation>選択したプロジェクトのファイルをコピー</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>パラメータ</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>タスク</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>変数</translation>
+    </message>
+    <message>
+        <source>Tasks and their program files</source>
+        <translation>タスクとプログラムファイル</translation>
+    </message>
+    <message>
+        <source>Shown program file</source>
+        <translation>表示中のプログラムファイル</translation>
+    </message>
+    <message>
+        <source>Program text</source>
+        <translation>プログラムの本文</translation>
+    </message>
+    <message>
+        <source>Whose variables are shown</source>
+        <translation>表示中の変数の持ち主</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Add a project</source>
+        <translation>プロジェクトを追加</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Edit the project</source>
+        <translation>プロジェクトを編集</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Remove the project</source>
+        <translation>プロジェクトを削除</translation>
+    </message>
+    <message>
+        <source>Set Default</source>
+        <translation>既定にする</translation>
+    </message>
+    <message>
+        <source>Load the project when the controller starts</source>
+        <translation>コントローラの起動時に読み込む</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>再読み込み</translation>
+    </message>
+    <message>
+        <source>Switch to the project</source>
+        <translation>プロジェクトに切り替える</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>新しいプロジェクト</translation>
+    </message>
+    <message>
+        <source>Edit Project</source>
+        <translation>プロジェクトの編集</translation>
+    </message>
+    <message>
+        <source>Preparing data...</source>
+        <translation>データを準備しています...</translation>
+    </message>
+    <message>
+        <source>Connect the controller first</source>
+        <translation>先にコントローラを接続してください</translation>
+    </message>
+    <message>
+        <source>No project is current.</source>
+        <translation>現在のプロジェクトはありません。</translation>
+    </message>
+    <message>
+        <source>Variables of the current project: %1</source>
+        <translation>現在のプロジェクトの変数: %1</translation>
+    </message>
+    <message>
+        <source>Current, loaded at start-up</source>
+        <translation>現在、起動時に読み込む</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>現在</translation>
+    </message>
+    <message>
+        <source>Loaded at start-up</source>
+        <translation>起動時に読み込む</translation>
+    </message>
+    <message>
+        <source>Not current</source>
+        <translation>現在ではない</translation>
+    </message>
+    <message>
+        <source>Touch a program file to look at it.</source>
+        <translation>プログラムファイルに触れると表示します。</translation>
+    </message>
+    <message>
+        <source>: the file cannot be read</source>
+        <translation>: ファイルを読めません</translation>
+    </message>
+    <message>
+        <source>: empty</source>
+        <translation>: 空</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectParamSetupPage</name>
+    <message>
+        <source>Scheme layout</source>
+        <translation>構成</translation>
+    </message>
+    <message>
+        <source>Single Line - Left</source>
+        <translation>1 ライン - 左</translation>
+    </message>
+    <message>
+        <source>Single Line - Right</source>
+        <translation>1 ライン - 右</translation>
+    </message>
+    <message>
+        <source>Single Line - Both</source>
+        <translation>1 ライン - 両側</translation>
+    </message>
+    <message>
+        <source>Double Line - Both</source>
+        <translation>2 ライン - 両側</translation>
+    </message>
+    <message>
+        <source>Palletizing type</source>
+        <translation>パレタイズの種類</translation>
+    </message>
+    <message>
+        <source>Palletizing</source>
+        <translation>パレタイズ</translation>
+    </message>
+    <message>
+        <source>Depalletizing</source>
+        <translation>デパレタイズ</translation>
+    </message>
+    <message>
+        <source>Type of sucker</source>
+        <translation>吸着パッドの種類</translation>
+    </message>
+    <message>
+        <source>Single Suction</source>
+        <translation>シングル吸着</translation>
+    </message>
+    <message>
+        <source>Double Suction</source>
+        <translation>ダブル吸着</translation>
+    </message>
+    <message>
+        <source>Lift platform</source>
+        <translation>昇降柱</translation>
+    </message>
+    <message>
+        <source>With Bollard</source>
+        <translation>昇降柱あり</translation>
+    </message>
+    <message>
+        <source>Without Bollard</source>
+        <translation>昇降柱なし</translation>
+    </message>
+    <message>
+        <source>Other accessories</source>
+        <translation>その他の付属品</translation>
+    </message>
+    <message>
+        <source>With Clapboard</source>
+        <translation>合紙あり</translation>
+    </message>
+    <message>
+        <source>Without Clapboard</source>
+        <translation>合紙なし</translation>
+    </message>
+    <message>
+        <source>Left Recipe</source>
+        <translation>左レシピ</translation>
+    </message>
+    <message>
+        <source>Right Recipe</source>
+        <translation>右レシピ</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空</translation>
+    </message>
+</context>
+<context>
     <name>RecipeEditing</name>
     <message>
         <source>The margins left no room for a product and were set to 0.</source>
@@ -1868,6 +2151,14 @@ Pallet: %4</source>
         <source>The recipe cannot be made: the list of recipes is missing.</source>
         <translation>レシピを作れません: レシピの一覧がありません。</translation>
     </message>
+    <message>
+        <source>Projects</source>
+        <translation>プロジェクト</translation>
+    </message>
+    <message>
+        <source>Robot projects</source>
+        <translation>ロボットのプロジェクト</translation>
+    </message>
 </context>
 <context>
     <name>StackPanel</name>
@@ -2082,6 +2373,37 @@ Pallet: %4</source>
     <message>
         <source>layer below</source>
         <translation>下の段</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTableModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>型</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>保持</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>いいえ</translation>
     </message>
 </context>
 <context>

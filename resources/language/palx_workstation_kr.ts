@@ -134,6 +134,38 @@
         <source>%1 mm</source>
         <translation>%1 mm</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>선택</translation>
+    </message>
+    <message>
+        <source>Copy, remove, turn</source>
+        <translation>복사, 삭제, 회전</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>이동</translation>
+    </message>
+    <message>
+        <source>Whole pattern; turn by an angle</source>
+        <translation>패턴 전체; 각도로 회전</translation>
+    </message>
+    <message>
+        <source>Align and space across</source>
+        <translation>가로 맞춤과 간격</translation>
+    </message>
+    <message>
+        <source>Align and space along</source>
+        <translation>세로 맞춤과 간격</translation>
+    </message>
+    <message>
+        <source>Show the plan larger</source>
+        <translation>평면도 확대</translation>
+    </message>
+    <message>
+        <source>Show the plan smaller</source>
+        <translation>평면도 축소</translation>
+    </message>
 </context>
 <context>
     <name>FieldText</name>
@@ -219,24 +251,6 @@ mm</translation>
     <message>
         <source>Direction</source>
         <translation>방향</translation>
-    </message>
-    <message>
-        <source>dx
-mm</source>
-        <translation>dx
-mm</translation>
-    </message>
-    <message>
-        <source>dy
-mm</source>
-        <translation>dy
-mm</translation>
-    </message>
-    <message>
-        <source>dz
-mm</source>
-        <translation>dz
-mm</translation>
     </message>
 </context>
 <context>
@@ -746,6 +760,14 @@ mm</translation>
         <source>%1 of %2: %3</source>
         <translation>%1/%2: %3</translation>
     </message>
+    <message>
+        <source>Earlier</source>
+        <translation>앞으로</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>뒤로</translation>
+    </message>
 </context>
 <context>
     <name>PalletFrame</name>
@@ -1029,14 +1051,6 @@ mm</translation>
     <message>
         <source>What is chosen or wrong on the plan</source>
         <translation>평면도에서 선택되었거나 잘못된 것</translation>
-    </message>
-    <message>
-        <source>Show the plan smaller</source>
-        <translation>평면도 축소</translation>
-    </message>
-    <message>
-        <source>Show the plan larger</source>
-        <translation>평면도 확대</translation>
     </message>
     <message>
         <source>Show the whole plan</source>
@@ -1468,6 +1482,275 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>ProgramTableModel</name>
+    <message>
+        <source>Task</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>번호</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>설명</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectManager</name>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>Back to the page before</source>
+        <translation>이전 페이지로</translation>
+    </message>
+    <message>
+        <source>Project Manager</source>
+        <translation>프로젝트 관리</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>프로젝트</translation>
+    </message>
+    <message>
+        <source>State of the project</source>
+        <translation>프로젝트 상태</translation>
+    </message>
+    <message>
+        <source>What is being done</source>
+        <translation>진행 중인 작업</translation>
+    </message>
+    <message>
+        <source>Name of the project</source>
+        <translation>프로젝트 이름</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>복제</translation>
+    </message>
+    <message>
+        <source>Copy the chosen project&apos;s files</source>
+        <translation>선택한 프로젝트의 파일 복사</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>매개변수</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>변수</translation>
+    </message>
+    <message>
+        <source>Tasks and their program files</source>
+        <translation>작업과 프로그램 파일</translation>
+    </message>
+    <message>
+        <source>Shown program file</source>
+        <translation>표시된 프로그램 파일</translation>
+    </message>
+    <message>
+        <source>Program text</source>
+        <translation>프로그램 본문</translation>
+    </message>
+    <message>
+        <source>Whose variables are shown</source>
+        <translation>변수가 표시된 대상</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>추가</translation>
+    </message>
+    <message>
+        <source>Add a project</source>
+        <translation>프로젝트 추가</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>편집</translation>
+    </message>
+    <message>
+        <source>Edit the project</source>
+        <translation>프로젝트 편집</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>제거</translation>
+    </message>
+    <message>
+        <source>Remove the project</source>
+        <translation>프로젝트 삭제</translation>
+    </message>
+    <message>
+        <source>Set Default</source>
+        <translation>기본값으로</translation>
+    </message>
+    <message>
+        <source>Load the project when the controller starts</source>
+        <translation>컨트롤러 시작 시 프로젝트 불러오기</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>다시 불러오기</translation>
+    </message>
+    <message>
+        <source>Switch to the project</source>
+        <translation>프로젝트로 전환</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>새 프로젝트</translation>
+    </message>
+    <message>
+        <source>Edit Project</source>
+        <translation>프로젝트 편집</translation>
+    </message>
+    <message>
+        <source>Preparing data...</source>
+        <translation>데이터 준비 중...</translation>
+    </message>
+    <message>
+        <source>Connect the controller first</source>
+        <translation>먼저 컨트롤러를 연결하십시오</translation>
+    </message>
+    <message>
+        <source>No project is current.</source>
+        <translation>현재 프로젝트가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Variables of the current project: %1</source>
+        <translation>현재 프로젝트의 변수: %1</translation>
+    </message>
+    <message>
+        <source>Current, loaded at start-up</source>
+        <translation>현재, 시작 시 불러옴</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>현재</translation>
+    </message>
+    <message>
+        <source>Loaded at start-up</source>
+        <translation>시작 시 불러옴</translation>
+    </message>
+    <message>
+        <source>Not current</source>
+        <translation>현재 아님</translation>
+    </message>
+    <message>
+        <source>Touch a program file to look at it.</source>
+        <translation>프로그램 파일을 누르면 볼 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>: the file cannot be read</source>
+        <translation>: 파일을 읽을 수 없음</translation>
+    </message>
+    <message>
+        <source>: empty</source>
+        <translation>: 비어 있음</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectParamSetupPage</name>
+    <message>
+        <source>Scheme layout</source>
+        <translation>구성</translation>
+    </message>
+    <message>
+        <source>Single Line - Left</source>
+        <translation>단일 라인 - 왼쪽</translation>
+    </message>
+    <message>
+        <source>Single Line - Right</source>
+        <translation>단일 라인 - 오른쪽</translation>
+    </message>
+    <message>
+        <source>Single Line - Both</source>
+        <translation>단일 라인 - 양쪽</translation>
+    </message>
+    <message>
+        <source>Double Line - Both</source>
+        <translation>이중 라인 - 양쪽</translation>
+    </message>
+    <message>
+        <source>Palletizing type</source>
+        <translation>팔레타이징 종류</translation>
+    </message>
+    <message>
+        <source>Palletizing</source>
+        <translation>팔레타이징</translation>
+    </message>
+    <message>
+        <source>Depalletizing</source>
+        <translation>디팔레타이징</translation>
+    </message>
+    <message>
+        <source>Type of sucker</source>
+        <translation>흡착 패드 종류</translation>
+    </message>
+    <message>
+        <source>Single Suction</source>
+        <translation>단일 흡착</translation>
+    </message>
+    <message>
+        <source>Double Suction</source>
+        <translation>이중 흡착</translation>
+    </message>
+    <message>
+        <source>Lift platform</source>
+        <translation>승강 칼럼</translation>
+    </message>
+    <message>
+        <source>With Bollard</source>
+        <translation>칼럼 있음</translation>
+    </message>
+    <message>
+        <source>Without Bollard</source>
+        <translation>칼럼 없음</translation>
+    </message>
+    <message>
+        <source>Other accessories</source>
+        <translation>기타 부속품</translation>
+    </message>
+    <message>
+        <source>With Clapboard</source>
+        <translation>간지 있음</translation>
+    </message>
+    <message>
+        <source>Without Clapboard</source>
+        <translation>간지 없음</translation>
+    </message>
+    <message>
+        <source>Left Recipe</source>
+        <translation>왼쪽 레시피</translation>
+    </message>
+    <message>
+        <source>Right Recipe</source>
+        <translation>오른쪽 레시피</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>비어 있음</translation>
+    </message>
+</context>
+<context>
     <name>RecipeEditing</name>
     <message>
         <source>The margins left no room for a product and were set to 0.</source>
@@ -1868,6 +2151,14 @@ Pallet: %4</source>
         <source>The recipe cannot be made: the list of recipes is missing.</source>
         <translation>레시피를 만들 수 없습니다: 레시피 목록이 없습니다.</translation>
     </message>
+    <message>
+        <source>Projects</source>
+        <translation>프로젝트</translation>
+    </message>
+    <message>
+        <source>Robot projects</source>
+        <translation>로봇 프로젝트</translation>
+    </message>
 </context>
 <context>
     <name>StackPanel</name>
@@ -2082,6 +2373,37 @@ Pallet: %4</source>
     <message>
         <source>layer below</source>
         <translation>아래 단</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTableModel</name>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>유형</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>값</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>유지</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>설명</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>예</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>아니요</translation>
     </message>
 </context>
 <context>

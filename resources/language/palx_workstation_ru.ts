@@ -134,6 +134,38 @@
         <source>%1 mm</source>
         <translation>%1 mm</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>Выбор</translation>
+    </message>
+    <message>
+        <source>Copy, remove, turn</source>
+        <translation>Копировать, удалить, повернуть</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Сдвиг</translation>
+    </message>
+    <message>
+        <source>Whole pattern; turn by an angle</source>
+        <translation>Вся схема; поворот на угол</translation>
+    </message>
+    <message>
+        <source>Align and space across</source>
+        <translation>Выровнять и распределить поперёк</translation>
+    </message>
+    <message>
+        <source>Align and space along</source>
+        <translation>Выровнять и распределить вдоль</translation>
+    </message>
+    <message>
+        <source>Show the plan larger</source>
+        <translation>Увеличить план</translation>
+    </message>
+    <message>
+        <source>Show the plan smaller</source>
+        <translation>Уменьшить план</translation>
+    </message>
 </context>
 <context>
     <name>FieldText</name>
@@ -219,24 +251,6 @@ mm</translation>
     <message>
         <source>Direction</source>
         <translation>Напр.</translation>
-    </message>
-    <message>
-        <source>dx
-mm</source>
-        <translation>dx
-mm</translation>
-    </message>
-    <message>
-        <source>dy
-mm</source>
-        <translation>dy
-mm</translation>
-    </message>
-    <message>
-        <source>dz
-mm</source>
-        <translation>dz
-mm</translation>
     </message>
 </context>
 <context>
@@ -746,6 +760,14 @@ mm</translation>
         <source>%1 of %2: %3</source>
         <translation>%1 из %2: %3</translation>
     </message>
+    <message>
+        <source>Earlier</source>
+        <translation>Раньше</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Позже</translation>
+    </message>
 </context>
 <context>
     <name>PalletFrame</name>
@@ -1029,14 +1051,6 @@ mm</translation>
     <message>
         <source>What is chosen or wrong on the plan</source>
         <translation>Что выбрано или неверно на плане</translation>
-    </message>
-    <message>
-        <source>Show the plan smaller</source>
-        <translation>Уменьшить план</translation>
-    </message>
-    <message>
-        <source>Show the plan larger</source>
-        <translation>Увеличить план</translation>
     </message>
     <message>
         <source>Show the whole plan</source>
@@ -1470,6 +1484,275 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>ProgramTableModel</name>
+    <message>
+        <source>Task</source>
+        <translation>Задача</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>№</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectManager</name>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Back to the page before</source>
+        <translation>К предыдущей странице</translation>
+    </message>
+    <message>
+        <source>Project Manager</source>
+        <translation>Менеджер проектов</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Проект</translation>
+    </message>
+    <message>
+        <source>State of the project</source>
+        <translation>Состояние проекта</translation>
+    </message>
+    <message>
+        <source>What is being done</source>
+        <translation>Что выполняется</translation>
+    </message>
+    <message>
+        <source>Name of the project</source>
+        <translation>Имя проекта</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Копия</translation>
+    </message>
+    <message>
+        <source>Copy the chosen project&apos;s files</source>
+        <translation>Скопировать файлы выбранного проекта</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Параметры</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Задачи</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Переменные</translation>
+    </message>
+    <message>
+        <source>Tasks and their program files</source>
+        <translation>Задачи и их файлы программ</translation>
+    </message>
+    <message>
+        <source>Shown program file</source>
+        <translation>Показанный файл программы</translation>
+    </message>
+    <message>
+        <source>Program text</source>
+        <translation>Текст программы</translation>
+    </message>
+    <message>
+        <source>Whose variables are shown</source>
+        <translation>Чьи переменные показаны</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Add a project</source>
+        <translation>Добавить проект</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Изменить</translation>
+    </message>
+    <message>
+        <source>Edit the project</source>
+        <translation>Изменить проект</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Remove the project</source>
+        <translation>Удалить проект</translation>
+    </message>
+    <message>
+        <source>Set Default</source>
+        <translation>По умолчанию</translation>
+    </message>
+    <message>
+        <source>Load the project when the controller starts</source>
+        <translation>Загружать проект при запуске контроллера</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Загрузить заново</translation>
+    </message>
+    <message>
+        <source>Switch to the project</source>
+        <translation>Перейти к проекту</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Новый проект</translation>
+    </message>
+    <message>
+        <source>Edit Project</source>
+        <translation>Изменение проекта</translation>
+    </message>
+    <message>
+        <source>Preparing data...</source>
+        <translation>Подготовка данных...</translation>
+    </message>
+    <message>
+        <source>Connect the controller first</source>
+        <translation>Сначала подключите контроллер</translation>
+    </message>
+    <message>
+        <source>No project is current.</source>
+        <translation>Текущего проекта нет.</translation>
+    </message>
+    <message>
+        <source>Variables of the current project: %1</source>
+        <translation>Переменные текущего проекта: %1</translation>
+    </message>
+    <message>
+        <source>Current, loaded at start-up</source>
+        <translation>Текущий, загружается при запуске</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>Текущий</translation>
+    </message>
+    <message>
+        <source>Loaded at start-up</source>
+        <translation>Загружается при запуске</translation>
+    </message>
+    <message>
+        <source>Not current</source>
+        <translation>Не текущий</translation>
+    </message>
+    <message>
+        <source>Touch a program file to look at it.</source>
+        <translation>Коснитесь файла программы, чтобы открыть его.</translation>
+    </message>
+    <message>
+        <source>: the file cannot be read</source>
+        <translation>: файл не читается</translation>
+    </message>
+    <message>
+        <source>: empty</source>
+        <translation>: пуст</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectParamSetupPage</name>
+    <message>
+        <source>Scheme layout</source>
+        <translation>Компоновка</translation>
+    </message>
+    <message>
+        <source>Single Line - Left</source>
+        <translation>Одна линия - слева</translation>
+    </message>
+    <message>
+        <source>Single Line - Right</source>
+        <translation>Одна линия - справа</translation>
+    </message>
+    <message>
+        <source>Single Line - Both</source>
+        <translation>Одна линия - обе</translation>
+    </message>
+    <message>
+        <source>Double Line - Both</source>
+        <translation>Две линии - обе</translation>
+    </message>
+    <message>
+        <source>Palletizing type</source>
+        <translation>Вид укладки</translation>
+    </message>
+    <message>
+        <source>Palletizing</source>
+        <translation>Паллетирование</translation>
+    </message>
+    <message>
+        <source>Depalletizing</source>
+        <translation>Депаллетирование</translation>
+    </message>
+    <message>
+        <source>Type of sucker</source>
+        <translation>Вид присоски</translation>
+    </message>
+    <message>
+        <source>Single Suction</source>
+        <translation>Одна присоска</translation>
+    </message>
+    <message>
+        <source>Double Suction</source>
+        <translation>Две присоски</translation>
+    </message>
+    <message>
+        <source>Lift platform</source>
+        <translation>Подъёмная колонна</translation>
+    </message>
+    <message>
+        <source>With Bollard</source>
+        <translation>С колонной</translation>
+    </message>
+    <message>
+        <source>Without Bollard</source>
+        <translation>Без колонны</translation>
+    </message>
+    <message>
+        <source>Other accessories</source>
+        <translation>Прочее оснащение</translation>
+    </message>
+    <message>
+        <source>With Clapboard</source>
+        <translation>С прокладкой</translation>
+    </message>
+    <message>
+        <source>Without Clapboard</source>
+        <translation>Без прокладки</translation>
+    </message>
+    <message>
+        <source>Left Recipe</source>
+        <translation>Левый рецепт</translation>
+    </message>
+    <message>
+        <source>Right Recipe</source>
+        <translation>Правый рецепт</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>пусто</translation>
+    </message>
+</context>
+<context>
     <name>RecipeEditing</name>
     <message>
         <source>The margins left no room for a product and were set to 0.</source>
@@ -1872,6 +2155,14 @@ Pallet: %4</source>
         <source>The recipe cannot be made: the list of recipes is missing.</source>
         <translation>Рецепт создать нельзя: нет списка рецептов.</translation>
     </message>
+    <message>
+        <source>Projects</source>
+        <translation>Проекты</translation>
+    </message>
+    <message>
+        <source>Robot projects</source>
+        <translation>Проекты робота</translation>
+    </message>
 </context>
 <context>
     <name>StackPanel</name>
@@ -2086,6 +2377,37 @@ Pallet: %4</source>
     <message>
         <source>layer below</source>
         <translation>слой ниже</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTableModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Тип</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>Хранится</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>да</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>нет</translation>
     </message>
 </context>
 <context>
