@@ -1,8 +1,10 @@
 // "pallet.data" on its way: 50 recipes of 500 products written as a frame and read back, beside a copy of the
-// same bytes and a bare parse of them; and what the search for edits costs each time the event loop rests.
+// same bytes and a bare parse of them; comparing them with what the controller holds; and what the search for edits costs
+// each time the event loop rests.
 
 #include "core/tree_compare.h"
 #include "link/frame.h"
+#include "stack/recipe_match.h"
 
 #include <benchmark/benchmark.h>
 #include <rapidjson/memorystream.h>
@@ -15,6 +17,7 @@
 #include <memory>
 #include <string>
 #include <vector>
+#include <zlib.h>
 
 using host::LinkMessage;
 using orba::Name;
@@ -177,6 +180,32 @@ void cutStream(benchmark::State &state)
         [&] { read = std::string(); });
 }
 BENCHMARK(cutStream)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// Whether the controller holds these recipes: a checksum over every number and name. The floor sums the numbers alone.
+void compareRecipes(benchmark::State &state)
+{
+    std::vector<host::RecipeSummary> told;
+    for (int i = 0; i < recipes().size(); ++i)
+        told.push_back(host::summaryOf(*recipes().at(i)));
+    constexpr std::size_t kNumbers = std::size_t(kRecipes) * kProducts * 6 * 20;
+    const std::vector<double> numbers(kNumbers, 0.5);
+    double ours = 0;
+    double summed = 0;
+    for (auto _ : state) {
+        const double now = milliseconds([&] { benchmark::DoNotOptimize(palx::matchRecipes(recipes(), told)); });
+        ours += now;
+        summed += milliseconds([&] {
+            benchmark::DoNotOptimize(crc32_z(0, reinterpret_cast<const unsigned char *>(numbers.data()),
+                                             numbers.size() * sizeof(double)));
+        });
+        state.SetIterationTime(now / 1000);
+    }
+    const auto n = static_cast<double>(state.iterations());
+    state.counters["ours_ms"] = ours / n;
+    state.counters["crc_ms"] = summed / n;
+    state.counters["to_crc"] = ours / summed;
+}
+BENCHMARK(compareRecipes)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 /// A project of so many variables, unchanged: what each rest of the event loop pays.
 void findNoEdits(benchmark::State &state)

@@ -1,6 +1,7 @@
 #include "screenshots.h"
 
 #include "bwaf/bmodule.h"
+#include "example_cell.h"
 #include "ix/xtheme.h"
 #include "move_pictures.h"
 #include "nexo/setting_manager.h"
@@ -140,6 +141,7 @@ void takeHome(Camera &camera)
     camera.takePage(mName(palx::getPluginName(), QStringLiteral("home_page")), QStringLiteral("home"));
     takeDialogOf(camera, QStringLiteral("btnNew"), QStringLiteral("new-recipe"));
     takeDialogOf(camera, QStringLiteral("btnDelete"), QStringLiteral("delete-recipe"));
+    takeDialogOf(camera, QStringLiteral("btnController"), QStringLiteral("controller-recipes"));
 }
 
 /// What a touch on a number field brings up.
@@ -291,10 +293,16 @@ QString takeAll(Session &session, const ScreenshotRequest &request, int *count)
     session.host().idle();
     chooseRecipe(session.host());
     Camera camera(&window, QDir(request.folder));
-    takeHome(camera);
-    takeSetup(camera);
-    takeWizards(camera);
-    takeOthers(camera, session.host().centerWidget());
+    {
+        ExampleCell cell;
+        if (!cell.show(&window))
+            return QStringLiteral("the simulated controller does not tell its recipes");
+        takeHome(camera);
+        takeSetup(camera);
+        takeWizards(camera);
+        takeOthers(camera, session.host().centerWidget());
+    }
+    camera.takePage(QStringLiteral("panel.controller"), QStringLiteral("panel-controller-gone"));
     takeMoves(camera);
     *count = camera.count();
     return camera.error();

@@ -35,6 +35,9 @@ LogPage::LogPage(QWidget *parent)
     ui_->setupUi(this);
     ui_->btnExport->setIcon(ix::xtheme::icon(Glyph::Save));
     ui_->btnClear->setIcon(ix::xtheme::icon(Glyph::Delete));
+    for (QPushButton *button : {ui_->btnExport, ui_->btnClear})
+        button->setIconSize(QSize(28, 28));
+    ui_->edtSearch->setTextMargins(6, 0, 6, 0);
     found_->setSourceModel(records_);
     setupTable();
     fillLevels();
@@ -56,7 +59,7 @@ int LogPage::count() const
 
 void LogPage::setupTable()
 {
-    constexpr int kRow = 44; // for a finger; a row is a large target by its width
+    constexpr int kRow = 52; // two lines of text
     QTableView *table = ui_->tblLog;
     table->setModel(found_);
     table->verticalHeader()->hide();

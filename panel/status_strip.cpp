@@ -16,6 +16,7 @@ namespace panel {
 namespace {
 
 constexpr int kClockMs = 1000;
+constexpr int kIconSize = 24;
 constexpr int kControllerWidth = 188; // as wide as the navigator above it
 
 struct Language
@@ -38,6 +39,7 @@ StatusStrip::StatusStrip(QWidget *parent)
 {
     setObjectName(QStringLiteral("statusStrip"));
     controller_->setObjectName(QStringLiteral("controllerState"));
+    controller_->setIconSize({kIconSize, kIconSize});
     controller_->setMinimumWidth(kControllerWidth); // more where a language needs it
     notice_->setObjectName(QStringLiteral("lastNotice"));
     notice_->setSizePolicy(QSizePolicy::Ignored,

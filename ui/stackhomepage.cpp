@@ -3,6 +3,7 @@
 #include "ix/clear_button.h"
 #include "ix/xtheme.h"
 #include "nexo/manager_helper.h"
+#include "ui/controller_dialog.h"
 #include "ui/current_recipe.h"
 #include "ui/form_style.h"
 #include "ui/name_dialog.h"
@@ -11,7 +12,9 @@
 #include "ui/recipe_tables.h"
 #include "ui/recipe_texts.h"
 #include "ui_stackhomepage.h"
+#include "workstation/controller_recipes.h"
 #include "workstation/plugin_node.h"
+#include "workstation/unique_widget.h"
 
 #include <QEvent>
 #include <QSortFilterProxyModel>
@@ -39,7 +42,7 @@ void raise(const char *trigger)
 StackHomePage::StackHomePage(QWidget *parent, bwaf::BModule *module)
     : BModule(module), module_(module), wgt_(new SubPageStack(parent)), ui_(std::make_unique<Ui::StackHomePage>()),
       recipes_(new RecipeListModel(wgt_)), found_(new QSortFilterProxyModel(wgt_)),
-      layers_(new LayerTableModel(wgt_))
+      layers_(new LayerTableModel(wgt_)), onController_(new palx::ControllerRecipes(wgt_))
 {
     ui_->setupUi(subPages()->content());
     subPages()->registSubPage(kProjectManager,
@@ -123,6 +126,26 @@ void StackHomePage::connectActions()
         connect(action.button, &QPushButton::clicked, wgt_, [this, act = action.act] { (this->*act)(); });
     }
     connect(ui_->message, &MessageBar::undoWanted, wgt_, [this] { undoDelete(); });
+    ui_->btnController->setIconSize(QSize(28, 28));
+    connect(ui_->btnController, &QPushButton::clicked, wgt_, [this] { openController(); });
+    connect(onController_, &palx::ControllerRecipes::changed, wgt_, [this] { showController(); });
+    showController();
+}
+
+void StackHomePage::showController()
+{
+    const State state = controllerRecipesLook(*onController_);
+    ui_->btnController->setIcon(ix::xtheme::icon(Glyph::Robot, ix::xtheme::textColor(state)));
+    ui_->btnController->setText(controllerRecipesSign(*onController_));
+    ui_->btnController->setAccessibleDescription(controllerRecipesText(*onController_));
+    ix::xtheme::setState(ui_->btnController, state);
+}
+
+void StackHomePage::openController()
+{
+    auto *dialog = new ControllerDialog(onController_, wgt_->window());
+    palx::makeUniqueDialog(dialog);
+    dialog->open();
 }
 
 void StackHomePage::followTriggers()
@@ -319,4 +342,5 @@ void StackHomePage::retranslate()
 {
     ui_->retranslateUi(subPages()->content());
     reload();
+    showController();
 }

@@ -13,12 +13,15 @@ class QModelIndex;
 class QSortFilterProxyModel;
 class RecipeListModel;
 class SubPageStack;
+namespace palx {
+class ControllerRecipes;
+}
 namespace Ui {
 class StackHomePage;
 }
 
 /// The plug-in's home page: the list of recipes with names, pictures and figures, and what can be done with
-/// them.
+/// them; and whether the controller holds them.
 ///
 /// Reloads its list on the trigger "refresh_table" and when the list of stacks changes, and raises
 /// "refresh_cmb" when the names have become others; shows its choice again on "refresh_cmb". Raises
@@ -65,6 +68,8 @@ private:
     void openRecipe();
     void openProjects();
     void listChanged(const QString &choose);
+    void showController();
+    void openController();
 
     bwaf::BModule *module_;
     QPointer<QWidget> wgt_;
@@ -72,6 +77,7 @@ private:
     RecipeListModel *recipes_;
     QSortFilterProxyModel *found_;
     LayerTableModel *layers_;
+    palx::ControllerRecipes *onController_;
     QStringList names_; ///< as last announced by "refresh_cmb"
     palx::RemovedStack removed_;
 };

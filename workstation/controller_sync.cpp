@@ -4,7 +4,6 @@
 #include "workstation/config_log.h"
 #include "workstation/plugin_log.h"
 #include "workstation/plugin_node.h"
-#include "xservice.h"
 
 #include <QCoreApplication>
 #include <QThreadPool>
@@ -18,6 +17,7 @@ namespace {
 using orba::ModuleObject;
 using orba::Node;
 
+const QString kAllStacks = QStringLiteral("pallet.data");
 constexpr const char *kAxes[] = {"x", "y", "z"};
 constexpr const char *kEulerAngles[] = {"a", "b", "c"};
 
@@ -30,7 +30,8 @@ void zeroFrame(Node &toolset, const QString &frame)
 {
     for (const char *part : {".trans", ".rot"})
         for (int i = 0; i < 3; ++i)
-            toolset.set(element(frame + QLatin1String(part), i), QVariant(0)); // whole numbers, as the controller does
+            toolset.set(element(frame + QLatin1String(part), i),
+                        QVariant(0)); // whole numbers, as the controller does
 }
 
 /// A toolset record with the numbers of a global tool.
@@ -77,20 +78,25 @@ void saveToRC(ModuleObject *stack)
     xservice()->execCommand(nullptr, QStringLiteral("pallet.set.one"), stack);
 }
 
-void saveAllToRC(bool async)
+XReply sendAllStacks()
 {
-    const QString request = QStringLiteral("pallet.data");
-    if (async) {
-        writePluginLog(QStringLiteral("Async..."));
-        // Copied here, so that editing may go on while the task sends.
-        const auto stacks = std::make_shared<const Node>(stacksNode()->node());
-        QThreadPool::globalInstance()->start([stacks, request] { xservice()->set(nullptr, request, *stacks); });
-        return;
-    }
     writePluginLog(QStringLiteral("Sync..."));
-    xservice()->set(nullptr, request, stacksNode());
+    XReply reply = xservice()->set(nullptr, kAllStacks, stacksNode());
     writePluginLog(QStringLiteral("Refresh General Palx Data Table..."));
     m("palx.trigger")->c("refresh_table")->trigger();
+    return reply;
+}
+
+void saveAllToRC(bool async)
+{
+    if (!async) {
+        sendAllStacks(); // nobody asks how it went; what went wrong is in the log
+        return;
+    }
+    writePluginLog(QStringLiteral("Async..."));
+    // Copied here, so that editing may go on while the task sends.
+    const auto stacks = std::make_shared<const Node>(stacksNode()->node());
+    QThreadPool::globalInstance()->start([stacks] { xservice()->set(nullptr, kAllStacks, *stacks); });
 }
 
 void genPointsAndSaveToRC(ModuleObject *stack, bool report)

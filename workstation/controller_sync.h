@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orba/module_object.h"
+#include "xservice.h"
 
 /// The plug-in's only way to the controller: recipes, variables, tools. GUI thread; blocking calls wait at most the
 /// timeout of the service. Results are checked only where a function says so.
@@ -8,6 +9,9 @@ namespace palx {
 
 /// Sends one stack as it stands ("pallet.set.one").
 PALX_API void saveToRC(orba::ModuleObject *stack);
+
+/// Sends all stacks ("pallet.data") on the calling thread, then raises "refresh_table"; what the controller answered.
+PALX_API XReply sendAllStacks();
 
 /// Sends all stacks ("pallet.data"). Asynchronously from one task on the global thread pool, which sends the stacks as
 /// they are at the call and tells nobody; or on the calling thread, after which "refresh_table" is raised.
@@ -36,6 +40,7 @@ PALX_API bool switchToTool();
 
 /// Makes a stack's toolset the active tool, under the name of the first global tool when the stack uses it, else
 /// "default" or the stack's own name. `zeroReference` and `zeroEnd` zero those frames in what is sent.
-PALX_API bool switchToToolset(orba::ModuleObject *toolset, bool zeroReference, bool zeroEnd, bool useDefaultName);
+PALX_API bool switchToToolset(orba::ModuleObject *toolset, bool zeroReference, bool zeroEnd,
+                              bool useDefaultName);
 
 } // namespace palx

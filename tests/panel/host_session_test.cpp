@@ -1,15 +1,19 @@
 #include "bwaf/bmodule.h"
+#include "controller/in_process_carrier.h"
 #include "core/store.h"
 #include "fixtures.h"
 #include "nexo/setting_manager.h"
 #include "orba/tree_registry.h"
 #include "shell/host_session.h"
 #include "support/test_support.h"
+#include "xservice.h"
 
 #include <QDir>
 #include <QFile>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QThreadPool>
 
 #include <gtest/gtest.h>
 
@@ -194,4 +198,31 @@ TEST_F(HostSessionTest, TwoSessionsAtOnceAreRefused)
     second.stop();
     EXPECT_EQ(first.modules().size(), 1);
     EXPECT_FALSE(m("nexo.r.id")->isEmptyMobj());
+}
+
+/// saveAllToRC(true) hands a task to the thread pool; at the end of the panel it must still reach the controller.
+TEST_F(HostSessionTest, WhatAnotherThreadStillSendsGoesOutBeforeTheLinkEnds)
+{
+    const auto controller = std::make_shared<controller::Controller>(controller::StationOptions());
+    host::SessionOptions given = options({good});
+    given.carrier = [controller] { return std::make_unique<controller::InProcessCarrier>(controller); };
+    XReply reply;
+    QSemaphore pagesHaveEnded;
+    const auto send = [&reply, &pagesHaveEnded] {
+        orba::Node recipes;
+        recipes.reset(orba::Node::Kind::List);
+        pagesHaveEnded.acquire(); // not before the session has begun to end
+        reply = xservice()->set(nullptr, QStringLiteral("pallet.data"), recipes, 60000);
+    };
+    {
+        host::HostSession session(given);
+        ASSERT_TRUE(session.start()) << texts(session);
+        ASSERT_TRUE(m("nexo.r")->getBool("connected"));
+        QObject::connect(session.centerWidget(), &QObject::destroyed,
+                         [&pagesHaveEnded] { pagesHaveEnded.release(); });
+        QThreadPool::globalInstance()->start(send);
+        session.stop();
+    }
+    EXPECT_TRUE(reply.isOk()) << reply.error;
+    QThreadPool::globalInstance()->waitForDone();
 }

@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -144,7 +145,7 @@ TEST_F(LogPageTest, WhoReadsOlderRecordsGoesOnReadingThem)
     page->show();
     EXPECT_EQ(rows().size(), 100);
     auto *table = child<QTableView>("tblLog");
-    table->verticalScrollBar()->setValue(50 * 44);
+    table->verticalScrollBar()->setValue(50 * table->verticalHeader()->defaultSectionSize());
     const QString top = table->indexAt(QPoint(1, 1)).siblingAtColumn(LogModel::Title).data().toString();
     EXPECT_EQ(top, QStringLiteral("49"));
     table->setCurrentIndex(table->indexAt(QPoint(1, 1)));

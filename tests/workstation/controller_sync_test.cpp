@@ -1,12 +1,17 @@
 #include "workstation/controller_sync.h"
 
 #include "link/fake_controller.h"
+#include "nexo/setting_manager.h"
 #include "orba/module_manager.h"
 #include "orba/tree_registry.h"
+#include "support/stderr_capture.h"
 #include "workstation/config_log.h"
 #include "workstation/plugin_node.h"
 
+#include <QFile>
+#include <QRegularExpression>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QThreadPool>
 
 using host::LinkMessage;
@@ -65,6 +70,18 @@ protected:
         palx::pluginNode()->c("global_tool")->copyFrom(nodeFromJson(json));
     }
 };
+
+/// "[S|03/04 05:06:07.089] text" becomes "S text"; a line of another form stays as it is.
+QStringList unstamped(const QByteArray &lines)
+{
+    static const QRegularExpression form(QStringLiteral("^\\[([SI])\\|\\d\\d/\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3}\\] (.*)$"));
+    QStringList texts;
+    for (const QString &line : QString::fromUtf8(lines).split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        const QRegularExpressionMatch match = form.match(line);
+        texts.append(match.hasMatch() ? match.captured(1) + QLatin1Char(' ') + match.captured(2) : line);
+    }
+    return texts;
+}
 
 const char *const kGlobalTool = R"([{"name":"PalletTool1","frame":{"pos":{"x":0.1,"y":0.2,"z":0.3}},
   "load":{"mass":12.5,"moment":[1,2,3],"pose":{"pos":{"x":0.4,"y":0.5,"z":0.6},
@@ -155,6 +172,74 @@ TEST_F(SyncTest, VersionIsComparedFromItsStart)
         m("nexo.r.version")->set(nullptr, "", QString::fromLatin1(one.version));
         EXPECT_EQ(palx::checkNexoVersion(QString::fromLatin1(one.prefix)), one.matches) << one.version;
     }
+}
+
+TEST_F(SyncTest, StepsComeInTheirOrder)
+{
+    ModuleObject *stack = palx::addStack(QStringLiteral("A"), QString());
+    QStringList steps;
+    controller.onMessage = [&steps](const LinkMessage &message) {
+        if (message.kind == Kind::Request)
+            steps.append(message.name);
+        return false;
+    };
+    const auto note = [&](const char *path, const char *step) {
+        QObject::connect(m(path), &ModuleObject::changed, link.get(),
+                         [&steps, step] { steps.append(QLatin1String(step)); });
+    };
+    note("quill.log.current", "record");
+    note("palx.trigger.refresh_table", "table");
+    note("quill.toolpage.toolset", "tool");
+    palx::saveAllToRC(false);
+    palx::genPointsAndSaveToRC(stack, true);
+    palx::switchToToolset(stack->c("toolset"), false, false, true);
+    EXPECT_EQ(steps, QStringList({"pallet.data", "table", "record", "pallet.set.one", "sys.toolset", "tool"}));
+    EXPECT_EQ(m("quill.toolpage.toolset")->getString(), QStringLiteral("default"));
+}
+
+/// What the plug-in writes to its log, one line each: prefix, header, text; and what goes to the console only.
+TEST_F(SyncTest, EveryOperationWritesItsLines)
+{
+    const QTemporaryDir folder;
+    nexo::SettingManager::instance()->setOverride(QStringLiteral("data"), folder.path());
+    setGlobals(kGlobalTool);
+    answerWith(0);
+    const struct {
+        const char *what;
+        std::function<void()> operation;
+        QStringList logged, shown;
+    } cases[] = {
+        {"all, asynchronously",
+         [] {
+             palx::saveAllToRC(true);
+             QThreadPool::globalInstance()->waitForDone();
+         },
+         {"S Async..."},
+         {}},
+        {"all", [] { palx::saveAllToRC(false); }, {"S Sync...", "S Refresh General Palx Data Table..."}, {}},
+        {"a variable",
+         [] { palx::setValueOfPERSVar(QStringLiteral("countL"), QStringLiteral(" 1.5")); },
+         {"S Modify PERS Var: countL =  1.5"},
+         {}},
+        {"a tool", [] { palx::switchToTool(); }, {}, {"I set toolset success"}},
+        {"one stack", [] { palx::saveToRC(palx::stacksNode()); }, {}, {}},
+        {"a name", [] { palx::saveNameToRC(0, QStringLiteral("A"), QString()); }, {}, {}},
+        {"nothing", [] { palx::syncData(); }, {}, {}},
+    };
+    for (const auto &each : cases) {
+        QByteArray console;
+        {
+            StderrCapture capture;
+            each.operation();
+            console = capture.take();
+        }
+        QFile file(folder.filePath(QStringLiteral("log/palx_workstation.log")));
+        const QByteArray log = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        EXPECT_EQ(unstamped(log), each.logged) << each.what;
+        EXPECT_EQ(unstamped(console), each.logged + each.shown) << each.what;
+        file.remove();
+    }
+    nexo::SettingManager::instance()->setOverride(QStringLiteral("data"), QString());
 }
 
 TEST_F(SyncTest, GlobalToolBecomesTheActiveOne)

@@ -1,0 +1,134 @@
+#include "stack/recipe_match.h"
+
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+using host::RecipeSummary;
+using orba::Node;
+using palx::RecipeMatch;
+using palx::RecipePlace;
+
+namespace {
+
+/// A recipe whose only product is placed at that height.
+QByteArray recipe(const char *name, double height)
+{
+    return QByteArray(R"({"name": ")") + name +
+           R"(", "desc": "", "get": {}, "points": {"put": [[{"put_p": {"trans": [0, 0, )" +
+           QByteArray::number(height) + "]}}]]}}";
+}
+
+Node recipes(const QList<QByteArray> &list)
+{
+    return nodeFromJson("[" + list.join(',') + "]");
+}
+
+std::vector<RecipeSummary> toldOf(const Node &list)
+{
+    std::vector<RecipeSummary> told;
+    for (int i = 0; i < list.size(); ++i)
+        told.push_back(host::summaryOf(*list.at(i)));
+    return told;
+}
+
+QStringList texts(const std::vector<RecipeMatch> &matches)
+{
+    const char *const names[] = {"same", "moved", "other", "missing", "extra"};
+    QStringList lines;
+    for (const RecipeMatch &match : matches)
+        lines.append(QStringLiteral("%1 %2 %3 %4")
+                         .arg(match.name, QLatin1String(names[static_cast<int>(match.place)]))
+                         .arg(match.panelIndex)
+                         .arg(match.controllerIndex));
+    return lines;
+}
+
+} // namespace
+
+TEST(RecipeMatch, NamesWhatDiffersBetweenTheTwoSides)
+{
+    const struct
+    {
+        const char *what;
+        QList<QByteArray> panel, controller;
+        QStringList matches;
+        int differing;
+    } cases[] = {
+        {"both empty", {}, {}, {}, 0},
+        {"the same",
+         {recipe("A", 1), recipe("B", 2)},
+         {recipe("A", 1), recipe("B", 2)},
+         {"A same 0 0", "B same 1 1"},
+         0},
+        {"other points", {recipe("A", 1)}, {recipe("A", 1.5)}, {"A other 0 0"}, 1},
+        {"missing there",
+         {recipe("A", 1), recipe("B", 2)},
+         {recipe("A", 1)},
+         {"A same 0 0", "B missing 1 -1"},
+         1},
+        {"only there", {recipe("A", 1)}, {recipe("A", 1), recipe("B", 2)}, {"A same 0 0", "B extra -1 1"}, 1},
+        {"renamed", {recipe("A", 1)}, {recipe("B", 1)}, {"A missing 0 -1", "B extra -1 0"}, 2},
+        {"other order",
+         {recipe("A", 1), recipe("B", 2)},
+         {recipe("B", 2), recipe("A", 1)},
+         {"A moved 0 1", "B moved 1 0"},
+         2},
+        {"a name twice",
+         {recipe("A", 1), recipe("A", 1)},
+         {recipe("A", 1)},
+         {"A same 0 0", "A missing 1 -1"},
+         1},
+        {"a name twice there", {recipe("A", 1)}, {recipe("A", 1), recipe("A", 1)}, {"A same 0 0"}, 0},
+    };
+    for (const auto &each : cases) {
+        const auto matches = palx::matchRecipes(recipes(each.panel), toldOf(recipes(each.controller)));
+        EXPECT_EQ(texts(matches), each.matches) << each.what;
+        EXPECT_EQ(palx::countDiffering(matches), each.differing) << each.what;
+    }
+}
+
+TEST(RecipeMatch, ADescriptionAndSettingsAreNoPoints)
+{
+    Node panel = recipes({recipe("A", 1)});
+    const auto told = toldOf(panel);
+    panel.at(0)->ensure(u"desc")->setString(QStringLiteral("small"));
+    panel.at(0)->ensure(u"product_cfg.product.length")->setInt(7);
+    EXPECT_EQ(palx::countDiffering(palx::matchRecipes(panel, told)), 0);
+    panel.at(0)->ensure(u"get.get_p.trans.#0")->setDouble(1);
+    EXPECT_EQ(palx::countDiffering(palx::matchRecipes(panel, told)), 1);
+}
+
+TEST(RecipeMatch, ReadsWhatAControllerTells)
+{
+    const Node list = recipes({recipe("A", 1), recipe("B", 2)});
+    Node answer;
+    answer.reset(Node::Kind::List);
+    for (const RecipeSummary &summary : toldOf(list))
+        *answer.add() = summary.toNode();
+    std::vector<RecipeSummary> told;
+    ASSERT_TRUE(palx::readSummaries(answer, &told));
+    EXPECT_EQ(palx::countDiffering(palx::matchRecipes(list, told)), 0);
+    ASSERT_TRUE(palx::readSummaries(nodeFromJson("[]"), &told));
+    EXPECT_TRUE(told.empty());
+}
+
+TEST(RecipeMatch, RefusesWhatIsNoListOfRecipes)
+{
+    const char *answers[] = {"null",
+                             "7",
+                             "\"A\"",
+                             "[1, 2]",
+                             "[null]",
+                             "[{}]",
+                             R"([{"name": "A"}])",
+                             R"([{"name": 7, "checksum": 1}])",
+                             R"([{"name": "A", "checksum": "1"}])",
+                             R"([{"name": "A", "checksum": -1}])",
+                             R"([{"name": "A", "checksum": 1}, {"name": "B"}])"};
+    for (const char *answer : answers) {
+        std::vector<RecipeSummary> told(3);
+        EXPECT_FALSE(palx::readSummaries(nodeFromJson(answer), &told)) << answer;
+        EXPECT_TRUE(told.empty()) << answer;
+    }
+}

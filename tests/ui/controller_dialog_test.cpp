@@ -1,0 +1,201 @@
+#include "ui/controller_dialog.h"
+
+#include "bwaf/bmodule.h"
+#include "bwaf/center_widget.h"
+#include "shell/center_provider.h"
+#include "ui/message_bar.h"
+#include "ui/stackhomepage.h"
+#include "workstation/controller_recipes.h"
+#include "workstation/recipe_controller.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+
+using palx::ControllerRecipes;
+
+namespace {
+
+class ControllerDialogTest : public RecipeControllerTest
+{
+protected:
+    void SetUp() override
+    {
+        RecipeControllerTest::SetUp();
+        addRecipe("A");
+        addRecipe("B");
+        recipes = std::make_unique<ControllerRecipes>();
+    }
+    void TearDown() override
+    {
+        dialog.reset();
+        recipes.reset();
+        RecipeControllerTest::TearDown();
+    }
+    void openDialog()
+    {
+        dialog = std::make_unique<ControllerDialog>(recipes.get());
+        dialog->show();
+    }
+    template <typename T> T *child(const char *name) const
+    {
+        T *found = dialog->findChild<T *>(QLatin1String(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    void click(const char *button) const { child<QPushButton>(button)->click(); }
+    bool isOn(const char *button) const { return child<QPushButton>(button)->isEnabled(); }
+    QString text(const char *label) const { return child<QLabel>(label)->text(); }
+    QString look(const char *label) const { return child<QLabel>(label)->property("state").toString(); }
+    QString message() const { return child<MessageBar>("message")->text(); }
+    /// The rows of the table.
+    QStringList rows() const
+    {
+        const QAbstractItemModel *model = child<QTableView>("tblRecipes")->model();
+        QStringList texts;
+        for (int row = 0; row < model->rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < model->columnCount(); ++column)
+                cells.append(model->index(row, column).data().toString());
+            texts.append(cells.join(QLatin1Char('|')));
+        }
+        return texts;
+    }
+    bool becomes(const QStringList &wanted)
+    {
+        return waitUntil([&] { return rows() == wanted; });
+    }
+    static QString utf8(const char *text) { return QString::fromUtf8(text); }
+
+    std::unique_ptr<ControllerRecipes> recipes;
+    std::unique_ptr<ControllerDialog> dialog;
+};
+
+} // namespace
+
+TEST_F(ControllerDialogTest, SendsEverythingWithOnePressAndShowsTheResult)
+{
+    openLink();
+    openDialog();
+    ASSERT_TRUE(becomes(
+        {utf8("1|A|1 places, 1 layers|–|Missing there"), utf8("2|B|1 places, 1 layers|–|Missing there")}));
+    EXPECT_EQ(text("lblState"),
+              QStringLiteral("2 of 2 recipes differ. Send everything to make the controller's the same."));
+    EXPECT_EQ(look("lblState"), QStringLiteral("attention"));
+    click("btnPush");
+    EXPECT_EQ(message(), QStringLiteral("The controller took all 2 recipes."));
+    EXPECT_EQ(held.size(), 2);
+    ASSERT_TRUE(becomes({utf8("1|A|1 places, 1 layers|1 places, 1 layers|The same"),
+                         utf8("2|B|1 places, 1 layers|1 places, 1 layers|The same")}));
+    EXPECT_EQ(text("lblState"), QStringLiteral("The controller holds all 2 recipes as they are here."));
+    EXPECT_EQ(look("lblState"), QStringLiteral("running"));
+
+    palx::stacksNode()->cmobj(0)->remove();
+    ASSERT_TRUE(becomes({utf8("1|B|1 places, 1 layers|1 places, 1 layers|At place 2"),
+                         utf8("–|A|–|1 places, 1 layers|Only there")}));
+    const QAbstractItemModel *model = child<QTableView>("tblRecipes")->model();
+    for (int row = 0; row < model->rowCount(); ++row) // colour is never the only sign
+        EXPECT_FALSE(model->index(row, 4).data(Qt::DecorationRole).value<QIcon>().isNull());
+}
+
+TEST_F(ControllerDialogTest, ARefusedPushSaysWhy)
+{
+    openLink();
+    openDialog();
+    ASSERT_TRUE(waitUntil([&] { return rows().size() == 2; }));
+    refusal = QStringLiteral("entry 2: \"B\" is no recipe");
+    click("btnPush");
+    EXPECT_EQ(message(), QStringLiteral("The recipes were not taken: entry 2: \"B\" is no recipe"));
+    EXPECT_EQ(child<MessageBar>("message")->property("state").toString(), QStringLiteral("fault"));
+    ASSERT_TRUE(waitUntil([&] { return recipes->state() == ControllerRecipes::State::Unknown; }));
+    EXPECT_EQ(look("lblState"), QStringLiteral("fault"));
+    EXPECT_TRUE(text("lblState").contains(refusal)) << text("lblState");
+}
+
+TEST_F(ControllerDialogTest, WithoutAConnectionItSaysSoAndComesBackByItself)
+{
+    openDialog();
+    for (const bool isBack : {false, true}) {
+        EXPECT_FALSE(isOn("btnPush"));
+        EXPECT_FALSE(isOn("btnTool"));
+        EXPECT_EQ(text("lblReason"), QStringLiteral("Not possible without a connection."));
+        EXPECT_TRUE(text("lblState").startsWith(QStringLiteral("There is no connection")))
+            << text("lblState");
+        EXPECT_EQ(look("lblState"), QStringLiteral("stopped"));
+        EXPECT_EQ(rows(), QStringList());
+        if (isBack)
+            controller.openWay();
+        else
+            openLink();
+        settle();
+        EXPECT_TRUE(isOn("btnPush"));
+        EXPECT_EQ(text("lblReason"), QString());
+        ASSERT_TRUE(waitUntil([&] { return rows().size() == 2; }));
+        controller.breakWay("pulled");
+        settle();
+    }
+}
+
+TEST_F(ControllerDialogTest, SwitchesTheSharedToolOrARecipesOwn)
+{
+    palx::pluginNode()->c("global_tool")->copyFrom(nodeFromJson(R"([{"name": "PalletTool1"}])"));
+    openLink();
+    openDialog();
+    auto *choice = child<QComboBox>("cmbTool");
+    QStringList choices;
+    for (int i = 0; i < choice->count(); ++i)
+        choices.append(choice->itemText(i));
+    EXPECT_EQ(choices, QStringList({"Shared tool PalletTool1", "Tool of A", "Tool of B"}));
+    EXPECT_EQ(text("lblTool"), QStringLiteral("Active tool: unknown"));
+    click("btnTool");
+    EXPECT_EQ(message(), QStringLiteral("The controller works with the tool PalletTool1."));
+    EXPECT_EQ(text("lblTool"), QStringLiteral("Active tool: PalletTool1"));
+    choice->setCurrentIndex(2);
+    click("btnTool");
+    EXPECT_EQ(message(), QStringLiteral("The controller works with the tool B."));
+    EXPECT_EQ(controller.seen.back().payload.getString(u"name"), QStringLiteral("B"));
+    addRecipe("C");
+    EXPECT_EQ(choice->currentText(), QStringLiteral("Tool of B")); // the choice is kept
+
+    toolResult = -1;
+    choice->setCurrentIndex(1);
+    click("btnTool");
+    EXPECT_TRUE(message().startsWith(QStringLiteral("The controller did not take the tool."))) << message();
+    EXPECT_EQ(text("lblTool"), QStringLiteral("Active tool: B"));
+    controller.update("quill.body.toolset", "\"Gripper\"");
+    settle();
+    EXPECT_EQ(text("lblTool"), QStringLiteral("Active tool: Gripper"));
+}
+
+TEST_F(ControllerDialogTest, TheHomePageShowsTheSignAndOpensIt)
+{
+    recipes.reset();
+    bwaf::CenterWidget center;
+    bwaf::BModule module;
+    host::setCenterWidget(&center);
+    const auto home = std::make_unique<StackHomePage>(&center, &module);
+    center.addPage(home->wgt(), QStringLiteral("palx_workstation.home_page"));
+    auto *button = home->wgt()->findChild<QPushButton *>(QStringLiteral("btnController"));
+    ASSERT_NE(button, nullptr);
+    const auto shows = [button](const char *sign, const char *look) {
+        return waitUntil([&] {
+            return button->text() == QString::fromUtf8(sign) &&
+                   button->property("state").toString() == QLatin1String(look);
+        });
+    };
+    EXPECT_TRUE(shows("–", "stopped"));
+    openLink();
+    EXPECT_TRUE(shows("≠ 2", "attention"));
+    button->click();
+    auto *opened = center.findChild<ControllerDialog *>();
+    ASSERT_NE(opened, nullptr);
+    opened->findChild<QPushButton *>(QStringLiteral("btnPush"))->click();
+    EXPECT_TRUE(shows("= 2", "running"));
+    EXPECT_TRUE(button->accessibleDescription().startsWith(QStringLiteral("The controller holds all 2")))
+        << button->accessibleDescription();
+    button->click(); // a second one takes the place of the first
+    EXPECT_EQ(center.findChildren<ControllerDialog *>().size(), 1);
+    center.clearPages();
+    host::setCenterWidget(nullptr);
+}
