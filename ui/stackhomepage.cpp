@@ -118,7 +118,7 @@ void StackHomePage::connectActions()
                    {ui_->btnRename, Glyph::Settings, &StackHomePage::renameRecipe},
                    {ui_->btnDelete, Glyph::Delete, &StackHomePage::deleteRecipe},
                    {ui_->btnOpen, Glyph::Open, &StackHomePage::openRecipe},
-                   {ui_->btnProjects, Glyph::Robot, &StackHomePage::openProjects}};
+                   {ui_->btnProjects, Glyph::Log, &StackHomePage::openProjects}};
     for (const auto &action : actions) {
         const bool primary = action.button == ui_->btnOpen;
         action.button->setIcon(ix::xtheme::icon(action.glyph, primary ? QColor(Qt::white) : QColor()));

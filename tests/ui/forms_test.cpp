@@ -6,6 +6,7 @@
 #include "ix/xtheme.h"
 #include "support/test_support.h"
 #include "ui/base_sub_page.h"
+#include "ui/controller_dialog.h"
 #include "ui/page_fixture.h"
 #include "ui/point_group.h"
 #include "ui/recipe_frame.h"
@@ -176,6 +177,26 @@ TEST(Forms, ControlsAreLargeEnoughForFingers)
     eachProjectView(pages, expectTouchable);
     pages.open("Box");
     eachFrame(pages, [](RecipeFrame *frame, QScrollArea *) { expectTouchable(frame, frame->objectName()); });
+}
+
+TEST(Forms, TheControllerDialogFitsTheSmallPanelInLongerLanguages)
+{
+    const Looks looks;
+    const LongLanguage language;
+    Pages pages;
+    pages.tree.addRecipe("Box");
+    pages.field<QPushButton>("btnController")->click();
+    QCoreApplication::processEvents();
+    auto *dialog = pages.center.findChild<ControllerDialog *>();
+    ASSERT_NE(dialog, nullptr);
+    expectReadable(dialog, QStringLiteral("controller "));
+    expectTouchable(dialog, QStringLiteral("controller "));
+    EXPECT_LE(dialog->width(), 1024);
+    EXPECT_LE(dialog->height(), 640);
+    for (const QWidget *control : controls(dialog)) {
+        EXPECT_FALSE(control->objectName().isEmpty()) << control->metaObject()->className();
+        EXPECT_FALSE(control->accessibleName().isEmpty()) << control->objectName();
+    }
 }
 
 TEST(Forms, FollowAChangeOfLanguage)
