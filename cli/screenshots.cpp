@@ -189,10 +189,24 @@ QString stem(const QAbstractButton *button)
     return button->objectName().mid(3).toLower();
 }
 
+/// The plan in place of the stack, and the dialog behind an entry of the menu.
+void takeLayers(Camera &camera)
+{
+    auto *plan = control<QAbstractButton>(camera, QStringLiteral("btnPlan"));
+    auto *more = control<QPushButton>(camera, QStringLiteral("btnMore"));
+    if (!plan || !more)
+        return;
+    camera.takeAfter(plan, QStringLiteral("setup-layers-plan"));
+    plan->click();
+    camera.takeDialog([more] { more->menu()->actions().first()->trigger(); }, QStringLiteral("layer-series"));
+}
+
 void takeDialogsOfFrame(Camera &camera, const QString &frame)
 {
     if (frame == QLatin1String("product"))
         takeKeypad(camera);
+    if (frame == QLatin1String("layers"))
+        takeLayers(camera);
     if (frame != QLatin1String("patterns"))
         return;
     if (!showPlanEdits(camera.window(), [&camera](const QString &name) {

@@ -10,7 +10,6 @@ namespace {
 
 using namespace plan_style;
 
-constexpr QRgb kSelection = 0xff1c5fb0; // the one blue on the plan: what the operator has in hand
 constexpr double kSelectionPixels = 4;
 constexpr double kTextPixels = 15;
 constexpr int kMostShown = 40; // more marks cannot be told apart

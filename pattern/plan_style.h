@@ -25,6 +25,9 @@ constexpr QRgb kItemTurnedFill =
     0xffe3e8ec; // turned items differ in brightness, which also shows without colour
 constexpr QRgb kLabelSide = 0xff4a5763;
 constexpr QRgb kGhost = 0xff8b96a1;
+/// The one blue: what the operator has in hand.
+constexpr QRgb kSelection = 0xff1c5fb0;
+constexpr QRgb kSelectionFill = 0xffb3cbe6;
 // States
 constexpr QRgb kFault = 0xffc0211f;
 constexpr QRgb kFaultFill = 0xfffbdcda;

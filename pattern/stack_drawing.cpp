@@ -23,7 +23,6 @@ constexpr double kSecondLayer = 0.95; // every second layer is a little darker, 
 constexpr QRgb kPalletTop = 0xffc3bdb1, kPalletLine = 0xff5a554b;
 constexpr QRgb kSheetTop = 0xffd3dce4, kSheetLine = 0xff6b747d;
 constexpr QRgb kProductTop = 0xffe9e6df, kProductLine = 0xff4a4841;
-constexpr QRgb kMarked = 0xff8fa6bc, kMarkLine = 0xff20303f;
 
 QRgb groundOf(const IsoFace &face, const Course &course)
 {
@@ -153,7 +152,7 @@ bool StackDrawing::isMarked(const IsoFace &face) const
 {
     const Course &course = placed_[face.course];
     return marked_.isSet() && course.layer == marked_.layer &&
-           (course.kind == SolidKind::Sheet || face.outline == marked_.item);
+           (marked_.item < 0 || face.outline == marked_.item);
 }
 
 void StackDrawing::paint(QPainter *painter, double scale)
@@ -170,7 +169,8 @@ void StackDrawing::paint(QPainter *painter, double scale)
         QColor line = QColor::fromRgba(lineOf(face, course));
         line.setAlphaF(opacity);
         painter->setPen(cosmetic(line, 1));
-        painter->setBrush(shaded(isMarked(face) ? kMarked : groundOf(face, course), face, course));
+        painter->setBrush(
+            shaded(isMarked(face) ? plan_style::kSelectionFill : groundOf(face, course), face, course));
         painter->drawConvexPolygon(face.corners.data(), static_cast<int>(face.corners.size()));
     }
     paintMark(painter);
@@ -183,7 +183,7 @@ void StackDrawing::paintMark(QPainter *painter) const
     if (numberOf(courses_, marked_) < 0)
         return;
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(cosmetic(QColor::fromRgba(kMarkLine), kPixels));
+    painter->setPen(cosmetic(QColor::fromRgba(plan_style::kSelection), kPixels));
     for (const Course &course : courses_) {
         if (course.layer != marked_.layer)
             continue;

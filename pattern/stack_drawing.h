@@ -22,7 +22,7 @@ public:
     /// How many pieces lie there, from 0; at first all.
     void setPieces(int pieces);
     int pieces() const { return pieces_; }
-    /// The piece that is marked, wherever it lies; none unmarks.
+    /// The piece that is marked, wherever it lies; with item -1 the whole layer; none unmarks.
     void setMarked(const Piece &piece) { marked_ = piece; }
 
     /// All courses, laid or not.

@@ -1,6 +1,7 @@
 #include "ui/plan_view.h"
 
 #include "pattern/patternscene.h"
+#include "pattern/plan_style.h"
 
 #include <QMouseEvent>
 #include <QPolygonF>
@@ -77,7 +78,7 @@ void PlanView::drawForeground(QPainter *painter, const QRectF &rect)
     if (!plan_ || marked_ < 0 || marked_ >= plan_->shownItems().size())
         return;
     constexpr int kMarkPixels = 5; // heavier than any line of the plan
-    QPen pen(palette().color(QPalette::Highlight), kMarkPixels);
+    QPen pen(QColor::fromRgba(palx::plan_style::kSelection), kMarkPixels);
     pen.setCosmetic(true);
     pen.setJoinStyle(Qt::MiterJoin);
     painter->setPen(pen);

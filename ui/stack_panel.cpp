@@ -64,16 +64,16 @@ void StackPanel::refresh()
     const QSignalBlocker quiet(ui_->sldPieces);
     ui_->sldPieces->setMaximum(palx::pieceCount(drawing.courses()));
     ui_->sldPieces->setValue(drawing.pieces());
-    if (palx::numberOf(drawing.courses(), marked_) < 0)
+    if (!palx::holdsPiece(drawing.courses(), marked_))
         markPiece({});
     showPlace();
 }
 
-void StackPanel::setStepsShown(bool shown)
+void StackPanel::setCompact()
 {
-    ui_->wgtSteps->setVisible(shown);
-    if (!shown)
-        setPieces(ui_->sldPieces->maximum());
+    for (QWidget *hidden :
+         {ui_->wgtSteps, static_cast<QWidget *>(ui_->btnLarger), static_cast<QWidget *>(ui_->btnSmaller)})
+        hidden->hide();
 }
 
 int StackPanel::pieces() const

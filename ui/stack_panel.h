@@ -26,12 +26,13 @@ public:
     void setStack(orba::ModuleObject *stack);
     /// Reads the recipe again after an edit; what is laid and marked stays as far as it is still there.
     void refresh();
-    /// Hides the slider and its buttons; the whole stack is shown then.
-    void setStepsShown(bool shown);
+    /// Without the slider and the buttons to enlarge: the whole stack beside other things.
+    void setCompact();
 
     int pieces() const;
     void setPieces(int pieces);
     palx::Piece marked() const { return marked_; }
+    /// With item -1 a whole layer.
     void markPiece(const palx::Piece &piece);
     StackView *view() const;
 

@@ -93,4 +93,14 @@ int imageLayers(ModuleObject *stack, const QVector<int> &layers, PatternImage im
     return changed;
 }
 
+bool layImageSeries(ModuleObject *stack, LayerSeries series, PatternImage image)
+{
+    const QString first = series.patterns.value(0);
+    series.patterns = QStringList{first};
+    if (!seriesProblem(stack->node(), series).isEmpty())
+        return false;
+    series.patterns << imageOfPattern(stack, first, image);
+    return laySeries(stack, series);
+}
+
 } // namespace palx

@@ -2,6 +2,7 @@
 
 #include "orba/module_object.h"
 #include "pattern/rules/pattern_items.h"
+#include "stack/layer_series.h"
 
 /// Mirrored and turned copies of patterns, for layers that are to lock into each other. GUI thread only.
 namespace palx {
@@ -21,5 +22,8 @@ PALX_API QString imageOfPattern(orba::ModuleObject *stack, const QString &patter
 /// Gives every layer of the set the image of its pattern; layers without products stay. Returns how many were
 /// changed.
 PALX_API int imageLayers(orba::ModuleObject *stack, const QVector<int> &layers, PatternImage image);
+/// Lays the series with its first pattern and that pattern's image in turn. False, without a change, when it
+/// cannot be laid.
+PALX_API bool layImageSeries(orba::ModuleObject *stack, LayerSeries series, PatternImage image);
 
 } // namespace palx

@@ -122,6 +122,13 @@ int numberOf(const QVector<Course> &courses, const Piece &piece)
     return -1;
 }
 
+bool holdsPiece(const QVector<Course> &courses, const Piece &piece)
+{
+    return std::any_of(courses.begin(), courses.end(), [&piece](const Course &course) {
+        return piece.isSet() && course.layer == piece.layer && piece.item < course.outlines.size();
+    });
+}
+
 QVector<Course> firstPieces(const QVector<Course> &courses, int pieces)
 {
     QVector<Course> placed;

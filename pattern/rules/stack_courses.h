@@ -45,6 +45,8 @@ PALX_API int pieceCount(const QVector<Course> &courses);
 PALX_API Piece pieceAt(const QVector<Course> &courses, int n);
 /// Which number a piece has, from 0; -1 when it is not laid.
 PALX_API int numberOf(const QVector<Course> &courses, const Piece &piece);
+/// Whether the piece, or with item -1 the whole layer, is among the courses.
+PALX_API bool holdsPiece(const QVector<Course> &courses, const Piece &piece);
 /// The pallet with the first pieces on it.
 PALX_API QVector<Course> firstPieces(const QVector<Course> &courses, int pieces);
 /// How many pieces lie there when one more layer is completed, or the one before is (`up` false).

@@ -74,3 +74,16 @@ TEST(PatternImage, LayersOfProductsGetTheirImages)
         EXPECT_EQ(recipe.patternOf(layer), expected[layer]) << layer;
     EXPECT_EQ(palx::imageOfPattern(&recipe.root, "Z", PatternImage::LeftRight), QString());
 }
+
+TEST(PatternImage, ASeriesTakesTurnsWithTheImage)
+{
+    Recipe recipe;
+    EXPECT_TRUE(palx::layImageSeries(&recipe.root, {{"A"}, 3, 0, 0}, PatternImage::HalfTurn));
+    const QString expected[] = {"A", "A_m", "A"};
+    ASSERT_EQ(recipe.root.r("layers")->cmobjCount(), 3);
+    for (int layer = 0; layer < 3; ++layer)
+        EXPECT_EQ(recipe.patternOf(layer), expected[layer]) << layer;
+    EXPECT_FALSE(palx::layImageSeries(&recipe.root, {{"B"}, 300, 0, 0}, PatternImage::HalfTurn));
+    EXPECT_EQ(recipe.patterns(), (QStringList{"A", "B", "A_m"}))
+        << "a refused series leaves no pattern behind";
+}
