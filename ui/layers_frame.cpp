@@ -51,6 +51,11 @@ void LayersFrame::bindLayerFields()
     });
     connect(layerBinder_, &NodeBinder::edited, this,
             [this](QWidget *, const QString &path) { spread(path); });
+    // The last chosen layer may have the pattern already while others have not.
+    connect(ui_->cmbPattern, QOverload<int>::of(&QComboBox::activated), this, [this] {
+        if (layers().size() > 1)
+            spread(QStringLiteral("pattern"));
+    });
     connect(layerBinder_, &NodeBinder::refused, this,
             [this](QWidget *, const QString &reason) { Q_EMIT refused(reason); });
 }
