@@ -17,6 +17,117 @@
     </message>
 </context>
 <context>
+    <name>ControllerDialog</name>
+    <message>
+        <source>Recipes on the controller</source>
+        <translation>控制器中的配方</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>What the comparison says</source>
+        <translation>比较结果</translation>
+    </message>
+    <message>
+        <source>Recipes of panel and controller</source>
+        <translation>面板与控制器的配方</translation>
+    </message>
+    <message>
+        <source>Send everything</source>
+        <translation>全部发送</translation>
+    </message>
+    <message>
+        <source>Send all recipes to the controller</source>
+        <translation>将所有配方发送到控制器</translation>
+    </message>
+    <message>
+        <source>Why nothing can be sent</source>
+        <translation>无法发送的原因</translation>
+    </message>
+    <message>
+        <source>Active tool</source>
+        <translation>当前工具</translation>
+    </message>
+    <message>
+        <source>Tool to switch to</source>
+        <translation>要切换的工具</translation>
+    </message>
+    <message>
+        <source>Switch tool</source>
+        <translation>切换工具</translation>
+    </message>
+    <message>
+        <source>Switch the active tool</source>
+        <translation>切换当前工具</translation>
+    </message>
+    <message>
+        <source>There is no connection to the controller. Editing goes on; send the recipes when it is back.</source>
+        <translation>未连接控制器。可继续编辑；恢复连接后请发送配方。</translation>
+    </message>
+    <message>
+        <source>The controller is being asked for its recipes.</source>
+        <translation>正在查询控制器的配方。</translation>
+    </message>
+    <message>
+        <source>The controller does not tell its recipes: %1</source>
+        <translation>控制器未提供其配方：%1</translation>
+    </message>
+    <message>
+        <source>The controller holds all %1 recipes as they are here.</source>
+        <translation>控制器中的 %1 个配方与此处一致。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 recipes differ. Send everything to make the controller&apos;s the same.</source>
+        <translation>%2 个配方中有 %1 个不同。全部发送可使其一致。</translation>
+    </message>
+    <message>
+        <source>Active tool: %1</source>
+        <translation>当前工具：%1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Not possible without a connection.</source>
+        <translation>未连接时无法进行。</translation>
+    </message>
+    <message>
+        <source>Shared tool %1</source>
+        <translation>共用工具 %1</translation>
+    </message>
+    <message>
+        <source>Tool of %1</source>
+        <translation>%1 的工具</translation>
+    </message>
+    <message>
+        <source>The recipes are being sent.</source>
+        <translation>正在发送配方。</translation>
+    </message>
+    <message>
+        <source>The controller took all %1 recipes.</source>
+        <translation>控制器已接受全部 %1 个配方。</translation>
+    </message>
+    <message>
+        <source>The recipes were not taken: %1</source>
+        <translation>配方未被接受：%1</translation>
+    </message>
+    <message>
+        <source>The tool is being switched.</source>
+        <translation>正在切换工具。</translation>
+    </message>
+    <message>
+        <source>The controller works with the tool %1.</source>
+        <translation>控制器正在使用工具 %1。</translation>
+    </message>
+    <message>
+        <source>The controller did not take the tool. The log may say why.</source>
+        <translation>控制器未接受该工具。原因可查看日志。</translation>
+    </message>
+</context>
+<context>
     <name>EditTools</name>
     <message>
         <source>Choose all products</source>
@@ -349,6 +460,69 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>LayerSeriesDialog</name>
+    <message>
+        <source>Layers in turn</source>
+        <translation>交替层</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>垛型</translation>
+    </message>
+    <message>
+        <source>In turn with</source>
+        <translation>交替垛型</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Sheet after every so many</source>
+        <translation>每隔几层放隔板</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>What the stack will be</source>
+        <translation>垛的结果</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Mirrored left to right</source>
+        <translation>左右镜像</translation>
+    </message>
+    <message>
+        <source>Mirrored front to back</source>
+        <translation>前后镜像</translation>
+    </message>
+    <message>
+        <source>Turned by half</source>
+        <translation>旋转 180 度</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>顶部</translation>
+    </message>
+    <message>
+        <source>From layer %1 on, replacing</source>
+        <translation>从第 %1 层起替换</translation>
+    </message>
+</context>
+<context>
     <name>LayerTableModel</name>
     <message>
         <source>Separator sheet</source>
@@ -441,10 +615,6 @@ mm</translation>
         <translation>层平面图</translation>
     </message>
     <message>
-        <source>Layer</source>
-        <translation>层</translation>
-    </message>
-    <message>
         <source>Pattern</source>
         <translation>垛型</translation>
     </message>
@@ -473,28 +643,96 @@ mm</translation>
         <translation>移除</translation>
     </message>
     <message>
-        <source>Place the layer earlier</source>
-        <translation>将该层提前</translation>
-    </message>
-    <message>
-        <source>Place the layer later</source>
-        <translation>将该层推后</translation>
-    </message>
-    <message>
         <source>Repeat</source>
         <translation>重复</translation>
     </message>
     <message>
-        <source>Repeat the whole sequence on top</source>
-        <translation>在顶部重复整个序列</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>第 %1 层</translation>
-    </message>
-    <message>
         <source>No layer chosen</source>
         <translation>未选择层</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>平面图</translation>
+    </message>
+    <message>
+        <source>Show the plan of the layer instead of the stack</source>
+        <translation>显示该层平面图而非垛</translation>
+    </message>
+    <message>
+        <source>Remove the chosen layers</source>
+        <translation>删除所选层</translation>
+    </message>
+    <message>
+        <source>Place the chosen layers earlier</source>
+        <translation>将所选层提前</translation>
+    </message>
+    <message>
+        <source>Place the chosen layers later</source>
+        <translation>将所选层推后</translation>
+    </message>
+    <message>
+        <source>Several</source>
+        <translation>多选</translation>
+    </message>
+    <message>
+        <source>Choose several layers</source>
+        <translation>选择多层</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>隔板</translation>
+    </message>
+    <message>
+        <source>Lay a separator sheet onto each chosen layer</source>
+        <translation>在每个所选层上放隔板</translation>
+    </message>
+    <message>
+        <source>Repeat the chosen layers on top</source>
+        <translation>在顶部重复所选层</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>Lay layers in turn, or mirror the chosen layers</source>
+        <translation>交替放置层，或镜像所选层</translation>
+    </message>
+    <message>
+        <source>Pattern of %1 layers</source>
+        <translation>%1 层的垛型</translation>
+    </message>
+    <message>
+        <source>Pattern of layer %1</source>
+        <translation>第 %1 层的垛型</translation>
+    </message>
+    <message>
+        <source>A recipe holds at most %1 layers.</source>
+        <translation>一个配方最多 %1 层。</translation>
+    </message>
+    <message>
+        <source>There is a sheet already, or no box to lay it on.</source>
+        <translation>已有隔板，或没有可放隔板的箱。</translation>
+    </message>
+    <message>
+        <source>The chosen layers look the same then.</source>
+        <translation>所选层不会改变。</translation>
+    </message>
+    <message>
+        <source>Layers in turn...</source>
+        <translation>交替层...</translation>
+    </message>
+    <message>
+        <source>Mirror left to right</source>
+        <translation>左右镜像</translation>
+    </message>
+    <message>
+        <source>Mirror front to back</source>
+        <translation>前后镜像</translation>
+    </message>
+    <message>
+        <source>Turn by half</source>
+        <translation>旋转 180 度</translation>
     </message>
 </context>
 <context>
@@ -1767,6 +2005,53 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>RecipeMatchModel</name>
+    <message>
+        <source>No.</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>配方</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>面板</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>控制器</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>%1 places, %2 layers</source>
+        <translation>%1 个位置，%2 层</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>一致</translation>
+    </message>
+    <message>
+        <source>At place %1</source>
+        <translation>在第 %1 位</translation>
+    </message>
+    <message>
+        <source>Other points</source>
+        <translation>点不同</translation>
+    </message>
+    <message>
+        <source>Missing there</source>
+        <translation>控制器中缺少</translation>
+    </message>
+    <message>
+        <source>Only there</source>
+        <translation>仅在控制器中</translation>
+    </message>
+</context>
+<context>
     <name>RecipeText</name>
     <message>
         <source>The name is empty.</source>
@@ -2031,6 +2316,21 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>SeriesText</name>
+    <message>
+        <source>There is nothing to lay.</source>
+        <translation>没有可放置的内容。</translation>
+    </message>
+    <message>
+        <source>This recipe has no pattern &quot;%1&quot;.</source>
+        <translation>该配方没有垛型“%1”。</translation>
+    </message>
+    <message>
+        <source>That makes %1 layers; a recipe holds at most %2.</source>
+        <translation>将有 %1 层；一个配方最多 %2 层。</translation>
+    </message>
+</context>
+<context>
     <name>StackFrame</name>
     <message>
         <source>Layer of the plan</source>
@@ -2158,6 +2458,10 @@ Pallet: %4</source>
     <message>
         <source>Robot projects</source>
         <translation>机器人工程</translation>
+    </message>
+    <message>
+        <source>Recipes on the controller</source>
+        <translation>控制器中的配方</translation>
     </message>
 </context>
 <context>
@@ -2574,6 +2878,17 @@ Pallet: %4</source>
     <message>
         <source>Pallet&apos;width is less than product&apos;width</source>
         <translation>托盘宽度小于产品宽度</translation>
+    </message>
+</context>
+<context>
+    <name>palx::ControllerRecipes</name>
+    <message>
+        <source>Its answer is no list of recipes.</source>
+        <translation>其应答不是配方列表。</translation>
+    </message>
+    <message>
+        <source>The controller does not tell which recipes it holds: %1</source>
+        <translation>控制器未说明其持有的配方：%1</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,117 @@
     </message>
 </context>
 <context>
+    <name>ControllerDialog</name>
+    <message>
+        <source>Recipes on the controller</source>
+        <translation>コントローラのレシピ</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>What the comparison says</source>
+        <translation>比較の結果</translation>
+    </message>
+    <message>
+        <source>Recipes of panel and controller</source>
+        <translation>パネルとコントローラのレシピ</translation>
+    </message>
+    <message>
+        <source>Send everything</source>
+        <translation>すべて送る</translation>
+    </message>
+    <message>
+        <source>Send all recipes to the controller</source>
+        <translation>すべてのレシピをコントローラへ送る</translation>
+    </message>
+    <message>
+        <source>Why nothing can be sent</source>
+        <translation>送れない理由</translation>
+    </message>
+    <message>
+        <source>Active tool</source>
+        <translation>有効なツール</translation>
+    </message>
+    <message>
+        <source>Tool to switch to</source>
+        <translation>切り替え先のツール</translation>
+    </message>
+    <message>
+        <source>Switch tool</source>
+        <translation>ツール切替</translation>
+    </message>
+    <message>
+        <source>Switch the active tool</source>
+        <translation>有効なツールを切り替える</translation>
+    </message>
+    <message>
+        <source>There is no connection to the controller. Editing goes on; send the recipes when it is back.</source>
+        <translation>コントローラに接続されていません。編集は続けられます。接続が戻ったらレシピを送ってください。</translation>
+    </message>
+    <message>
+        <source>The controller is being asked for its recipes.</source>
+        <translation>コントローラのレシピを問い合わせています。</translation>
+    </message>
+    <message>
+        <source>The controller does not tell its recipes: %1</source>
+        <translation>コントローラがレシピを知らせません: %1</translation>
+    </message>
+    <message>
+        <source>The controller holds all %1 recipes as they are here.</source>
+        <translation>コントローラの %1 件のレシピはここと同じです。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 recipes differ. Send everything to make the controller&apos;s the same.</source>
+        <translation>%2 件中 %1 件のレシピが異なります。すべて送ると同じになります。</translation>
+    </message>
+    <message>
+        <source>Active tool: %1</source>
+        <translation>有効なツール: %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>Not possible without a connection.</source>
+        <translation>接続がないとできません。</translation>
+    </message>
+    <message>
+        <source>Shared tool %1</source>
+        <translation>共通ツール %1</translation>
+    </message>
+    <message>
+        <source>Tool of %1</source>
+        <translation>%1 のツール</translation>
+    </message>
+    <message>
+        <source>The recipes are being sent.</source>
+        <translation>レシピを送っています。</translation>
+    </message>
+    <message>
+        <source>The controller took all %1 recipes.</source>
+        <translation>コントローラが %1 件のレシピをすべて受け取りました。</translation>
+    </message>
+    <message>
+        <source>The recipes were not taken: %1</source>
+        <translation>レシピは受け取られませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The tool is being switched.</source>
+        <translation>ツールを切り替えています。</translation>
+    </message>
+    <message>
+        <source>The controller works with the tool %1.</source>
+        <translation>コントローラはツール %1 を使っています。</translation>
+    </message>
+    <message>
+        <source>The controller did not take the tool. The log may say why.</source>
+        <translation>コントローラがツールを受け取りませんでした。理由はログを見てください。</translation>
+    </message>
+</context>
+<context>
     <name>EditTools</name>
     <message>
         <source>Choose all products</source>
@@ -349,6 +460,69 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>LayerSeriesDialog</name>
+    <message>
+        <source>Layers in turn</source>
+        <translation>交互の段</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>パターン</translation>
+    </message>
+    <message>
+        <source>In turn with</source>
+        <translation>交互の相手</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>段</translation>
+    </message>
+    <message>
+        <source>Sheet after every so many</source>
+        <translation>合紙を入れる間隔</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>場所</translation>
+    </message>
+    <message>
+        <source>What the stack will be</source>
+        <translation>積み付けの結果</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Mirrored left to right</source>
+        <translation>左右反転</translation>
+    </message>
+    <message>
+        <source>Mirrored front to back</source>
+        <translation>前後反転</translation>
+    </message>
+    <message>
+        <source>Turned by half</source>
+        <translation>半回転</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>上に</translation>
+    </message>
+    <message>
+        <source>From layer %1 on, replacing</source>
+        <translation>%1 段目から置き換え</translation>
+    </message>
+</context>
+<context>
     <name>LayerTableModel</name>
     <message>
         <source>Separator sheet</source>
@@ -441,10 +615,6 @@ mm</translation>
         <translation>段の平面図</translation>
     </message>
     <message>
-        <source>Layer</source>
-        <translation>段</translation>
-    </message>
-    <message>
         <source>Pattern</source>
         <translation>パターン</translation>
     </message>
@@ -473,28 +643,96 @@ mm</translation>
         <translation>削除</translation>
     </message>
     <message>
-        <source>Place the layer earlier</source>
-        <translation>段を前に移す</translation>
-    </message>
-    <message>
-        <source>Place the layer later</source>
-        <translation>段を後に移す</translation>
-    </message>
-    <message>
         <source>Repeat</source>
         <translation>繰り返し</translation>
     </message>
     <message>
-        <source>Repeat the whole sequence on top</source>
-        <translation>並び全体を上に繰り返す</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>%1 段目</translation>
-    </message>
-    <message>
         <source>No layer chosen</source>
         <translation>段が選択されていません</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>平面図</translation>
+    </message>
+    <message>
+        <source>Show the plan of the layer instead of the stack</source>
+        <translation>積み付けの代わりに段の平面図を表示</translation>
+    </message>
+    <message>
+        <source>Remove the chosen layers</source>
+        <translation>選択した段を削除</translation>
+    </message>
+    <message>
+        <source>Place the chosen layers earlier</source>
+        <translation>選択した段を前に移す</translation>
+    </message>
+    <message>
+        <source>Place the chosen layers later</source>
+        <translation>選択した段を後に移す</translation>
+    </message>
+    <message>
+        <source>Several</source>
+        <translation>複数</translation>
+    </message>
+    <message>
+        <source>Choose several layers</source>
+        <translation>複数の段を選択</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>合紙</translation>
+    </message>
+    <message>
+        <source>Lay a separator sheet onto each chosen layer</source>
+        <translation>選択した各段の上に合紙を置く</translation>
+    </message>
+    <message>
+        <source>Repeat the chosen layers on top</source>
+        <translation>選択した段を上に繰り返す</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>Lay layers in turn, or mirror the chosen layers</source>
+        <translation>段を交互に置く、または選択した段を反転</translation>
+    </message>
+    <message>
+        <source>Pattern of %1 layers</source>
+        <translation>%1 段のパターン</translation>
+    </message>
+    <message>
+        <source>Pattern of layer %1</source>
+        <translation>%1 段目のパターン</translation>
+    </message>
+    <message>
+        <source>A recipe holds at most %1 layers.</source>
+        <translation>レシピの段は最大 %1 です。</translation>
+    </message>
+    <message>
+        <source>There is a sheet already, or no box to lay it on.</source>
+        <translation>すでに合紙があるか、置く箱がありません。</translation>
+    </message>
+    <message>
+        <source>The chosen layers look the same then.</source>
+        <translation>選択した段は変わりません。</translation>
+    </message>
+    <message>
+        <source>Layers in turn...</source>
+        <translation>段を交互に...</translation>
+    </message>
+    <message>
+        <source>Mirror left to right</source>
+        <translation>左右に反転</translation>
+    </message>
+    <message>
+        <source>Mirror front to back</source>
+        <translation>前後に反転</translation>
+    </message>
+    <message>
+        <source>Turn by half</source>
+        <translation>半回転させる</translation>
     </message>
 </context>
 <context>
@@ -1767,6 +2005,53 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>RecipeMatchModel</name>
+    <message>
+        <source>No.</source>
+        <translation>番号</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>レシピ</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>パネル</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>コントローラ</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>%1 places, %2 layers</source>
+        <translation>%1 箇所、%2 段</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>同じ</translation>
+    </message>
+    <message>
+        <source>At place %1</source>
+        <translation>%1 番目</translation>
+    </message>
+    <message>
+        <source>Other points</source>
+        <translation>点が異なる</translation>
+    </message>
+    <message>
+        <source>Missing there</source>
+        <translation>そちらにない</translation>
+    </message>
+    <message>
+        <source>Only there</source>
+        <translation>そちらのみ</translation>
+    </message>
+</context>
+<context>
     <name>RecipeText</name>
     <message>
         <source>The name is empty.</source>
@@ -2031,6 +2316,21 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>SeriesText</name>
+    <message>
+        <source>There is nothing to lay.</source>
+        <translation>置くものがありません。</translation>
+    </message>
+    <message>
+        <source>This recipe has no pattern &quot;%1&quot;.</source>
+        <translation>このレシピにパターン「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>That makes %1 layers; a recipe holds at most %2.</source>
+        <translation>%1 段になります。レシピは最大 %2 段です。</translation>
+    </message>
+</context>
+<context>
     <name>StackFrame</name>
     <message>
         <source>Layer of the plan</source>
@@ -2158,6 +2458,10 @@ Pallet: %4</source>
     <message>
         <source>Robot projects</source>
         <translation>ロボットのプロジェクト</translation>
+    </message>
+    <message>
+        <source>Recipes on the controller</source>
+        <translation>コントローラのレシピ</translation>
     </message>
 </context>
 <context>
@@ -2574,6 +2878,17 @@ Pallet: %4</source>
     <message>
         <source>Pallet&apos;width is less than product&apos;width</source>
         <translation>パレットの幅が製品の幅より小さいです</translation>
+    </message>
+</context>
+<context>
+    <name>palx::ControllerRecipes</name>
+    <message>
+        <source>Its answer is no list of recipes.</source>
+        <translation>応答がレシピの一覧ではありません。</translation>
+    </message>
+    <message>
+        <source>The controller does not tell which recipes it holds: %1</source>
+        <translation>コントローラが保持するレシピを知らせません: %1</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,117 @@
     </message>
 </context>
 <context>
+    <name>ControllerDialog</name>
+    <message>
+        <source>Recipes on the controller</source>
+        <translation>컨트롤러의 레시피</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>What the comparison says</source>
+        <translation>비교 결과</translation>
+    </message>
+    <message>
+        <source>Recipes of panel and controller</source>
+        <translation>패널과 컨트롤러의 레시피</translation>
+    </message>
+    <message>
+        <source>Send everything</source>
+        <translation>모두 보내기</translation>
+    </message>
+    <message>
+        <source>Send all recipes to the controller</source>
+        <translation>모든 레시피를 컨트롤러로 보내기</translation>
+    </message>
+    <message>
+        <source>Why nothing can be sent</source>
+        <translation>보낼 수 없는 이유</translation>
+    </message>
+    <message>
+        <source>Active tool</source>
+        <translation>사용 중인 툴</translation>
+    </message>
+    <message>
+        <source>Tool to switch to</source>
+        <translation>전환할 툴</translation>
+    </message>
+    <message>
+        <source>Switch tool</source>
+        <translation>툴 전환</translation>
+    </message>
+    <message>
+        <source>Switch the active tool</source>
+        <translation>사용 중인 툴 전환</translation>
+    </message>
+    <message>
+        <source>There is no connection to the controller. Editing goes on; send the recipes when it is back.</source>
+        <translation>컨트롤러에 연결되어 있지 않습니다. 편집은 계속할 수 있습니다. 연결되면 레시피를 보내십시오.</translation>
+    </message>
+    <message>
+        <source>The controller is being asked for its recipes.</source>
+        <translation>컨트롤러의 레시피를 조회하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>The controller does not tell its recipes: %1</source>
+        <translation>컨트롤러가 레시피를 알려 주지 않습니다: %1</translation>
+    </message>
+    <message>
+        <source>The controller holds all %1 recipes as they are here.</source>
+        <translation>컨트롤러의 레시피 %1개가 여기와 같습니다.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 recipes differ. Send everything to make the controller&apos;s the same.</source>
+        <translation>레시피 %2개 중 %1개가 다릅니다. 모두 보내면 같아집니다.</translation>
+    </message>
+    <message>
+        <source>Active tool: %1</source>
+        <translation>사용 중인 툴: %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>알 수 없음</translation>
+    </message>
+    <message>
+        <source>Not possible without a connection.</source>
+        <translation>연결이 없으면 할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Shared tool %1</source>
+        <translation>공용 툴 %1</translation>
+    </message>
+    <message>
+        <source>Tool of %1</source>
+        <translation>%1의 툴</translation>
+    </message>
+    <message>
+        <source>The recipes are being sent.</source>
+        <translation>레시피를 보내고 있습니다.</translation>
+    </message>
+    <message>
+        <source>The controller took all %1 recipes.</source>
+        <translation>컨트롤러가 레시피 %1개를 모두 받았습니다.</translation>
+    </message>
+    <message>
+        <source>The recipes were not taken: %1</source>
+        <translation>레시피를 받지 않았습니다: %1</translation>
+    </message>
+    <message>
+        <source>The tool is being switched.</source>
+        <translation>툴을 전환하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>The controller works with the tool %1.</source>
+        <translation>컨트롤러가 툴 %1을(를) 사용합니다.</translation>
+    </message>
+    <message>
+        <source>The controller did not take the tool. The log may say why.</source>
+        <translation>컨트롤러가 툴을 받지 않았습니다. 이유는 로그에 있을 수 있습니다.</translation>
+    </message>
+</context>
+<context>
     <name>EditTools</name>
     <message>
         <source>Choose all products</source>
@@ -349,6 +460,69 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>LayerSeriesDialog</name>
+    <message>
+        <source>Layers in turn</source>
+        <translation>교대 단</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>패턴</translation>
+    </message>
+    <message>
+        <source>In turn with</source>
+        <translation>교대 패턴</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>단</translation>
+    </message>
+    <message>
+        <source>Sheet after every so many</source>
+        <translation>간지 간격</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>위치</translation>
+    </message>
+    <message>
+        <source>What the stack will be</source>
+        <translation>적재 결과</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>Mirrored left to right</source>
+        <translation>좌우 반전</translation>
+    </message>
+    <message>
+        <source>Mirrored front to back</source>
+        <translation>앞뒤 반전</translation>
+    </message>
+    <message>
+        <source>Turned by half</source>
+        <translation>반 바퀴 회전</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>맨 위에</translation>
+    </message>
+    <message>
+        <source>From layer %1 on, replacing</source>
+        <translation>%1단부터 대체</translation>
+    </message>
+</context>
+<context>
     <name>LayerTableModel</name>
     <message>
         <source>Separator sheet</source>
@@ -441,10 +615,6 @@ mm</translation>
         <translation>단 평면도</translation>
     </message>
     <message>
-        <source>Layer</source>
-        <translation>단</translation>
-    </message>
-    <message>
         <source>Pattern</source>
         <translation>패턴</translation>
     </message>
@@ -473,28 +643,96 @@ mm</translation>
         <translation>제거</translation>
     </message>
     <message>
-        <source>Place the layer earlier</source>
-        <translation>단을 앞으로 이동</translation>
-    </message>
-    <message>
-        <source>Place the layer later</source>
-        <translation>단을 뒤로 이동</translation>
-    </message>
-    <message>
         <source>Repeat</source>
         <translation>반복</translation>
     </message>
     <message>
-        <source>Repeat the whole sequence on top</source>
-        <translation>전체 순서를 위에 반복</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>%1단</translation>
-    </message>
-    <message>
         <source>No layer chosen</source>
         <translation>선택한 단 없음</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>평면도</translation>
+    </message>
+    <message>
+        <source>Show the plan of the layer instead of the stack</source>
+        <translation>적재 대신 단의 평면도 표시</translation>
+    </message>
+    <message>
+        <source>Remove the chosen layers</source>
+        <translation>선택한 단 삭제</translation>
+    </message>
+    <message>
+        <source>Place the chosen layers earlier</source>
+        <translation>선택한 단을 앞으로 이동</translation>
+    </message>
+    <message>
+        <source>Place the chosen layers later</source>
+        <translation>선택한 단을 뒤로 이동</translation>
+    </message>
+    <message>
+        <source>Several</source>
+        <translation>여러 개</translation>
+    </message>
+    <message>
+        <source>Choose several layers</source>
+        <translation>여러 단 선택</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>간지</translation>
+    </message>
+    <message>
+        <source>Lay a separator sheet onto each chosen layer</source>
+        <translation>선택한 각 단 위에 간지 놓기</translation>
+    </message>
+    <message>
+        <source>Repeat the chosen layers on top</source>
+        <translation>선택한 단을 맨 위에 반복</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>더 보기</translation>
+    </message>
+    <message>
+        <source>Lay layers in turn, or mirror the chosen layers</source>
+        <translation>단을 교대로 놓거나 선택한 단을 반전</translation>
+    </message>
+    <message>
+        <source>Pattern of %1 layers</source>
+        <translation>%1개 단의 패턴</translation>
+    </message>
+    <message>
+        <source>Pattern of layer %1</source>
+        <translation>%1단의 패턴</translation>
+    </message>
+    <message>
+        <source>A recipe holds at most %1 layers.</source>
+        <translation>레시피의 단은 최대 %1개입니다.</translation>
+    </message>
+    <message>
+        <source>There is a sheet already, or no box to lay it on.</source>
+        <translation>이미 간지가 있거나 놓을 박스가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The chosen layers look the same then.</source>
+        <translation>선택한 단은 달라지지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Layers in turn...</source>
+        <translation>단 교대...</translation>
+    </message>
+    <message>
+        <source>Mirror left to right</source>
+        <translation>좌우 반전</translation>
+    </message>
+    <message>
+        <source>Mirror front to back</source>
+        <translation>앞뒤 반전</translation>
+    </message>
+    <message>
+        <source>Turn by half</source>
+        <translation>반 바퀴 회전</translation>
     </message>
 </context>
 <context>
@@ -1767,6 +2005,53 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>RecipeMatchModel</name>
+    <message>
+        <source>No.</source>
+        <translation>번호</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>레시피</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>패널</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>컨트롤러</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>상태</translation>
+    </message>
+    <message>
+        <source>%1 places, %2 layers</source>
+        <translation>자리 %1개, 단 %2개</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>같음</translation>
+    </message>
+    <message>
+        <source>At place %1</source>
+        <translation>%1번째 위치</translation>
+    </message>
+    <message>
+        <source>Other points</source>
+        <translation>포인트 다름</translation>
+    </message>
+    <message>
+        <source>Missing there</source>
+        <translation>컨트롤러에 없음</translation>
+    </message>
+    <message>
+        <source>Only there</source>
+        <translation>컨트롤러에만 있음</translation>
+    </message>
+</context>
+<context>
     <name>RecipeText</name>
     <message>
         <source>The name is empty.</source>
@@ -2031,6 +2316,21 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>SeriesText</name>
+    <message>
+        <source>There is nothing to lay.</source>
+        <translation>놓을 것이 없습니다.</translation>
+    </message>
+    <message>
+        <source>This recipe has no pattern &quot;%1&quot;.</source>
+        <translation>이 레시피에 패턴 &quot;%1&quot;이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>That makes %1 layers; a recipe holds at most %2.</source>
+        <translation>%1개 단이 됩니다. 레시피는 최대 %2개입니다.</translation>
+    </message>
+</context>
+<context>
     <name>StackFrame</name>
     <message>
         <source>Layer of the plan</source>
@@ -2158,6 +2458,10 @@ Pallet: %4</source>
     <message>
         <source>Robot projects</source>
         <translation>로봇 프로젝트</translation>
+    </message>
+    <message>
+        <source>Recipes on the controller</source>
+        <translation>컨트롤러의 레시피</translation>
     </message>
 </context>
 <context>
@@ -2574,6 +2878,17 @@ Pallet: %4</source>
     <message>
         <source>Pallet&apos;width is less than product&apos;width</source>
         <translation>팔레트 너비가 제품 너비보다 작습니다</translation>
+    </message>
+</context>
+<context>
+    <name>palx::ControllerRecipes</name>
+    <message>
+        <source>Its answer is no list of recipes.</source>
+        <translation>응답이 레시피 목록이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The controller does not tell which recipes it holds: %1</source>
+        <translation>컨트롤러가 가진 레시피를 알려 주지 않습니다: %1</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,117 @@
     </message>
 </context>
 <context>
+    <name>ControllerDialog</name>
+    <message>
+        <source>Recipes on the controller</source>
+        <translation>Рецепты в контроллере</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>What the comparison says</source>
+        <translation>Результат сравнения</translation>
+    </message>
+    <message>
+        <source>Recipes of panel and controller</source>
+        <translation>Рецепты панели и контроллера</translation>
+    </message>
+    <message>
+        <source>Send everything</source>
+        <translation>Передать всё</translation>
+    </message>
+    <message>
+        <source>Send all recipes to the controller</source>
+        <translation>Передать все рецепты контроллеру</translation>
+    </message>
+    <message>
+        <source>Why nothing can be sent</source>
+        <translation>Почему передать нельзя</translation>
+    </message>
+    <message>
+        <source>Active tool</source>
+        <translation>Активный инструмент</translation>
+    </message>
+    <message>
+        <source>Tool to switch to</source>
+        <translation>Новый инструмент</translation>
+    </message>
+    <message>
+        <source>Switch tool</source>
+        <translation>Сменить инструмент</translation>
+    </message>
+    <message>
+        <source>Switch the active tool</source>
+        <translation>Сменить активный инструмент</translation>
+    </message>
+    <message>
+        <source>There is no connection to the controller. Editing goes on; send the recipes when it is back.</source>
+        <translation>Нет связи с контроллером. Править можно; передайте рецепты, когда связь вернётся.</translation>
+    </message>
+    <message>
+        <source>The controller is being asked for its recipes.</source>
+        <translation>Запрашиваются рецепты контроллера.</translation>
+    </message>
+    <message>
+        <source>The controller does not tell its recipes: %1</source>
+        <translation>Контроллер не сообщает свои рецепты: %1</translation>
+    </message>
+    <message>
+        <source>The controller holds all %1 recipes as they are here.</source>
+        <translation>Контроллер хранит все рецепты (%1) такими же, как здесь.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 recipes differ. Send everything to make the controller&apos;s the same.</source>
+        <translation>Отличаются рецепты: %1 из %2. Передайте всё, чтобы они совпали.</translation>
+    </message>
+    <message>
+        <source>Active tool: %1</source>
+        <translation>Активный инструмент: %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>неизвестен</translation>
+    </message>
+    <message>
+        <source>Not possible without a connection.</source>
+        <translation>Без связи невозможно.</translation>
+    </message>
+    <message>
+        <source>Shared tool %1</source>
+        <translation>Общий инструмент %1</translation>
+    </message>
+    <message>
+        <source>Tool of %1</source>
+        <translation>Инструмент рецепта %1</translation>
+    </message>
+    <message>
+        <source>The recipes are being sent.</source>
+        <translation>Рецепты передаются.</translation>
+    </message>
+    <message>
+        <source>The controller took all %1 recipes.</source>
+        <translation>Контроллер принял все рецепты: %1.</translation>
+    </message>
+    <message>
+        <source>The recipes were not taken: %1</source>
+        <translation>Рецепты не приняты: %1</translation>
+    </message>
+    <message>
+        <source>The tool is being switched.</source>
+        <translation>Инструмент меняется.</translation>
+    </message>
+    <message>
+        <source>The controller works with the tool %1.</source>
+        <translation>Контроллер работает с инструментом %1.</translation>
+    </message>
+    <message>
+        <source>The controller did not take the tool. The log may say why.</source>
+        <translation>Контроллер не принял инструмент. Причина может быть в журнале.</translation>
+    </message>
+</context>
+<context>
     <name>EditTools</name>
     <message>
         <source>Choose all products</source>
@@ -349,6 +460,69 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>LayerSeriesDialog</name>
+    <message>
+        <source>Layers in turn</source>
+        <translation>Чередование слоёв</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Схема</translation>
+    </message>
+    <message>
+        <source>In turn with</source>
+        <translation>Чередовать с</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Слои</translation>
+    </message>
+    <message>
+        <source>Sheet after every so many</source>
+        <translation>Прокладка через каждые</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Где</translation>
+    </message>
+    <message>
+        <source>What the stack will be</source>
+        <translation>Каким будет штабель</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>Mirrored left to right</source>
+        <translation>Отражено слева направо</translation>
+    </message>
+    <message>
+        <source>Mirrored front to back</source>
+        <translation>Отражено спереди назад</translation>
+    </message>
+    <message>
+        <source>Turned by half</source>
+        <translation>Повёрнуто на 180°</translation>
+    </message>
+    <message>
+        <source>On top</source>
+        <translation>Сверху</translation>
+    </message>
+    <message>
+        <source>From layer %1 on, replacing</source>
+        <translation>Со слоя %1, с заменой</translation>
+    </message>
+</context>
+<context>
     <name>LayerTableModel</name>
     <message>
         <source>Separator sheet</source>
@@ -441,10 +615,6 @@ mm</translation>
         <translation>План слоя</translation>
     </message>
     <message>
-        <source>Layer</source>
-        <translation>Слой</translation>
-    </message>
-    <message>
         <source>Pattern</source>
         <translation>Схема</translation>
     </message>
@@ -473,28 +643,96 @@ mm</translation>
         <translation>Убрать</translation>
     </message>
     <message>
-        <source>Place the layer earlier</source>
-        <translation>Уложить слой раньше</translation>
-    </message>
-    <message>
-        <source>Place the layer later</source>
-        <translation>Уложить слой позже</translation>
-    </message>
-    <message>
         <source>Repeat</source>
         <translation>Повторить</translation>
     </message>
     <message>
-        <source>Repeat the whole sequence on top</source>
-        <translation>Повторить всю последовательность сверху</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>Слой %1</translation>
-    </message>
-    <message>
         <source>No layer chosen</source>
         <translation>Слой не выбран</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>План</translation>
+    </message>
+    <message>
+        <source>Show the plan of the layer instead of the stack</source>
+        <translation>Показать план слоя вместо штабеля</translation>
+    </message>
+    <message>
+        <source>Remove the chosen layers</source>
+        <translation>Удалить выбранные слои</translation>
+    </message>
+    <message>
+        <source>Place the chosen layers earlier</source>
+        <translation>Уложить выбранные слои раньше</translation>
+    </message>
+    <message>
+        <source>Place the chosen layers later</source>
+        <translation>Уложить выбранные слои позже</translation>
+    </message>
+    <message>
+        <source>Several</source>
+        <translation>Несколько</translation>
+    </message>
+    <message>
+        <source>Choose several layers</source>
+        <translation>Выбирать несколько слоёв</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Лист</translation>
+    </message>
+    <message>
+        <source>Lay a separator sheet onto each chosen layer</source>
+        <translation>Положить прокладку на каждый выбранный слой</translation>
+    </message>
+    <message>
+        <source>Repeat the chosen layers on top</source>
+        <translation>Повторить выбранные слои сверху</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Ещё</translation>
+    </message>
+    <message>
+        <source>Lay layers in turn, or mirror the chosen layers</source>
+        <translation>Чередовать слои или отразить выбранные</translation>
+    </message>
+    <message>
+        <source>Pattern of %1 layers</source>
+        <translation>Схема слоёв: %1</translation>
+    </message>
+    <message>
+        <source>Pattern of layer %1</source>
+        <translation>Схема слоя %1</translation>
+    </message>
+    <message>
+        <source>A recipe holds at most %1 layers.</source>
+        <translation>В рецепте не более %1 слоёв.</translation>
+    </message>
+    <message>
+        <source>There is a sheet already, or no box to lay it on.</source>
+        <translation>Прокладка уже есть, или её не на что положить.</translation>
+    </message>
+    <message>
+        <source>The chosen layers look the same then.</source>
+        <translation>Выбранные слои от этого не изменятся.</translation>
+    </message>
+    <message>
+        <source>Layers in turn...</source>
+        <translation>Чередовать слои...</translation>
+    </message>
+    <message>
+        <source>Mirror left to right</source>
+        <translation>Отразить слева направо</translation>
+    </message>
+    <message>
+        <source>Mirror front to back</source>
+        <translation>Отразить спереди назад</translation>
+    </message>
+    <message>
+        <source>Turn by half</source>
+        <translation>Повернуть на 180°</translation>
     </message>
 </context>
 <context>
@@ -1771,6 +2009,53 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>RecipeMatchModel</name>
+    <message>
+        <source>No.</source>
+        <translation>№</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>Рецепт</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Панель</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>Контроллер</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>%1 places, %2 layers</source>
+        <translation>мест: %1, слоёв: %2</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>Совпадает</translation>
+    </message>
+    <message>
+        <source>At place %1</source>
+        <translation>На месте %1</translation>
+    </message>
+    <message>
+        <source>Other points</source>
+        <translation>Другие точки</translation>
+    </message>
+    <message>
+        <source>Missing there</source>
+        <translation>Там нет</translation>
+    </message>
+    <message>
+        <source>Only there</source>
+        <translation>Только там</translation>
+    </message>
+</context>
+<context>
     <name>RecipeText</name>
     <message>
         <source>The name is empty.</source>
@@ -2035,6 +2320,21 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>SeriesText</name>
+    <message>
+        <source>There is nothing to lay.</source>
+        <translation>Укладывать нечего.</translation>
+    </message>
+    <message>
+        <source>This recipe has no pattern &quot;%1&quot;.</source>
+        <translation>В этом рецепте нет схемы «%1».</translation>
+    </message>
+    <message>
+        <source>That makes %1 layers; a recipe holds at most %2.</source>
+        <translation>Получится слоёв: %1; в рецепте не более %2.</translation>
+    </message>
+</context>
+<context>
     <name>StackFrame</name>
     <message>
         <source>Layer of the plan</source>
@@ -2162,6 +2462,10 @@ Pallet: %4</source>
     <message>
         <source>Robot projects</source>
         <translation>Проекты робота</translation>
+    </message>
+    <message>
+        <source>Recipes on the controller</source>
+        <translation>Рецепты в контроллере</translation>
     </message>
 </context>
 <context>
@@ -2578,6 +2882,17 @@ Pallet: %4</source>
     <message>
         <source>Pallet&apos;width is less than product&apos;width</source>
         <translation>Ширина паллеты меньше ширины изделия</translation>
+    </message>
+</context>
+<context>
+    <name>palx::ControllerRecipes</name>
+    <message>
+        <source>Its answer is no list of recipes.</source>
+        <translation>Его ответ — не список рецептов.</translation>
+    </message>
+    <message>
+        <source>The controller does not tell which recipes it holds: %1</source>
+        <translation>Контроллер не сообщает, какие рецепты хранит: %1</translation>
     </message>
 </context>
 <context>
