@@ -264,6 +264,9 @@ void takeOthers(Camera &camera, bwaf::CenterWidget *center)
         if (!key.startsWith(palx::getPluginName()))
             camera.takePage(key, QString(key).replace(QLatin1Char('.'), QLatin1Char('-')));
     }
+    camera.window()->openPage(QStringLiteral("panel.notices"));
+    takeDialogOf(camera, QStringLiteral("btnExport"), QStringLiteral("log-export"));
+    takeDialogOf(camera, QStringLiteral("btnClear"), QStringLiteral("log-clear"));
 }
 
 /// The dialog that drives the robot, with a controller of its own.

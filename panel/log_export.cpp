@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStorageInfo>
 
 namespace panel {
 
@@ -16,6 +17,25 @@ const char *const kHeader[] = {"level", "time", "message", "robot"};
 QString quoted(QString text)
 {
     return QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) + QLatin1Char('"');
+}
+
+QString ownFolder()
+{
+    const auto *settings = nexo::SettingManager::instance();
+    const QString chosen = settings->getStr(QStringLiteral("export"));
+    if (!chosen.isEmpty())
+        return QDir::cleanPath(chosen);
+    const QString data = settings->getStr(QStringLiteral("data"));
+    return data.isEmpty() ? QDir::tempPath() : QDir(data).filePath(QStringLiteral("export"));
+}
+
+/// By where the system mounts what is plugged in.
+bool isRemovable(const QStorageInfo &volume)
+{
+    const QString path = volume.rootPath();
+    return volume.isReady() && !volume.isReadOnly() &&
+           (path.startsWith(QLatin1String("/media/")) || path.startsWith(QLatin1String("/run/media/")) ||
+            path.startsWith(QLatin1String("/mnt/")));
 }
 
 QStringList fields(const LogRecord &record)
@@ -62,14 +82,13 @@ QString exportLog(const QVector<LogRecord> &records, const QString &file)
     return QStringLiteral("%1: %2").arg(file, error.what);
 }
 
-QString exportFolder()
+QStringList exportFolders()
 {
-    const auto *settings = nexo::SettingManager::instance();
-    const QString chosen = settings->getStr(QStringLiteral("export"));
-    if (!chosen.isEmpty())
-        return QDir::cleanPath(chosen);
-    const QString data = settings->getStr(QStringLiteral("data"));
-    return data.isEmpty() ? QDir::homePath() : QDir(data).filePath(QStringLiteral("export"));
+    QStringList folders(ownFolder());
+    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes())
+        if (isRemovable(volume))
+            folders.append(volume.rootPath());
+    return folders;
 }
 
 } // namespace panel

@@ -14,7 +14,8 @@ QByteArray logAsText(const QVector<LogRecord> &records);
 /// why not, empty when done.
 QString exportLog(const QVector<LogRecord> &records, const QString &file);
 
-/// Where exports are offered: the setting "export", else "export" in the data folder, else the user's own folder.
-QString exportFolder();
+/// Where exports are offered: first the setting "export", else "export" in the data folder, else the temporary folder;
+/// then the removable media that can be written now.
+QStringList exportFolders();
 
 } // namespace panel

@@ -3,14 +3,13 @@
 #include "ix/clear_button.h"
 #include "ix/xtheme.h"
 #include "nexo/manager_helper.h"
+#include "panel/export_dialog.h"
 #include "panel/log_export.h"
 #include "panel/log_model.h"
 #include "ui_log_page.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QEvent>
-#include <QFileDialog>
 #include <QHeaderView>
 #include <QScrollBar>
 
@@ -30,7 +29,10 @@ void notice(const char *level, const QString &text)
 LogPage::LogPage(QWidget *parent)
     : QWidget(parent), ui_(std::make_unique<Ui::LogPage>()),
       records_(new LogModel(m("quill.log.list"), this)), found_(new LogFilter(this)),
-      chooser_([this](const QString &proposed) { return chooseFile(proposed); })
+      chooser_([this](const QStringList &folders, const QString &name) {
+          ExportDialog dialog(folders, name, window());
+          return dialog.exec() == QDialog::Accepted ? dialog.file() : QString();
+      })
 {
     ui_->setupUi(this);
     ui_->btnExport->setIcon(ix::xtheme::icon(Glyph::Save));
@@ -130,19 +132,10 @@ void LogPage::showChosen()
     ui_->txtRecord->setVisible(chosen.isValid());
 }
 
-QString LogPage::chooseFile(const QString &proposed)
-{
-    return QFileDialog::getSaveFileName(this, tr("Export the log"), proposed,
-                                        tr("Table (*.csv)") + QStringLiteral(";;") + tr("Text (*.txt)"),
-                                        nullptr, QFileDialog::DontUseNativeDialog);
-}
-
 void LogPage::exportRecords()
 {
     const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
-    const QDir folder(exportFolder());
-    folder.mkpath(QStringLiteral(".")); // so that the dialog can show it
-    const QString file = chooser_(folder.filePath(QStringLiteral("log-%1.csv").arg(stamp)));
+    const QString file = chooser_(exportFolders(), QStringLiteral("log-") + stamp);
     if (file.isEmpty())
         return;
     const QVector<LogRecord> records = found_->records();

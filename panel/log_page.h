@@ -24,8 +24,9 @@ public:
     explicit LogPage(QWidget *parent = nullptr);
     ~LogPage() override;
 
-    /// Asks the operator for a file's name and returns it, empty when refused; gets the name to propose.
-    using FileChooser = std::function<QString(const QString &proposed)>;
+    /// Asks the operator for a file and returns it, empty when refused; gets the folders to choose from and the name to
+    /// propose, without suffix.
+    using FileChooser = std::function<QString(const QStringList &folders, const QString &name)>;
     void setFileChooser(const FileChooser &chooser) { chooser_ = chooser; }
 
     /// How many records are shown.
@@ -41,7 +42,6 @@ private:
     void showCount();
     void showChosen();
     void keepPlace(int added);
-    QString chooseFile(const QString &proposed);
     void exportRecords();
     void clearRecords();
     void retranslate();

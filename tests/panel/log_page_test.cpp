@@ -4,6 +4,7 @@
 #include "core/log_keeper.h"
 #include "nexo/setting_manager.h"
 #include "orba/module_manager.h"
+#include "panel/export_dialog.h"
 #include "panel/log_export.h"
 #include "panel/log_model.h"
 #include "support/test_support.h"
@@ -83,7 +84,7 @@ protected:
     }
     void exportTo(const QString &file) const
     {
-        page->setFileChooser([file](const QString &) { return file; });
+        page->setFileChooser([file](const QStringList &, const QString &) { return file; });
         child<QPushButton>("btnExport")->click();
     }
     static QByteArray content(const QString &file)
@@ -220,21 +221,52 @@ TEST_F(LogPageTest, ExportsAreOfferedInTheFolderOfTheSettings)
 {
     someRecords();
     rows();
-    QString proposed;
-    page->setFileChooser([&proposed](const QString &file) {
-        proposed = file;
+    QStringList folders;
+    QString name;
+    page->setFileChooser([&](const QStringList &offered, const QString &proposed) {
+        folders = offered;
+        name = proposed;
         return QString();
     });
     auto *settings = nexo::SettingManager::instance();
     settings->setOverride(QStringLiteral("data"), folder.path());
     child<QPushButton>("btnExport")->click();
-    EXPECT_TRUE(proposed.startsWith(folder.filePath(QStringLiteral("export/log-20")))) << proposed;
-    EXPECT_TRUE(proposed.endsWith(QStringLiteral(".csv"))) << proposed;
-    EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("export"))).exists());
+    EXPECT_EQ(folders.value(0), folder.filePath(QStringLiteral("export")));
+    EXPECT_TRUE(name.startsWith(QStringLiteral("log-20"))) << name;
     settings->setOverride(QStringLiteral("export"), folder.filePath(QStringLiteral("stick")));
     child<QPushButton>("btnExport")->click();
-    EXPECT_TRUE(proposed.startsWith(folder.filePath(QStringLiteral("stick/log-")))) << proposed;
+    EXPECT_EQ(folders.value(0), folder.filePath(QStringLiteral("stick")));
     settings->setOverride(QStringLiteral("data"), QString());
+}
+
+TEST_F(LogPageTest, TheExportDialogAsksForFolderNameAndKind)
+{
+    const QString taken = folder.filePath(QStringLiteral("b/log-1.txt"));
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("b")));
+    QFile there(taken);
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    panel::ExportDialog dialog({folder.filePath(QStringLiteral("a")), folder.filePath(QStringLiteral("b"))},
+                               QStringLiteral("log-1"));
+    const auto *ok = dialog.findChild<QPushButton *>(QStringLiteral("btnOk"));
+    auto *name = dialog.findChild<QLineEdit *>(QStringLiteral("edtName"));
+    EXPECT_EQ(dialog.file(), folder.filePath(QStringLiteral("a/log-1.csv")));
+    for (const char *bad : {"", "  ", "a/b", "../x", ".hidden"}) {
+        name->setText(QLatin1String(bad));
+        EXPECT_FALSE(ok->isEnabled()) << bad;
+        dialog.accept();
+        EXPECT_EQ(dialog.result(), QDialog::Rejected) << bad;
+    }
+    name->setText(QStringLiteral(" log-1 "));
+    dialog.findChild<QComboBox *>(QStringLiteral("cmbFolder"))->setCurrentIndex(1);
+    dialog.findChild<QComboBox *>(QStringLiteral("cmbKind"))->setCurrentIndex(1);
+    EXPECT_EQ(dialog.file(), taken);
+    EXPECT_EQ(dialog.findChild<QLabel *>(QStringLiteral("lblFile"))->text(), taken);
+    dialog.accept(); // not to be replaced
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    dialog.accept(); // to be replaced
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    ASSERT_EQ(presenter.asked.size(), 2);
+    EXPECT_TRUE(presenter.asked[0].text.contains(taken)) << presenter.asked[0].text;
 }
 
 TEST_F(LogPageTest, IsClearedAfterAQuestion)
