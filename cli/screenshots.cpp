@@ -7,6 +7,7 @@
 #include "nexo/setting_manager.h"
 #include "panel/message_dialog.h"
 #include "panel/panel_window.h"
+#include "pattern_pictures.h"
 #include "plan_pictures.h"
 #include "recipe_commands.h"
 #include "stack/way_points.h"
@@ -215,7 +216,9 @@ void takeDialogsOfFrame(Camera &camera, const QString &frame)
         camera.fail(QStringLiteral("the page of patterns has no plan to edit"));
     if (auto *tab = control<QAbstractButton>(camera, QStringLiteral("tabPattern")))
         tab->click();
-    takeDialogOf(camera, QStringLiteral("btnAdd"), QStringLiteral("new-pattern"));
+    const auto take = [&camera](QWidget *dialog, const QString &name) { camera.takeWindow(dialog, name); };
+    if (!showPatternDialogs(camera.window(), take))
+        camera.fail(QStringLiteral("a dialog of the page of patterns did not come up"));
 }
 
 /// Every frame of the set-up page, every part of a frame, and the dialogs of frames.

@@ -95,15 +95,25 @@ void restoreNode(ModuleObject *target, const Node &source)
         target->copyFrom(source);
 }
 
+namespace {
+
+/// The generated points, and what the dialogs of templates and automatic layouts were last told.
+bool isKept(const Node &child)
+{
+    const QStringView name = child.name().view();
+    return name == u"points" || name == u"pattern_cfg" || name == u"automatic_stacker";
+}
+
+} // namespace
+
 Node recipeContent(const Node &stack)
 {
     Node content(stack.name());
     content.reset(Node::Kind::Map);
     for (int i = 0; i < stack.size(); ++i) {
         const Node *child = stack.at(i);
-        if (!child || child->name().view() == u"points")
-            continue;
-        content.add(child->name())->assign(*child);
+        if (child && !isKept(*child))
+            content.add(child->name())->assign(*child);
     }
     return content;
 }
@@ -111,9 +121,9 @@ Node recipeContent(const Node &stack)
 void restoreContent(ModuleObject *stack, const Node &content)
 {
     Node whole = content;
-    if (const Node *points = stack->node().child(u"points")) {
-        const int place = stack->node().indexOf(points);
-        whole.insert(std::min(place, whole.size()), points->name())->assign(*points);
+    for (int i = 0; i < stack->node().size(); ++i) {
+        if (const Node *child = stack->node().at(i); child && isKept(*child))
+            whole.insert(std::min(i, whole.size()), child->name())->assign(*child);
     }
     restoreNode(stack, whole);
 }

@@ -38,11 +38,11 @@ PALX_API orba::ModuleObject *restoreStack(orba::ModuleObject *stacks, const Remo
 /// stay. Returns whether something was added.
 PALX_API bool ensureRecipeKeys(orba::ModuleObject *stack, const orba::Node &prototype);
 
-/// The recipe without its generated points: what an undo step keeps. Two such copies are equal when no edit
-/// lies between.
+/// The recipe without its generated points and without what the dialogs of templates and automatic layouts were
+/// last told: what an undo step keeps. Two such copies are equal when no edit lies between.
 PALX_API orba::Node recipeContent(const orba::Node &stack);
 /// Makes the recipe equal to `content` by writing values in place, so that fields tied to nodes follow. Nodes
-/// are added and removed only where the structure differs; "points" stays.
+/// are added and removed only where the structure differs; what `recipeContent` leaves out stays.
 PALX_API void restoreContent(orba::ModuleObject *stack, const orba::Node &content);
 /// The same for any node below a recipe.
 PALX_API void restoreNode(orba::ModuleObject *target, const orba::Node &source);

@@ -118,18 +118,33 @@ QString directionName(const QString &text)
     return QString();
 }
 
-QString patternNameProblem(const Node &stack, const QString &name)
+QString newPatternProblem(const Node &patterns, const QString &name)
 {
-    static const QRegularExpression allowed(QStringLiteral("\\A[A-Za-z0-9_-]+\\z"));
     if (name.isEmpty())
         return PatternText::tr("Name is empty!");
     if (name.size() > kMaxPatternName)
         return PatternText::tr("Pattern name length is greater than 32!");
-    if (!allowed.match(name).hasMatch())
-        return PatternText::tr("Only letters, digits, \"_\" and \"-\" are allowed in a pattern's name.");
-    if (patternNode(stack, name) || name == kSheetPattern || name == kEmptyPattern)
+    if (patterns.child(QStringView(name)) || name == kSheetPattern || name == kEmptyPattern)
         return PatternText::tr("Name is repeated!");
     return QString();
+}
+
+QString firstFreeLetter(const Node &patterns)
+{
+    QChar letter(QLatin1Char('A'));
+    while (patterns.child(QStringView(&letter, 1)))
+        letter = QChar(letter.unicode() + 1);
+    return QString(letter);
+}
+
+QString patternNameProblem(const Node &stack, const QString &name)
+{
+    static const QRegularExpression allowed(QStringLiteral("\\A[A-Za-z0-9_-]+\\z"));
+    const Node *patterns = stack.find(u"patterns");
+    const QString problem = newPatternProblem(patterns ? *patterns : Node(), name);
+    if (problem.isEmpty() && !allowed.match(name).hasMatch())
+        return PatternText::tr("Only letters, digits, \"_\" and \"-\" are allowed in a pattern's name.");
+    return problem;
 }
 
 QString proposePatternName(const Node &stack)
@@ -164,17 +179,24 @@ int patternUse(const Node &stack, const QString &name)
     return count;
 }
 
+ModuleObject *createPattern(ModuleObject *patterns, const QString &name, const QString &cloneOf)
+{
+    if (patterns->isEmptyMobj() || !newPatternProblem(patterns->node(), name).isEmpty())
+        return emptyMobj();
+    Node content;
+    content.reset(Node::Kind::List);
+    if (const Node *source = patterns->node().child(QStringView(cloneOf)))
+        content.assign(*source);
+    ModuleObject *pattern = patterns->add(name);
+    pattern->copyFrom(content);
+    return pattern;
+}
+
 ModuleObject *addPattern(ModuleObject *stack, const QString &name, const QString &cloneOf)
 {
     if (stack->isEmptyMobj() || !patternNameProblem(stack->node(), name).isEmpty())
         return emptyMobj();
-    Node content;
-    content.reset(Node::Kind::List);
-    if (const Node *source = patternNode(stack->node(), cloneOf))
-        content.assign(*source);
-    ModuleObject *pattern = stack->ensure("patterns")->add(name);
-    pattern->copyFrom(content);
-    return pattern;
+    return createPattern(stack->ensure("patterns"), name, cloneOf);
 }
 
 bool renamePattern(ModuleObject *stack, const QString &name, const QString &newName)

@@ -19,7 +19,17 @@ PALX_API const QStringList &directionNames();
 /// The name as it stands in `directionNames`, whatever its case; empty when there is none.
 PALX_API QString directionName(const QString &text);
 
-/// Why a pattern must not be called `name`; empty when it may.
+/// Why a pattern that is not there yet must not be called `name` among `patterns`: blank, longer than
+/// kMaxPatternName, taken or reserved, the first that holds. Which letters there are is the field's business.
+PALX_API QString newPatternProblem(const orba::Node &patterns, const QString &name);
+/// The first single character from "A" on that no pattern is called; after "Z" the character codes go on.
+PALX_API QString firstFreeLetter(const orba::Node &patterns);
+/// A new pattern among `patterns`, empty or with the items of `cloneOf`; the empty node when the name is
+/// refused.
+PALX_API orba::ModuleObject *createPattern(orba::ModuleObject *patterns, const QString &name,
+                                           const QString &cloneOf = QString());
+
+/// Why a pattern must not be called `name`, letters included; empty when it may.
 PALX_API QString patternNameProblem(const orba::Node &stack, const QString &name);
 /// The first free single letter from "A", then "A1", "A2", ...
 PALX_API QString proposePatternName(const orba::Node &stack);
@@ -27,7 +37,7 @@ PALX_API QStringList patternNames(const orba::Node &stack);
 /// How many layers use the pattern.
 PALX_API int patternUse(const orba::Node &stack, const QString &name);
 
-/// A new pattern, empty or with the items of `cloneOf`; the empty node when the name is refused.
+/// The same with the rules of `patternNameProblem`.
 PALX_API orba::ModuleObject *addPattern(orba::ModuleObject *stack, const QString &name,
                                         const QString &cloneOf = QString());
 /// Renames the pattern and every layer that uses it; false when there is none or the new name is refused.

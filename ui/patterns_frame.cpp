@@ -5,10 +5,13 @@
 #include "pattern/patternscene.h"
 #include "stack/recipe_fields.h"
 #include "stack/recipe_patterns.h"
+#include "ui/automatic_stacker_dialog.h"
 #include "ui/edit_icons.h"
 #include "ui/form_style.h"
 #include "ui/name_dialog.h"
 #include "ui/page_scroll.h"
+#include "ui/pattern_name_dialog.h"
+#include "ui/pattern_template_dialog.h"
 #include "ui/plan_status.h"
 #include "ui_patterns_frame.h"
 
@@ -108,9 +111,10 @@ void PatternsFrame::connectPages()
 
 void PatternsFrame::connectButtons()
 {
-    connect(ui_->btnAdd, &QPushButton::clicked, this, [this] {
-        askName(tr("New pattern"), palx::proposePatternName(stack()->node()), &PatternsFrame::addPattern);
-    });
+    connect(ui_->btnAdd, &QPushButton::clicked, this, [this] { nameNewPattern<NewPatternDialog>(); });
+    connect(ui_->btnTemplate, &QPushButton::clicked, this, [this] { openProducer<PatternTemplateDialog>(); });
+    connect(ui_->btnAutomatic, &QPushButton::clicked, this,
+            [this] { openProducer<AutomaticStackerDialog>(); });
     connect(ui_->btnCopy, &QPushButton::clicked, this, [this] {
         askName(tr("Copy of pattern %1").arg(pattern()), palx::proposePatternName(stack()->node()),
                 &PatternsFrame::copyPattern);
@@ -218,7 +222,8 @@ void PatternsFrame::updateButtons()
 {
     const bool hasPattern = stack() && ui_->cmbPattern->currentIndex() >= 0;
     ui_->cmbPattern->setEnabled(hasPattern);
-    ui_->btnAdd->setEnabled(stack() != nullptr);
+    for (QWidget *button : {ui_->btnAdd, ui_->btnTemplate, ui_->btnAutomatic})
+        button->setEnabled(stack() != nullptr);
     for (QWidget *button : {ui_->btnCopy, ui_->btnRename, ui_->btnDelete})
         button->setEnabled(hasPattern);
     ui_->btnResize->setVisible(hasPattern && palx::otherSizedItems(stack()->node(), pattern()) > 0);
@@ -240,12 +245,35 @@ void PatternsFrame::askName(const QString &title, const QString &proposal,
     dialog->open();
 }
 
-void PatternsFrame::addPattern(const QString &name)
+/// `then` goes on once the pattern is there and chosen.
+template <typename Dialog> void PatternsFrame::nameNewPattern(const std::function<void()> &then)
 {
-    palx::addPattern(stack(), name);
-    fillPatterns();
-    choosePattern(name);
-    Q_EMIT edited();
+    auto *dialog = new Dialog(stack()->ensure("patterns"), pattern(), window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &PatternNameDialog::patternAdded, this, [this](const QString &name) {
+        fillPatterns();
+        choosePattern(name);
+        Q_EMIT edited();
+    });
+    if (then)
+        connect(dialog, &QDialog::accepted, this, then);
+    dialog->open();
+}
+
+/// A dialog that puts products into the chosen pattern; a recipe without one gets its first one before.
+template <typename Dialog> void PatternsFrame::openProducer()
+{
+    if (pattern().isEmpty()) {
+        nameNewPattern<AddPatternDialog>([this] { openProducer<Dialog>(); });
+        return;
+    }
+    auto *dialog = new Dialog(stack(), scene_, window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this] {
+        showPattern();
+        Q_EMIT edited();
+    });
+    dialog->open();
 }
 
 void PatternsFrame::copyPattern(const QString &name)

@@ -4,6 +4,7 @@
 #include "ui/recipe_frame.h"
 #include "ui/recipe_tables.h"
 
+#include <functional>
 #include <memory>
 
 class PatternScene;
@@ -43,7 +44,8 @@ private:
     int item() const;
 
     void askName(const QString &title, const QString &proposal, void (PatternsFrame::*act)(const QString &));
-    void addPattern(const QString &name);
+    template <typename Dialog> void nameNewPattern(const std::function<void()> &then = {});
+    template <typename Dialog> void openProducer();
     void copyPattern(const QString &name);
     void renamePattern(const QString &name);
     void deletePattern();

@@ -1,5 +1,8 @@
+#include "ui/automatic_stacker_dialog.h"
 #include "ui/keypad.h"
 #include "ui/name_dialog.h"
+#include "ui/pattern_name_dialog.h"
+#include "ui/pattern_template_dialog.h"
 #include "ui/stackhomepage.h"
 #include "ui/stacksetuppage.h"
 
@@ -7,6 +10,7 @@
 #include "support/test_support.h"
 #include "ui/base_sub_page.h"
 #include "ui/controller_dialog.h"
+#include "ui/dialog_fixture.h"
 #include "ui/page_fixture.h"
 #include "ui/point_group.h"
 #include "ui/recipe_frame.h"
@@ -113,7 +117,62 @@ template <typename Visit> void eachFrame(Pages &pages, Visit visit)
     }
 }
 
+/// The dialogs that put products into patterns, over a small panel.
+template <typename Visit> void eachPatternDialog(Visit visit)
+{
+    OpenPattern open;
+    open.window.resize(1024, 640);
+    open.window.show();
+    const auto show = [&](QDialog &dialog) {
+        dialog.show();
+        QCoreApplication::processEvents();
+        visit(&dialog);
+    };
+    NewPatternDialog naming(open.stack->r("patterns"), QStringLiteral("A"), &open.window);
+    show(naming);
+    AutomaticStackerDialog stacker(open.stack, &open.scene, &open.window);
+    show(stacker);
+    PatternTemplateDialog producer(open.stack, &open.scene, &open.window);
+    for (int kind = 0; kind < 3; ++kind) {
+        producer.findChild<QComboBox *>()->setCurrentIndex(kind);
+        show(producer);
+    }
+}
+
 } // namespace
+
+TEST(Forms, PatternDialogsFitASmallPanelAndAFinger)
+{
+    const Looks looks;
+    int count = 0;
+    eachPatternDialog([&count](QDialog *dialog) {
+        const QString where = QLatin1String(dialog->metaObject()->className()) + QLatin1Char(' ');
+        EXPECT_LE(dialog->width(), 1024) << where;
+        EXPECT_LE(dialog->height(), 640) << where;
+        expectReadable(dialog, where);
+        for (const QWidget *control : controls(dialog)) {
+            EXPECT_FALSE(control->objectName().isEmpty()) << where;
+            if (!control->isVisible())
+                continue;
+            EXPECT_FALSE(control->accessibleName().isEmpty()) << where << control->objectName();
+            EXPECT_GE(control->height(), 56) << where << control->objectName();
+            ++count;
+        }
+    });
+    EXPECT_GT(count, 30);
+}
+
+TEST(Forms, PatternDialogsLeaveRoomForLongerLanguages)
+{
+    const Looks looks;
+    const LongLanguage language;
+    eachPatternDialog([](QDialog *dialog) {
+        const QString where = QLatin1String(dialog->metaObject()->className()) + QLatin1Char(' ');
+        EXPECT_LE(dialog->width(), 1024) << where;
+        EXPECT_LE(dialog->height(), 640) << where;
+        expectReadable(dialog, where);
+    });
+}
 
 TEST(Forms, EveryControlHasANameForTestsAndForReaders)
 {
