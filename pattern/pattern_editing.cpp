@@ -126,7 +126,7 @@ void PatternEditing::turnPattern()
 void PatternEditing::proposeSides()
 {
     const QVector<Feeding> proposals = proposeFeeding(items(), scene_->rules().frame);
-    const Selection meant = selection_.isEmpty() ? identity(proposals.size()) : selection_;
+    const Selection meant = selection_.size() < 2 ? identity(proposals.size()) : selection_;
     change([&](auto *items) {
         for (const int i : meant)
             applyFeeding(&(*items)[i], proposals[i]);

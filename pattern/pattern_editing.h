@@ -47,7 +47,8 @@ public:
     void turnPattern();
     /// As by the functions of edit_order.
     void reorder(const QVector<int> &order);
-    /// Sides from which the selected products come, or all when none is selected; see `proposeFeeding`.
+    /// Sides from which products come, by `proposeFeeding`: of the selected ones when there are several, else of
+    /// all.
     void proposeSides();
 
     // --- an edit that goes on, as a drag: shown on the plan, written by `commitPreview`

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "orba/export.h"
+
 class QAbstractScrollArea;
 class QTableView;
 class QWidget;
 
 /// Whole rows are selected one at a time; cells are not edited. Rows are as high as a finger needs, `compact` ones as a
 /// text needs. Columns fit their contents and `stretched` takes the rest; -1 shares the width alike.
-void setupTable(QTableView *table, int stretched, bool compact);
+PALX_API void setupTable(QTableView *table, int stretched, bool compact);
 
 /// Keeps the text of every line edit and spin box of a form off its border.
 void setFieldMargins(QWidget *form);

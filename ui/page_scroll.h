@@ -1,10 +1,12 @@
 #pragma once
 
+#include "orba/export.h"
+
 #include <QScrollArea>
 
 /// Lets one page of a form scroll up and down by itself where it is too high for the panel; it is never narrower
 /// than its page needs.
-class PageScroll : public QScrollArea
+class PALX_API PageScroll : public QScrollArea
 {
     Q_OBJECT
 

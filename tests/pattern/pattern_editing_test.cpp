@@ -171,12 +171,12 @@ TEST(PatternEditing, APatternTakesNoMoreThanTheControllerDoes)
 TEST(PatternEditing, ProposesSidesForTheChosenOrForAll)
 {
     PlanEditor editor(row());
-    editor.editing.select({1});
+    editor.editing.select({0, 1});
     editor.editing.proposeSides();
+    // Without work objects that look elsewhere "Left" comes from the right.
     EXPECT_EQ(approachesOf(editor.stored()), "Middle 0,0; Left 100,100; Middle 0,0");
-    editor.editing.select({});
+    editor.editing.select({0});
     editor.editing.proposeSides();
-    // The work objects of a recipe without a plugin node look away from the plan: "Left" comes from the right.
     EXPECT_EQ(approachesOf(editor.stored()), "Middle 0,0; Left 100,100; Left 100,100");
     EXPECT_TRUE(editor.scene.checks().order.hits.isEmpty());
     EXPECT_EQ(editor.told(), "edited; edited");

@@ -6,7 +6,7 @@
 #include <string>
 
 /// A recipe with one pattern that is edited on its plan, for tests of editing. The pallet measures 1200 x 800,
-/// the least spacing is 2 mm, work objects look along the plan's axes ("Top" comes from the upper side).
+/// the least spacing is 2 mm.
 class PlanEditor
 {
 public:

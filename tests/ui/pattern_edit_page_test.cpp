@@ -1,0 +1,298 @@
+#include "support/test_support.h"
+#include "ui/page_fixture.h"
+#include "ui/pattern_view.h"
+#include "ui/patterns_frame.h"
+#include "ui/stacksetuppage.h"
+
+#include "stack/recipe_edit.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QSpinBox>
+#include <QTableView>
+
+#include <gtest/gtest.h>
+
+using orba::ModuleObject;
+using palx::Selection;
+
+namespace {
+
+constexpr int kPatternsFrame = 2;
+
+/// The page of patterns with the pattern "A" of the recipe "Box": products at (75, 100) and (225, 100), the least
+/// spacing 1 mm.
+struct PatternPage : Pages
+{
+    PatternPage()
+    {
+        tree.addRecipe("Box");
+        open("Box", kPatternsFrame);
+        view = at<PatternView>("view");
+    }
+    template <typename T> T *at(const char *name) const
+    {
+        T *found = setup->frames().at(kPatternsFrame)->findChild<T *>(QLatin1String(name));
+        EXPECT_TRUE(found) << name;
+        return found;
+    }
+    void click(const char *name) const { at<QAbstractButton>(name)->click(); }
+    ModuleObject *pattern() const { return setup->stack()->r("patterns.A"); }
+    /// "x,y/r" of the stored products.
+    std::string places() const
+    {
+        QStringList texts;
+        for (int i = 0; i < pattern()->cmobjCount(); ++i) {
+            const QString item = QStringLiteral("#%1.").arg(i);
+            texts << QStringLiteral("%1,%2/%3")
+                         .arg(pattern()->getDouble(QString(item + "x")))
+                         .arg(pattern()->getDouble(QString(item + "y")))
+                         .arg(pattern()->getInt(QString(item + "r")));
+        }
+        return texts.join(QLatin1Char(' ')).toStdString();
+    }
+    QStringList problems() const
+    {
+        QStringList texts;
+        const auto *list = at<QListWidget>("lstProblems");
+        for (int i = 0; i < list->count(); ++i)
+            texts << list->item(i)->text();
+        return texts;
+    }
+
+    PatternView *view;
+};
+
+struct ButtonCase
+{
+    const char *button;
+    Selection selection;
+    const char *places;
+};
+
+const ButtonCase kButtons[] = {
+    {"btnNudgeLeft", {1}, "75,100/0 224,100/0"},
+    {"btnNudgeRight", {1}, "75,100/0 226,100/0"},
+    {"btnNudgeUp", {0, 1}, "75,99/0 225,99/0"},
+    {"btnNudgeDown", {0}, "75,101/0 225,100/0"},
+    {"btnTurnLeft", {0}, "75,100/270 225,100/0"},
+    {"btnTurnRight", {0, 1}, "150,25/90 150,175/90"},
+    {"btnTurnBy", {0}, "75,100/45 225,100/0"},
+    {"btnMirrorAcross", {}, "725,100/0 575,100/0"},
+    {"btnMirrorAlong", {}, "75,900/180 225,900/180"},
+    {"btnTurnPattern", {}, "725,900/180 575,900/180"},
+    {"btnAlignLeft", {0, 1}, "75,100/0 75,100/0"},
+    {"btnAlignCentreAcross", {1}, "75,100/0 400,100/0"},
+    {"btnAlignRight", {0}, "725,100/0 225,100/0"},
+    {"btnAlignTop", {1}, "75,100/0 225,100/0"},
+    {"btnAlignCentreAlong", {0}, "75,500/0 225,100/0"},
+    {"btnAlignBottom", {0, 1}, "75,100/0 225,100/0"},
+    {"btnRemoveItem", {0}, "225,100/0"},
+    {"btnColumns", {}, "75,100/0 225,100/0"},
+    {"btnDownItem", {0}, "225,100/0 75,100/0"},
+    {"btnUpItem", {1}, "225,100/0 75,100/0"},
+};
+
+} // namespace
+
+TEST(PatternEditPage, ButtonsEditAndUndoTakesBack)
+{
+    for (const ButtonCase &one : kButtons) {
+        PatternPage page;
+        const std::string before = page.places();
+        page.view->editing()->select(one.selection);
+        page.click(one.button);
+        EXPECT_EQ(page.places(), one.places) << one.button;
+        if (before != one.places) {
+            page.setup->undo();
+            EXPECT_EQ(page.places(), before) << one.button;
+            page.setup->redo();
+            EXPECT_EQ(page.places(), one.places) << one.button;
+        }
+    }
+}
+
+TEST(PatternEditPage, SwitchesAndEnteredAngle)
+{
+    PatternPage page;
+    page.view->editing()->select({0});
+    page.click("btnStep");
+    EXPECT_EQ(page.at<QAbstractButton>("btnStep")->text(), QStringLiteral("10 mm"));
+    page.click("btnNudgeDown");
+    page.at<QSpinBox>("spnAngle")->setValue(-30);
+    page.click("btnTurnBy");
+    EXPECT_EQ(page.places(), "75,110/330 225,100/0");
+    page.click("btnSnap");
+    EXPECT_FALSE(page.view->dragTool()->isSnapping());
+    page.click("btnSelectAll");
+    EXPECT_EQ(page.view->editing()->selection(), (Selection{0, 1}));
+    EXPECT_FALSE(page.at<QWidget>("btnSpaceAcross")->isEnabled()); // needs three
+    const double scale = page.view->zoom().pixelsPerMm();
+    page.click("btnZoomIn");
+    EXPECT_GT(page.view->zoom().pixelsPerMm(), scale);
+    page.click("btnZoomFit");
+    EXPECT_EQ(page.view->zoom().pixelsPerMm(), scale);
+}
+
+TEST(PatternEditPage, CopiesFromOnePatternToAnother)
+{
+    PatternPage page;
+    page.click("btnSelectAll");
+    page.click("btnCopyItems");
+    auto *frame = qobject_cast<PatternsFrame *>(page.setup->frames().at(kPatternsFrame));
+    frame->choosePattern(QStringLiteral("B"));
+    page.click("btnPasteItems");
+    EXPECT_EQ(page.setup->stack()->r("patterns.B")->cmobjCount(), 3);
+    EXPECT_EQ(page.setup->stack()->getDouble("patterns.B.#2.x"), 526);
+    EXPECT_EQ(page.setup->stack()->getInt("patterns.B.#2.index"), 3);
+    page.setup->undo();
+    EXPECT_EQ(page.setup->stack()->r("patterns.B")->cmobjCount(), 1);
+}
+
+// Every kind of edit in turn, far more steps than one would count.
+TEST(PatternEditPage, AHundredStepsAreTakenBackAndDoneAgain)
+{
+    constexpr int kSteps = 100;
+    PatternPage page;
+    const char *const buttons[] = {"btnNudgeRight", "btnTurnRight",   "btnMirrorAcross", "btnSides",
+                                   "btnNudgeDown",  "btnMirrorAlong", "btnTurnPattern",  "btnTurnBy",
+                                   "btnDownItem",   "btnAlignLeft"};
+    QList<orba::Node> states{palx::recipeContent(page.setup->stack()->node())};
+    page.view->editing()->select({0});
+    page.click("btnCopyItems");
+    for (int i = 0; states.size() <= kSteps; ++i) {
+        page.view->editing()->select(i % 3 == 2 ? Selection{0, 1} : Selection{i % 2});
+        page.click(i % 11 == 10 ? "btnPasteItems" : buttons[i % 11]);
+        const orba::Node state = palx::recipeContent(page.setup->stack()->node());
+        if (state != states.last())
+            states.append(state);
+    }
+    for (int i = kSteps - 1; i >= 0; --i) {
+        page.setup->undo();
+        ASSERT_EQ(palx::recipeContent(page.setup->stack()->node()), states[i]) << i;
+        ASSERT_EQ(page.view->editing()->items().size(), page.pattern()->cmobjCount());
+    }
+    for (int i = 1; i <= kSteps; ++i) {
+        page.setup->redo();
+        ASSERT_EQ(palx::recipeContent(page.setup->stack()->node()), states[i]) << i;
+    }
+}
+
+TEST(PatternEditPage, ListsProblemsAndChoosesTheirProducts)
+{
+    PatternPage page;
+    EXPECT_EQ(page.problems(), QStringList("Products 1 and 2 are 0.0 mm apart, less than 1.0 mm."));
+    page.pattern()->set(nullptr, "#1.x", 750);
+    page.setup->stack()->set(nullptr, "wobj_margin.top", 5);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(page.problems(), QStringList({"Product 2 reaches 25.0 mm over the pallet.",
+                                            "Product 1 reaches 5.0 mm into the margin.",
+                                            "Product 2 reaches 5.0 mm into the margin."}));
+    EXPECT_EQ(page.at<QAbstractButton>("tabCheck")->text(), QStringLiteral("Check 3"));
+    auto *list = page.at<QListWidget>("lstProblems");
+    Q_EMIT list->itemClicked(list->item(1));
+    EXPECT_EQ(page.view->editing()->selection(), (Selection{0}));
+    page.setup->stack()->set(nullptr, "wobj_margin.top", 0);
+    page.pattern()->set(nullptr, "#1.x", 226);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(page.problems(), QStringList());
+    EXPECT_EQ(page.at<QLabel>("lblResult")->text(), QStringLiteral("Nothing is wrong with the pattern."));
+}
+
+TEST(PatternEditPage, ExplainsWhatAFileHolds)
+{
+    PatternPage page;
+    page.pattern()->copyFrom(nodeFromJson(
+        R"([{"x":75,"y":100,"w":150,"h":200,"r":0,"index":1},{"x":75,"y":100,"w":150,"h":200,"r":180,"index":5},
+            {"x":"far","y":600,"w":150,"h":200,"r":0,"index":3,"direction":"Middle"},
+            {"x":500,"y":600,"w":150,"h":200,"r":0,"index":4,"direction":"sideways","dx":10,"dy":10,"dz":0}])"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(
+        page.problems(),
+        QStringList({"Products 1 and 2 lie in the same place.", "Product 3 reaches 75.0 mm over the pallet.",
+                     "Product 3 was stored with a value that cannot be used.",
+                     "Product 4 has the unknown direction \"sideways\": it comes from above.",
+                     "The numbers of 1 products do not follow the order of placing."}));
+    page.click("btnRows");
+    EXPECT_EQ(page.pattern()->getInt("#1.index"), 2);
+    page.view->editing()->select({2});
+    page.click("btnAlignLeft");
+    page.view->editing()->select({1});
+    page.click("btnAlignRight");
+    EXPECT_EQ(page.problems(),
+              QStringList("Product 4 has the unknown direction \"sideways\": it comes from above."));
+}
+
+TEST(PatternEditPage, SaysWhichBoxHitsWhich)
+{
+    PatternPage page;
+    page.pattern()->set(nullptr, "#1.x", 226);
+    page.pattern()->set(nullptr, "#1.dy", 40);
+    page.pattern()->set(nullptr, "#1.direction", QStringLiteral("Right")); // which comes from the left here
+    QCoreApplication::processEvents();
+    EXPECT_EQ(page.problems(), QStringList("Product 2 hits product 1 on its way in, by 39.0 mm."));
+    page.click("btnSides");
+    EXPECT_EQ(page.problems(), QStringList());
+    EXPECT_EQ(page.pattern()->getString("#1.direction"), QStringLiteral("Left"));
+}
+
+TEST(PatternEditPage, NumbersByTappingAsOneStep)
+{
+    PatternPage page;
+    page.click("btnAddItem");
+    const std::string before = page.places();
+    page.click("btnTap");
+    page.view->orderTool()->press(QPointF(375, 100), 1, false);
+    EXPECT_EQ(page.at<QLabel>("lblStep")->text(), QStringLiteral("Tap product 2 of 3"));
+    EXPECT_EQ(page.places(), before);
+    page.click("btnTap");
+    EXPECT_EQ(page.places(), "375,100/0 75,100/0 225,100/0");
+    page.setup->undo();
+    EXPECT_EQ(page.places(), before);
+    page.click("btnTap");
+    page.view->orderTool()->press(QPointF(225, 100), 1, false);
+    page.setup->undo(); // takes back the added product, and the numbers that were begun
+    EXPECT_FALSE(page.at<QAbstractButton>("btnTap")->isChecked());
+    EXPECT_EQ(page.places(), "75,100/0 225,100/0");
+}
+
+TEST(PatternEditPage, WalksThroughThePlacing)
+{
+    PatternPage page;
+    page.click("tabOrder");
+    const auto *label = page.at<QLabel>("lblStep");
+    page.click("btnStepOn");
+    EXPECT_EQ(label->text(), QStringLiteral("1 of 2: Middle"));
+    page.click("btnStepOn");
+    EXPECT_EQ(page.view->step(), 1);
+    EXPECT_EQ(page.view->editing()->selection(), (Selection{1}));
+    page.click("btnStepOn");
+    EXPECT_EQ(page.view->step(), -1);
+    page.click("btnStepBack");
+    EXPECT_EQ(page.view->step(), 1);
+    page.click("tabEdit");
+    EXPECT_EQ(page.view->step(), -1);
+}
+
+TEST(PatternEditPage, FieldsAndTableFollowTheChoice)
+{
+    PatternPage page;
+    const auto *x = page.at<QDoubleSpinBox>("spnX");
+    EXPECT_EQ(x->value(), 75);
+    page.view->editing()->select({1});
+    EXPECT_EQ(x->value(), 225);
+    EXPECT_EQ(page.at<QTableView>("tblItems")->currentIndex().row(), 1);
+    page.at<QTableView>("tblItems")->selectRow(0);
+    EXPECT_EQ(page.view->editing()->selection(), (Selection{0}));
+    page.click("btnNudgeRight");
+    EXPECT_EQ(x->value(), 76);
+    page.view->editing()->select({0, 1});
+    EXPECT_FALSE(x->isEnabled());
+    EXPECT_EQ(page.at<QLabel>("lblItem")->text(), QStringLiteral("2 products chosen"));
+    EXPECT_TRUE(
+        page.at<QLabel>("lblProblems")->text().startsWith(QStringLiteral("2 products, 299 x 200 mm")));
+}

@@ -1,0 +1,308 @@
+#include "ui/pattern_view.h"
+
+#include "pattern/patternscene.h"
+#include "support/test_support.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QTouchDevice>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using palx::Selection;
+
+namespace {
+
+const char *const kRecipe =
+    R"({"product_cfg":{"pallet":{"length":1200,"width":800},"product":{"length":200,"width":100}},
+    "automatic_stacker":{"min_product_spacing":2},
+    "patterns":{"A":[{"x":150,"y":300,"w":100,"h":200,"r":0,"index":1},{"x":400,"y":300,"w":100,"h":200,"r":0,"index":2},
+                     {"x":650,"y":300,"w":100,"h":200,"r":0,"index":3}]}})";
+
+/// A view of a pattern of three products, shown without a page around it.
+struct Plan
+{
+    Plan() : stack(QStringLiteral("stack"))
+    {
+        stack.copyFrom(nodeFromJson(kRecipe));
+        scene.setStack(&stack);
+        scene.setPattern(stack.r("patterns.A"));
+        view.showPlan(&scene);
+        view.resize(500, 600);
+        view.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&view));
+        view.activateWindow();
+        view.setFocus();
+    }
+    ~Plan() { view.setScene(nullptr); }
+
+    QPoint at(double x, double y) const { return view.mapFromScene(x, y); }
+    void press(double x, double y) { QTest::mousePress(view.viewport(), Qt::LeftButton, {}, at(x, y)); }
+    void release(double x, double y) { QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, at(x, y)); }
+    /// A move with the button down, which a virtual pointer does not send.
+    void drag(double x, double y)
+    {
+        QMouseEvent event(QEvent::MouseMove, at(x, y), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view.viewport(), &event);
+    }
+    void click(double x, double y, Qt::KeyboardModifiers keys = {})
+    {
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, keys, at(x, y));
+    }
+    void key(Qt::Key code, Qt::KeyboardModifiers keys = {}) { QTest::keyClick(&view, code, keys); }
+    void wheel(const QPoint &pixel, int delta)
+    {
+        QWheelEvent event(pixel, view.viewport()->mapToGlobal(pixel), {}, QPoint(0, delta), {}, {},
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(view.viewport(), &event);
+    }
+
+    Selection chosen() const { return view.editing()->selection(); }
+    /// "x,y" of the stored products.
+    std::string places() const
+    {
+        QStringList texts;
+        for (int i = 0; i < stack.r("patterns.A")->cmobjCount(); ++i)
+            texts << QStringLiteral("%1,%2")
+                         .arg(stack.getDouble(QStringLiteral("patterns.A.#%1.x").arg(i)))
+                         .arg(stack.getDouble(QStringLiteral("patterns.A.#%1.y").arg(i)));
+        return texts.join(QLatin1Char(' ')).toStdString();
+    }
+
+    orba::ModuleObject stack;
+    PatternScene scene;
+    PatternView view;
+    QTouchDevice *screen = QTest::createTouchDevice();
+};
+
+const char *const kPlaces = "150,300 400,300 650,300";
+
+} // namespace
+
+TEST(PatternView, TheMouseChooses)
+{
+    Plan plan;
+    plan.click(400, 300);
+    EXPECT_EQ(plan.chosen(), (Selection{1}));
+    plan.click(650, 250, Qt::ControlModifier);
+    EXPECT_EQ(plan.chosen(), (Selection{1, 2}));
+    plan.click(400, 900);
+    EXPECT_EQ(plan.chosen(), Selection());
+    plan.press(90, 500); // a frame around the left two
+    plan.drag(500, 100);
+    EXPECT_EQ(plan.chosen(), (Selection{0, 1}));
+    plan.release(500, 100);
+    plan.view.setAdding(true);
+    plan.click(400, 300);
+    EXPECT_EQ(plan.chosen(), (Selection{0}));
+    EXPECT_EQ(plan.places(), kPlaces);
+}
+
+TEST(PatternView, TheMouseDrags)
+{
+    Plan plan;
+    plan.view.dragTool()->setSnapping(false);
+    plan.press(400, 300);
+    plan.drag(400, 500);
+    plan.drag(400, 800);
+    EXPECT_EQ(plan.places(), kPlaces); // not yet
+    plan.release(400, 800);
+    const double y = plan.stack.getDouble("patterns.A.#1.y");
+    EXPECT_NEAR(y, 800, 2 / plan.view.zoom().pixelsPerMm()); // a pixel at either end
+    EXPECT_EQ(y, std::round(y));
+    EXPECT_EQ(plan.stack.getDouble("patterns.A.#1.x"), 400);
+}
+
+TEST(PatternView, EscapeDropsADrag)
+{
+    Plan plan;
+    plan.press(400, 300);
+    plan.drag(400, 800);
+    EXPECT_TRUE(plan.scene.hasPreview());
+    plan.key(Qt::Key_Escape);
+    EXPECT_EQ(plan.scene.shownItems()[1].y, 300);
+    plan.drag(400, 900);
+    plan.release(400, 900);
+    EXPECT_EQ(plan.places(), kPlaces);
+    EXPECT_EQ(plan.chosen(), (Selection{1}));
+    plan.key(Qt::Key_Escape);
+    EXPECT_EQ(plan.chosen(), Selection());
+}
+
+TEST(PatternView, AChangeFromElsewhereDropsADrag)
+{
+    Plan plan;
+    plan.press(400, 300);
+    plan.drag(400, 800);
+    plan.stack.r("patterns.A")->cmobj(2)->remove();
+    QCoreApplication::processEvents();
+    plan.drag(400, 900);
+    plan.release(400, 900);
+    EXPECT_EQ(plan.places(), "150,300 400,300");
+}
+
+TEST(PatternView, KeysEdit)
+{
+    Plan plan;
+    plan.click(400, 300);
+    struct
+    {
+        Qt::Key key;
+        Qt::KeyboardModifiers keys;
+        const char *places;
+    } const cases[] = {
+        {Qt::Key_Left, {}, "150,300 399,300 650,300"},
+        {Qt::Key_Down, {}, "150,300 399,301 650,300"},
+        {Qt::Key_Right, Qt::ShiftModifier, "150,300 409,301 650,300"},
+        {Qt::Key_Up, Qt::ShiftModifier, "150,300 409,291 650,300"},
+        {Qt::Key_R, {}, "150,300 409,291 650,300"},
+        {Qt::Key_C, Qt::ControlModifier, "150,300 409,291 650,300"},
+        {Qt::Key_V, Qt::ControlModifier, "150,300 409,291 650,300 409,393"},
+        {Qt::Key_Delete, {}, "150,300 409,291 650,300"},
+        {Qt::Key_A, Qt::ControlModifier, "150,300 409,291 650,300"},
+        {Qt::Key_Right, {}, "151,300 410,291 651,300"},
+    };
+    for (const auto &one : cases) {
+        plan.key(one.key, one.keys);
+        EXPECT_EQ(plan.places(), one.places) << one.key;
+    }
+    EXPECT_EQ(plan.stack.getInt("patterns.A.#1.r"), 90);
+}
+
+TEST(PatternView, AKeyThatIsHeldDownMakesOneStepMore)
+{
+    Plan plan;
+    int edits = 0;
+    QObject::connect(plan.view.editing(), &palx::PatternEditing::edited, [&] { ++edits; });
+    plan.click(400, 300);
+    QTest::keyPress(&plan.view, Qt::Key_Right);
+    for (int i = 0; i < 30; ++i) {
+        QKeyEvent again(QEvent::KeyPress, Qt::Key_Right, {}, QString(), true);
+        QApplication::sendEvent(&plan.view, &again);
+        QKeyEvent up(QEvent::KeyRelease, Qt::Key_Right, {}, QString(), true);
+        QApplication::sendEvent(&plan.view, &up);
+    }
+    EXPECT_EQ(edits, 1);
+    EXPECT_EQ(plan.scene.shownItems()[1].x, 431);
+    QTest::keyRelease(&plan.view, Qt::Key_Right);
+    EXPECT_EQ(edits, 2);
+    EXPECT_EQ(plan.places(), "150,300 431,300 650,300");
+}
+
+TEST(PatternView, TheWheelEnlargesAtThePointer)
+{
+    Plan plan;
+    const QPoint pixel(120, 200);
+    const QPointF place = plan.view.zoom().toPlan(pixel);
+    const double scale = plan.view.zoom().pixelsPerMm();
+    plan.wheel(pixel, 240);
+    EXPECT_NEAR(plan.view.zoom().pixelsPerMm(), scale * 1.44, 1e-9);
+    EXPECT_NEAR(plan.view.zoom().toPlan(pixel).x(), place.x(), 1e-9);
+    const QPoint drawn = plan.view.mapFromScene(place);
+    EXPECT_LE((drawn - pixel).manhattanLength(), 2); // whole pixels of the scroll bars
+    plan.key(Qt::Key_0);
+    EXPECT_EQ(plan.view.zoom().pixelsPerMm(), scale);
+    plan.key(Qt::Key_Plus);
+    EXPECT_GT(plan.view.zoom().pixelsPerMm(), scale);
+    plan.key(Qt::Key_Minus);
+    EXPECT_TRUE(plan.view.zoom().isFitted());
+}
+
+TEST(PatternView, TheMiddleButtonAndTheSwitchMoveThePlan)
+{
+    Plan plan;
+    plan.view.zoomBy(3);
+    const QPointF before = plan.view.zoom().toPlan(QPointF(250, 300));
+    QTest::mousePress(plan.view.viewport(), Qt::MiddleButton, {}, QPoint(250, 300));
+    QMouseEvent moved(QEvent::MouseMove, QPointF(280, 260), Qt::NoButton, Qt::MiddleButton, Qt::NoModifier);
+    QApplication::sendEvent(plan.view.viewport(), &moved);
+    QTest::mouseRelease(plan.view.viewport(), Qt::MiddleButton, {}, QPoint(280, 260));
+    EXPECT_NEAR(plan.view.zoom().toPlan(QPointF(280, 260)).x(), before.x(), 1e-9);
+    EXPECT_NEAR(plan.view.zoom().toPlan(QPointF(280, 260)).y(), before.y(), 1e-9);
+    plan.view.fitPlan();
+    plan.view.setPanning(true);
+    plan.press(400, 300);
+    plan.drag(400, 800);
+    plan.release(400, 800);
+    EXPECT_EQ(plan.places(), kPlaces);
+    EXPECT_EQ(plan.chosen(), Selection());
+    plan.click(400, 300); // a tap still chooses
+    EXPECT_EQ(plan.chosen(), (Selection{1}));
+}
+
+TEST(PatternView, AFingerDragsAndTwoEnlarge)
+{
+    Plan plan;
+    plan.view.dragTool()->setSnapping(false);
+    QWidget *port = plan.view.viewport();
+    QTest::touchEvent(port, plan.screen).press(0, plan.at(400, 300), port);
+    QTest::touchEvent(port, plan.screen).move(0, plan.at(400, 600), port);
+    QTest::touchEvent(port, plan.screen).release(0, plan.at(400, 600), port);
+    EXPECT_NEAR(plan.stack.getDouble("patterns.A.#1.y"), 600, 2 / plan.view.zoom().pixelsPerMm());
+    const std::string places = plan.places();
+
+    const double scale = plan.view.zoom().pixelsPerMm();
+    QTest::touchEvent(port, plan.screen).press(0, QPoint(200, 300), port);
+    QTest::touchEvent(port, plan.screen).move(0, QPoint(200, 300), port).press(1, QPoint(300, 300), port);
+    const QPointF between = plan.view.zoom().toPlan(QPointF(250, 300));
+    QTest::touchEvent(port, plan.screen).move(0, QPoint(170, 320), port).move(1, QPoint(370, 320), port);
+    EXPECT_NEAR(plan.view.zoom().pixelsPerMm(), scale * 2, 1e-6);
+    EXPECT_NEAR(plan.view.zoom().toPlan(QPointF(270, 320)).x(), between.x(), 1e-6);
+    QTest::touchEvent(port, plan.screen).release(0, QPoint(170, 320), port).move(1, QPoint(370, 320), port);
+    QTest::touchEvent(port, plan.screen).move(1, QPoint(100, 100), port); // the rest of a pinch is no drag
+    QTest::touchEvent(port, plan.screen).release(1, QPoint(100, 100), port);
+    EXPECT_EQ(plan.places(), places);
+}
+
+TEST(PatternView, ASecondFingerTakesADragBack)
+{
+    Plan plan;
+    QWidget *port = plan.view.viewport();
+    QTest::touchEvent(port, plan.screen).press(0, plan.at(400, 300), port);
+    QTest::touchEvent(port, plan.screen).move(0, plan.at(400, 600), port);
+    EXPECT_TRUE(plan.scene.hasPreview());
+    QTest::touchEvent(port, plan.screen).move(0, plan.at(400, 600), port).press(1, QPoint(30, 30), port);
+    EXPECT_EQ(plan.scene.shownItems()[1].y, 300);
+    QTest::touchEvent(port, plan.screen).release(0, plan.at(400, 600), port).release(1, QPoint(30, 30), port);
+    EXPECT_EQ(plan.places(), kPlaces);
+}
+
+TEST(PatternView, ThePlanStaysUnderTheFinger)
+{
+    Plan plan;
+    const QRectF shown = plan.view.zoom().shown();
+    plan.press(650, 300);
+    plan.drag(790, 300); // far over the edge: all there is to see is wider now
+    EXPECT_EQ(plan.view.zoom().shown(), shown);
+    plan.release(790, 300);
+    QCoreApplication::processEvents();
+    EXPECT_NE(plan.view.zoom().shown(), shown);
+}
+
+TEST(PatternView, DrawsWhatIsChosenAndWrong)
+{
+    Plan plan;
+    const auto drawn = [&] { return plan.view.grab().toImage(); };
+    const QImage plain = drawn();
+    plan.click(400, 300);
+    const QImage chosen = drawn();
+    EXPECT_NE(chosen, plain);
+    plan.view.setStep(1);
+    const QImage walk = drawn();
+    EXPECT_NE(walk, chosen);
+    plan.view.setStep(-1);
+    EXPECT_EQ(drawn(), chosen);
+    plan.stack.r("patterns.A")->cmobj(1)->ensure("direction");
+    plan.stack.set(nullptr, "patterns.A.#1.direction",
+                   QStringLiteral("Right")); // from the left in this frame
+    plan.stack.r("patterns.A")->cmobj(1)->ensure("dy");
+    plan.stack.set(nullptr, "patterns.A.#1.dy", 200);
+    EXPECT_EQ(plan.scene.checks().order.hits.size(), 1);
+    plan.view.editing()->select({0});
+    const QImage blocked = drawn();
+    plan.view.setWaysShown(false);
+    EXPECT_NE(drawn(), blocked);
+}
