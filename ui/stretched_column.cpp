@@ -14,7 +14,6 @@ StretchedColumn::StretchedColumn(QTableView *table, int column)
     table->viewport()->installEventFilter(this);
     connect(header, &QHeaderView::sectionResized, this, &StretchedColumn::stretch);
     connect(header, &QHeaderView::sectionCountChanged, this, &StretchedColumn::stretch);
-    connect(header, &QHeaderView::geometriesChanged, this, &StretchedColumn::stretch);
     const QAbstractItemModel *model = table->model();
     Q_ASSERT(model);
     connect(model, &QAbstractItemModel::modelReset, this, &StretchedColumn::stretch);

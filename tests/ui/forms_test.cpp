@@ -86,7 +86,6 @@ void expectReadable(const QWidget *form, const QString &where)
     }
 }
 
-<<<<<<< HEAD
 void expectTouchable(const QWidget *form, const QString &where)
 {
     for (const QWidget *control : controls(form)) {
@@ -110,14 +109,10 @@ template <typename Visit> void eachProjectView(Pages &pages, Visit visit)
     pages.home->subPages()->closeSubPage();
 }
 
-/// Every frame in turn with its scroll bars.
-template <typename Visit> void eachFrame(Pages &pages, Visit visit)
-=======
 enum class Parts { First, All };
 
 /// Every frame in turn with its scroll bars; all parts of a frame that its tabs show, or the first one.
 template <typename Visit> void eachFrame(Pages &pages, Parts parts, Visit visit)
->>>>>>> de21cf7 (Tests: Drive the editor with mouse, fingers and keys, and take a hundred steps back)
 {
     for (int i = 0; i < pages.setup->frames().size(); ++i) {
         pages.setup->showFrame(i);
@@ -259,8 +254,8 @@ TEST(Forms, ControlsAreLargeEnoughForFingers)
     pages.tree.addRecipe("Box");
     eachProjectView(pages, expectTouchable);
     pages.open("Box");
-<<<<<<< HEAD
-    eachFrame(pages, [](RecipeFrame *frame, QScrollArea *) { expectTouchable(frame, frame->objectName()); });
+    eachFrame(pages, Parts::All,
+              [](RecipeFrame *frame, QScrollArea *) { expectTouchable(frame, frame->objectName()); });
 }
 
 TEST(Forms, TheControllerDialogFitsTheSmallPanelInLongerLanguages)
@@ -281,15 +276,6 @@ TEST(Forms, TheControllerDialogFitsTheSmallPanelInLongerLanguages)
         EXPECT_FALSE(control->objectName().isEmpty()) << control->metaObject()->className();
         EXPECT_FALSE(control->accessibleName().isEmpty()) << control->objectName();
     }
-=======
-    eachFrame(pages, Parts::All, [](RecipeFrame *frame, QScrollArea *) {
-        for (const QWidget *control : controls(frame)) {
-            if (!control->isVisible() || qobject_cast<const QAbstractItemView *>(control))
-                continue;
-            EXPECT_GE(control->height(), 56) << frame->objectName() << control->objectName();
-        }
-    });
->>>>>>> de21cf7 (Tests: Drive the editor with mouse, fingers and keys, and take a hundred steps back)
 }
 
 TEST(Forms, FollowAChangeOfLanguage)
