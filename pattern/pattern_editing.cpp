@@ -133,6 +133,15 @@ void PatternEditing::proposeSides()
     });
 }
 
+void PatternEditing::feed(const FeedingEdit &edit)
+{
+    const Selection meant = selection_.isEmpty() ? identity(items().size()) : selection_;
+    change([&](auto *items) {
+        for (const int i : meant)
+            editFeeding(&(*items)[i], edit);
+    });
+}
+
 void PatternEditing::remove()
 {
     if (!canEdit() || selection_.isEmpty())

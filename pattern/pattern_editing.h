@@ -3,6 +3,7 @@
 #include "pattern/patternscene.h"
 #include "pattern/rules/edit_move.h"
 #include "pattern/rules/edit_order.h"
+#include "pattern/rules/feeding_direction.h"
 
 #include <functional>
 
@@ -50,6 +51,8 @@ public:
     /// Sides from which products come, by `proposeFeeding`: of the selected ones when there are several, else of
     /// all.
     void proposeSides();
+    /// Direction and offsets of the selected products, or of all when none is selected.
+    void feed(const FeedingEdit &edit);
 
     // --- an edit that goes on, as a drag: shown on the plan, written by `commitPreview`
     void preview(const QVector<PatternItem> &items);

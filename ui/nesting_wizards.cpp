@@ -1,5 +1,6 @@
 #include "ui/nesting_wizards.h"
 
+#include "ui/directions_frame.h"
 #include "ui/layers_frame.h"
 #include "ui/patterns_frame.h"
 #include "ui/stack_frame.h"
@@ -8,6 +9,7 @@ PlanarNestingWizard::PlanarNestingWizard(orba::ModuleObject *stack, QWidget *par
     : RecipeWizard(stack, parent)
 {
     addPage(new PatternsFrame(this));
+    addPage(new DirectionsFrame(this));
     start();
 }
 
@@ -16,9 +18,9 @@ QString PlanarNestingWizard::titleText() const
     return tr("Patterns");
 }
 
-QString PlanarNestingWizard::pageTitle(int) const
+QString PlanarNestingWizard::pageTitle(int page) const
 {
-    return tr("Products in a layer");
+    return page == 0 ? tr("Products in a layer") : tr("Feeding directions");
 }
 
 CascadeNestingWizard::CascadeNestingWizard(orba::ModuleObject *stack, QWidget *parent)
@@ -39,13 +41,44 @@ QString CascadeNestingWizard::pageTitle(int page) const
     return page == 0 ? tr("Layer sequence") : tr("Stack");
 }
 
+FeedingDirectionWizard::FeedingDirectionWizard(orba::ModuleObject *stack, QWidget *parent)
+    : RecipeWizard(stack, parent)
+{
+    addPage(new DirectionsFrame(this));
+    addPage(new StackFrame(this));
+    start();
+}
+
+QString FeedingDirectionWizard::titleText() const
+{
+    return tr("Feeding directions");
+}
+
+QString FeedingDirectionWizard::pageTitle(int page) const
+{
+    return page == 0 ? tr("Sides") : tr("Stack");
+}
+
+namespace {
+
+RecipeWizard *makeWizard(NestingWizard kind, orba::ModuleObject *stack, QWidget *parent)
+{
+    switch (kind) {
+    case NestingWizard::Planar:
+        return new PlanarNestingWizard(stack, parent);
+    case NestingWizard::Cascade:
+        return new CascadeNestingWizard(stack, parent);
+    case NestingWizard::Feeding:
+        break;
+    }
+    return new FeedingDirectionWizard(stack, parent);
+}
+
+} // namespace
+
 RecipeWizard *openNestingWizard(NestingWizard kind, orba::ModuleObject *stack, QWidget *parent)
 {
-    RecipeWizard *wizard = nullptr;
-    if (kind == NestingWizard::Planar)
-        wizard = new PlanarNestingWizard(stack, parent);
-    else
-        wizard = new CascadeNestingWizard(stack, parent);
+    RecipeWizard *wizard = makeWizard(kind, stack, parent);
     wizard->openUnique();
     return wizard;
 }

@@ -29,6 +29,19 @@ protected:
     QString pageTitle(int page) const override;
 };
 
-enum class NestingWizard { Planar, Cascade };
+/// From which side each product comes to its place, and what it hits on its way; then the stack.
+class PALX_API FeedingDirectionWizard : public RecipeWizard
+{
+    Q_OBJECT
+
+public:
+    FeedingDirectionWizard(orba::ModuleObject *stack, QWidget *parent);
+
+protected:
+    QString titleText() const override;
+    QString pageTitle(int page) const override;
+};
+
+enum class NestingWizard { Planar, Cascade, Feeding };
 /// Opens one over the window of `parent`, in place of any other dialog of the plug-in; it ends by itself.
 PALX_API RecipeWizard *openNestingWizard(NestingWizard kind, orba::ModuleObject *stack, QWidget *parent);

@@ -163,6 +163,8 @@ void PatternView::press(const QPointF &pixel, bool adding, bool panning)
 
 void PatternView::moveTo(const QPointF &pixel)
 {
+    if (tool_ == drag_.get() && locked_)
+        return;
     if (tool_) {
         tool_->move(toPlan(pixel));
         viewport()->update();
@@ -295,6 +297,8 @@ bool PatternView::editKey(const QKeyEvent *event)
     const double step = coarse ? kCoarseMm : kFineMm;
     if (event->matches(QKeySequence::SelectAll))
         editing_->selectAll();
+    else if (locked_)
+        return false;
     else if (event->matches(QKeySequence::Copy))
         editing_->copy();
     else if (event->matches(QKeySequence::Paste))

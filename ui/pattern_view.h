@@ -31,6 +31,8 @@ public:
 
     /// A finger moves the plan and not products.
     void setPanning(bool on) { panning_ = on; }
+    /// Products keep their places: fingers and keys only choose them.
+    void setLocked(bool on) { locked_ = on; }
     /// Taps add to the choice.
     void setAdding(bool on) { adding_ = on; }
     /// Draws the ways that hit something: of chosen products always, of all when on.
@@ -84,6 +86,7 @@ private:
     PlanZoom zoom_;
     bool panning_ = false;
     bool adding_ = false;
+    bool locked_ = false;
     bool waysShown_ = true;
     int step_ = -1;
     bool pans_ = false; ///< the present press moves the plan

@@ -107,7 +107,9 @@ void StackSetupPage::makeWizardMenu()
     {
         NestingWizard kind;
         const char *name;
-    } entries[] = {{NestingWizard::Planar, "wizard-patterns"}, {NestingWizard::Cascade, "wizard-layers"}};
+    } entries[] = {{NestingWizard::Planar, "wizard-patterns"},
+                   {NestingWizard::Feeding, "wizard-directions"},
+                   {NestingWizard::Cascade, "wizard-layers"}};
     for (const auto &entry : entries) {
         const NestingWizard kind = entry.kind;
         wizards_ << menu->addAction(QString(), wgt_.data(), [this, kind] { openWizard(kind); });
@@ -235,7 +237,7 @@ bool StackSetupPage::eventFilter(QObject *watched, QEvent *event)
 void StackSetupPage::retranslate()
 {
     ui_->retranslateUi(wgt_);
-    const QString names[] = {tr("Patterns"), tr("Layers")};
+    const QString names[] = {tr("Patterns"), tr("Feeding directions"), tr("Layers")};
     for (int i = 0; i < wizards_.size(); ++i)
         wizards_[i]->setText(names[i]);
 }

@@ -15,6 +15,13 @@ int sign(double value)
     return value > kContactMm ? 1 : value < -kContactMm ? -1 : 0;
 }
 
+void setDirection(PatternItem *item, Direction direction)
+{
+    item->direction = direction;
+    item->directionText = directionNames().at(static_cast<int>(direction));
+    item->faults.setFlag(ItemFault::UnknownDirection, false);
+}
+
 double ownOr(double own, double offset)
 {
     return std::abs(own) > kContactMm ? std::abs(own) : std::abs(offset);
@@ -49,18 +56,11 @@ public:
     }
 
 private:
-    /// The product with the direction that brings it from that side of the plan (-1, 0 or 1 across and
-    /// along). Which word that is depends on the pallet's frame.
+    /// The product with the direction that brings it from that side of the plan.
     PatternItem comingFrom(const QPoint &side) const
     {
         PatternItem item = item_;
-        for (int i = 0; i < static_cast<int>(Direction::Middle); ++i) {
-            item.direction = static_cast<Direction>(i);
-            item.directionText = directionNames().at(i);
-            const QPointF comes = approachOf(item, frame_).side;
-            if (sign(comes.x()) == side.x() && sign(comes.y()) == side.y())
-                break;
-        }
+        setDirection(&item, directionFrom(side, frame_));
         return item;
     }
 
@@ -128,13 +128,37 @@ QVector<Feeding> proposeFeeding(const QVector<PatternItem> &items, const Approac
     return proposals;
 }
 
+Direction directionFrom(const QPoint &side, const ApproachFrame &frame)
+{
+    for (int i = 0; i < static_cast<int>(Direction::Middle); ++i) {
+        PatternItem item;
+        setDirection(&item, static_cast<Direction>(i));
+        if (sideOf(item, frame) == side)
+            return item.direction;
+    }
+    return Direction::Middle;
+}
+
+QPoint sideOf(const PatternItem &item, const ApproachFrame &frame)
+{
+    const QPointF side = approachOf(item, frame).side;
+    return QPoint(sign(side.x()), sign(side.y()));
+}
+
 void applyFeeding(PatternItem *item, const Feeding &feeding)
 {
-    item->direction = feeding.direction;
-    item->directionText = directionNames().at(static_cast<int>(feeding.direction));
-    item->faults.setFlag(ItemFault::UnknownDirection, false);
+    setDirection(item, feeding.direction);
     item->dx = feeding.dx;
     item->dy = feeding.dy;
+}
+
+void editFeeding(PatternItem *item, const FeedingEdit &edit)
+{
+    if (edit.direction)
+        setDirection(item, *edit.direction);
+    item->dx = edit.dx.value_or(item->dx);
+    item->dy = edit.dy.value_or(item->dy);
+    item->dz = edit.dz.value_or(item->dz);
 }
 
 } // namespace palx

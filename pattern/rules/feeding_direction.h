@@ -3,6 +3,10 @@
 #include "pattern/rules/approach.h"
 #include "pattern/rules/item_geometry.h"
 
+#include <QPoint>
+
+#include <optional>
+
 /// Proposes from which side each product of a layer comes: from its open side, away from those that lie there
 /// before it in the placing order. Millimetres, in the plan's frame; later layers and edges of the pallet do not
 /// matter.
@@ -35,7 +39,21 @@ inline bool operator==(const Feeding &a, const Feeding &b)
 PALX_API QVector<Feeding> proposeFeeding(const QVector<PatternItem> &items, const ApproachFrame &frame,
                                          const FeedingOffsets &offsets = FeedingOffsets());
 
+/// The direction that brings a product from a side of the plan (-1, 0 or 1 across and along); "Middle" for (0, 0),
+/// and when no direction leads there. Which word that is depends on the pallet's frame.
+PALX_API Direction directionFrom(const QPoint &side, const ApproachFrame &frame);
+/// From which side of the plan the product comes; (0, 0) from above.
+PALX_API QPoint sideOf(const PatternItem &item, const ApproachFrame &frame);
+
 /// Takes over direction and offsets; "dz" stays.
 PALX_API void applyFeeding(PatternItem *item, const Feeding &feeding);
+
+/// What is set by hand, for one product or for many; what is not there stays.
+struct FeedingEdit
+{
+    std::optional<Direction> direction;
+    std::optional<double> dx, dy, dz;
+};
+PALX_API void editFeeding(PatternItem *item, const FeedingEdit &edit);
 
 } // namespace palx
