@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Export the log</source>
+        <translation>导出日志</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>文件名</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>种类</translation>
+    </message>
+    <message>
+        <source>Kind of the file</source>
+        <translation>文件种类</translation>
+    </message>
+    <message>
+        <source>The file that is written</source>
+        <translation>写入的文件</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+</context>
+<context>
     <name>LogPage</name>
     <message>
         <source>Log</source>
@@ -1056,6 +1095,33 @@
     </message>
 </context>
 <context>
+    <name>panel::ExportDialog</name>
+    <message>
+        <source>Table (CSV)</source>
+        <translation>表格 (CSV)</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>The file needs a name.</source>
+        <translation>文件需要名称。</translation>
+    </message>
+    <message>
+        <source>A name has no &quot;/&quot; and does not begin with &quot;.&quot;.</source>
+        <translation>名称不能含“/”且不能以“.”开头。</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>替换该文件？</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+</context>
+<context>
     <name>panel::LogModel</name>
     <message>
         <source>Error</source>
@@ -1115,18 +1181,6 @@
     <message>
         <source>Records: %1 of %2</source>
         <translation>记录：%1/%2</translation>
-    </message>
-    <message>
-        <source>Export the log</source>
-        <translation>导出日志</translation>
-    </message>
-    <message>
-        <source>Table (*.csv)</source>
-        <translation>表格 (*.csv)</translation>
-    </message>
-    <message>
-        <source>Text (*.txt)</source>
-        <translation>文本 (*.txt)</translation>
     </message>
     <message>
         <source>%1 records were exported to %2.</source>

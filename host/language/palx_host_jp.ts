@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Export the log</source>
+        <translation>ログの書き出し</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダ</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>ファイル名</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Kind of the file</source>
+        <translation>ファイルの種類</translation>
+    </message>
+    <message>
+        <source>The file that is written</source>
+        <translation>書き出すファイル</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>書き出し</translation>
+    </message>
+</context>
+<context>
     <name>LogPage</name>
     <message>
         <source>Log</source>
@@ -1056,6 +1095,33 @@
     </message>
 </context>
 <context>
+    <name>panel::ExportDialog</name>
+    <message>
+        <source>Table (CSV)</source>
+        <translation>表 (CSV)</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>The file needs a name.</source>
+        <translation>ファイルに名前が必要です。</translation>
+    </message>
+    <message>
+        <source>A name has no &quot;/&quot; and does not begin with &quot;.&quot;.</source>
+        <translation>名前に「/」は使えず、「.」で始められません。</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>ファイルを置き換えますか？</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 はすでにあります。</translation>
+    </message>
+</context>
+<context>
     <name>panel::LogModel</name>
     <message>
         <source>Error</source>
@@ -1115,18 +1181,6 @@
     <message>
         <source>Records: %1 of %2</source>
         <translation>記録: %1／%2</translation>
-    </message>
-    <message>
-        <source>Export the log</source>
-        <translation>ログの書き出し</translation>
-    </message>
-    <message>
-        <source>Table (*.csv)</source>
-        <translation>表 (*.csv)</translation>
-    </message>
-    <message>
-        <source>Text (*.txt)</source>
-        <translation>テキスト (*.txt)</translation>
     </message>
     <message>
         <source>%1 records were exported to %2.</source>

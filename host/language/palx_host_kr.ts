@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en_US">
 <context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Export the log</source>
+        <translation>로그 내보내기</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>폴더</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>파일 이름</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>Kind of the file</source>
+        <translation>파일 종류</translation>
+    </message>
+    <message>
+        <source>The file that is written</source>
+        <translation>쓸 파일</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>내보내기</translation>
+    </message>
+</context>
+<context>
     <name>LogPage</name>
     <message>
         <source>Log</source>
@@ -1056,6 +1095,33 @@
     </message>
 </context>
 <context>
+    <name>panel::ExportDialog</name>
+    <message>
+        <source>Table (CSV)</source>
+        <translation>표 (CSV)</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>텍스트</translation>
+    </message>
+    <message>
+        <source>The file needs a name.</source>
+        <translation>파일 이름이 필요합니다.</translation>
+    </message>
+    <message>
+        <source>A name has no &quot;/&quot; and does not begin with &quot;.&quot;.</source>
+        <translation>이름에 &quot;/&quot;를 쓸 수 없고 &quot;.&quot;로 시작할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>파일을 바꾸시겠습니까?</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1이(가) 이미 있습니다.</translation>
+    </message>
+</context>
+<context>
     <name>panel::LogModel</name>
     <message>
         <source>Error</source>
@@ -1115,18 +1181,6 @@
     <message>
         <source>Records: %1 of %2</source>
         <translation>기록: %1/%2</translation>
-    </message>
-    <message>
-        <source>Export the log</source>
-        <translation>로그 내보내기</translation>
-    </message>
-    <message>
-        <source>Table (*.csv)</source>
-        <translation>표 (*.csv)</translation>
-    </message>
-    <message>
-        <source>Text (*.txt)</source>
-        <translation>텍스트 (*.txt)</translation>
     </message>
     <message>
         <source>%1 records were exported to %2.</source>

@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Export the log</source>
+        <translation>Экспорт журнала</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Имя файла</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>Kind of the file</source>
+        <translation>Вид файла</translation>
+    </message>
+    <message>
+        <source>The file that is written</source>
+        <translation>Записываемый файл</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Экспорт</translation>
+    </message>
+</context>
+<context>
     <name>LogPage</name>
     <message>
         <source>Log</source>
@@ -1056,6 +1095,33 @@
     </message>
 </context>
 <context>
+    <name>panel::ExportDialog</name>
+    <message>
+        <source>Table (CSV)</source>
+        <translation>Таблица (CSV)</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>The file needs a name.</source>
+        <translation>Файлу нужно имя.</translation>
+    </message>
+    <message>
+        <source>A name has no &quot;/&quot; and does not begin with &quot;.&quot;.</source>
+        <translation>Имя не содержит «/» и не начинается с «.».</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>Заменить файл?</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 уже существует.</translation>
+    </message>
+</context>
+<context>
     <name>panel::LogModel</name>
     <message>
         <source>Error</source>
@@ -1115,18 +1181,6 @@
     <message>
         <source>Records: %1 of %2</source>
         <translation>Записей: %1 из %2</translation>
-    </message>
-    <message>
-        <source>Export the log</source>
-        <translation>Экспорт журнала</translation>
-    </message>
-    <message>
-        <source>Table (*.csv)</source>
-        <translation>Таблица (*.csv)</translation>
-    </message>
-    <message>
-        <source>Text (*.txt)</source>
-        <translation>Текст (*.txt)</translation>
     </message>
     <message>
         <source>%1 records were exported to %2.</source>

@@ -2,6 +2,68 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>AddPatternDialog</name>
+    <message>
+        <source>First pattern</source>
+        <translation>第一个垛型</translation>
+    </message>
+</context>
+<context>
+    <name>AutomaticStackerDialog</name>
+    <message>
+        <source>Automatic layout</source>
+        <translation>自动布局</translation>
+    </message>
+    <message>
+        <source>Top and bottom margin</source>
+        <translation>上下边距</translation>
+    </message>
+    <message>
+        <source>Left and right margin</source>
+        <translation>左右边距</translation>
+    </message>
+    <message>
+        <source>Space between products</source>
+        <translation>产品间距</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>%1 mm over the pallet&apos;s edge</source>
+        <translation>超出托盘边缘 %1 mm</translation>
+    </message>
+    <message>
+        <source>Nothing fits</source>
+        <translation>放不下</translation>
+    </message>
+    <message>
+        <source>No turned row fits</source>
+        <translation>旋转行放不下</translation>
+    </message>
+    <message>
+        <source>Boxes: %1, area: %2 %</source>
+        <translation>箱数：%1，面积：%2 %</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Confirm whether to overwrite the current stack type?</source>
+        <translation>确认是否覆盖当前垛型？</translation>
+    </message>
+    <message>
+        <source>Please select an effective stack type!</source>
+        <translation>请选择有效的垛型！</translation>
+    </message>
+</context>
+<context>
     <name>CascadeNestingWizard</name>
     <message>
         <source>Layers</source>
@@ -125,6 +187,105 @@
     <message>
         <source>The controller did not take the tool. The log may say why.</source>
         <translation>控制器未接受该工具。原因可查看日志。</translation>
+    </message>
+</context>
+<context>
+    <name>DirectionsFrame</name>
+    <message>
+        <source>Pattern</source>
+        <translation>垛型</translation>
+    </message>
+    <message>
+        <source>Plan of the pattern</source>
+        <translation>垛型平面图</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Choose all products</source>
+        <translation>选择所有产品</translation>
+    </message>
+    <message>
+        <source>Several</source>
+        <translation>多选</translation>
+    </message>
+    <message>
+        <source>Choose several products</source>
+        <translation>选择多个产品</translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation>建议</translation>
+    </message>
+    <message>
+        <source>Propose sides for the chosen products, or for all</source>
+        <translation>为所选或全部产品建议方向</translation>
+    </message>
+    <message>
+        <source>What is set</source>
+        <translation>设置的内容</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>From the upper left</source>
+        <translation>从左上方</translation>
+    </message>
+    <message>
+        <source>From above on the plan</source>
+        <translation>从平面图上方</translation>
+    </message>
+    <message>
+        <source>From the upper right</source>
+        <translation>从右上方</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>从左侧</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>上方</translation>
+    </message>
+    <message>
+        <source>Straight down</source>
+        <translation>垂直向下</translation>
+    </message>
+    <message>
+        <source>From the right</source>
+        <translation>从右侧</translation>
+    </message>
+    <message>
+        <source>From the lower left</source>
+        <translation>从左下方</translation>
+    </message>
+    <message>
+        <source>From below on the plan</source>
+        <translation>从平面图下方</translation>
+    </message>
+    <message>
+        <source>From the lower right</source>
+        <translation>从右下方</translation>
+    </message>
+    <message>
+        <source>No products</source>
+        <translation>没有产品</translation>
+    </message>
+    <message>
+        <source>All products</source>
+        <translation>所有产品</translation>
+    </message>
+    <message>
+        <source>Product %1</source>
+        <translation>产品 %1</translation>
+    </message>
+    <message>
+        <source>%1 products chosen</source>
+        <translation>已选 %1 个产品</translation>
     </message>
 </context>
 <context>
@@ -276,6 +437,21 @@
     <message>
         <source>Show the plan smaller</source>
         <translation>缩小平面图</translation>
+    </message>
+</context>
+<context>
+    <name>FeedingDirectionWizard</name>
+    <message>
+        <source>Feeding directions</source>
+        <translation>进料方向</translation>
+    </message>
+    <message>
+        <source>Sides</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>垛</translation>
     </message>
 </context>
 <context>
@@ -736,6 +912,29 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>LayoutText</name>
+    <message>
+        <source>Matrix (vertical)</source>
+        <translation>矩阵（纵向）</translation>
+    </message>
+    <message>
+        <source>Matrix (horizontal)</source>
+        <translation>矩阵（横向）</translation>
+    </message>
+    <message>
+        <source>Crisscross</source>
+        <translation>交错</translation>
+    </message>
+    <message>
+        <source>Back letterform</source>
+        <translation>回字形</translation>
+    </message>
+    <message>
+        <source>Wobj number is greater than 200</source>
+        <translation>产品数量大于 200</translation>
+    </message>
+</context>
+<context>
     <name>MessageBar</name>
     <message>
         <source>Message</source>
@@ -890,6 +1089,13 @@ mm</translation>
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>NewPatternDialog</name>
+    <message>
+        <source>New pattern</source>
+        <translation>新建垛型</translation>
     </message>
 </context>
 <context>
@@ -1126,6 +1332,112 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>PatternNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Letters, digits, &quot;_&quot; and &quot;-&quot;; at most 32.</source>
+        <translation>字母、数字、“_”和“-”；最多 32 个。</translation>
+    </message>
+    <message>
+        <source>Clone of the present pattern</source>
+        <translation>克隆当前垛型</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Clone of pattern %1</source>
+        <translation>克隆垛型 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PatternTemplateDialog</name>
+    <message>
+        <source>Pattern Template</source>
+        <translation>垛型模板</translation>
+    </message>
+    <message>
+        <source>Tempalte</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>Kind of template</source>
+        <translation>模板种类</translation>
+    </message>
+    <message>
+        <source>X Number:</source>
+        <translation>X 数量：</translation>
+    </message>
+    <message>
+        <source>Y Number:</source>
+        <translation>Y 数量：</translation>
+    </message>
+    <message>
+        <source>Y1 Number:</source>
+        <translation>Y1 数量：</translation>
+    </message>
+    <message>
+        <source>Y2 Number:</source>
+        <translation>Y2 数量：</translation>
+    </message>
+    <message>
+        <source>X Offset(mm):</source>
+        <translation>X 偏移(mm)：</translation>
+    </message>
+    <message>
+        <source>Y Offset(mm):</source>
+        <translation>Y 偏移(mm)：</translation>
+    </message>
+    <message>
+        <source>X Space(mm):</source>
+        <translation>X 间距(mm)：</translation>
+    </message>
+    <message>
+        <source>Y Space(mm):</source>
+        <translation>Y 间距(mm)：</translation>
+    </message>
+    <message>
+        <source>How the template lays products</source>
+        <translation>模板的放置方式</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>Overlap</source>
+        <translation>叠放</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>交叉</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>夹放</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>警告</translation>
+    </message>
+</context>
+<context>
     <name>PatternText</name>
     <message>
         <source>Name is empty!</source>
@@ -1205,10 +1517,6 @@ mm</translation>
     <message>
         <source>dz</source>
         <translation>dz</translation>
-    </message>
-    <message>
-        <source>New pattern</source>
-        <translation>新建垛型</translation>
     </message>
     <message>
         <source>Copy of pattern %1</source>
@@ -1322,6 +1630,22 @@ mm</translation>
         <source>Check %1</source>
         <translation>检查 %1</translation>
     </message>
+    <message>
+        <source>Template</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>Add products by a template</source>
+        <translation>按模板添加产品</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Fill the pattern by an automatic layout</source>
+        <translation>用自动布局填充垛型</translation>
+    </message>
 </context>
 <context>
     <name>PlanarNestingWizard</name>
@@ -1332,6 +1656,10 @@ mm</translation>
     <message>
         <source>Products in a layer</source>
         <translation>一层中的产品</translation>
+    </message>
+    <message>
+        <source>Feeding directions</source>
+        <translation>进料方向</translation>
     </message>
 </context>
 <context>
@@ -2628,6 +2956,10 @@ Pallet: %4</source>
         <source>Go through a part of the recipe page by page</source>
         <translation>逐页设置配方的一部分</translation>
     </message>
+    <message>
+        <source>Feeding directions</source>
+        <translation>进料方向</translation>
+    </message>
 </context>
 <context>
     <name>StatusText</name>
@@ -2650,6 +2982,33 @@ Pallet: %4</source>
     <message>
         <source>(1 of %1) %2</source>
         <translation>（1/%1）%2</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateText</name>
+    <message>
+        <source>Invalid X number</source>
+        <translation>X 数量无效</translation>
+    </message>
+    <message>
+        <source>Invalid Y number</source>
+        <translation>Y 数量无效</translation>
+    </message>
+    <message>
+        <source>Invalid Y1 or Y2 number</source>
+        <translation>Y1 或 Y2 数量无效</translation>
+    </message>
+    <message>
+        <source>Wobj number is greater than 200</source>
+        <translation>产品数量大于 200</translation>
+    </message>
+    <message>
+        <source>Wobj is beyond the pallet&apos;s x edge</source>
+        <translation>产品超出托盘 x 边缘</translation>
+    </message>
+    <message>
+        <source>Wobj is beyond the pallet&apos;s y edge</source>
+        <translation>产品超出托盘 y 边缘</translation>
     </message>
 </context>
 <context>

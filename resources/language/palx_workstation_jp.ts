@@ -2,6 +2,68 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>AddPatternDialog</name>
+    <message>
+        <source>First pattern</source>
+        <translation>最初のパターン</translation>
+    </message>
+</context>
+<context>
+    <name>AutomaticStackerDialog</name>
+    <message>
+        <source>Automatic layout</source>
+        <translation>自動配置</translation>
+    </message>
+    <message>
+        <source>Top and bottom margin</source>
+        <translation>上下の余白</translation>
+    </message>
+    <message>
+        <source>Left and right margin</source>
+        <translation>左右の余白</translation>
+    </message>
+    <message>
+        <source>Space between products</source>
+        <translation>製品の間隔</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>%1 mm over the pallet&apos;s edge</source>
+        <translation>パレットの端から %1 mm はみ出し</translation>
+    </message>
+    <message>
+        <source>Nothing fits</source>
+        <translation>何も入りません</translation>
+    </message>
+    <message>
+        <source>No turned row fits</source>
+        <translation>回転した列が入りません</translation>
+    </message>
+    <message>
+        <source>Boxes: %1, area: %2 %</source>
+        <translation>箱: %1、面積: %2 %</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Confirm whether to overwrite the current stack type?</source>
+        <translation>現在の配置を上書きしますか？</translation>
+    </message>
+    <message>
+        <source>Please select an effective stack type!</source>
+        <translation>有効な配置を選択してください！</translation>
+    </message>
+</context>
+<context>
     <name>CascadeNestingWizard</name>
     <message>
         <source>Layers</source>
@@ -125,6 +187,105 @@
     <message>
         <source>The controller did not take the tool. The log may say why.</source>
         <translation>コントローラがツールを受け取りませんでした。理由はログを見てください。</translation>
+    </message>
+</context>
+<context>
+    <name>DirectionsFrame</name>
+    <message>
+        <source>Pattern</source>
+        <translation>パターン</translation>
+    </message>
+    <message>
+        <source>Plan of the pattern</source>
+        <translation>パターンの平面図</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Choose all products</source>
+        <translation>すべての製品を選択</translation>
+    </message>
+    <message>
+        <source>Several</source>
+        <translation>複数</translation>
+    </message>
+    <message>
+        <source>Choose several products</source>
+        <translation>複数の製品を選択</translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation>提案</translation>
+    </message>
+    <message>
+        <source>Propose sides for the chosen products, or for all</source>
+        <translation>選択した製品、またはすべての方向を提案</translation>
+    </message>
+    <message>
+        <source>What is set</source>
+        <translation>設定する内容</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>From the upper left</source>
+        <translation>左上から</translation>
+    </message>
+    <message>
+        <source>From above on the plan</source>
+        <translation>平面図の上から</translation>
+    </message>
+    <message>
+        <source>From the upper right</source>
+        <translation>右上から</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>左から</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>真上</translation>
+    </message>
+    <message>
+        <source>Straight down</source>
+        <translation>まっすぐ下へ</translation>
+    </message>
+    <message>
+        <source>From the right</source>
+        <translation>右から</translation>
+    </message>
+    <message>
+        <source>From the lower left</source>
+        <translation>左下から</translation>
+    </message>
+    <message>
+        <source>From below on the plan</source>
+        <translation>平面図の下から</translation>
+    </message>
+    <message>
+        <source>From the lower right</source>
+        <translation>右下から</translation>
+    </message>
+    <message>
+        <source>No products</source>
+        <translation>製品なし</translation>
+    </message>
+    <message>
+        <source>All products</source>
+        <translation>すべての製品</translation>
+    </message>
+    <message>
+        <source>Product %1</source>
+        <translation>製品 %1</translation>
+    </message>
+    <message>
+        <source>%1 products chosen</source>
+        <translation>製品を %1 個選択</translation>
     </message>
 </context>
 <context>
@@ -276,6 +437,21 @@
     <message>
         <source>Show the plan smaller</source>
         <translation>平面図を縮小</translation>
+    </message>
+</context>
+<context>
+    <name>FeedingDirectionWizard</name>
+    <message>
+        <source>Feeding directions</source>
+        <translation>送り込み方向</translation>
+    </message>
+    <message>
+        <source>Sides</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>積み付け</translation>
     </message>
 </context>
 <context>
@@ -736,6 +912,29 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>LayoutText</name>
+    <message>
+        <source>Matrix (vertical)</source>
+        <translation>マトリックス (縦)</translation>
+    </message>
+    <message>
+        <source>Matrix (horizontal)</source>
+        <translation>マトリックス (横)</translation>
+    </message>
+    <message>
+        <source>Crisscross</source>
+        <translation>交互</translation>
+    </message>
+    <message>
+        <source>Back letterform</source>
+        <translation>回字形</translation>
+    </message>
+    <message>
+        <source>Wobj number is greater than 200</source>
+        <translation>製品の数が 200 を超えています</translation>
+    </message>
+</context>
+<context>
     <name>MessageBar</name>
     <message>
         <source>Message</source>
@@ -890,6 +1089,13 @@ mm</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>NewPatternDialog</name>
+    <message>
+        <source>New pattern</source>
+        <translation>新しいパターン</translation>
     </message>
 </context>
 <context>
@@ -1126,6 +1332,112 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>PatternNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Letters, digits, &quot;_&quot; and &quot;-&quot;; at most 32.</source>
+        <translation>英字、数字、「_」、「-」。最大 32 文字。</translation>
+    </message>
+    <message>
+        <source>Clone of the present pattern</source>
+        <translation>現在のパターンを複製</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Clone of pattern %1</source>
+        <translation>パターン %1 を複製</translation>
+    </message>
+</context>
+<context>
+    <name>PatternTemplateDialog</name>
+    <message>
+        <source>Pattern Template</source>
+        <translation>パターンテンプレート</translation>
+    </message>
+    <message>
+        <source>Tempalte</source>
+        <translation>テンプレート</translation>
+    </message>
+    <message>
+        <source>Kind of template</source>
+        <translation>テンプレートの種類</translation>
+    </message>
+    <message>
+        <source>X Number:</source>
+        <translation>X の数:</translation>
+    </message>
+    <message>
+        <source>Y Number:</source>
+        <translation>Y の数:</translation>
+    </message>
+    <message>
+        <source>Y1 Number:</source>
+        <translation>Y1 の数:</translation>
+    </message>
+    <message>
+        <source>Y2 Number:</source>
+        <translation>Y2 の数:</translation>
+    </message>
+    <message>
+        <source>X Offset(mm):</source>
+        <translation>X オフセット(mm):</translation>
+    </message>
+    <message>
+        <source>Y Offset(mm):</source>
+        <translation>Y オフセット(mm):</translation>
+    </message>
+    <message>
+        <source>X Space(mm):</source>
+        <translation>X 間隔(mm):</translation>
+    </message>
+    <message>
+        <source>Y Space(mm):</source>
+        <translation>Y 間隔(mm):</translation>
+    </message>
+    <message>
+        <source>How the template lays products</source>
+        <translation>テンプレートの置き方</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>Overlap</source>
+        <translation>重ね</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>交差</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>はさみ</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>警告</translation>
+    </message>
+</context>
+<context>
     <name>PatternText</name>
     <message>
         <source>Name is empty!</source>
@@ -1205,10 +1517,6 @@ mm</translation>
     <message>
         <source>dz</source>
         <translation>dz</translation>
-    </message>
-    <message>
-        <source>New pattern</source>
-        <translation>新しいパターン</translation>
     </message>
     <message>
         <source>Copy of pattern %1</source>
@@ -1322,6 +1630,22 @@ mm</translation>
         <source>Check %1</source>
         <translation>確認 %1</translation>
     </message>
+    <message>
+        <source>Template</source>
+        <translation>テンプレート</translation>
+    </message>
+    <message>
+        <source>Add products by a template</source>
+        <translation>テンプレートで製品を追加</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Fill the pattern by an automatic layout</source>
+        <translation>自動配置でパターンを埋める</translation>
+    </message>
 </context>
 <context>
     <name>PlanarNestingWizard</name>
@@ -1332,6 +1656,10 @@ mm</translation>
     <message>
         <source>Products in a layer</source>
         <translation>段の製品</translation>
+    </message>
+    <message>
+        <source>Feeding directions</source>
+        <translation>送り込み方向</translation>
     </message>
 </context>
 <context>
@@ -2628,6 +2956,10 @@ Pallet: %4</source>
         <source>Go through a part of the recipe page by page</source>
         <translation>レシピの一部をページごとに設定</translation>
     </message>
+    <message>
+        <source>Feeding directions</source>
+        <translation>送り込み方向</translation>
+    </message>
 </context>
 <context>
     <name>StatusText</name>
@@ -2650,6 +2982,33 @@ Pallet: %4</source>
     <message>
         <source>(1 of %1) %2</source>
         <translation>(1／%1) %2</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateText</name>
+    <message>
+        <source>Invalid X number</source>
+        <translation>X の数が正しくありません</translation>
+    </message>
+    <message>
+        <source>Invalid Y number</source>
+        <translation>Y の数が正しくありません</translation>
+    </message>
+    <message>
+        <source>Invalid Y1 or Y2 number</source>
+        <translation>Y1 または Y2 の数が正しくありません</translation>
+    </message>
+    <message>
+        <source>Wobj number is greater than 200</source>
+        <translation>製品の数が 200 を超えています</translation>
+    </message>
+    <message>
+        <source>Wobj is beyond the pallet&apos;s x edge</source>
+        <translation>製品がパレットの x の端を超えています</translation>
+    </message>
+    <message>
+        <source>Wobj is beyond the pallet&apos;s y edge</source>
+        <translation>製品がパレットの y の端を超えています</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,68 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en_US">
 <context>
+    <name>AddPatternDialog</name>
+    <message>
+        <source>First pattern</source>
+        <translation>첫 패턴</translation>
+    </message>
+</context>
+<context>
+    <name>AutomaticStackerDialog</name>
+    <message>
+        <source>Automatic layout</source>
+        <translation>자동 배치</translation>
+    </message>
+    <message>
+        <source>Top and bottom margin</source>
+        <translation>위아래 여백</translation>
+    </message>
+    <message>
+        <source>Left and right margin</source>
+        <translation>좌우 여백</translation>
+    </message>
+    <message>
+        <source>Space between products</source>
+        <translation>제품 간격</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>%1 mm over the pallet&apos;s edge</source>
+        <translation>팔레트 가장자리 밖 %1 mm</translation>
+    </message>
+    <message>
+        <source>Nothing fits</source>
+        <translation>들어가지 않음</translation>
+    </message>
+    <message>
+        <source>No turned row fits</source>
+        <translation>회전한 행이 들어가지 않음</translation>
+    </message>
+    <message>
+        <source>Boxes: %1, area: %2 %</source>
+        <translation>박스: %1, 면적: %2 %</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Confirm whether to overwrite the current stack type?</source>
+        <translation>현재 배치를 덮어쓰시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Please select an effective stack type!</source>
+        <translation>유효한 배치를 선택하십시오!</translation>
+    </message>
+</context>
+<context>
     <name>CascadeNestingWizard</name>
     <message>
         <source>Layers</source>
@@ -125,6 +187,105 @@
     <message>
         <source>The controller did not take the tool. The log may say why.</source>
         <translation>컨트롤러가 툴을 받지 않았습니다. 이유는 로그에 있을 수 있습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>DirectionsFrame</name>
+    <message>
+        <source>Pattern</source>
+        <translation>패턴</translation>
+    </message>
+    <message>
+        <source>Plan of the pattern</source>
+        <translation>패턴 평면도</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>모두</translation>
+    </message>
+    <message>
+        <source>Choose all products</source>
+        <translation>모든 제품 선택</translation>
+    </message>
+    <message>
+        <source>Several</source>
+        <translation>여러 개</translation>
+    </message>
+    <message>
+        <source>Choose several products</source>
+        <translation>여러 제품 선택</translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation>제안</translation>
+    </message>
+    <message>
+        <source>Propose sides for the chosen products, or for all</source>
+        <translation>선택한 제품 또는 모두의 방향 제안</translation>
+    </message>
+    <message>
+        <source>What is set</source>
+        <translation>설정 내용</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>방향</translation>
+    </message>
+    <message>
+        <source>From the upper left</source>
+        <translation>왼쪽 위에서</translation>
+    </message>
+    <message>
+        <source>From above on the plan</source>
+        <translation>평면도 위쪽에서</translation>
+    </message>
+    <message>
+        <source>From the upper right</source>
+        <translation>오른쪽 위에서</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>왼쪽에서</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>바로 위</translation>
+    </message>
+    <message>
+        <source>Straight down</source>
+        <translation>곧장 아래로</translation>
+    </message>
+    <message>
+        <source>From the right</source>
+        <translation>오른쪽에서</translation>
+    </message>
+    <message>
+        <source>From the lower left</source>
+        <translation>왼쪽 아래에서</translation>
+    </message>
+    <message>
+        <source>From below on the plan</source>
+        <translation>평면도 아래쪽에서</translation>
+    </message>
+    <message>
+        <source>From the lower right</source>
+        <translation>오른쪽 아래에서</translation>
+    </message>
+    <message>
+        <source>No products</source>
+        <translation>제품 없음</translation>
+    </message>
+    <message>
+        <source>All products</source>
+        <translation>모든 제품</translation>
+    </message>
+    <message>
+        <source>Product %1</source>
+        <translation>제품 %1</translation>
+    </message>
+    <message>
+        <source>%1 products chosen</source>
+        <translation>제품 %1개 선택됨</translation>
     </message>
 </context>
 <context>
@@ -276,6 +437,21 @@
     <message>
         <source>Show the plan smaller</source>
         <translation>평면도 축소</translation>
+    </message>
+</context>
+<context>
+    <name>FeedingDirectionWizard</name>
+    <message>
+        <source>Feeding directions</source>
+        <translation>투입 방향</translation>
+    </message>
+    <message>
+        <source>Sides</source>
+        <translation>방향</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>적재</translation>
     </message>
 </context>
 <context>
@@ -736,6 +912,29 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>LayoutText</name>
+    <message>
+        <source>Matrix (vertical)</source>
+        <translation>행렬 (세로)</translation>
+    </message>
+    <message>
+        <source>Matrix (horizontal)</source>
+        <translation>행렬 (가로)</translation>
+    </message>
+    <message>
+        <source>Crisscross</source>
+        <translation>교차</translation>
+    </message>
+    <message>
+        <source>Back letterform</source>
+        <translation>회자형</translation>
+    </message>
+    <message>
+        <source>Wobj number is greater than 200</source>
+        <translation>제품 수가 200보다 많습니다</translation>
+    </message>
+</context>
+<context>
     <name>MessageBar</name>
     <message>
         <source>Message</source>
@@ -890,6 +1089,13 @@ mm</translation>
     <message>
         <source>OK</source>
         <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>NewPatternDialog</name>
+    <message>
+        <source>New pattern</source>
+        <translation>새 패턴</translation>
     </message>
 </context>
 <context>
@@ -1126,6 +1332,112 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>PatternNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Letters, digits, &quot;_&quot; and &quot;-&quot;; at most 32.</source>
+        <translation>영문자, 숫자, &quot;_&quot;, &quot;-&quot;; 최대 32자.</translation>
+    </message>
+    <message>
+        <source>Clone of the present pattern</source>
+        <translation>현재 패턴 복제</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Clone of pattern %1</source>
+        <translation>패턴 %1 복제</translation>
+    </message>
+</context>
+<context>
+    <name>PatternTemplateDialog</name>
+    <message>
+        <source>Pattern Template</source>
+        <translation>패턴 템플릿</translation>
+    </message>
+    <message>
+        <source>Tempalte</source>
+        <translation>템플릿</translation>
+    </message>
+    <message>
+        <source>Kind of template</source>
+        <translation>템플릿 종류</translation>
+    </message>
+    <message>
+        <source>X Number:</source>
+        <translation>X 개수:</translation>
+    </message>
+    <message>
+        <source>Y Number:</source>
+        <translation>Y 개수:</translation>
+    </message>
+    <message>
+        <source>Y1 Number:</source>
+        <translation>Y1 개수:</translation>
+    </message>
+    <message>
+        <source>Y2 Number:</source>
+        <translation>Y2 개수:</translation>
+    </message>
+    <message>
+        <source>X Offset(mm):</source>
+        <translation>X 오프셋(mm):</translation>
+    </message>
+    <message>
+        <source>Y Offset(mm):</source>
+        <translation>Y 오프셋(mm):</translation>
+    </message>
+    <message>
+        <source>X Space(mm):</source>
+        <translation>X 간격(mm):</translation>
+    </message>
+    <message>
+        <source>Y Space(mm):</source>
+        <translation>Y 간격(mm):</translation>
+    </message>
+    <message>
+        <source>How the template lays products</source>
+        <translation>템플릿의 배치 방식</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Overlap</source>
+        <translation>나란히</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>교차</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>맞물림</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>경고</translation>
+    </message>
+</context>
+<context>
     <name>PatternText</name>
     <message>
         <source>Name is empty!</source>
@@ -1205,10 +1517,6 @@ mm</translation>
     <message>
         <source>dz</source>
         <translation>dz</translation>
-    </message>
-    <message>
-        <source>New pattern</source>
-        <translation>새 패턴</translation>
     </message>
     <message>
         <source>Copy of pattern %1</source>
@@ -1322,6 +1630,22 @@ mm</translation>
         <source>Check %1</source>
         <translation>확인 %1</translation>
     </message>
+    <message>
+        <source>Template</source>
+        <translation>템플릿</translation>
+    </message>
+    <message>
+        <source>Add products by a template</source>
+        <translation>템플릿으로 제품 추가</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>자동</translation>
+    </message>
+    <message>
+        <source>Fill the pattern by an automatic layout</source>
+        <translation>자동 배치로 패턴 채우기</translation>
+    </message>
 </context>
 <context>
     <name>PlanarNestingWizard</name>
@@ -1332,6 +1656,10 @@ mm</translation>
     <message>
         <source>Products in a layer</source>
         <translation>단의 제품</translation>
+    </message>
+    <message>
+        <source>Feeding directions</source>
+        <translation>투입 방향</translation>
     </message>
 </context>
 <context>
@@ -2628,6 +2956,10 @@ Pallet: %4</source>
         <source>Go through a part of the recipe page by page</source>
         <translation>레시피의 일부를 페이지별로 진행</translation>
     </message>
+    <message>
+        <source>Feeding directions</source>
+        <translation>투입 방향</translation>
+    </message>
 </context>
 <context>
     <name>StatusText</name>
@@ -2650,6 +2982,33 @@ Pallet: %4</source>
     <message>
         <source>(1 of %1) %2</source>
         <translation>(1/%1) %2</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateText</name>
+    <message>
+        <source>Invalid X number</source>
+        <translation>X 개수가 올바르지 않습니다</translation>
+    </message>
+    <message>
+        <source>Invalid Y number</source>
+        <translation>Y 개수가 올바르지 않습니다</translation>
+    </message>
+    <message>
+        <source>Invalid Y1 or Y2 number</source>
+        <translation>Y1 또는 Y2 개수가 올바르지 않습니다</translation>
+    </message>
+    <message>
+        <source>Wobj number is greater than 200</source>
+        <translation>제품 수가 200보다 많습니다</translation>
+    </message>
+    <message>
+        <source>Wobj is beyond the pallet&apos;s x edge</source>
+        <translation>제품이 팔레트의 x 가장자리를 벗어납니다</translation>
+    </message>
+    <message>
+        <source>Wobj is beyond the pallet&apos;s y edge</source>
+        <translation>제품이 팔레트의 y 가장자리를 벗어납니다</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,68 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>AddPatternDialog</name>
+    <message>
+        <source>First pattern</source>
+        <translation>Первая схема</translation>
+    </message>
+</context>
+<context>
+    <name>AutomaticStackerDialog</name>
+    <message>
+        <source>Automatic layout</source>
+        <translation>Автоматическая раскладка</translation>
+    </message>
+    <message>
+        <source>Top and bottom margin</source>
+        <translation>Отступ сверху и снизу</translation>
+    </message>
+    <message>
+        <source>Left and right margin</source>
+        <translation>Отступ слева и справа</translation>
+    </message>
+    <message>
+        <source>Space between products</source>
+        <translation>Зазор между изделиями</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Подтвердить</translation>
+    </message>
+    <message>
+        <source>%1 mm over the pallet&apos;s edge</source>
+        <translation>%1 mm за край паллеты</translation>
+    </message>
+    <message>
+        <source>Nothing fits</source>
+        <translation>Ничего не помещается</translation>
+    </message>
+    <message>
+        <source>No turned row fits</source>
+        <translation>Повёрнутый ряд не помещается</translation>
+    </message>
+    <message>
+        <source>Boxes: %1, area: %2 %</source>
+        <translation>Коробок: %1, площадь: %2 %</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>предупреждение</translation>
+    </message>
+    <message>
+        <source>Confirm whether to overwrite the current stack type?</source>
+        <translation>Заменить текущую раскладку?</translation>
+    </message>
+    <message>
+        <source>Please select an effective stack type!</source>
+        <translation>Выберите подходящую раскладку!</translation>
+    </message>
+</context>
+<context>
     <name>CascadeNestingWizard</name>
     <message>
         <source>Layers</source>
@@ -125,6 +187,105 @@
     <message>
         <source>The controller did not take the tool. The log may say why.</source>
         <translation>Контроллер не принял инструмент. Причина может быть в журнале.</translation>
+    </message>
+</context>
+<context>
+    <name>DirectionsFrame</name>
+    <message>
+        <source>Pattern</source>
+        <translation>Схема</translation>
+    </message>
+    <message>
+        <source>Plan of the pattern</source>
+        <translation>План схемы</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Все</translation>
+    </message>
+    <message>
+        <source>Choose all products</source>
+        <translation>Выбрать все изделия</translation>
+    </message>
+    <message>
+        <source>Several</source>
+        <translation>Несколько</translation>
+    </message>
+    <message>
+        <source>Choose several products</source>
+        <translation>Выбрать несколько изделий</translation>
+    </message>
+    <message>
+        <source>Propose</source>
+        <translation>Предложить</translation>
+    </message>
+    <message>
+        <source>Propose sides for the chosen products, or for all</source>
+        <translation>Предложить стороны для выбранных или всех изделий</translation>
+    </message>
+    <message>
+        <source>What is set</source>
+        <translation>Что задаётся</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Направление</translation>
+    </message>
+    <message>
+        <source>From the upper left</source>
+        <translation>Слева сверху</translation>
+    </message>
+    <message>
+        <source>From above on the plan</source>
+        <translation>На плане сверху</translation>
+    </message>
+    <message>
+        <source>From the upper right</source>
+        <translation>Справа сверху</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>Слева</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>Сверху</translation>
+    </message>
+    <message>
+        <source>Straight down</source>
+        <translation>Прямо вниз</translation>
+    </message>
+    <message>
+        <source>From the right</source>
+        <translation>Справа</translation>
+    </message>
+    <message>
+        <source>From the lower left</source>
+        <translation>Слева снизу</translation>
+    </message>
+    <message>
+        <source>From below on the plan</source>
+        <translation>На плане снизу</translation>
+    </message>
+    <message>
+        <source>From the lower right</source>
+        <translation>Справа снизу</translation>
+    </message>
+    <message>
+        <source>No products</source>
+        <translation>Изделий нет</translation>
+    </message>
+    <message>
+        <source>All products</source>
+        <translation>Все изделия</translation>
+    </message>
+    <message>
+        <source>Product %1</source>
+        <translation>Изделие %1</translation>
+    </message>
+    <message>
+        <source>%1 products chosen</source>
+        <translation>Выбрано изделий: %1</translation>
     </message>
 </context>
 <context>
@@ -276,6 +437,21 @@
     <message>
         <source>Show the plan smaller</source>
         <translation>Уменьшить план</translation>
+    </message>
+</context>
+<context>
+    <name>FeedingDirectionWizard</name>
+    <message>
+        <source>Feeding directions</source>
+        <translation>Направления подвода</translation>
+    </message>
+    <message>
+        <source>Sides</source>
+        <translation>Стороны</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>Штабель</translation>
     </message>
 </context>
 <context>
@@ -736,6 +912,29 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>LayoutText</name>
+    <message>
+        <source>Matrix (vertical)</source>
+        <translation>Матрица (вертикально)</translation>
+    </message>
+    <message>
+        <source>Matrix (horizontal)</source>
+        <translation>Матрица (горизонтально)</translation>
+    </message>
+    <message>
+        <source>Crisscross</source>
+        <translation>Перекрёстная</translation>
+    </message>
+    <message>
+        <source>Back letterform</source>
+        <translation>Кольцевая</translation>
+    </message>
+    <message>
+        <source>Wobj number is greater than 200</source>
+        <translation>Число изделий больше 200</translation>
+    </message>
+</context>
+<context>
     <name>MessageBar</name>
     <message>
         <source>Message</source>
@@ -890,6 +1089,13 @@ mm</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>NewPatternDialog</name>
+    <message>
+        <source>New pattern</source>
+        <translation>Новая схема</translation>
     </message>
 </context>
 <context>
@@ -1126,6 +1332,112 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>PatternNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Letters, digits, &quot;_&quot; and &quot;-&quot;; at most 32.</source>
+        <translation>Латинские буквы, цифры, «_» и «-»; не более 32.</translation>
+    </message>
+    <message>
+        <source>Clone of the present pattern</source>
+        <translation>Копия текущей схемы</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>предупреждение</translation>
+    </message>
+    <message>
+        <source>Clone of pattern %1</source>
+        <translation>Копия схемы %1</translation>
+    </message>
+</context>
+<context>
+    <name>PatternTemplateDialog</name>
+    <message>
+        <source>Pattern Template</source>
+        <translation>Шаблон схемы</translation>
+    </message>
+    <message>
+        <source>Tempalte</source>
+        <translation>Шаблон</translation>
+    </message>
+    <message>
+        <source>Kind of template</source>
+        <translation>Вид шаблона</translation>
+    </message>
+    <message>
+        <source>X Number:</source>
+        <translation>Число X:</translation>
+    </message>
+    <message>
+        <source>Y Number:</source>
+        <translation>Число Y:</translation>
+    </message>
+    <message>
+        <source>Y1 Number:</source>
+        <translation>Число Y1:</translation>
+    </message>
+    <message>
+        <source>Y2 Number:</source>
+        <translation>Число Y2:</translation>
+    </message>
+    <message>
+        <source>X Offset(mm):</source>
+        <translation>Смещение X (mm):</translation>
+    </message>
+    <message>
+        <source>Y Offset(mm):</source>
+        <translation>Смещение Y (mm):</translation>
+    </message>
+    <message>
+        <source>X Space(mm):</source>
+        <translation>Зазор X (mm):</translation>
+    </message>
+    <message>
+        <source>Y Space(mm):</source>
+        <translation>Зазор Y (mm):</translation>
+    </message>
+    <message>
+        <source>How the template lays products</source>
+        <translation>Как шаблон кладёт изделия</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Подтвердить</translation>
+    </message>
+    <message>
+        <source>Overlap</source>
+        <translation>Рядами</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Крестом</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Вертушкой</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>предупреждение</translation>
+    </message>
+</context>
+<context>
     <name>PatternText</name>
     <message>
         <source>Name is empty!</source>
@@ -1205,10 +1517,6 @@ mm</translation>
     <message>
         <source>dz</source>
         <translation>dz</translation>
-    </message>
-    <message>
-        <source>New pattern</source>
-        <translation>Новая схема</translation>
     </message>
     <message>
         <source>Copy of pattern %1</source>
@@ -1322,6 +1630,22 @@ mm</translation>
         <source>Check %1</source>
         <translation>Проверка %1</translation>
     </message>
+    <message>
+        <source>Template</source>
+        <translation>Шаблон</translation>
+    </message>
+    <message>
+        <source>Add products by a template</source>
+        <translation>Добавить изделия по шаблону</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Автоматически</translation>
+    </message>
+    <message>
+        <source>Fill the pattern by an automatic layout</source>
+        <translation>Заполнить схему автоматической раскладкой</translation>
+    </message>
 </context>
 <context>
     <name>PlanarNestingWizard</name>
@@ -1332,6 +1656,10 @@ mm</translation>
     <message>
         <source>Products in a layer</source>
         <translation>Изделия в слое</translation>
+    </message>
+    <message>
+        <source>Feeding directions</source>
+        <translation>Направления подвода</translation>
     </message>
 </context>
 <context>
@@ -2632,6 +2960,10 @@ Pallet: %4</source>
         <source>Go through a part of the recipe page by page</source>
         <translation>Пройти часть рецепта по страницам</translation>
     </message>
+    <message>
+        <source>Feeding directions</source>
+        <translation>Направления подвода</translation>
+    </message>
 </context>
 <context>
     <name>StatusText</name>
@@ -2654,6 +2986,33 @@ Pallet: %4</source>
     <message>
         <source>(1 of %1) %2</source>
         <translation>(1 из %1) %2</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateText</name>
+    <message>
+        <source>Invalid X number</source>
+        <translation>Недопустимое число X</translation>
+    </message>
+    <message>
+        <source>Invalid Y number</source>
+        <translation>Недопустимое число Y</translation>
+    </message>
+    <message>
+        <source>Invalid Y1 or Y2 number</source>
+        <translation>Недопустимое число Y1 или Y2</translation>
+    </message>
+    <message>
+        <source>Wobj number is greater than 200</source>
+        <translation>Число изделий больше 200</translation>
+    </message>
+    <message>
+        <source>Wobj is beyond the pallet&apos;s x edge</source>
+        <translation>Изделие выходит за край паллеты по x</translation>
+    </message>
+    <message>
+        <source>Wobj is beyond the pallet&apos;s y edge</source>
+        <translation>Изделие выходит за край паллеты по y</translation>
     </message>
 </context>
 <context>
