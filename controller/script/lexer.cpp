@@ -43,6 +43,15 @@ bool beginsCharacter(char c)
     return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
 }
 
+/// Bytes of the character that such a byte begins; 0 when it begins none.
+std::size_t lengthOfCharacter(char c)
+{
+    const unsigned char first = static_cast<unsigned char>(c);
+    if (first < 0x80)
+        return first >= ' ' && first != 0x7F ? 1 : 0;
+    return first < 0xC2 || first > 0xF4 ? 0 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+}
+
 class Lexer
 {
 public:
@@ -185,10 +194,10 @@ private:
     void unknownCharacter()
     {
         const std::size_t length = spanOf([](char c) { return !beginsCharacter(c); }, 1);
-        const unsigned char c = static_cast<unsigned char>(peek());
-        if (c >= ' ' && c != 0x7F && length <= 4)
+        if (length == lengthOfCharacter(peek()))
             return bad(length, "the character " + quoted(text_.substr(at_, length)) + " has no meaning here");
-        bad(length, "the byte " + std::to_string(c) + " is no part of a text");
+        const int byte = static_cast<unsigned char>(peek());
+        bad(length, "the byte " + std::to_string(byte) + " is no part of a text");
     }
 
     std::string_view text_;
