@@ -3,6 +3,8 @@
 #include "project/rules/program_template.h"
 #include "support/cell_variables.h"
 
+#include <QCryptographicHash>
+#include <QFile>
 #include <QMap>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
@@ -418,6 +420,18 @@ TEST(TemplatePrograms, bothPalletsFullCloseBothSides)
         "DO3_5 pulse 1", "DO3_1 pulse 1@3", "DO3_3 pulse 1@3", "stands@3",
     };
     EXPECT_EQ(cell.events, expected);
+}
+
+/// The document says of which text it was printed; build the target operator_document when this fails.
+TEST(TemplatePrograms, theOperatorDocumentIsUpToDate)
+{
+    QFile text(PALX_SOURCE_DIR "/docs/robot-programs.md");
+    QFile document(PALX_SOURCE_DIR "/resources/mod_template.pdf");
+    ASSERT_TRUE(text.open(QIODevice::ReadOnly) && document.open(QIODevice::ReadOnly));
+    const QByteArray sum = QCryptographicHash::hash(text.readAll(), QCryptographicHash::Sha1).toHex().left(12);
+    const QByteArray printed = document.readAll();
+    EXPECT_TRUE(printed.startsWith("%PDF-"));
+    EXPECT_TRUE(QByteArray(printed).replace('\0', "").contains("of text " + sum)); // kept in two-byte characters
 }
 
 } // namespace
