@@ -184,15 +184,19 @@ BENCHMARK(cutStream)->UseManualTime()->Unit(benchmark::kMillisecond);
 /// Whether the controller holds these recipes: a checksum over every number and name. The floor sums the numbers alone.
 void compareRecipes(benchmark::State &state)
 {
-    std::vector<host::RecipeSummary> told;
-    for (int i = 0; i < recipes().size(); ++i)
-        told.push_back(host::summaryOf(*recipes().at(i)));
+    const auto sumUp = [] {
+        std::vector<host::RecipeSummary> summaries;
+        for (int i = 0; i < recipes().size(); ++i)
+            summaries.push_back(host::summaryOf(*recipes().at(i)));
+        return summaries;
+    };
+    const std::vector<host::RecipeSummary> told = sumUp();
     constexpr std::size_t kNumbers = std::size_t(kRecipes) * kProducts * 6 * 20;
     const std::vector<double> numbers(kNumbers, 0.5);
     double ours = 0;
     double summed = 0;
     for (auto _ : state) {
-        const double now = milliseconds([&] { benchmark::DoNotOptimize(palx::matchRecipes(recipes(), told)); });
+        const double now = milliseconds([&] { benchmark::DoNotOptimize(palx::matchRecipes(sumUp(), told)); });
         ours += now;
         summed += milliseconds([&] {
             benchmark::DoNotOptimize(crc32_z(0, reinterpret_cast<const unsigned char *>(numbers.data()),

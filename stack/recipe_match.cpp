@@ -58,20 +58,18 @@ bool readSummaries(const Node &answer, std::vector<RecipeSummary> *told)
     return isGood;
 }
 
-std::vector<RecipeMatch> matchRecipes(const Node &stacks, const std::vector<RecipeSummary> &told)
+std::vector<RecipeMatch> matchRecipes(const std::vector<RecipeSummary> &panel,
+                                      const std::vector<RecipeSummary> &told)
 {
     std::vector<RecipeMatch> matches;
     QHash<QString, int> left; // on the controller, by name
     for (int i = static_cast<int>(told.size()) - 1; i >= 0; --i)
         left.insert(told[static_cast<std::size_t>(i)].name, i);
-    for (int i = 0; i < stacks.size(); ++i) {
-        const Node *stack = stacks.at(i);
-        if (!stack)
-            continue;
+    for (const RecipeSummary &summary : panel) {
         RecipeMatch match;
-        match.panel = host::summaryOf(*stack);
-        match.name = match.panel.name;
-        match.panelIndex = i;
+        match.panel = summary;
+        match.name = summary.name;
+        match.panelIndex = static_cast<int>(matches.size());
         const auto found = left.find(match.name);
         if (found != left.end()) {
             match.controllerIndex = *found;

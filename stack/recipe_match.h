@@ -33,7 +33,7 @@ struct PALX_API RecipeMatch
 PALX_API bool readSummaries(const orba::Node &answer, std::vector<host::RecipeSummary> *told);
 
 /// The panel's recipes in their order, then those that only the controller has, in its order.
-PALX_API std::vector<RecipeMatch> matchRecipes(const orba::Node &stacks,
+PALX_API std::vector<RecipeMatch> matchRecipes(const std::vector<host::RecipeSummary> &panel,
                                                const std::vector<host::RecipeSummary> &told);
 /// How many of them are not the same on both sides.
 PALX_API int countDiffering(const std::vector<RecipeMatch> &matches);

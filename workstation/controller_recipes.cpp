@@ -5,6 +5,8 @@
 #include "workstation/plugin_node.h"
 #include "xservice.h"
 
+#include <QElapsedTimer>
+
 #include <utility>
 
 namespace palx {
@@ -22,6 +24,7 @@ ControllerRecipes::ControllerRecipes(QObject *parent) : QObject(parent)
     timer_.setSingleShot(true);
     timer_.setInterval(kDelayMs);
     connect(&timer_, &QTimer::timeout, this, &ControllerRecipes::work);
+    connect(&turn_, &QTimer::timeout, this, &ControllerRecipes::sumUp);
     auto *manager = nexo::ControllerManager::instance();
     connect(manager, &nexo::ControllerManager::rcConnectedChanged, this,
             &ControllerRecipes::followConnection);
@@ -44,8 +47,7 @@ void ControllerRecipes::ask()
 void ControllerRecipes::followConnection(bool connected)
 {
     isAsking_ = false; // what was asked before is not answered any more
-    told_.clear();
-    matches_.clear();
+    forget();
     enter(connected ? State::Asking : State::NoConnection);
     if (connected)
         ask();
@@ -62,8 +64,11 @@ void ControllerRecipes::work()
 {
     if (state_ == State::NoConnection || isAsking_)
         return; // the answer brings the comparison
-    if (!mustAsk_)
-        return compare();
+    if (!mustAsk_) {
+        if (hasList_)
+            compare();
+        return;
+    }
     mustAsk_ = false;
     isAsking_ = xservice()->command(this, kList, nullptr, [this](const XReply &reply) { take(reply); });
     if (!isAsking_)
@@ -81,8 +86,7 @@ void ControllerRecipes::take(const XReply &reply)
         fail(tr("Its answer is no list of recipes."));
     else {
         isRecorded_ = false;
-        error_.clear();
-        state_ = State::Known;
+        hasList_ = true;
         compare();
     }
     if (mustAsk_)
@@ -92,18 +96,42 @@ void ControllerRecipes::take(const XReply &reply)
 void ControllerRecipes::fail(const QString &why)
 {
     error_ = why;
-    told_.clear();
-    matches_.clear();
+    forget();
     if (!std::exchange(isRecorded_, true))
         recordCfgLog(tr("The controller does not tell which recipes it holds: %1").arg(why), false);
     enter(State::Unknown);
 }
 
+void ControllerRecipes::forget()
+{
+    turn_.stop();
+    hasList_ = false;
+    told_.clear();
+    matches_.clear();
+}
+
 void ControllerRecipes::compare()
 {
-    if (state_ != State::Known)
-        return;
-    matches_ = matchRecipes(stacksNode()->node(), told_);
+    summed_.clear();
+    turn_.start(0);
+}
+
+/// An edit meanwhile starts another comparison, so nothing is missed.
+void ControllerRecipes::sumUp()
+{
+    const orba::Node &stacks = stacksNode()->node();
+    QElapsedTimer turn;
+    turn.start();
+    while (static_cast<int>(summed_.size()) < stacks.size()) {
+        const orba::Node *stack = stacks.at(static_cast<int>(summed_.size()));
+        summed_.push_back(stack ? host::summaryOf(*stack) : host::RecipeSummary());
+        if (turn.elapsed() >= kTurnMs)
+            return;
+    }
+    turn_.stop();
+    error_.clear();
+    state_ = State::Known;
+    matches_ = matchRecipes(summed_, told_);
     Q_EMIT changed();
 }
 

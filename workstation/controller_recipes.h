@@ -11,14 +11,15 @@ struct XReply;
 namespace palx {
 
 /// Knows which of the panel's recipes the controller holds. Asks the controller when it comes and after whatever was sent
-/// to it, and compares again after edits; both a moment later, so that many edits are one comparison, and without
-/// waiting. GUI thread; made when the plugin node is there.
+/// to it, and compares again after edits; both a moment later, so that many edits are one comparison, without waiting, and
+/// with a rest between recipes, so that pages stay smooth. GUI thread; made when the plugin node is there.
 class PALX_API ControllerRecipes : public QObject
 {
     Q_OBJECT
 
 public:
     static constexpr int kDelayMs = 300;
+    static constexpr int kTurnMs = 8; ///< what one turn of the event loop spends on comparing
 
     enum class State {
         NoConnection,
@@ -48,15 +49,20 @@ private:
     void work();
     void take(const XReply &reply);
     void fail(const QString &why);
+    void forget();
     void compare();
+    void sumUp();
     void enter(State state);
 
     State state_ = State::NoConnection;
     QString error_;
     std::vector<host::RecipeSummary> told_;
+    std::vector<host::RecipeSummary> summed_; ///< of the panel's recipes, so far
     std::vector<RecipeMatch> matches_;
     QTimer timer_;
+    QTimer turn_; ///< while recipes are summed up
     bool mustAsk_ = false;
+    bool hasList_ = false; ///< `told_` holds
     bool isAsking_ = false;
     bool isRecorded_ = false; ///< that the controller does not answer
 };

@@ -24,12 +24,12 @@ Node recipes(const QList<QByteArray> &list)
     return nodeFromJson("[" + list.join(',') + "]");
 }
 
-std::vector<RecipeSummary> toldOf(const Node &list)
+std::vector<RecipeSummary> summaries(const Node &list)
 {
-    std::vector<RecipeSummary> told;
+    std::vector<RecipeSummary> result;
     for (int i = 0; i < list.size(); ++i)
-        told.push_back(host::summaryOf(*list.at(i)));
-    return told;
+        result.push_back(host::summaryOf(*list.at(i)));
+    return result;
 }
 
 QStringList texts(const std::vector<RecipeMatch> &matches)
@@ -82,7 +82,8 @@ TEST(RecipeMatch, NamesWhatDiffersBetweenTheTwoSides)
         {"a name twice there", {recipe("A", 1)}, {recipe("A", 1), recipe("A", 1)}, {"A same 0 0"}, 0},
     };
     for (const auto &each : cases) {
-        const auto matches = palx::matchRecipes(recipes(each.panel), toldOf(recipes(each.controller)));
+        const auto matches =
+            palx::matchRecipes(summaries(recipes(each.panel)), summaries(recipes(each.controller)));
         EXPECT_EQ(texts(matches), each.matches) << each.what;
         EXPECT_EQ(palx::countDiffering(matches), each.differing) << each.what;
     }
@@ -91,12 +92,12 @@ TEST(RecipeMatch, NamesWhatDiffersBetweenTheTwoSides)
 TEST(RecipeMatch, ADescriptionAndSettingsAreNoPoints)
 {
     Node panel = recipes({recipe("A", 1)});
-    const auto told = toldOf(panel);
+    const auto told = summaries(panel);
     panel.at(0)->ensure(u"desc")->setString(QStringLiteral("small"));
     panel.at(0)->ensure(u"product_cfg.product.length")->setInt(7);
-    EXPECT_EQ(palx::countDiffering(palx::matchRecipes(panel, told)), 0);
+    EXPECT_EQ(palx::countDiffering(palx::matchRecipes(summaries(panel), told)), 0);
     panel.at(0)->ensure(u"get.get_p.trans.#0")->setDouble(1);
-    EXPECT_EQ(palx::countDiffering(palx::matchRecipes(panel, told)), 1);
+    EXPECT_EQ(palx::countDiffering(palx::matchRecipes(summaries(panel), told)), 1);
 }
 
 TEST(RecipeMatch, ReadsWhatAControllerTells)
@@ -104,11 +105,11 @@ TEST(RecipeMatch, ReadsWhatAControllerTells)
     const Node list = recipes({recipe("A", 1), recipe("B", 2)});
     Node answer;
     answer.reset(Node::Kind::List);
-    for (const RecipeSummary &summary : toldOf(list))
+    for (const RecipeSummary &summary : summaries(list))
         *answer.add() = summary.toNode();
     std::vector<RecipeSummary> told;
     ASSERT_TRUE(palx::readSummaries(answer, &told));
-    EXPECT_EQ(palx::countDiffering(palx::matchRecipes(list, told)), 0);
+    EXPECT_EQ(palx::countDiffering(palx::matchRecipes(summaries(list), told)), 0);
     ASSERT_TRUE(palx::readSummaries(nodeFromJson("[]"), &told));
     EXPECT_TRUE(told.empty());
 }
