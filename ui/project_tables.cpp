@@ -1,5 +1,7 @@
 #include "ui/project_tables.h"
 
+#include "project/rules/project_variables.h"
+
 namespace {
 
 const orba::Node &variables()
@@ -66,6 +68,6 @@ QString VariableTableModel::text(int row, int column) const
     case 3:
         return variable->getBool(u"pers") ? tr("yes") : tr("no");
     default:
-        return variable->getString(u"description");
+        return palx::shownDescription(variable->getString(u"description"));
     }
 }

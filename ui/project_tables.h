@@ -9,6 +9,7 @@ class PALX_API ProgramTableModel : public RecordTableModel
     Q_OBJECT
 
 public:
+    static constexpr int kFile = 2;        ///< column
     static constexpr int kDescription = 3; ///< column
 
     using RecordTableModel::RecordTableModel;

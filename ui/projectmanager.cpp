@@ -26,13 +26,15 @@ using orba::ModuleObject;
 namespace {
 
 constexpr int kRefreshMs = 1000;
+constexpr int kWidePage = 900; // [px] that leave room for descriptions of program files
 
-/// "task0/main.mod - Default (motion)"; of a project that is not current only its folder is known.
+/// "task0/main.mod - Main Function, Default (motion)"; of a project that is not current only its folder is known.
 QString programTitle(const palx::ProgramFile &file)
 {
     const QString name = QStringLiteral("%1/%2.mod").arg(file.task, file.name);
     return file.type.isEmpty() ? name
-                               : QStringLiteral("%1 - %2 (%3)").arg(name, file.taskDescription, file.type);
+                               : QStringLiteral("%1 - %2, %3 (%4)")
+                                     .arg(name, file.description, file.taskDescription, file.type);
 }
 
 } // namespace
@@ -87,19 +89,20 @@ void ProjectManager::connectButtons()
     const struct
     {
         QPushButton *button;
-        Glyph glyph;
+        std::optional<Glyph> glyph; ///< those with long names have none: five must stand beside each other
         void (ProjectManager::*act)();
     } actions[] = {{ui_->btnBack, Glyph::Back, &ProjectManager::backWanted},
                    {ui_->btnAdd, Glyph::Add, &ProjectManager::addProject},
                    {ui_->btnEdit, Glyph::Settings, &ProjectManager::editProject},
                    {ui_->btnRemove, Glyph::Delete, &ProjectManager::deleteProject},
-                   {ui_->btnSetDefault, Glyph::Check, &ProjectManager::setDefaultProject},
-                   {ui_->btnReload, Glyph::Open, &ProjectManager::reloadProject},
+                   {ui_->btnSetDefault, std::nullopt, &ProjectManager::setDefaultProject},
+                   {ui_->btnReload, std::nullopt, &ProjectManager::reloadProject},
                    {ui_->btnCancel, Glyph::Close, &ProjectManager::cancel},
                    {ui_->btnWork, Glyph::Save, &ProjectManager::work}};
     for (const auto &action : actions) {
-        const bool primary = action.button == ui_->btnReload || action.button == ui_->btnWork;
-        action.button->setIcon(ix::xtheme::icon(action.glyph, primary ? QColor(Qt::white) : QColor()));
+        const QColor color = action.button == ui_->btnWork ? QColor(Qt::white) : QColor();
+        if (action.glyph)
+            action.button->setIcon(ix::xtheme::icon(*action.glyph, color));
         action.button->setIconSize(QSize(28, 28));
         connect(action.button, &QPushButton::clicked, this, action.act);
     }
@@ -385,6 +388,17 @@ void ProjectManager::changeEvent(QEvent *event)
         showProgram();
     }
     BaseSubPage::changeEvent(event);
+}
+
+/// Descriptions of files give way on a small panel; they stand above the program, too.
+void ProjectManager::resizeEvent(QResizeEvent *event)
+{
+    const bool isWide = width() >= kWidePage;
+    QHeaderView *header = ui_->tblPrograms->horizontalHeader();
+    ui_->tblPrograms->setColumnHidden(ProgramTableModel::kDescription, !isWide);
+    header->setSectionResizeMode(ProgramTableModel::kFile,
+                                 isWide ? QHeaderView::ResizeToContents : QHeaderView::Stretch);
+    BaseSubPage::resizeEvent(event);
 }
 
 void ProjectManager::showEvent(QShowEvent *event)

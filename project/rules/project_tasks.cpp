@@ -47,22 +47,29 @@ struct Row
     bool (*applies)(const Node &record);
 };
 
-#define PALX_TEXT(text) QT_TRANSLATE_NOOP("palx::ProjectText", text)
 constexpr Row kRows[] = {
-    {"task0", PALX_TEXT("Default"), "motion", "main", PALX_TEXT("Main Function"), always},
-    {"task0", "Default", "motion", "BackHome", PALX_TEXT("Back Home"), always},
-    {"task0", "Default", "motion", "Init", PALX_TEXT("Init"), always},
-    {"task0", "Default", "motion", "ZuoMaduo", PALX_TEXT("Left Stack"), stacksLeft},
-    {"task0", "Default", "motion", "YouMaduo", PALX_TEXT("Right Stack"), stacksRight},
-    {"task0", "Default", "motion", "Helper", PALX_TEXT("Helper Function"), hasLift},
-    {"task1", PALX_TEXT("Conveyor belt inspection"), "semi_static", "main", "Main Function", always},
-    {"task2", PALX_TEXT("Palletizing status detection"), "semi_static", "main", "Main Function", always},
-    {"task3", PALX_TEXT("Program - Estop - Collision"), "semi_static", "main", "Main Function", always},
-    {"task4", PALX_TEXT("Anomaly detection"), "normal", "main", "Main Function", always},
-    {"task5", PALX_TEXT("Lifting column status detection"), "semi_static", "main", "Main Function", hasLift},
+    {"task0", QT_TRANSLATE_NOOP("palx::ProjectText", "Default"), "motion", "main",
+     QT_TRANSLATE_NOOP("palx::ProjectText", "Main Function"), always},
+    {"task0", "Default", "motion", "BackHome", QT_TRANSLATE_NOOP("palx::ProjectText", "Back Home"), always},
+    {"task0", "Default", "motion", "Init", QT_TRANSLATE_NOOP("palx::ProjectText", "Init"), always},
+    {"task0", "Default", "motion", "ZuoMaduo", QT_TRANSLATE_NOOP("palx::ProjectText", "Left Stack"),
+     stacksLeft},
+    {"task0", "Default", "motion", "YouMaduo", QT_TRANSLATE_NOOP("palx::ProjectText", "Right Stack"),
+     stacksRight},
+    {"task0", "Default", "motion", "Helper", QT_TRANSLATE_NOOP("palx::ProjectText", "Helper Function"),
+     hasLift},
+    {"task1", QT_TRANSLATE_NOOP("palx::ProjectText", "Conveyor belt inspection"), "semi_static", "main",
+     "Main Function", always},
+    {"task2", QT_TRANSLATE_NOOP("palx::ProjectText", "Palletizing status detection"), "semi_static", "main",
+     "Main Function", always},
+    {"task3", QT_TRANSLATE_NOOP("palx::ProjectText", "Program - Estop - Collision"), "semi_static", "main",
+     "Main Function", always},
+    {"task4", QT_TRANSLATE_NOOP("palx::ProjectText", "Anomaly detection"), "normal", "main", "Main Function",
+     always},
+    {"task5", QT_TRANSLATE_NOOP("palx::ProjectText", "Lifting column status detection"), "semi_static",
+     "main", "Main Function", hasLift},
     {"task5", "Lifting column status detection", "semi_static", "Helper", "Helper Function", hasLift},
 };
-#undef PALX_TEXT
 
 ModuleObject *taskList()
 {

@@ -7,8 +7,6 @@
 #include "workstation/controller_sync.h"
 #include "workstation/plugin_log.h"
 
-#include <QVector>
-
 namespace palx {
 
 using orba::ModuleObject;
@@ -35,76 +33,58 @@ struct Row
     bool isPersistent;
 };
 
-#define PALX_TEXT(text) QT_TRANSLATE_NOOP("palx::ProjectText", text)
-/// Of each side: the name ends with the side's letter, %1 is the side.
-constexpr Row kSideRows[] = {
-    {"palletIndex", PALX_TEXT("%1 recipe index"), "int", "0", true},
-    {"palletCount", PALX_TEXT("%1 pallet count"), "int", "0", true},
-    {"palletTotalCount", PALX_TEXT("%1 pallet total count"), "int", "0", true},
-    {"currentLayer", PALX_TEXT("%1 current layer"), "int", "1", true},
-    {"layerCount", PALX_TEXT("%1 current layer count"), "int", "1", true},
-    {"totalPallets", PALX_TEXT("%1 total pallets"), "int", "0", true},
-    {"totalPiledCount", PALX_TEXT("%1 total piled count"), "int", "0", true},
-    {"cycleTime", PALX_TEXT("%1 cycle time"), "double", "0.0", true},
-    {"boxHeight", PALX_TEXT("%1 box height"), "int", "300", true},
-};
-constexpr Row kEnableRows[] = {
-    {"enableStackL", PALX_TEXT("Enable left-side stacking"), "bool", "false", true},
-    {"enableStackR", PALX_TEXT("Enable right-side stacking"), "bool", "false", true},
-};
-constexpr Row kCellRows[] = {
-    {"palletStatus", PALX_TEXT("Left: 1, Right: 2"), "int", "0", true},
-    {"flagL", PALX_TEXT("Left full flag"), "int", "0", true},
-    {"flagR", PALX_TEXT("Right full flag"), "int", "0", true},
+/// In the order in which they are created.
+constexpr Row kRows[] = {
+    {"enableStackL", QT_TRANSLATE_NOOP("palx::ProjectText", "Enable left-side stacking"), "bool", "false",
+     true},
+    {"enableStackR", QT_TRANSLATE_NOOP("palx::ProjectText", "Enable right-side stacking"), "bool", "false",
+     true},
+    {"palletIndexL", QT_TRANSLATE_NOOP("palx::ProjectText", "Left side recipe index"), "int", "0", true},
+    {"palletCountL", QT_TRANSLATE_NOOP("palx::ProjectText", "Left side pallet count"), "int", "0", true},
+    {"palletTotalCountL", QT_TRANSLATE_NOOP("palx::ProjectText", "Left side pallet total count"), "int", "0",
+     true},
+    {"currentLayerL", QT_TRANSLATE_NOOP("palx::ProjectText", "Left side current layer"), "int", "1", true},
+    {"layerCountL", QT_TRANSLATE_NOOP("palx::ProjectText", "Left side current layer count"), "int", "1",
+     true},
+    {"totalPalletsL", QT_TRANSLATE_NOOP("palx::ProjectText", "Left side total pallets"), "int", "0", true},
+    {"totalPiledCountL", QT_TRANSLATE_NOOP("palx::ProjectText", "Left side total piled count"), "int", "0",
+     true},
+    {"cycleTimeL", QT_TRANSLATE_NOOP("palx::ProjectText", "Left side cycle time"), "double", "0.0", true},
+    {"boxHeightL", QT_TRANSLATE_NOOP("palx::ProjectText", "Left side box height"), "int", "300", true},
+    {"palletIndexR", QT_TRANSLATE_NOOP("palx::ProjectText", "Right side recipe index"), "int", "0", true},
+    {"palletCountR", QT_TRANSLATE_NOOP("palx::ProjectText", "Right side pallet count"), "int", "0", true},
+    {"palletTotalCountR", QT_TRANSLATE_NOOP("palx::ProjectText", "Right side pallet total count"), "int", "0",
+     true},
+    {"currentLayerR", QT_TRANSLATE_NOOP("palx::ProjectText", "Right side current layer"), "int", "1", true},
+    {"layerCountR", QT_TRANSLATE_NOOP("palx::ProjectText", "Right side current layer count"), "int", "1",
+     true},
+    {"totalPalletsR", QT_TRANSLATE_NOOP("palx::ProjectText", "Right side total pallets"), "int", "0", true},
+    {"totalPiledCountR", QT_TRANSLATE_NOOP("palx::ProjectText", "Right side total piled count"), "int", "0",
+     true},
+    {"cycleTimeR", QT_TRANSLATE_NOOP("palx::ProjectText", "Right side cycle time"), "double", "0.0", true},
+    {"boxHeightR", QT_TRANSLATE_NOOP("palx::ProjectText", "Right side box height"), "int", "300", true},
+    {"palletStatus", QT_TRANSLATE_NOOP("palx::ProjectText", "Left: 1, Right: 2"), "int", "0", true},
+    {"flagL", QT_TRANSLATE_NOOP("palx::ProjectText", "Left full flag"), "int", "0", true},
+    {"flagR", QT_TRANSLATE_NOOP("palx::ProjectText", "Right full flag"), "int", "0", true},
     {"flagL1", "", "int", "0", true},
     {"flagR1", "", "int", "0", true},
-    {"rise", PALX_TEXT("Lifting column state, 1 up, 0 down"), "int", "1", true},
-    {"use_rise", PALX_TEXT("Using lifting column"), "int", "0", true},
-    {"SetZ", PALX_TEXT("Stacking maximum height"), "int", "700", true},
-    {"MaxZ", PALX_TEXT("Maximum height reachable by the robot in the stacking scene"), "int", "1000", true},
-    {"grabbing", PALX_TEXT("Gripping materials"), "bool", "false", true},
-    {"Margin", PALX_TEXT("StandBy Point Margin"), "int", "400", true},
-    {"liftHeight", PALX_TEXT("Lift height"), "int", "550", true},
-    {"clock0", PALX_TEXT("calculate time"), "clock", "", false},
-    {"boxheight", PALX_TEXT("box height"), "int", "300", false},
+    {"rise", QT_TRANSLATE_NOOP("palx::ProjectText", "Lifting column state, 1 up, 0 down"), "int", "1", true},
+    {"use_rise", QT_TRANSLATE_NOOP("palx::ProjectText", "Using lifting column"), "int", "0", true},
+    {"SetZ", QT_TRANSLATE_NOOP("palx::ProjectText", "Stacking maximum height"), "int", "700", true},
+    {"MaxZ",
+     QT_TRANSLATE_NOOP("palx::ProjectText", "Maximum height reachable by the robot in the stacking scene"),
+     "int", "1000", true},
+    {"grabbing", QT_TRANSLATE_NOOP("palx::ProjectText", "Gripping materials"), "bool", "false", true},
+    {"Margin", QT_TRANSLATE_NOOP("palx::ProjectText", "StandBy Point Margin"), "int", "400", true},
+    {"liftHeight", QT_TRANSLATE_NOOP("palx::ProjectText", "Lift height"), "int", "550", true},
+    {"clock0", QT_TRANSLATE_NOOP("palx::ProjectText", "calculate time"), "clock", "", false},
+    {"boxheight", QT_TRANSLATE_NOOP("palx::ProjectText", "box height"), "int", "300", false},
     {"flagLL", "", "bool", "false", false},
     {"flagRR", "", "bool", "false", false},
     {"flag", "", "bool", "false", false},
-    {"BHOME", PALX_TEXT("current pos"), "robtarget",
+    {"BHOME", QT_TRANSLATE_NOOP("palx::ProjectText", "current pos"), "robtarget",
      "p:{{0,0,0},{0,0,0,0},0}{cfg 0,0,0,0,0,0,0,0}{EJ 0,0,0,0,0,0}", false},
 };
-#undef PALX_TEXT
-
-Variable variable(const Row &row)
-{
-    const QString description = *row.description ? ProjectText::tr(row.description) : QString();
-    return {QLatin1String(row.name), description, QLatin1String(row.type), QLatin1String(row.value),
-            row.isPersistent};
-}
-
-/// In the order in which they are created.
-QVector<Variable> variables()
-{
-    QVector<Variable> all;
-    for (const Row &row : kEnableRows)
-        all.append(variable(row));
-    const struct
-    {
-        QChar letter;
-        QString side;
-    } sides[] = {{QLatin1Char('L'), ProjectText::tr("Left side")},
-                 {QLatin1Char('R'), ProjectText::tr("Right side")}};
-    for (const auto &each : sides) {
-        for (const Row &row : kSideRows) {
-            all.append(variable(row));
-            all.last().name += each.letter;
-            all.last().description = all.last().description.arg(each.side);
-        }
-    }
-    for (const Row &row : kCellRows)
-        all.append(variable(row));
-    return all;
-}
 
 ModuleObject *variableList()
 {
@@ -199,10 +179,18 @@ void createProjectVariables()
         return;
     writePluginLog(QStringLiteral("Create variables for project:") + currentProject());
     bool isMonitored = false;
-    for (const Variable &variable : variables())
+    for (const Row &row : kRows) {
+        const Variable variable{QLatin1String(row.name), QLatin1String(row.description),
+                                QLatin1String(row.type), QLatin1String(row.value), row.isPersistent};
         isMonitored = create(variable) || isMonitored;
+    }
     if (isMonitored) // once for all of them: every file is written to the disk at once
         writeMonitored();
+}
+
+QString shownDescription(const QString &description)
+{
+    return description.isEmpty() ? description : ProjectText::tr(description.toUtf8().constData());
 }
 
 bool writeVariables()

@@ -23,6 +23,10 @@ PALX_API void createPERSVar(const QString &name, const QString &description, con
 /// Creates what the robot programs use and is missing in the current project. Does nothing when there is no record of it.
 PALX_API void createProjectVariables();
 
+/// A description in the operator's language. Those of createProjectVariables are kept in English, because projects travel;
+/// others are shown as they are.
+PALX_API QString shownDescription(const QString &description);
+
 /// Writes all variables to "var.json" in the current project's folder; false, after the message, when it cannot be written.
 /// Only for controller software 2.3, otherwise nothing is done.
 PALX_API bool writeVariables();

@@ -306,9 +306,11 @@ TEST_F(ProjectPage, ShowsTheProgramsOfEveryProject)
         int row;
         const char *title;
         int lines;
-    } cases[] = {{0, "task0/main.mod - Default (motion)", 4},
-                 {2, "task0/Init.mod - Default (motion): empty", 1},
-                 {4, "task1/main.mod - Conveyor belt inspection (semi_static): the file cannot be read", 1}};
+    } cases[] = {
+        {0, "task0/main.mod - Main Function, Default (motion)", 4},
+        {2, "task0/Init.mod - Init, Default (motion): empty", 1},
+        {4, "task1/main.mod - Main Function, Conveyor belt inspection (semi_static): the file cannot be read",
+         1}};
     for (const auto &each : cases) {
         table->selectRow(each.row);
         EXPECT_EQ(title->text(), QLatin1String(each.title));
