@@ -3406,12 +3406,184 @@ Pallet: %4</source>
         <translation>工程管理</translation>
     </message>
     <message>
-        <source>Left side</source>
-        <translation>左侧</translation>
+        <source>Default</source>
+        <translation>默认</translation>
     </message>
     <message>
-        <source>Right side</source>
-        <translation>右侧</translation>
+        <source>Main Function</source>
+        <translation>主函数</translation>
+    </message>
+    <message>
+        <source>Back Home</source>
+        <translation>返回原点</translation>
+    </message>
+    <message>
+        <source>Init</source>
+        <translation>初始化</translation>
+    </message>
+    <message>
+        <source>Left Stack</source>
+        <translation>左垛</translation>
+    </message>
+    <message>
+        <source>Right Stack</source>
+        <translation>右垛</translation>
+    </message>
+    <message>
+        <source>Helper Function</source>
+        <translation>辅助函数</translation>
+    </message>
+    <message>
+        <source>Conveyor belt inspection</source>
+        <translation>输送线检测</translation>
+    </message>
+    <message>
+        <source>Palletizing status detection</source>
+        <translation>码垛状态检测</translation>
+    </message>
+    <message>
+        <source>Program - Estop - Collision</source>
+        <translation>程序 - 急停 - 碰撞</translation>
+    </message>
+    <message>
+        <source>Anomaly detection</source>
+        <translation>异常检测</translation>
+    </message>
+    <message>
+        <source>Lifting column status detection</source>
+        <translation>升降柱状态检测</translation>
+    </message>
+    <message>
+        <source>Enable left-side stacking</source>
+        <translation>启用左侧码垛</translation>
+    </message>
+    <message>
+        <source>Enable right-side stacking</source>
+        <translation>启用右侧码垛</translation>
+    </message>
+    <message>
+        <source>Left side recipe index</source>
+        <translation>左侧配方序号</translation>
+    </message>
+    <message>
+        <source>Left side pallet count</source>
+        <translation>左侧托盘计数</translation>
+    </message>
+    <message>
+        <source>Left side pallet total count</source>
+        <translation>左侧托盘总计数</translation>
+    </message>
+    <message>
+        <source>Left side current layer</source>
+        <translation>左侧当前层</translation>
+    </message>
+    <message>
+        <source>Left side current layer count</source>
+        <translation>左侧当前层计数</translation>
+    </message>
+    <message>
+        <source>Left side total pallets</source>
+        <translation>左侧托盘总数</translation>
+    </message>
+    <message>
+        <source>Left side total piled count</source>
+        <translation>左侧码垛总数</translation>
+    </message>
+    <message>
+        <source>Left side cycle time</source>
+        <translation>左侧节拍时间</translation>
+    </message>
+    <message>
+        <source>Left side box height</source>
+        <translation>左侧箱高</translation>
+    </message>
+    <message>
+        <source>Right side recipe index</source>
+        <translation>右侧配方序号</translation>
+    </message>
+    <message>
+        <source>Right side pallet count</source>
+        <translation>右侧托盘计数</translation>
+    </message>
+    <message>
+        <source>Right side pallet total count</source>
+        <translation>右侧托盘总计数</translation>
+    </message>
+    <message>
+        <source>Right side current layer</source>
+        <translation>右侧当前层</translation>
+    </message>
+    <message>
+        <source>Right side current layer count</source>
+        <translation>右侧当前层计数</translation>
+    </message>
+    <message>
+        <source>Right side total pallets</source>
+        <translation>右侧托盘总数</translation>
+    </message>
+    <message>
+        <source>Right side total piled count</source>
+        <translation>右侧码垛总数</translation>
+    </message>
+    <message>
+        <source>Right side cycle time</source>
+        <translation>右侧节拍时间</translation>
+    </message>
+    <message>
+        <source>Right side box height</source>
+        <translation>右侧箱高</translation>
+    </message>
+    <message>
+        <source>Left: 1, Right: 2</source>
+        <translation>左：1，右：2</translation>
+    </message>
+    <message>
+        <source>Left full flag</source>
+        <translation>左满标志</translation>
+    </message>
+    <message>
+        <source>Right full flag</source>
+        <translation>右满标志</translation>
+    </message>
+    <message>
+        <source>Lifting column state, 1 up, 0 down</source>
+        <translation>升降柱状态，1 上，0 下</translation>
+    </message>
+    <message>
+        <source>Using lifting column</source>
+        <translation>正在使用升降柱</translation>
+    </message>
+    <message>
+        <source>Stacking maximum height</source>
+        <translation>最大码垛高度</translation>
+    </message>
+    <message>
+        <source>Maximum height reachable by the robot in the stacking scene</source>
+        <translation>码垛场景中机器人可达最大高度</translation>
+    </message>
+    <message>
+        <source>Gripping materials</source>
+        <translation>正在抓取物料</translation>
+    </message>
+    <message>
+        <source>StandBy Point Margin</source>
+        <translation>待机点余量</translation>
+    </message>
+    <message>
+        <source>Lift height</source>
+        <translation>升降高度</translation>
+    </message>
+    <message>
+        <source>calculate time</source>
+        <translation>计时</translation>
+    </message>
+    <message>
+        <source>box height</source>
+        <translation>箱高</translation>
+    </message>
+    <message>
+        <source>current pos</source>
+        <translation>当前位置</translation>
     </message>
 </context>
 </TS>

@@ -3406,12 +3406,184 @@ Pallet: %4</source>
         <translation>プロジェクト管理</translation>
     </message>
     <message>
-        <source>Left side</source>
-        <translation>左側</translation>
+        <source>Default</source>
+        <translation>既定</translation>
     </message>
     <message>
-        <source>Right side</source>
-        <translation>右側</translation>
+        <source>Main Function</source>
+        <translation>メイン関数</translation>
+    </message>
+    <message>
+        <source>Back Home</source>
+        <translation>原点復帰</translation>
+    </message>
+    <message>
+        <source>Init</source>
+        <translation>初期化</translation>
+    </message>
+    <message>
+        <source>Left Stack</source>
+        <translation>左の積み付け</translation>
+    </message>
+    <message>
+        <source>Right Stack</source>
+        <translation>右の積み付け</translation>
+    </message>
+    <message>
+        <source>Helper Function</source>
+        <translation>補助関数</translation>
+    </message>
+    <message>
+        <source>Conveyor belt inspection</source>
+        <translation>コンベヤの監視</translation>
+    </message>
+    <message>
+        <source>Palletizing status detection</source>
+        <translation>パレタイズ状態の検出</translation>
+    </message>
+    <message>
+        <source>Program - Estop - Collision</source>
+        <translation>プログラム - 非常停止 - 衝突</translation>
+    </message>
+    <message>
+        <source>Anomaly detection</source>
+        <translation>異常の検出</translation>
+    </message>
+    <message>
+        <source>Lifting column status detection</source>
+        <translation>昇降柱状態の検出</translation>
+    </message>
+    <message>
+        <source>Enable left-side stacking</source>
+        <translation>左側のパレタイズを有効にする</translation>
+    </message>
+    <message>
+        <source>Enable right-side stacking</source>
+        <translation>右側のパレタイズを有効にする</translation>
+    </message>
+    <message>
+        <source>Left side recipe index</source>
+        <translation>左側のレシピ番号</translation>
+    </message>
+    <message>
+        <source>Left side pallet count</source>
+        <translation>左側のパレット数</translation>
+    </message>
+    <message>
+        <source>Left side pallet total count</source>
+        <translation>左側のパレット総数</translation>
+    </message>
+    <message>
+        <source>Left side current layer</source>
+        <translation>左側の現在の段</translation>
+    </message>
+    <message>
+        <source>Left side current layer count</source>
+        <translation>左側の現在の段の数</translation>
+    </message>
+    <message>
+        <source>Left side total pallets</source>
+        <translation>左側の総パレット数</translation>
+    </message>
+    <message>
+        <source>Left side total piled count</source>
+        <translation>左側の総積み数</translation>
+    </message>
+    <message>
+        <source>Left side cycle time</source>
+        <translation>左側のサイクルタイム</translation>
+    </message>
+    <message>
+        <source>Left side box height</source>
+        <translation>左側の箱の高さ</translation>
+    </message>
+    <message>
+        <source>Right side recipe index</source>
+        <translation>右側のレシピ番号</translation>
+    </message>
+    <message>
+        <source>Right side pallet count</source>
+        <translation>右側のパレット数</translation>
+    </message>
+    <message>
+        <source>Right side pallet total count</source>
+        <translation>右側のパレット総数</translation>
+    </message>
+    <message>
+        <source>Right side current layer</source>
+        <translation>右側の現在の段</translation>
+    </message>
+    <message>
+        <source>Right side current layer count</source>
+        <translation>右側の現在の段の数</translation>
+    </message>
+    <message>
+        <source>Right side total pallets</source>
+        <translation>右側の総パレット数</translation>
+    </message>
+    <message>
+        <source>Right side total piled count</source>
+        <translation>右側の総積み数</translation>
+    </message>
+    <message>
+        <source>Right side cycle time</source>
+        <translation>右側のサイクルタイム</translation>
+    </message>
+    <message>
+        <source>Right side box height</source>
+        <translation>右側の箱の高さ</translation>
+    </message>
+    <message>
+        <source>Left: 1, Right: 2</source>
+        <translation>左: 1、右: 2</translation>
+    </message>
+    <message>
+        <source>Left full flag</source>
+        <translation>左の満載フラグ</translation>
+    </message>
+    <message>
+        <source>Right full flag</source>
+        <translation>右の満載フラグ</translation>
+    </message>
+    <message>
+        <source>Lifting column state, 1 up, 0 down</source>
+        <translation>昇降柱の状態、1 上、0 下</translation>
+    </message>
+    <message>
+        <source>Using lifting column</source>
+        <translation>昇降柱を使用中</translation>
+    </message>
+    <message>
+        <source>Stacking maximum height</source>
+        <translation>積み付けの最大高さ</translation>
+    </message>
+    <message>
+        <source>Maximum height reachable by the robot in the stacking scene</source>
+        <translation>積み付け時にロボットが届く最大高さ</translation>
+    </message>
+    <message>
+        <source>Gripping materials</source>
+        <translation>製品を把持中</translation>
+    </message>
+    <message>
+        <source>StandBy Point Margin</source>
+        <translation>待機点の余裕</translation>
+    </message>
+    <message>
+        <source>Lift height</source>
+        <translation>昇降の高さ</translation>
+    </message>
+    <message>
+        <source>calculate time</source>
+        <translation>時間の計測</translation>
+    </message>
+    <message>
+        <source>box height</source>
+        <translation>箱の高さ</translation>
+    </message>
+    <message>
+        <source>current pos</source>
+        <translation>現在位置</translation>
     </message>
 </context>
 </TS>

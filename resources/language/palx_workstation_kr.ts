@@ -3406,12 +3406,184 @@ Pallet: %4</source>
         <translation>프로젝트 관리</translation>
     </message>
     <message>
-        <source>Left side</source>
-        <translation>왼쪽</translation>
+        <source>Default</source>
+        <translation>기본</translation>
     </message>
     <message>
-        <source>Right side</source>
-        <translation>오른쪽</translation>
+        <source>Main Function</source>
+        <translation>주 함수</translation>
+    </message>
+    <message>
+        <source>Back Home</source>
+        <translation>홈 복귀</translation>
+    </message>
+    <message>
+        <source>Init</source>
+        <translation>초기화</translation>
+    </message>
+    <message>
+        <source>Left Stack</source>
+        <translation>왼쪽 적재</translation>
+    </message>
+    <message>
+        <source>Right Stack</source>
+        <translation>오른쪽 적재</translation>
+    </message>
+    <message>
+        <source>Helper Function</source>
+        <translation>보조 함수</translation>
+    </message>
+    <message>
+        <source>Conveyor belt inspection</source>
+        <translation>컨베이어 점검</translation>
+    </message>
+    <message>
+        <source>Palletizing status detection</source>
+        <translation>팔레타이징 상태 감지</translation>
+    </message>
+    <message>
+        <source>Program - Estop - Collision</source>
+        <translation>프로그램 - 비상 정지 - 충돌</translation>
+    </message>
+    <message>
+        <source>Anomaly detection</source>
+        <translation>이상 감지</translation>
+    </message>
+    <message>
+        <source>Lifting column status detection</source>
+        <translation>승강 칼럼 상태 감지</translation>
+    </message>
+    <message>
+        <source>Enable left-side stacking</source>
+        <translation>왼쪽 적재 사용</translation>
+    </message>
+    <message>
+        <source>Enable right-side stacking</source>
+        <translation>오른쪽 적재 사용</translation>
+    </message>
+    <message>
+        <source>Left side recipe index</source>
+        <translation>왼쪽 레시피 번호</translation>
+    </message>
+    <message>
+        <source>Left side pallet count</source>
+        <translation>왼쪽 팔레트 수</translation>
+    </message>
+    <message>
+        <source>Left side pallet total count</source>
+        <translation>왼쪽 팔레트 총수</translation>
+    </message>
+    <message>
+        <source>Left side current layer</source>
+        <translation>왼쪽 현재 단</translation>
+    </message>
+    <message>
+        <source>Left side current layer count</source>
+        <translation>왼쪽 현재 단 수</translation>
+    </message>
+    <message>
+        <source>Left side total pallets</source>
+        <translation>왼쪽 총 팔레트</translation>
+    </message>
+    <message>
+        <source>Left side total piled count</source>
+        <translation>왼쪽 총 적재 수</translation>
+    </message>
+    <message>
+        <source>Left side cycle time</source>
+        <translation>왼쪽 사이클 시간</translation>
+    </message>
+    <message>
+        <source>Left side box height</source>
+        <translation>왼쪽 박스 높이</translation>
+    </message>
+    <message>
+        <source>Right side recipe index</source>
+        <translation>오른쪽 레시피 번호</translation>
+    </message>
+    <message>
+        <source>Right side pallet count</source>
+        <translation>오른쪽 팔레트 수</translation>
+    </message>
+    <message>
+        <source>Right side pallet total count</source>
+        <translation>오른쪽 팔레트 총수</translation>
+    </message>
+    <message>
+        <source>Right side current layer</source>
+        <translation>오른쪽 현재 단</translation>
+    </message>
+    <message>
+        <source>Right side current layer count</source>
+        <translation>오른쪽 현재 단 수</translation>
+    </message>
+    <message>
+        <source>Right side total pallets</source>
+        <translation>오른쪽 총 팔레트</translation>
+    </message>
+    <message>
+        <source>Right side total piled count</source>
+        <translation>오른쪽 총 적재 수</translation>
+    </message>
+    <message>
+        <source>Right side cycle time</source>
+        <translation>오른쪽 사이클 시간</translation>
+    </message>
+    <message>
+        <source>Right side box height</source>
+        <translation>오른쪽 박스 높이</translation>
+    </message>
+    <message>
+        <source>Left: 1, Right: 2</source>
+        <translation>왼쪽: 1, 오른쪽: 2</translation>
+    </message>
+    <message>
+        <source>Left full flag</source>
+        <translation>왼쪽 가득 참 플래그</translation>
+    </message>
+    <message>
+        <source>Right full flag</source>
+        <translation>오른쪽 가득 참 플래그</translation>
+    </message>
+    <message>
+        <source>Lifting column state, 1 up, 0 down</source>
+        <translation>승강 칼럼 상태, 1 위, 0 아래</translation>
+    </message>
+    <message>
+        <source>Using lifting column</source>
+        <translation>승강 칼럼 사용</translation>
+    </message>
+    <message>
+        <source>Stacking maximum height</source>
+        <translation>최대 적재 높이</translation>
+    </message>
+    <message>
+        <source>Maximum height reachable by the robot in the stacking scene</source>
+        <translation>적재 시 로봇이 닿는 최대 높이</translation>
+    </message>
+    <message>
+        <source>Gripping materials</source>
+        <translation>자재 파지 중</translation>
+    </message>
+    <message>
+        <source>StandBy Point Margin</source>
+        <translation>대기 포인트 여유</translation>
+    </message>
+    <message>
+        <source>Lift height</source>
+        <translation>승강 높이</translation>
+    </message>
+    <message>
+        <source>calculate time</source>
+        <translation>시간 계산</translation>
+    </message>
+    <message>
+        <source>box height</source>
+        <translation>박스 높이</translation>
+    </message>
+    <message>
+        <source>current pos</source>
+        <translation>현재 위치</translation>
     </message>
 </context>
 </TS>

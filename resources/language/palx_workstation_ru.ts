@@ -3410,12 +3410,184 @@ Pallet: %4</source>
         <translation>Менеджер проектов</translation>
     </message>
     <message>
-        <source>Left side</source>
-        <translation>Левая сторона</translation>
+        <source>Default</source>
+        <translation>По умолчанию</translation>
     </message>
     <message>
-        <source>Right side</source>
-        <translation>Правая сторона</translation>
+        <source>Main Function</source>
+        <translation>Главная функция</translation>
+    </message>
+    <message>
+        <source>Back Home</source>
+        <translation>Возврат в исходное</translation>
+    </message>
+    <message>
+        <source>Init</source>
+        <translation>Инициализация</translation>
+    </message>
+    <message>
+        <source>Left Stack</source>
+        <translation>Левый штабель</translation>
+    </message>
+    <message>
+        <source>Right Stack</source>
+        <translation>Правый штабель</translation>
+    </message>
+    <message>
+        <source>Helper Function</source>
+        <translation>Вспомогательная функция</translation>
+    </message>
+    <message>
+        <source>Conveyor belt inspection</source>
+        <translation>Контроль конвейера</translation>
+    </message>
+    <message>
+        <source>Palletizing status detection</source>
+        <translation>Контроль укладки</translation>
+    </message>
+    <message>
+        <source>Program - Estop - Collision</source>
+        <translation>Программа - аварийный стоп - столкновение</translation>
+    </message>
+    <message>
+        <source>Anomaly detection</source>
+        <translation>Контроль отклонений</translation>
+    </message>
+    <message>
+        <source>Lifting column status detection</source>
+        <translation>Контроль подъёмной колонны</translation>
+    </message>
+    <message>
+        <source>Enable left-side stacking</source>
+        <translation>Разрешить укладку слева</translation>
+    </message>
+    <message>
+        <source>Enable right-side stacking</source>
+        <translation>Разрешить укладку справа</translation>
+    </message>
+    <message>
+        <source>Left side recipe index</source>
+        <translation>Слева: номер рецепта</translation>
+    </message>
+    <message>
+        <source>Left side pallet count</source>
+        <translation>Слева: счётчик паллеты</translation>
+    </message>
+    <message>
+        <source>Left side pallet total count</source>
+        <translation>Слева: всего на паллете</translation>
+    </message>
+    <message>
+        <source>Left side current layer</source>
+        <translation>Слева: текущий слой</translation>
+    </message>
+    <message>
+        <source>Left side current layer count</source>
+        <translation>Слева: счётчик текущего слоя</translation>
+    </message>
+    <message>
+        <source>Left side total pallets</source>
+        <translation>Слева: всего паллет</translation>
+    </message>
+    <message>
+        <source>Left side total piled count</source>
+        <translation>Слева: всего уложено</translation>
+    </message>
+    <message>
+        <source>Left side cycle time</source>
+        <translation>Слева: время цикла</translation>
+    </message>
+    <message>
+        <source>Left side box height</source>
+        <translation>Слева: высота коробки</translation>
+    </message>
+    <message>
+        <source>Right side recipe index</source>
+        <translation>Справа: номер рецепта</translation>
+    </message>
+    <message>
+        <source>Right side pallet count</source>
+        <translation>Справа: счётчик паллеты</translation>
+    </message>
+    <message>
+        <source>Right side pallet total count</source>
+        <translation>Справа: всего на паллете</translation>
+    </message>
+    <message>
+        <source>Right side current layer</source>
+        <translation>Справа: текущий слой</translation>
+    </message>
+    <message>
+        <source>Right side current layer count</source>
+        <translation>Справа: счётчик текущего слоя</translation>
+    </message>
+    <message>
+        <source>Right side total pallets</source>
+        <translation>Справа: всего паллет</translation>
+    </message>
+    <message>
+        <source>Right side total piled count</source>
+        <translation>Справа: всего уложено</translation>
+    </message>
+    <message>
+        <source>Right side cycle time</source>
+        <translation>Справа: время цикла</translation>
+    </message>
+    <message>
+        <source>Right side box height</source>
+        <translation>Справа: высота коробки</translation>
+    </message>
+    <message>
+        <source>Left: 1, Right: 2</source>
+        <translation>Слева: 1, справа: 2</translation>
+    </message>
+    <message>
+        <source>Left full flag</source>
+        <translation>Признак: левая полна</translation>
+    </message>
+    <message>
+        <source>Right full flag</source>
+        <translation>Признак: правая полна</translation>
+    </message>
+    <message>
+        <source>Lifting column state, 1 up, 0 down</source>
+        <translation>Подъёмная колонна: 1 вверху, 0 внизу</translation>
+    </message>
+    <message>
+        <source>Using lifting column</source>
+        <translation>Подъёмная колонна в работе</translation>
+    </message>
+    <message>
+        <source>Stacking maximum height</source>
+        <translation>Наибольшая высота укладки</translation>
+    </message>
+    <message>
+        <source>Maximum height reachable by the robot in the stacking scene</source>
+        <translation>Наибольшая высота, доступная роботу при укладке</translation>
+    </message>
+    <message>
+        <source>Gripping materials</source>
+        <translation>Груз захвачен</translation>
+    </message>
+    <message>
+        <source>StandBy Point Margin</source>
+        <translation>Допуск точки ожидания</translation>
+    </message>
+    <message>
+        <source>Lift height</source>
+        <translation>Высота подъёма</translation>
+    </message>
+    <message>
+        <source>calculate time</source>
+        <translation>измерение времени</translation>
+    </message>
+    <message>
+        <source>box height</source>
+        <translation>высота коробки</translation>
+    </message>
+    <message>
+        <source>current pos</source>
+        <translation>текущее положение</translation>
     </message>
 </context>
 </TS>
