@@ -1,6 +1,7 @@
 // The command line of the palletizing workstation; docs/command-line.md says what each command does.
 
 #include "demo.h"
+#include "layout_options.h"
 #include "project_options.h"
 #include "recipe_commands.h"
 #include "render.h"
@@ -191,6 +192,7 @@ int run(int argc, char **argv)
     addRecipeCommand(app, arguments, "check", "check recipes; print repairs, refusals and warnings",
                      &cli::runCheck);
     cli::addProjectCommands(app, &arguments.command);
+    cli::addLayoutCommands(app, &arguments.command);
     addRender(app, arguments);
     addScreenshots(app, arguments);
     addDemo(app, arguments);
