@@ -12,19 +12,15 @@ constexpr int kGap = 6;
 constexpr int kTick = 28;
 constexpr double kRadius = 8;
 
-/// Draws a text at an end of the rectangle and takes its height off.
-void paintText(QPainter *painter, QRect *rest, const QString &text, Qt::Edge edge)
+constexpr int kFlags = Qt::TextWordWrap | Qt::AlignHCenter;
+
+/// Draws a text at the lower end of the rectangle and takes its height off.
+void paintBelow(QPainter *painter, QRect *rest, const QString &text)
 {
-    const QRect needed = painter->boundingRect(*rest, Qt::TextWordWrap | Qt::AlignHCenter, text);
     QRect target = *rest;
-    if (edge == Qt::TopEdge) {
-        target.setHeight(needed.height());
-        rest->setTop(target.bottom() + kGap);
-    } else {
-        target.setTop(rest->bottom() - needed.height());
-        rest->setBottom(target.top() - kGap);
-    }
-    painter->drawText(target, Qt::TextWordWrap | Qt::AlignHCenter, text);
+    target.setTop(rest->bottom() - painter->boundingRect(*rest, kFlags, text).height());
+    painter->drawText(target, kFlags, text);
+    rest->setBottom(target.top() - kGap);
 }
 
 } // namespace
@@ -106,26 +102,28 @@ void LayoutPreview::paintTexts(QPainter *painter, QRect *rest) const
     bold.setBold(true);
     painter->setFont(bold);
     QRect title = *rest;
+    title.setHeight(2 *
+                    painter->fontMetrics().lineSpacing()); // the same for all, so that plans stand in a row
+    rest->setTop(title.bottom() + kGap);
     title.adjust(kTick, 0, -kTick, 0); // room for the tick
-    paintText(painter, &title, text(), Qt::TopEdge);
-    rest->setTop(qMax(title.top(), rest->top() + kTick + kGap));
+    painter->drawText(title, Qt::TextWordWrap | Qt::AlignCenter, text());
     painter->setFont(font());
-    if (!warning_.isEmpty()) {
-        const QRect before = *rest;
-        QRect measured = *rest;
-        painter->save();
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(ix::xtheme::color(ix::xtheme::State::Attention));
-        const QRect needed = painter->boundingRect(before, Qt::TextWordWrap | Qt::AlignHCenter, warning_);
-        measured.setTop(before.bottom() - needed.height() - kGap);
-        painter->drawRoundedRect(measured, kRadius, kRadius);
-        painter->restore();
-        painter->setPen(ix::xtheme::textColor(ix::xtheme::State::Attention));
-        rest->setBottom(rest->bottom() - kGap / 2);
-        paintText(painter, rest, warning_, Qt::BottomEdge);
-        painter->setPen(palette().color(group, QPalette::Text));
-    }
-    paintText(painter, rest, facts_, Qt::BottomEdge);
+    if (!warning_.isEmpty())
+        paintWarning(painter, rest);
+    painter->setPen(palette().color(group, QPalette::Text));
+    paintBelow(painter, rest, facts_);
+}
+
+void LayoutPreview::paintWarning(QPainter *painter, QRect *rest) const
+{
+    QRect ground = *rest;
+    ground.setTop(rest->bottom() - painter->boundingRect(*rest, kFlags, warning_).height() - kGap);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(ix::xtheme::color(ix::xtheme::State::Attention));
+    painter->drawRoundedRect(ground, kRadius, kRadius);
+    painter->setPen(ix::xtheme::textColor(ix::xtheme::State::Attention));
+    rest->setBottom(rest->bottom() - kGap / 2);
+    paintBelow(painter, rest, warning_);
 }
 
 void LayoutPreview::paintEvent(QPaintEvent *)

@@ -32,10 +32,10 @@ protected:
 
 private:
     void forgetPlan();
-    QRect textRect() const;
     const QPixmap &plan(const QSize &size);
     void paintFrame(QPainter *painter) const;
     void paintTexts(QPainter *painter, QRect *rest) const;
+    void paintWarning(QPainter *painter, QRect *rest) const;
 
     PatternScene *scene_ = nullptr;
     QString facts_;
