@@ -33,7 +33,8 @@ struct Language
     ~Language() { choose(""); }
     static void choose(const char *key)
     {
-        nexo::ManagerHelper::instance()->registQrcAlias(QStringLiteral("palx_workstation"));
+        for (const char *alias : {"palx_host", "palx_workstation"})
+            nexo::ManagerHelper::instance()->registQrcAlias(QLatin1String(alias));
         nexo::SettingManager::instance()->setOverride(QStringLiteral("language"), QLatin1String(key));
         QCoreApplication::sendPostedEvents(); // windows are told by an event
     }
@@ -73,6 +74,13 @@ QStringList ownTexts(const QWidget *widget)
     return texts;
 }
 
+/// Without what a width decides: where a shortened text ends.
+QString beforeEllipsis(const QString &text)
+{
+    constexpr int kSurelyShown = 20;
+    return text.contains(QChar(0x2026)) ? text.left(kSurelyShown) : text;
+}
+
 /// "name: text" of all widgets below one, in their order.
 QStringList allTexts(const QWidget *root)
 {
@@ -82,7 +90,7 @@ QStringList allTexts(const QWidget *root)
             continue; // insides of Qt's own widgets
         for (const QString &text : ownTexts(widget))
             if (!text.isEmpty())
-                texts << widget->objectName() + QStringLiteral(": ") + text;
+                texts << widget->objectName() + QStringLiteral(": ") + beforeEllipsis(text);
     }
     return texts;
 }
