@@ -113,7 +113,11 @@ MoveToDialog::MoveToDialog(const ModuleObject *motion, ModuleObject *point, QWid
     ui_->btnClose->setFocus(); // nothing moves by a key that was meant for something else
 }
 
-MoveToDialog::~MoveToDialog() = default;
+/// The button is let go while there is a move to stop; being hidden later would come too late for that.
+MoveToDialog::~MoveToDialog()
+{
+    ui_->btnHold->letGo();
+}
 
 QVector<MoveToDialog::Row> MoveToDialog::makeRows(QGridLayout *grid, const QString &name, int count)
 {
