@@ -1,0 +1,7 @@
+#include "workstation/progress.h"
+
+namespace palx {
+
+Progress::~Progress() = default;
+
+} // namespace palx
