@@ -9,18 +9,14 @@ namespace controller {
 
 namespace {
 
-constexpr double kSampleWay = 0.005;        // [m]
-constexpr double kSampleAngle = radians(1); // of the tool or of a joint
-constexpr double kMaxJump = radians(15);    // a joint between two samples; more is a turn at one place
-constexpr int kMaxSamples = 1000;           // a way of 5 m
-constexpr int kMinSamples = 20;             // enough to see how the joints bend on a short way
-constexpr double kSampleMargin = 0.95;      // limits may be touched between two samples
+constexpr int kMaxSamples = 1000;      // a way of 5 m
+constexpr double kSampleMargin = 0.95; // limits may be touched between two samples
 constexpr double kNothing = 1e-12;
 
-int stepsFor(double way, double angle)
+int stepsFor(double way, double angle, const MotionSampling &sampling)
 {
-    const double steps = std::ceil(std::max(way / kSampleWay, angle / kSampleAngle));
-    return std::clamp(static_cast<int>(steps), kMinSamples, kMaxSamples);
+    const double steps = std::ceil(std::max(way / sampling.way, angle / sampling.angle));
+    return std::clamp(static_cast<int>(steps), sampling.least, kMaxSamples);
 }
 
 double largestTurn(const Joints &a, const Joints &b)
@@ -31,10 +27,10 @@ double largestTurn(const Joints &a, const Joints &b)
     return turn;
 }
 
-QString jumpFault(const Joints &a, const Joints &b, double share)
+QString jumpFault(const Joints &a, const Joints &b, double share, double maxJump)
 {
     for (std::size_t i = 0; i < a.size(); ++i)
-        if (std::abs(a[i] - b[i]) > kMaxJump)
+        if (std::abs(a[i] - b[i]) > maxJump)
             return Texts::tr("after %1 % of the straight way joint %2 would turn by %3° at one place")
                 .arg(100 * share, 0, 'f', 0)
                 .arg(i + 1)
@@ -86,22 +82,23 @@ double toolWay(const std::vector<Joints> &samples, const Pose &tool)
 
 } // namespace
 
-bool MotionPlan::make(const MotionWish &wish, const Joints &from, MotionPlan *plan, QString *why)
+bool MotionPlan::make(const MotionWish &wish, const Joints &from, MotionPlan *plan, QString *why,
+                      const MotionSampling &sampling)
 {
     MotionPlan made;
     made.wish_ = wish;
     made.start_ = arm::forward(from) * wish.tool;
-    if (!(wish.straight ? made.sampleStraight(from, why) : made.sampleJoints(from, why)))
+    if (!(wish.straight ? made.sampleStraight(from, sampling, why) : made.sampleJoints(from, sampling, why)))
         return false;
     made.limit();
     *plan = std::move(made);
     return true;
 }
 
-bool MotionPlan::sampleStraight(const Joints &from, QString *why)
+bool MotionPlan::sampleStraight(const Joints &from, const MotionSampling &sampling, QString *why)
 {
     const int steps = stepsFor((wish_.target.translation() - start_.translation()).norm(),
-                               angleBetween(wish_.target.linear(), start_.linear()));
+                               angleBetween(wish_.target.linear(), start_.linear()), sampling);
     samples_.push_back(from);
     for (int k = 1; k <= steps; ++k) {
         const double share = static_cast<double>(k) / steps;
@@ -111,7 +108,7 @@ bool MotionPlan::sampleStraight(const Joints &from, QString *why)
                 *why = Texts::tr("after %1 % of the straight way: %2").arg(100 * share, 0, 'f', 0).arg(*why);
             return false;
         }
-        *why = jumpFault(joints, samples_.back(), share);
+        *why = jumpFault(joints, samples_.back(), share, sampling.maxJump);
         if (!why->isEmpty())
             return false;
         samples_.push_back(joints);
@@ -119,12 +116,12 @@ bool MotionPlan::sampleStraight(const Joints &from, QString *why)
     return true;
 }
 
-bool MotionPlan::sampleJoints(const Joints &from, QString *why)
+bool MotionPlan::sampleJoints(const Joints &from, const MotionSampling &sampling, QString *why)
 {
     Joints goal;
     if (!arm::inverse(wish_.target * wish_.tool.inverse(), from, &goal, why))
         return false;
-    const int steps = stepsFor(0, largestTurn(from, goal));
+    const int steps = stepsFor(0, largestTurn(from, goal), sampling);
     for (int k = 0; k <= steps; ++k)
         samples_.push_back(mix(from, goal, static_cast<double>(k) / steps));
     return true;
@@ -159,13 +156,18 @@ void MotionPlan::limit()
         profile_ = Trapezoid(1, speed, acceleration);
 }
 
-Pose MotionPlan::flangeAt(double share) const
+Pose MotionPlan::toolAt(double share) const
 {
     const Eigen::Quaterniond a(start_.linear());
     Pose tool = Pose::Identity();
     tool.translation() = start_.translation() + share * (wish_.target.translation() - start_.translation());
     tool.linear() = a.slerp(share, Eigen::Quaterniond(wish_.target.linear())).toRotationMatrix();
-    return tool * wish_.tool.inverse();
+    return tool;
+}
+
+Pose MotionPlan::flangeAt(double share) const
+{
+    return toolAt(share) * wish_.tool.inverse();
 }
 
 Joints MotionPlan::sampleAt(double share) const

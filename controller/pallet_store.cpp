@@ -74,6 +74,12 @@ const Node *PalletStore::at(int index) const
     return index >= 0 && index < count() ? recipes_[static_cast<std::size_t>(index)].data.get() : nullptr;
 }
 
+std::shared_ptr<const Node> PalletStore::shared(const QString &name) const
+{
+    const int index = indexOf(name);
+    return index < 0 ? nullptr : recipes_[static_cast<std::size_t>(index)].data;
+}
+
 QString PalletStore::setOne(Node &recipe)
 {
     const QString why = recipeFault(recipe);

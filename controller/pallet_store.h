@@ -28,6 +28,8 @@ public:
     /// Null when there is none of that name or index.
     const orba::Node *find(const QString &name) const;
     const orba::Node *at(int index) const;
+    /// The same, to be held on to: a recipe that is stored anew is another object.
+    std::shared_ptr<const orba::Node> shared(const QString &name) const;
     /// One entry for each recipe, see host::RecipeSummary.
     orba::Node summaries() const;
 

@@ -1,0 +1,366 @@
+#include "controller/cell/world.h"
+
+#include <algorithm>
+
+namespace controller::cell {
+
+namespace {
+
+constexpr double kLiftOff =
+    0.020; // [m] a product that was raised so far does not lie in front of the sensor any more
+constexpr double kLoseAfter = 0.5; // [s] carried for so long, a product may fall off
+constexpr double kUpright = radians(0.5);
+constexpr double kOntoPallet = 0.1; // [m] what falls further lands on the floor
+
+std::string millimetres(double metres)
+{
+    return std::to_string(std::llround(metres * 1000)) + " mm";
+}
+
+} // namespace
+
+World::World(std::uint64_t seed, WorldListener *listener) : listener_(listener), conveyor_(seed)
+{
+    signals_.setListener([this](bool isOutput, int index, bool on) {
+        touch();
+        listener_->signalChanged(isOutput, index, on);
+    });
+    for (const int first : in::kScannerFirst)
+        for (int i = 0; i < in::kScannerChannels; ++i)
+            signals_.setInput(first + i, true); // nobody is there
+    tool_ = raised(way_.toolPose());
+    showSensors();
+}
+
+// ---------------------------------------------------------------- time
+
+void World::tick()
+{
+    ++ticks_;
+    signals_.advance(now());
+    if (drive_.needsTime()) {
+        drive_.advance(kTick);
+        touch();
+    }
+    moveRobot();
+    moveGripper();
+    moveConveyor();
+    showSensors();
+}
+
+bool World::needsTime() const
+{
+    const bool isBeltOn = signals_.output(out::kConveyorForward) || signals_.output(out::kConveyorReverse);
+    return way_.isMoving() || drive_.needsTime() || gripper_.carries() || gripper_.isChanging() ||
+           signals_.output(out::kSuction) || signals_.hasPulses() || isBeltOn;
+}
+
+void World::showSensors()
+{
+    for (int side = 0; side < 2; ++side)
+        signals_.setInput(in::kPallet[side], pallet(side).isInPlace());
+    signals_.setInput(in::kAirPressure, gripper_.hasVacuum());
+    signals_.setInput(in::kProduct, conveyor_.hasProduct());
+}
+
+// ---------------------------------------------------------------- robot
+
+/// From the robot's base into the cell: the lift column carries the base.
+Pose World::raised(const Pose &inBase) const
+{
+    Pose pose = inBase;
+    pose.translation().z() += drive_.heightMm() / 1000;
+    return pose;
+}
+
+void World::moveRobot()
+{
+    way_.advance(kTick);
+    const Pose now = raised(way_.toolPose());
+    if (gripper_.carries()) {
+        const Block from = gripper_.carriedAt(tool_).block;
+        const Block to = gripper_.carriedAt(now).block;
+        if (from.pose.matrix() != to.pose.matrix())
+            watchWay(from, to.pose);
+        carriedFor_ += kTick;
+        if (!liftedOff_ && to.bottom() > waitingBottom_ + kLiftOff) {
+            liftedOff_ = true;
+            conveyor_.take(2 * to.half.x());
+        }
+    }
+    tool_ = now;
+    if (way_.isReached() != wasReached_ || way_.hasRoom() != hadRoom_ || way_.isMoving() != wasMoving_)
+        touch();
+    wasReached_ = way_.isReached();
+    hadRoom_ = way_.hasRoom();
+    wasMoving_ = way_.isMoving();
+}
+
+Body World::column() const
+{
+    Body column{Body::Kind::Column, 0, 0, 0, {}};
+    const double top = drive_.heightMm() / 1000 + kFootHeight;
+    const double bottom = std::min(floor(), 0.0);
+    column.block.half = Vector(kColumnHalf, kColumnHalf, (top - bottom) / 2);
+    column.block.pose.translation().z() = (top + bottom) / 2;
+    return column;
+}
+
+double World::floor() const
+{
+    double lowest = 0;
+    for (const PalletPlace &pallet : pallets_)
+        if (pallet.plan())
+            lowest = std::min(lowest, pallet.plan()->floor());
+    return lowest;
+}
+
+void World::watchWay(const Block &from, const Pose &to)
+{
+    const auto check = [&](const Body &body) {
+        if (hitsOnWay(from, to, body.block, kTouch))
+            hit(body);
+    };
+    const Block end{to, from.half};
+    const double lowest = std::min(from.bottom(), end.bottom());
+    for (const PalletPlace &pallet : pallets_)
+        if (pallet.top() > lowest)
+            pallet.visit(check);
+    check(column());
+    Body waiting;
+    if (waitingBox(&waiting) && liftedOff_)
+        check(waiting);
+    if (lowest < floor() - kTouch)
+        hit({Body::Kind::Floor, 0, 0, 0, {}});
+}
+
+/// Once for each product that is carried and each body.
+void World::hit(const Body &body)
+{
+    const std::string name = nameOf(body);
+    if (std::find(hitNow_.begin(), hitNow_.end(), name) != hitNow_.end())
+        return;
+    hitNow_.push_back(name);
+    violate(way_.where(), "the carried box hits " + name, "carried box", name);
+}
+
+void World::violate(const script::Location &where, std::string what, std::string first, std::string second)
+{
+    Violation violation{now(), where, layer_, piece_, std::move(what), {std::move(first), std::move(second)}};
+    if (gripper_.carries()) {
+        const Body carried = gripper_.carriedAt(tool_);
+        violation.layer = carried.layer;
+        violation.piece = carried.piece;
+    }
+    violations_.push_back(violation);
+    listener_->violated(violation);
+}
+
+// ---------------------------------------------------------------- gripper
+
+void World::moveGripper()
+{
+    const bool falls =
+        hasFault(Fault::LostBox) && gripper_.carries() && liftedOff_ && carriedFor_ >= kLoseAfter;
+    if (falls) {
+        setFault(Fault::LostBox, false);
+        lose("falls off the gripper");
+    }
+    const bool canHold = !hasFault(Fault::NoVacuum);
+    switch (gripper_.advance(kTick, signals_.output(out::kSuction), canHold)) {
+    case Gripper::Event::None:
+        break;
+    case Gripper::Event::Grip:
+        grip();
+        break;
+    case Gripper::Event::LetGo:
+        letGo();
+        break;
+    }
+}
+
+void World::grip()
+{
+    Body box;
+    if (!waitingBox(&box) || !Gripper::reaches(tool_, box.block))
+        return;
+    box = {Body::Kind::Box, plan_->side(), layer_, piece_, box.block};
+    waitingBottom_ = box.block.bottom();
+    gripper_.grip(box, tool_);
+    carriedPlan_ = plan_;
+    carriedFor_ = 0;
+    liftedOff_ = false;
+    hitNow_.clear();
+}
+
+void World::letGo()
+{
+    if (!liftedOff_) {
+        gripper_.letGo(); // it stays where it was
+        liftedOff_ = true;
+        return;
+    }
+    if (way_.isMoving() && !signals_.output(out::kSuction)) {
+        violate(way_.where(), "the box is let go while the robot moves");
+        return lose("is dropped");
+    }
+    if (signals_.output(out::kSuction))
+        return lose("falls off the gripper");
+    Body box = gripper_.carriedAt(tool_);
+    settle(std::move(box));
+    gripper_.letGo();
+}
+
+void World::lose(const char *how)
+{
+    const Body box = gripper_.letGo();
+    ++lost_;
+    listener_->happened(nameOf(box) + " " + how);
+}
+
+/// What was let go sinks onto what is below it and stays there.
+void World::settle(Body box)
+{
+    std::vector<const Block *> others;
+    pallet(box.side).visit([&others](const Body &body) { others.push_back(&body.block); });
+    const double tilt = std::acos(std::min(1.0, box.block.pose.linear()(2, 2)));
+    if (tilt > kUpright)
+        violate(way_.where(),
+                "the box is put down tilted by " + std::to_string(std::lround(degrees(tilt))) + " degrees");
+    const Support support = supportOf(box.block, others, floor());
+    if (support.fall > kMaxFall)
+        violate(way_.where(), "the box falls " + millimetres(support.fall));
+    else if (support.share < kMinSupport || !support.holdsCentre)
+        violate(way_.where(), "the box tips: " + std::to_string(std::lround(100 * support.share)) +
+                                  " % of its bottom is carried");
+    if (support.fall > kOntoPallet) {
+        ++lost_;
+        listener_->happened(nameOf(box) + " falls to the floor");
+        return;
+    }
+    box.block.pose.translation().z() -= support.fall;
+    Pose point;
+    QString why;
+    if (!carriedPlan_->point(script::PalletPoint::Wobj, box.layer, box.piece, &point, &why))
+        return;
+    listener_->happened(nameOf(box) + " rests");
+    pallet(box.side).put(box, point);
+}
+
+// ---------------------------------------------------------------- conveyor, pallets
+
+void World::moveConveyor()
+{
+    const int direction = signals_.output(out::kConveyorForward) - signals_.output(out::kConveyorReverse);
+    if (liftedOff_) // while a product is being gripped it blocks the belt
+        conveyor_.advance(kTick, direction);
+}
+
+/// The product at the stop: lying so that the pick point of the recipe in use fits it.
+bool World::waitingBox(Body *box) const
+{
+    Pose point;
+    QString why;
+    if (!plan_ || !conveyor_.hasProduct() || !plan_->point(script::PalletPoint::GetWobj, 1, 1, &point, &why))
+        return false;
+    *box = {Body::Kind::WaitingBox, 0, 0, 0, plan_->productAt(point)};
+    return true;
+}
+
+void World::aim(std::shared_ptr<const RecipePlan> plan, int layer, int piece)
+{
+    if (plan_ != plan)
+        pallet(plan->side()).follow(plan);
+    plan_ = std::move(plan);
+    layer_ = layer;
+    piece_ = piece;
+    pallet(plan_->side()).laySheetsBelow(layer);
+    touch();
+}
+
+void World::setInput(int index, bool on)
+{
+    signals_.setInput(index, on);
+    showSensors(); // sensors show what is there, whatever was asked for
+}
+
+void World::bringPallet(int side)
+{
+    pallet(side).clear();
+    pallet(side).setInPlace(true);
+    showSensors();
+}
+
+void World::takePallet(int side)
+{
+    pallet(side).clear();
+    pallet(side).setInPlace(false);
+    showSensors();
+}
+
+// ---------------------------------------------------------------- faults
+
+void World::setFault(Fault fault, bool on)
+{
+    if (hasFault(fault) == on)
+        return;
+    faults_.set(static_cast<std::size_t>(fault), on);
+    touch();
+    listener_->happened(faultName(fault).toStdString() + (on ? " on" : " off"));
+    if (fault == Fault::ConveyorJam)
+        conveyor_.setJammed(on);
+    if (fault == Fault::PalletPulled)
+        pullPallets(on);
+    if (fault == Fault::EStop && on)
+        drive_.cutPower();
+}
+
+void World::pullPallets(bool away)
+{
+    if (away)
+        pulledSide_ = plan_ ? plan_->side() : 0;
+    pallet(pulledSide_).setInPlace(!away);
+    showSensors();
+}
+
+void World::cutPower()
+{
+    listener_->happened("power cut");
+    if (gripper_.carries()) {
+        if (liftedOff_)
+            lose("falls off the gripper");
+        else
+            gripper_.letGo();
+    }
+    liftedOff_ = true;
+    drive_.cutPower();
+    way_ = Way(way_.joints());
+    signals_.switchOutputsOff();
+    faults_.reset(static_cast<std::size_t>(Fault::Collision));
+    touch();
+}
+
+// ---------------------------------------------------------------- keeping
+
+orba::Node World::saved() const
+{
+    orba::Node kept;
+    for (int side = 0; side < 2; ++side)
+        kept.ensure(QStringLiteral("pallets.#%1").arg(side))->assign(pallet(side).saved());
+    kept.ensure(u"column")->setDouble(drive_.heightMm());
+    kept.ensure(u"belt_seed")->setInt(static_cast<qint64>(conveyor_.seed()));
+    kept.ensure(u"belt_ahead")->setDouble(conveyor_.ahead());
+    kept.ensure(u"lost")->setInt(lost_);
+    return kept;
+}
+
+void World::restoreRest(const orba::Node &kept)
+{
+    drive_.standAt(std::clamp(kept.getDouble(u"column"), 0.0, Drive::kStrokeMm));
+    conveyor_.restore(static_cast<std::uint64_t>(kept.getInt(u"belt_seed")), kept.getDouble(u"belt_ahead"));
+    lost_ = static_cast<int>(kept.getInt(u"lost"));
+    tool_ = raised(way_.toolPose());
+    showSensors();
+}
+
+} // namespace controller::cell
