@@ -9,6 +9,7 @@ namespace {
 
 /// Shorter moves only turn the tool; there is no corner to round.
 constexpr double kNoWay = 1e-6;
+constexpr double kSameRate = 1e-9;
 
 /// Seconds that a profile needs for its last `part`.
 double secondsFromEnd(const Trapezoid &profile, double part)
@@ -108,6 +109,8 @@ double Way::rateStep(double seconds)
     const double change = seconds / kStopTime;
     const double wished = isPaused_ || isDropping_ ? 0 : 1;
     rate_ = legs_.empty() ? wished : std::clamp(wished, rate_ - change, rate_ + change);
+    if (std::abs(rate_ - wished) < kSameRate)
+        rate_ = wished;
     return (before + rate_) / 2 * seconds;
 }
 
