@@ -15,8 +15,11 @@ struct Root
     const char16_t *path;
     bool inParts;
 };
-constexpr Root kRoots[] = {
-    {u"nexo.r", true}, {u"nexo.robot", false}, {u"quill.project", true}, {u"quill.body.toolset", true}};
+constexpr Root kRoots[] = {{u"nexo.r", true},
+                           {u"nexo.robot", false},
+                           {u"nexo.cell", true},
+                           {u"quill.project", true},
+                           {u"quill.body.toolset", true}};
 
 bool canBePathKey(Name name)
 {

@@ -58,7 +58,8 @@ void loadTask(const Node &record, const QString &folder, const std::vector<scrip
     const Node *files = record.child(QStringView(u"files"));
     for (int i = 0; files && i < files->size(); ++i) {
         script::Source source;
-        const QString why = files->at(i) ? readSource(place, fileOf(*files->at(i), place), &source) : QString();
+        const QString why =
+            files->at(i) ? readSource(place, fileOf(*files->at(i), place), &source) : QString();
         if (!why.isEmpty())
             return complain(source.file, why);
         sources.push_back(std::move(source));
@@ -77,8 +78,9 @@ QString toText(const TaskProblem &problem)
 {
     const QString task = QString::fromStdString(problem.task);
     if (problem.problem.line == 0)
-        return QStringLiteral("%1/%2: %3").arg(task, QString::fromStdString(problem.problem.file),
-                                               QString::fromStdString(problem.problem.what));
+        return QStringLiteral("%1/%2: %3")
+            .arg(task, QString::fromStdString(problem.problem.file),
+                 QString::fromStdString(problem.problem.what));
     return task + QLatin1Char('/') + QString::fromStdString(script::toText(problem.problem));
 }
 

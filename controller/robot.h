@@ -35,6 +35,9 @@ public:
     /// `seconds` of real time for the button, `factor` times as many for the arm.
     void advance(double seconds, double factor);
 
+    /// A program moved the arm meanwhile; not while a move of the operator runs.
+    void standAt(const Joints &joints) { joints_ = joints; }
+
     bool isMoving() const { return run_.has_value(); }
     /// Number of the move that was taken last; 0: none yet.
     int lastMove() const { return lastMove_; }

@@ -2,6 +2,8 @@
 
 #include "controller/texts.h"
 
+#include <algorithm>
+
 namespace controller {
 
 using cell::Fault;
@@ -12,7 +14,8 @@ namespace {
 
 QString textOf(const script::Location &where)
 {
-    return QStringLiteral("%1 %2:%3").arg(QString::fromStdString(where.task), QString::fromStdString(where.file))
+    return QStringLiteral("%1 %2:%3")
+        .arg(QString::fromStdString(where.task), QString::fromStdString(where.file))
         .arg(where.line);
 }
 
@@ -155,7 +158,23 @@ void Runner::setFault(Fault fault, bool on)
         cell_.world().setFault(fault, on);
 }
 
+void Runner::press(int input, double seconds)
+{
+    cell_.world().setInput(input, true);
+    presses_.push_back({input, cell_.world().now() + seconds});
+}
+
 // ---------------------------------------------------------------- time
+
+void Runner::releaseButtons()
+{
+    const double now = cell_.world().now();
+    const auto over = std::stable_partition(presses_.begin(), presses_.end(),
+                                            [now](const Press &press) { return press.until > now; });
+    for (auto press = over; press != presses_.end(); ++press)
+        cell_.world().setInput(press->input, false);
+    presses_.erase(over, presses_.end());
+}
 
 void Runner::advance(double seconds)
 {
@@ -167,6 +186,7 @@ void Runner::advance(double seconds)
 void Runner::tick()
 {
     cell_.world().tick();
+    releaseButtons();
     followSafety();
     followButtons();
     if (!scheduler_)

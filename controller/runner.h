@@ -32,12 +32,14 @@ public:
     void cutPower();
 
     void setFault(cell::Fault fault, bool on);
+    /// An input is on for so long [s].
+    void press(int input, double seconds);
     /// One tick of simulated time, see cell::World::kTick.
     void tick();
     /// As many ticks as fit; the rest is kept for the next call [s].
     void advance(double seconds);
     /// Whether time changes anything.
-    bool isBusy() const { return state_ != State::Stopped || cell_.world().needsTime(); }
+    bool isBusy() const { return state_ != State::Stopped || !presses_.empty() || cell_.world().needsTime(); }
 
     State state() const { return state_; }
     static const char *stateName(State state);
@@ -53,6 +55,7 @@ public:
 
 private:
     QString blockade() const;
+    void releaseButtons();
     void followButtons();
     void followSafety();
     void followTasks();
@@ -68,6 +71,12 @@ private:
     double rest_ = 0; ///< of time [s]
     bool isStepping_ = false;
     script::Location stepFrom_;
+    struct Press
+    {
+        int input;
+        double until; ///< [s]
+    };
+    std::vector<Press> presses_;
     bool wasPressed_[3] = {}; ///< start, stop, reset
 };
 

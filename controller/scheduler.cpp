@@ -67,8 +67,8 @@ void Scheduler::turns(bool motion)
 
 const script::Executor *Scheduler::motion() const
 {
-    const auto found =
-        std::find_if(slots_.begin(), slots_.end(), [](const Slot &s) { return s.task.info.kind == TaskKind::Motion; });
+    const auto found = std::find_if(slots_.begin(), slots_.end(),
+                                    [](const Slot &s) { return s.task.info.kind == TaskKind::Motion; });
     return found == slots_.end() ? nullptr : &found->executor;
 }
 

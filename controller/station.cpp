@@ -19,7 +19,7 @@ constexpr int kMaxDepth =
 
 /// What the panel is told before anything happened. "built" says of a part of the project that it is in use as it stands.
 constexpr const char *kTree = R"({
-  "nexo": {"r": {"id": "", "version": "", "name": "", "report": []}, "robot": {}},
+  "nexo": {"r": {"id": "", "version": "", "name": "", "report": []}, "robot": {}, "cell": {}},
   "quill": {
     "project": {
       "cur_project": "", "autoload_prj_path": "", "_list": [],
@@ -70,9 +70,11 @@ void setTexts(Node *list, const QStringList &texts)
 Station::Station(StationOptions options)
     : options_(std::move(options)), keeper_(openState(options_.dataFolder, &reports_)),
       start_(keeper_ ? keeper_->load() : StateSnapshot()), tree_(templateTree()), pallets_(start_.recipes),
-      projects_(&project(), start_.projects), mirror_(&tree_)
+      projects_(&project(), start_.projects), desk_(&pallets_, options_.seed), mirror_(&tree_)
 {
+    desk_.setSpeed(options_.speed);
     restore(start_.own ? *start_.own : Node());
+    restoreCell(start_.cell ? *start_.cell : Node());
     start_ = StateSnapshot();
     tree_.set(u"nexo.r.version", options_.version);
     tree_.set(u"nexo.r.name", Texts::tr("Simulated controller"));
@@ -84,6 +86,7 @@ Station::Station(StationOptions options)
         notice("warning", report);
     refreshProjects();
     publishRobot();
+    publishCellNodes();
 }
 
 std::shared_ptr<StateKeeper> Station::openState(const QString &folder, QStringList *reports)
@@ -141,7 +144,8 @@ StateSnapshot Station::takeSnapshot()
     own->ensure(u"tools")->assign(tools_.saved());
     own->ensure(u"joints")->setDoubles(robot_.joints().data(), static_cast<int>(robot_.joints().size()));
     changed_ = false;
-    return {own, pallets_.snapshot(), projects_.snapshot()};
+    auto cell = std::make_shared<Node>(desk_.runner().cell().world().saved());
+    return {own, cell, pallets_.snapshot(), projects_.snapshot()};
 }
 
 void Station::snapshotWritten(const QString &why)
@@ -191,10 +195,12 @@ void Station::written(const QString &path)
         switchProject();
     else
         projects_.follow();
+    desk_.variablesChanged(projects_.variableList());
 }
 
 void Station::switchProject()
 {
+    desk_.leaveProject();
     projects_.exchange();
     setBuilt(false);
     refreshProjects();
@@ -243,6 +249,10 @@ void Station::buildProject()
     const bool isThere = !folder.isEmpty() && QDir(folder).exists();
     setBuilt(key.isEmpty() || isThere);
     refreshProjects();
+    if (isThere) {
+        desk_.check(projectInUse());
+        publishAll();
+    }
     if (!key.isEmpty() && !isThere)
         notice("error", Texts::tr("The project %1 cannot be built: it has no folder in the workspace \"%2\"")
                             .arg(key, options_.workspaceFolder));
@@ -272,13 +282,21 @@ void Station::panelLost()
 
 void Station::advance(double seconds)
 {
-    if (!robot_.isMoving())
+    if (!isBusy())
         return;
-    robot_.advance(seconds, options_.speed);
     sincePublished_ += seconds;
-    changed_ = changed_ || !robot_.isMoving();
-    if (!robot_.isMoving() || sincePublished_ >= kPublishTime)
+    sinceCellPublished_ += seconds;
+    if (robot_.isMoving()) {
+        robot_.advance(seconds, desk_.speed());
+        desk_.runner().cell().world().way().standAt(robot_.joints());
+        changed_ = changed_ || !robot_.isMoving();
+    }
+    desk_.advance(seconds);
+    followRobot();
+    if (!isBusy() || sincePublished_ >= kPublishTime)
         publishRobot();
+    if (!isBusy() || sinceCellPublished_ >= CellDesk::kPublishTime)
+        publishCellNodes();
 }
 
 void Station::publishRobot()
@@ -286,6 +304,11 @@ void Station::publishRobot()
     sincePublished_ = 0;
     Node *node = tree_.find(u"nexo.robot");
     robot_.publish(node);
+    const cell::Way &way = desk_.runner().cell().world().way();
+    if (way.isMoving()) {
+        node->ensure(u"moving")->setBool(true);
+        node->ensure(u"progress")->setDouble(way.progress());
+    }
     node->ensure(u"toolset")->setString(tools_.active());
 }
 

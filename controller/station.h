@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controller/cell_desk.h"
 #include "controller/mirror.h"
 #include "controller/pallet_store.h"
 #include "controller/projects.h"
@@ -16,6 +17,7 @@ struct StationOptions
     QString dataFolder;                        ///< state kept from run to run; empty: nothing is kept
     QString workspaceFolder;                   ///< project folders lie in it, below the robot id
     double speed = 1;                          ///< simulated seconds per second
+    std::uint64_t seed = 1;                    ///< of what varies a little in the cell
 };
 
 /// What the controller is and does, apart from the link: recipes, projects, variables, tools and the robot. Deterministic:
@@ -50,7 +52,12 @@ public:
     /// What to tell besides changes: {"level", "text"} under "controller.notice".
     std::deque<Event> takeEvents();
     /// Whether time matters at the moment.
-    bool isBusy() const { return robot_.isMoving(); }
+    bool isBusy() const { return robot_.isMoving() || desk_.runner().isBusy(); }
+    /// Simulated time alone, as much as is asked for and as fast as it goes.
+    void simulate(double seconds);
+    /// Brings the tree up to date, which advance() does a few times a second.
+    void publishAll();
+    CellDesk &desk() { return desk_; }
 
     /// Whether something changed that is to be kept, since the last snapshot.
     bool isChanged() const { return keeper_ && changed_; }
@@ -99,6 +106,14 @@ private:
     void switchProject();
     void publishRobot();
     void notice(const char *level, const QString &text);
+    ProjectInUse projectInUse();
+    void restoreCell(const orba::Node &kept);
+    void followCell();
+    void followRobot();
+    QString programBlockade() const;
+    void useActiveTool();
+    void afterPowerCut();
+    void publishCellNodes();
     orba::Node &project() { return *tree_.find(u"quill.project"); }
     QString robotId() const { return tree_.getString(u"nexo.r.id"); }
 
@@ -111,9 +126,12 @@ private:
     Projects projects_;
     Toolsets tools_;
     Robot robot_;
+    CellDesk desk_;
     Mirror mirror_;
     std::deque<Event> events_;
-    double sincePublished_ = 0;
+    double sincePublished_ = 0;     ///< of the robot [s]
+    double sinceCellPublished_ = 0; ///< [s]
+    std::uint64_t keptCell_ = 0;    ///< version of what is kept of the cell
     bool changed_ = false;
     QString saveFault_; ///< told last
 };

@@ -46,6 +46,11 @@ Station::Handler Station::handlerOf(const QString &name)
 
 Station::Answer Station::request(const QString &name, Node &payload)
 {
+    if (CellDesk::knows(name)) {
+        Answer answer{desk_.request(name, payload, projectInUse()), Node()};
+        followCell();
+        return answer;
+    }
     const Handler handler = handlerOf(name);
     if (!handler)
         return {Texts::tr("the controller knows no request \"%1\"").arg(name.left(kMaxQuoted)), Node()};
@@ -85,7 +90,10 @@ Station::Answer Station::palletList(Node &)
 
 Station::Answer Station::modifyVariables(Node &payload)
 {
-    return changed(Variables::modify(projects_.variableList(), payload));
+    changed_ = desk_.flushVariables(&projects_.variableList()) || changed_;
+    Answer answer = changed(Variables::modify(projects_.variableList(), payload));
+    desk_.variablesChanged(projects_.variableList());
+    return answer;
 }
 
 Station::Answer Station::removeTasks(Node &payload)
@@ -116,10 +124,12 @@ Station::Answer Station::setAutoload(Node &payload)
 Station::Answer Station::setToolset(Node &payload)
 {
     Answer answer;
-    answer.refusal = robot_.isMoving() ? Texts::tr("the robot is moving") : tools_.activate(payload);
+    const bool isMoving = robot_.isMoving() || desk_.runner().cell().world().way().isMoving();
+    answer.refusal = isMoving ? Texts::tr("the robot is moving") : tools_.activate(payload);
     answer.result.setInt(answer.refusal.isEmpty() ? 0 : -1);
     if (answer.refusal.isEmpty()) {
         tree_.set(u"quill.body.toolset", tools_.active());
+        useActiveTool();
         changed_ = true;
         publishRobot();
     }

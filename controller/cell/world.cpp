@@ -41,6 +41,7 @@ void World::tick()
     if (drive_.needsTime()) {
         drive_.advance(kTick);
         touch();
+        keptVersion_ += drive_.needsTime() ? 0 : 1;
     }
     moveRobot();
     moveGripper();
@@ -215,6 +216,7 @@ void World::lose(const char *how)
 {
     const Body box = gripper_.letGo();
     ++lost_;
+    ++keptVersion_;
     listener_->happened(nameOf(box) + " " + how);
 }
 
@@ -244,6 +246,7 @@ void World::settle(Body box)
     if (!carriedPlan_->point(script::PalletPoint::Wobj, box.layer, box.piece, &point, &why))
         return;
     listener_->happened(nameOf(box) + " rests");
+    ++keptVersion_;
     pallet(box.side).put(box, point);
 }
 
@@ -267,6 +270,13 @@ bool World::waitingBox(Body *box) const
     return true;
 }
 
+bool World::carriedBox(Body *box) const
+{
+    if (gripper_.carries())
+        *box = gripper_.carriedAt(tool_);
+    return gripper_.carries();
+}
+
 void World::aim(std::shared_ptr<const RecipePlan> plan, int layer, int piece)
 {
     if (plan_ != plan)
@@ -288,6 +298,7 @@ void World::bringPallet(int side)
 {
     pallet(side).clear();
     pallet(side).setInPlace(true);
+    ++keptVersion_;
     showSensors();
 }
 
@@ -295,6 +306,7 @@ void World::takePallet(int side)
 {
     pallet(side).clear();
     pallet(side).setInPlace(false);
+    ++keptVersion_;
     showSensors();
 }
 
@@ -320,6 +332,7 @@ void World::pullPallets(bool away)
     if (away)
         pulledSide_ = plan_ ? plan_->side() : 0;
     pallet(pulledSide_).setInPlace(!away);
+    ++keptVersion_;
     showSensors();
 }
 

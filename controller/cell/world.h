@@ -73,6 +73,13 @@ public:
     PalletPlace &pallet(int side) { return pallets_[static_cast<std::size_t>(side)]; }
     const PalletPlace &pallet(int side) const { return pallets_[static_cast<std::size_t>(side)]; }
 
+    /// The product at the conveyor's stop; false when there is none or no recipe says which.
+    bool waitingBox(Body *box) const;
+    /// The product in the gripper; false when there is none.
+    bool carriedBox(Body *box) const;
+    /// Grows with each change of what a restart finds again.
+    std::uint64_t keptVersion() const { return keptVersion_; }
+
     /// The recipe that is stacked, and the piece that comes next. Its side's pallet follows it, the sheets below its layer
     /// are laid, and the conveyor brings its product.
     void aim(std::shared_ptr<const RecipePlan> plan, int layer, int piece);
@@ -118,7 +125,6 @@ private:
     void lose(const char *how);
     void moveConveyor();
     void pullPallets(bool away);
-    bool waitingBox(Body *box) const;
     Body column() const;
     double floor() const;
     void showSensors();
@@ -126,6 +132,7 @@ private:
     WorldListener *listener_;
     std::int64_t ticks_ = 0;
     std::uint64_t version_ = 0;
+    std::uint64_t keptVersion_ = 0;
     Signals signals_;
     Way way_;
     Drive drive_;

@@ -21,7 +21,8 @@ const QString kController = QStringLiteral("nexo.r");
 /// Subtrees that the controller keeps current.
 const QStringList &mirroredTops()
 {
-    static const QStringList tops{kController, QStringLiteral("nexo.robot"), LinkEdits::kProject,
+    static const QStringList tops{kController, QStringLiteral("nexo.robot"), QStringLiteral("nexo.cell"),
+                                  LinkEdits::kProject,
                                   QStringLiteral("quill.body.toolset")};
     return tops;
 }
