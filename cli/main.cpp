@@ -6,6 +6,7 @@
 #include "recipe_commands.h"
 #include "render.h"
 #include "screenshots.h"
+#include "simulate_options.h"
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
@@ -193,6 +194,7 @@ int run(int argc, char **argv)
                      &cli::runCheck);
     cli::addProjectCommands(app, &arguments.command);
     cli::addLayoutCommands(app, &arguments.command);
+    cli::addSimulateCommand(app, &arguments.command);
     addRender(app, arguments);
     addScreenshots(app, arguments);
     addDemo(app, arguments);

@@ -34,7 +34,7 @@ constexpr std::array<Axis, 6> kAxes{{
     {radians(-85), radians(75), radians(125), radians(450)},
     {radians(-350), radians(350), radians(190), radians(900)},
     {radians(-125), radians(125), radians(180), radians(900)},
-    {radians(-350), radians(350), radians(260), radians(1200)},
+    {radians(-450), radians(450), radians(260), radians(1200)},
 }};
 
 /// Where the robot waits: flange looking down at 1.35 m ahead, 1.55 m high.

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kMaxSamples = 1000;      // a way of 5 m
 constexpr double kSampleMargin = 0.95; // limits may be touched between two samples
+constexpr double kHalfTurn = radians(179.99);
 constexpr double kNothing = 1e-12;
 
 int stepsFor(double way, double angle, const MotionSampling &sampling)
@@ -88,18 +89,35 @@ bool MotionPlan::make(const MotionWish &wish, const Joints &from, MotionPlan *pl
     MotionPlan made;
     made.wish_ = wish;
     made.start_ = arm::forward(from) * wish.tool;
-    if (!(wish.straight ? made.sampleStraight(from, sampling, why) : made.sampleJoints(from, sampling, why)))
+    made.turn_ = Eigen::Quaterniond(made.start_.linear().transpose() * wish.target.linear());
+    if (!(wish.straight ? made.sampleEitherWay(from, sampling, why) : made.sampleJoints(from, sampling, why)))
         return false;
     made.limit();
     *plan = std::move(made);
     return true;
 }
 
+/// The shorter turn, or the longer one. Of a half turn, where both are as long, the one that winds the hand up less.
+bool MotionPlan::sampleEitherWay(const Joints &from, const MotionSampling &sampling, QString *why)
+{
+    QString whyLonger;
+    const bool isShort = sampleStraight(from, sampling, why);
+    const bool isHalf = turn_.angle() >= kHalfTurn;
+    if (isShort ? !isHalf : turn_.angle() < kLongTurn)
+        return isShort;
+    MotionPlan longer = *this;
+    longer.turn_.angle() -= 2 * kPi;
+    const bool isLong = longer.sampleStraight(from, sampling, &whyLonger);
+    if (isLong && (!isShort || std::abs(longer.goal()[5]) < std::abs(goal()[5])))
+        *this = std::move(longer);
+    return isShort || isLong;
+}
+
 bool MotionPlan::sampleStraight(const Joints &from, const MotionSampling &sampling, QString *why)
 {
     const int steps = stepsFor((wish_.target.translation() - start_.translation()).norm(),
-                               angleBetween(wish_.target.linear(), start_.linear()), sampling);
-    samples_.push_back(from);
+                               std::abs(turn_.angle()), sampling);
+    samples_.assign(1, from);
     for (int k = 1; k <= steps; ++k) {
         const double share = static_cast<double>(k) / steps;
         Joints joints;
@@ -158,10 +176,9 @@ void MotionPlan::limit()
 
 Pose MotionPlan::toolAt(double share) const
 {
-    const Eigen::Quaterniond a(start_.linear());
     Pose tool = Pose::Identity();
     tool.translation() = start_.translation() + share * (wish_.target.translation() - start_.translation());
-    tool.linear() = a.slerp(share, Eigen::Quaterniond(wish_.target.linear())).toRotationMatrix();
+    tool.linear() = start_.linear() * Eigen::AngleAxisd(share * turn_.angle(), turn_.axis());
     return tool;
 }
 

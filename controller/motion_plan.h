@@ -33,10 +33,12 @@ constexpr MotionSampling kCoarseSampling{0.025, radians(4), radians(40), 8};
 class MotionPlan
 {
 public:
+    static constexpr double kLongTurn = radians(89);
     static constexpr double kMaxSpeed = 2.5;        ///< of the tool's point [m/s]
     static constexpr double kMaxAcceleration = 4.0; ///< of the tool's point on a straight line [m/s^2]
 
-    /// False with a reason and its figure when there is no way; nothing is changed then.
+    /// False with a reason and its figure when there is no way; nothing is changed then. On a straight way the tool turns the
+    /// shorter way round; the longer one where a joint stops a turn by kLongTurn or more.
     static bool make(const MotionWish &wish, const Joints &from, MotionPlan *plan, QString *why,
                      const MotionSampling &sampling = {});
 
@@ -54,13 +56,15 @@ public:
 private:
     Pose flangeAt(double share) const;
     Joints sampleAt(double share) const;
+    bool sampleEitherWay(const Joints &from, const MotionSampling &sampling, QString *why);
     bool sampleStraight(const Joints &from, const MotionSampling &sampling, QString *why);
     bool sampleJoints(const Joints &from, const MotionSampling &sampling, QString *why);
     void limit();
 
     MotionWish wish_;
-    Pose start_ = Pose::Identity(); ///< of the tool's point
-    std::vector<Joints> samples_;   ///< evenly along the way, both ends included
+    Pose start_ = Pose::Identity();              ///< of the tool's point
+    Eigen::AngleAxisd turn_{0, Vector::UnitX()}; ///< of a straight way, about an axis of the tool's point
+    std::vector<Joints> samples_;                ///< evenly along the way, both ends included
     Trapezoid profile_;
 };
 

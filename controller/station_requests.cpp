@@ -147,7 +147,9 @@ Station::Answer Station::checkMotion(Node &payload)
 Station::Answer Station::startMotion(Node &payload)
 {
     Answer answer;
-    answer.refusal = robot_.start(payload, tools_);
+    answer.refusal = programBlockade();
+    if (answer.refusal.isEmpty())
+        answer.refusal = robot_.start(payload, tools_);
     if (answer.refusal.isEmpty())
         answer.result.setInt(robot_.lastMove());
     publishRobot();

@@ -47,7 +47,10 @@ public:
     double now() const override;
     script::MoveAnswer move(const script::Move &move) override;
     script::MoveState moveState() const override;
-    script::Refusal moveFault() const override { return {}; }
+    script::Fault moveFault() const override
+    {
+        return {};
+    } ///< a way that was taken is always gone to its end
     script::Target currentTarget() const override;
     bool input(int index) const override { return world_.signals().input(index); }
     bool output(int index) const override { return world_.signals().output(index); }

@@ -21,15 +21,15 @@ std::string millimetres(double metres)
 
 World::World(std::uint64_t seed, WorldListener *listener) : listener_(listener), conveyor_(seed)
 {
-    signals_.setListener([this](bool isOutput, int index, bool on) {
-        touch();
-        listener_->signalChanged(isOutput, index, on);
-    });
     for (const int first : in::kScannerFirst)
         for (int i = 0; i < in::kScannerChannels; ++i)
             signals_.setInput(first + i, true); // nobody is there
     tool_ = raised(way_.toolPose());
     showSensors();
+    signals_.setListener([this](bool isOutput, int index, bool on) { // who listens may not be complete before
+        touch();
+        listener_->signalChanged(isOutput, index, on);
+    });
 }
 
 // ---------------------------------------------------------------- time
@@ -369,6 +369,8 @@ orba::Node World::saved() const
 
 void World::restoreRest(const orba::Node &kept)
 {
+    if (kept.isNull())
+        return; // nothing was ever kept
     drive_.standAt(std::clamp(kept.getDouble(u"column"), 0.0, Drive::kStrokeMm));
     conveyor_.restore(static_cast<std::uint64_t>(kept.getInt(u"belt_seed")), kept.getDouble(u"belt_ahead"));
     lost_ = static_cast<int>(kept.getInt(u"lost"));

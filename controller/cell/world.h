@@ -40,7 +40,8 @@ public:
 class World
 {
 public:
-    static constexpr double kTick = 0.01; ///< [s]
+    static constexpr int kTicksPerSecond = 100;
+    static constexpr double kTick = 1.0 / kTicksPerSecond; ///< [s]
     /// Half of the square that the lift column and the robot's foot fill [m].
     static constexpr double kColumnHalf = 0.25;
     /// How high the robot's foot stands above its base [m].
@@ -54,7 +55,7 @@ public:
 
     World(std::uint64_t seed, WorldListener *listener);
 
-    double now() const { return static_cast<double>(ticks_) * kTick; }
+    double now() const { return static_cast<double>(ticks_) / kTicksPerSecond; }
     void tick();
     /// Whether a tick changes anything.
     bool needsTime() const;

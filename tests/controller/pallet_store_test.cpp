@@ -158,7 +158,7 @@ protected:
     }
     static bool keep(StateKeeper &keeper, const PalletStore &store, QString *why)
     {
-        return keeper.save({std::make_shared<Node>(nodeFromJson("{}")), store.snapshot(), {}}, why);
+        return keeper.save({std::make_shared<Node>(nodeFromJson("{}")), nullptr, store.snapshot(), {}}, why);
     }
     void save(std::initializer_list<Node> recipes)
     {

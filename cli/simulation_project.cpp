@@ -1,0 +1,118 @@
+#include "simulation_project.h"
+
+#include "controller/in_process_carrier.h"
+#include "project/rules/project_commit.h"
+#include "project/rules/project_record.h"
+#include "project/rules/project_variables.h"
+#include "stack/way_points.h"
+#include "workstation/controller_sync.h"
+#include "workstation/plugin_node.h"
+
+namespace cli {
+namespace {
+
+const QString kProject = QStringLiteral("Simulation");
+
+/// The place of a recipe in the list of its side, as projects and programs name it.
+int indexOnSide(const StackedSide &side)
+{
+    return palx::sideRecipes(palx::stacksNode()->node(), side.side == 0).indexOf(side.recipe);
+}
+
+/// What a person would choose on the project page.
+class Parameters : public palx::ProjectSteps
+{
+public:
+    Parameters(const QVector<StackedSide> &sides, bool withLift)
+    {
+        const int scheme = sides.size() == 2 ? 2 : sides.first().side;
+        values_.ensure(u"scheme_layout")->setInt(scheme);
+        values_.ensure(u"bollard")->setInt(withLift ? 0 : 1);
+        for (const StackedSide &side : sides)
+            values_.ensure(side.side == 0 ? u"left_stack_recipe" : u"right_stack_recipe")
+                ->setInt(indexOnSide(side));
+    }
+    void saveParameters(const QString &name) override { palx::writeProjectParameters(name, values_); }
+    void becameCurrent() override { palx::createProjectVariables(); }
+    void projectsChanged() override {}
+    void showProgress(bool) override {}
+
+private:
+    orba::Node values_;
+};
+
+/// What a person would set on the home page.
+void enable(const StackedSide &side)
+{
+    const QString suffix = side.side == 0 ? QStringLiteral("L") : QStringLiteral("R");
+    int height = 0;
+    for (const orba::ModuleObject *stack : palx::stacksNode()->cmobjs())
+        if (stack->getString("name") == side.recipe)
+            height = qRound(stack->node().getDouble(u"product_cfg.product.height"));
+    palx::setValueOfPERSVar(QStringLiteral("palletIndex") + suffix, QString::number(indexOnSide(side)));
+    palx::setValueOfPERSVar(QStringLiteral("boxHeight") + suffix, QString::number(height));
+    palx::setValueOfPERSVar(QStringLiteral("enableStack") + suffix, QStringLiteral("1"));
+}
+
+} // namespace
+
+bool SimulationProject::make(const SimulateRequest &request)
+{
+    options_.dataFolder = folder_.filePath(QStringLiteral("controller"));
+    options_.workspaceFolder = folder_.filePath(QStringLiteral("workspace"));
+    options_.seed = static_cast<std::uint64_t>(request.seed);
+    const controller::StationOptions controllerOptions = options_;
+    host::SessionOptions options;
+    options.workspaceFolder = options_.workspaceFolder;
+    options.pages = false;
+    options.carrier = [controllerOptions] {
+        return std::make_unique<controller::InProcessCarrier>(
+            std::make_shared<controller::Controller>(controllerOptions));
+    };
+    Session session(options);
+    session.presenter().setAccepting(true);
+    RecipeList stacks;
+    return openRecipes(session, request.recipes, &stacks) && chooseSides(request, stacks) &&
+           fill(session, request);
+}
+
+bool SimulationProject::chooseSides(const SimulateRequest &request, const RecipeList &stacks)
+{
+    for (const int side : {0, 1}) {
+        const QString name = side == 0 ? QStringLiteral("left") : QStringLiteral("right");
+        if (!request.scheme.isEmpty() && request.scheme != name && request.scheme != QLatin1String("both"))
+            continue;
+        const auto found = std::find_if(stacks.begin(), stacks.end(), [side](orba::ModuleObject *stack) {
+            return (stack->node().getInt(u"pallet_position") == 0) == (side == 0);
+        });
+        if (found != stacks.end())
+            sides_.append({side, (*found)->getString("name")});
+        else if (!request.scheme.isEmpty()) {
+            say(QStringLiteral("%1: there is no recipe for the %2 pallet").arg(request.recipes.file, name));
+            return false;
+        }
+    }
+    if (sides_.isEmpty())
+        say(request.recipes.file + QStringLiteral(": there is no recipe"));
+    return !sides_.isEmpty();
+}
+
+bool SimulationProject::fill(Session &session, const SimulateRequest &request)
+{
+    for (orba::ModuleObject *stack : palx::stacksNode()->cmobjs())
+        palx::genStackWayPoints(stack);
+    palx::saveAllToRC(false);
+    if (palx::pluginNode()->c("global_tool")->cmobjCount() > 0)
+        palx::switchToTool();
+    session.presenter().setQuiet(true);
+    Parameters parameters(sides_, request.withLift);
+    if (!palx::addProject(kProject, std::nullopt, &parameters)) {
+        say(QStringLiteral("the project cannot be made"));
+        return false;
+    }
+    for (const StackedSide &side : std::as_const(sides_))
+        enable(side);
+    return true;
+}
+
+} // namespace cli
