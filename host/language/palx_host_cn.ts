@@ -451,6 +451,322 @@
         <source>The project %1 cannot be built: it has no folder in the workspace &quot;%2&quot;</source>
         <translation>无法构建工程 %1：工作区“%2”中没有其文件夹</translation>
     </message>
+    <message>
+        <source>there is no recipe &quot;%1&quot;</source>
+        <translation>没有配方“%1”</translation>
+    </message>
+    <message>
+        <source>the recipe &quot;%1&quot; cannot be used: %2</source>
+        <translation>无法使用配方“%1”：%2</translation>
+    </message>
+    <message>
+        <source>recipe %1</source>
+        <translation>配方 %1</translation>
+    </message>
+    <message>
+        <source>left recipe %1</source>
+        <translation>左侧配方 %1</translation>
+    </message>
+    <message>
+        <source>right recipe %1</source>
+        <translation>右侧配方 %1</translation>
+    </message>
+    <message>
+        <source>there is no %1, there are %2</source>
+        <translation>没有 %1，共有 %2 个</translation>
+    </message>
+    <message>
+        <source>the recipe &quot;%1&quot; has no layer %2, it has %3</source>
+        <translation>配方“%1”没有第 %2 层，共 %3 层</translation>
+    </message>
+    <message>
+        <source>layer %1 of the recipe &quot;%2&quot; has no piece %3, it has %4</source>
+        <translation>配方“%2”的第 %1 层没有第 %3 件，共 %4 件</translation>
+    </message>
+    <message>
+        <source>no pallet point is set yet</source>
+        <translation>尚未设置托盘点</translation>
+    </message>
+    <message>
+        <source>it has no points</source>
+        <translation>没有点</translation>
+    </message>
+    <message>
+        <source>the recipe &quot;%1&quot; has no point &quot;%2&quot; for layer %3, piece %4</source>
+        <translation>配方“%1”没有第 %3 层第 %4 件的点“%2”</translation>
+    </message>
+    <message>
+        <source>in &quot;%1&quot; of the recipe &quot;%2&quot;: %3</source>
+        <translation>配方“%2”的“%1”：%3</translation>
+    </message>
+    <message>
+        <source>its work object needs three calibration points</source>
+        <translation>其工件需要三个标定点</translation>
+    </message>
+    <message>
+        <source>start button</source>
+        <translation>启动按钮</translation>
+    </message>
+    <message>
+        <source>stop button</source>
+        <translation>停止按钮</translation>
+    </message>
+    <message>
+        <source>reset button</source>
+        <translation>复位按钮</translation>
+    </message>
+    <message>
+        <source>left arrow button</source>
+        <translation>左箭头按钮</translation>
+    </message>
+    <message>
+        <source>right arrow button</source>
+        <translation>右箭头按钮</translation>
+    </message>
+    <message>
+        <source>left pallet in place</source>
+        <translation>左托盘到位</translation>
+    </message>
+    <message>
+        <source>right pallet in place</source>
+        <translation>右托盘到位</translation>
+    </message>
+    <message>
+        <source>scanner 1, input 1</source>
+        <translation>扫描仪 1，输入 1</translation>
+    </message>
+    <message>
+        <source>scanner 1, input 2</source>
+        <translation>扫描仪 1，输入 2</translation>
+    </message>
+    <message>
+        <source>scanner 1, input 3</source>
+        <translation>扫描仪 1，输入 3</translation>
+    </message>
+    <message>
+        <source>scanner 2, input 1</source>
+        <translation>扫描仪 2，输入 1</translation>
+    </message>
+    <message>
+        <source>scanner 2, input 2</source>
+        <translation>扫描仪 2，输入 2</translation>
+    </message>
+    <message>
+        <source>scanner 2, input 3</source>
+        <translation>扫描仪 2，输入 3</translation>
+    </message>
+    <message>
+        <source>air pressure</source>
+        <translation>气压</translation>
+    </message>
+    <message>
+        <source>product in place</source>
+        <translation>产品到位</translation>
+    </message>
+    <message>
+        <source>start lamp</source>
+        <translation>启动灯</translation>
+    </message>
+    <message>
+        <source>stop lamp</source>
+        <translation>停止灯</translation>
+    </message>
+    <message>
+        <source>reset lamp</source>
+        <translation>复位灯</translation>
+    </message>
+    <message>
+        <source>left arrow lamp</source>
+        <translation>左箭头灯</translation>
+    </message>
+    <message>
+        <source>right arrow lamp</source>
+        <translation>右箭头灯</translation>
+    </message>
+    <message>
+        <source>suction</source>
+        <translation>吸附</translation>
+    </message>
+    <message>
+        <source>scanner 1, zone 1</source>
+        <translation>扫描仪 1，区域 1</translation>
+    </message>
+    <message>
+        <source>scanner 1, zone 2</source>
+        <translation>扫描仪 1，区域 2</translation>
+    </message>
+    <message>
+        <source>scanner 2, zone 1</source>
+        <translation>扫描仪 2，区域 1</translation>
+    </message>
+    <message>
+        <source>scanner 2, zone 2</source>
+        <translation>扫描仪 2，区域 2</translation>
+    </message>
+    <message>
+        <source>left beacon red</source>
+        <translation>左灯塔红</translation>
+    </message>
+    <message>
+        <source>left beacon yellow</source>
+        <translation>左灯塔黄</translation>
+    </message>
+    <message>
+        <source>left beacon green</source>
+        <translation>左灯塔绿</translation>
+    </message>
+    <message>
+        <source>left buzzer</source>
+        <translation>左蜂鸣器</translation>
+    </message>
+    <message>
+        <source>right beacon red</source>
+        <translation>右灯塔红</translation>
+    </message>
+    <message>
+        <source>right beacon yellow</source>
+        <translation>右灯塔黄</translation>
+    </message>
+    <message>
+        <source>right beacon green</source>
+        <translation>右灯塔绿</translation>
+    </message>
+    <message>
+        <source>right buzzer</source>
+        <translation>右蜂鸣器</translation>
+    </message>
+    <message>
+        <source>conveyor forward</source>
+        <translation>输送线正转</translation>
+    </message>
+    <message>
+        <source>conveyor reverse</source>
+        <translation>输送线反转</translation>
+    </message>
+    <message>
+        <source>&quot;on&quot; is missing or neither true nor false</source>
+        <translation>“on”缺失或既非 true 也非 false</translation>
+    </message>
+    <message>
+        <source>and %1 more problems in the programs</source>
+        <translation>程序中另有 %1 个问题</translation>
+    </message>
+    <message>
+        <source>there is no current project</source>
+        <translation>没有当前工程</translation>
+    </message>
+    <message>
+        <source>the project %1 has no folder in the workspace</source>
+        <translation>工程 %1 在工作区中没有文件夹</translation>
+    </message>
+    <message>
+        <source>the programs have problems: %1</source>
+        <translation>程序存在问题：%1</translation>
+    </message>
+    <message>
+        <source>paused at the panel</source>
+        <translation>已在面板上暂停</translation>
+    </message>
+    <message>
+        <source>&quot;factor&quot; is no number from %1 to %2</source>
+        <translation>“factor”不是 %1 至 %2 的数</translation>
+    </message>
+    <message>
+        <source>there is no input &quot;%1&quot;</source>
+        <translation>没有输入“%1”</translation>
+    </message>
+    <message>
+        <source>there is no fault &quot;%1&quot;, there are %2</source>
+        <translation>没有故障“%1”，可用：%2</translation>
+    </message>
+    <message>
+        <source>&quot;side&quot; is neither 0 (left) nor 1 (right)</source>
+        <translation>“side”既不是 0（左）也不是 1（右）</translation>
+    </message>
+    <message>
+        <source>&quot;action&quot; is &quot;%1&quot;, neither &quot;take&quot; nor &quot;bring&quot;</source>
+        <translation>“action”为“%1”，既不是“take”也不是“bring”</translation>
+    </message>
+    <message>
+        <source>Program: %1</source>
+        <translation>程序：%1</translation>
+    </message>
+    <message>
+        <source>%1 %2:%3, layer %4, piece %5: %6</source>
+        <translation>%1 %2:%3，第 %4 层，第 %5 件：%6</translation>
+    </message>
+    <message>
+        <source>this is no name of a file</source>
+        <translation>这不是文件名</translation>
+    </message>
+    <message>
+        <source>the file cannot be read: %1</source>
+        <translation>无法读取文件：%1</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation>文件大于 %1 字节</translation>
+    </message>
+    <message>
+        <source>there is no kind of task &quot;%1&quot;</source>
+        <translation>没有任务类型“%1”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name of a task</source>
+        <translation>“%1”不是任务名</translation>
+    </message>
+    <message>
+        <source>the emergency stop is pressed</source>
+        <translation>急停已按下</translation>
+    </message>
+    <message>
+        <source>the robot was stopped by a collision; reset first</source>
+        <translation>机器人因碰撞停止；请先复位</translation>
+    </message>
+    <message>
+        <source>somebody stands in the field of scanner %1</source>
+        <translation>扫描仪 %1 区域内有人</translation>
+    </message>
+    <message>
+        <source>the project has no motion task</source>
+        <translation>工程没有运动任务</translation>
+    </message>
+    <message>
+        <source>no program runs</source>
+        <translation>没有程序在运行</translation>
+    </message>
+    <message>
+        <source>the program runs; pause it first</source>
+        <translation>程序正在运行；请先暂停</translation>
+    </message>
+    <message>
+        <source>the power was cut</source>
+        <translation>电源中断</translation>
+    </message>
+    <message>
+        <source>the stop button was pressed</source>
+        <translation>停止按钮已按下</translation>
+    </message>
+    <message>
+        <source>paused by the program, %1</source>
+        <translation>程序暂停，%1</translation>
+    </message>
+    <message>
+        <source>the program is at its end</source>
+        <translation>程序已结束</translation>
+    </message>
+    <message>
+        <source>one step was made, to %1</source>
+        <translation>已执行一步，到 %1</translation>
+    </message>
+    <message>
+        <source>a program runs; pause it first</source>
+        <translation>有程序在运行；请先暂停</translation>
+    </message>
+    <message>
+        <source>the robot is braking</source>
+        <translation>机器人正在制动</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>

@@ -451,6 +451,322 @@
         <source>The project %1 cannot be built: it has no folder in the workspace &quot;%2&quot;</source>
         <translation>プロジェクト %1 をビルドできません。作業領域「%2」にフォルダがありません</translation>
     </message>
+    <message>
+        <source>there is no recipe &quot;%1&quot;</source>
+        <translation>レシピ「%1」がありません</translation>
+    </message>
+    <message>
+        <source>the recipe &quot;%1&quot; cannot be used: %2</source>
+        <translation>レシピ「%1」は使えません: %2</translation>
+    </message>
+    <message>
+        <source>recipe %1</source>
+        <translation>レシピ %1</translation>
+    </message>
+    <message>
+        <source>left recipe %1</source>
+        <translation>左レシピ %1</translation>
+    </message>
+    <message>
+        <source>right recipe %1</source>
+        <translation>右レシピ %1</translation>
+    </message>
+    <message>
+        <source>there is no %1, there are %2</source>
+        <translation>%1 はありません。%2 個あります</translation>
+    </message>
+    <message>
+        <source>the recipe &quot;%1&quot; has no layer %2, it has %3</source>
+        <translation>レシピ「%1」に %2 段目はありません。%3 段です</translation>
+    </message>
+    <message>
+        <source>layer %1 of the recipe &quot;%2&quot; has no piece %3, it has %4</source>
+        <translation>レシピ「%2」の %1 段目に %3 個目はありません。%4 個です</translation>
+    </message>
+    <message>
+        <source>no pallet point is set yet</source>
+        <translation>パレットの点がまだありません</translation>
+    </message>
+    <message>
+        <source>it has no points</source>
+        <translation>点がありません</translation>
+    </message>
+    <message>
+        <source>the recipe &quot;%1&quot; has no point &quot;%2&quot; for layer %3, piece %4</source>
+        <translation>レシピ「%1」に %3 段目 %4 個目の点「%2」がありません</translation>
+    </message>
+    <message>
+        <source>in &quot;%1&quot; of the recipe &quot;%2&quot;: %3</source>
+        <translation>レシピ「%2」の「%1」: %3</translation>
+    </message>
+    <message>
+        <source>its work object needs three calibration points</source>
+        <translation>ワークオブジェクトには校正点が 3 つ必要です</translation>
+    </message>
+    <message>
+        <source>start button</source>
+        <translation>起動ボタン</translation>
+    </message>
+    <message>
+        <source>stop button</source>
+        <translation>停止ボタン</translation>
+    </message>
+    <message>
+        <source>reset button</source>
+        <translation>リセットボタン</translation>
+    </message>
+    <message>
+        <source>left arrow button</source>
+        <translation>左矢印ボタン</translation>
+    </message>
+    <message>
+        <source>right arrow button</source>
+        <translation>右矢印ボタン</translation>
+    </message>
+    <message>
+        <source>left pallet in place</source>
+        <translation>左パレット在席</translation>
+    </message>
+    <message>
+        <source>right pallet in place</source>
+        <translation>右パレット在席</translation>
+    </message>
+    <message>
+        <source>scanner 1, input 1</source>
+        <translation>スキャナ 1、入力 1</translation>
+    </message>
+    <message>
+        <source>scanner 1, input 2</source>
+        <translation>スキャナ 1、入力 2</translation>
+    </message>
+    <message>
+        <source>scanner 1, input 3</source>
+        <translation>スキャナ 1、入力 3</translation>
+    </message>
+    <message>
+        <source>scanner 2, input 1</source>
+        <translation>スキャナ 2、入力 1</translation>
+    </message>
+    <message>
+        <source>scanner 2, input 2</source>
+        <translation>スキャナ 2、入力 2</translation>
+    </message>
+    <message>
+        <source>scanner 2, input 3</source>
+        <translation>スキャナ 2、入力 3</translation>
+    </message>
+    <message>
+        <source>air pressure</source>
+        <translation>空気圧</translation>
+    </message>
+    <message>
+        <source>product in place</source>
+        <translation>製品在席</translation>
+    </message>
+    <message>
+        <source>start lamp</source>
+        <translation>起動ランプ</translation>
+    </message>
+    <message>
+        <source>stop lamp</source>
+        <translation>停止ランプ</translation>
+    </message>
+    <message>
+        <source>reset lamp</source>
+        <translation>リセットランプ</translation>
+    </message>
+    <message>
+        <source>left arrow lamp</source>
+        <translation>左矢印ランプ</translation>
+    </message>
+    <message>
+        <source>right arrow lamp</source>
+        <translation>右矢印ランプ</translation>
+    </message>
+    <message>
+        <source>suction</source>
+        <translation>吸着</translation>
+    </message>
+    <message>
+        <source>scanner 1, zone 1</source>
+        <translation>スキャナ 1、区域 1</translation>
+    </message>
+    <message>
+        <source>scanner 1, zone 2</source>
+        <translation>スキャナ 1、区域 2</translation>
+    </message>
+    <message>
+        <source>scanner 2, zone 1</source>
+        <translation>スキャナ 2、区域 1</translation>
+    </message>
+    <message>
+        <source>scanner 2, zone 2</source>
+        <translation>スキャナ 2、区域 2</translation>
+    </message>
+    <message>
+        <source>left beacon red</source>
+        <translation>左表示灯 赤</translation>
+    </message>
+    <message>
+        <source>left beacon yellow</source>
+        <translation>左表示灯 黄</translation>
+    </message>
+    <message>
+        <source>left beacon green</source>
+        <translation>左表示灯 緑</translation>
+    </message>
+    <message>
+        <source>left buzzer</source>
+        <translation>左ブザー</translation>
+    </message>
+    <message>
+        <source>right beacon red</source>
+        <translation>右表示灯 赤</translation>
+    </message>
+    <message>
+        <source>right beacon yellow</source>
+        <translation>右表示灯 黄</translation>
+    </message>
+    <message>
+        <source>right beacon green</source>
+        <translation>右表示灯 緑</translation>
+    </message>
+    <message>
+        <source>right buzzer</source>
+        <translation>右ブザー</translation>
+    </message>
+    <message>
+        <source>conveyor forward</source>
+        <translation>コンベヤ正転</translation>
+    </message>
+    <message>
+        <source>conveyor reverse</source>
+        <translation>コンベヤ逆転</translation>
+    </message>
+    <message>
+        <source>&quot;on&quot; is missing or neither true nor false</source>
+        <translation>「on」がないか true でも false でもありません</translation>
+    </message>
+    <message>
+        <source>and %1 more problems in the programs</source>
+        <translation>プログラムにほか %1 件の問題</translation>
+    </message>
+    <message>
+        <source>there is no current project</source>
+        <translation>現在のプロジェクトがありません</translation>
+    </message>
+    <message>
+        <source>the project %1 has no folder in the workspace</source>
+        <translation>プロジェクト %1 のフォルダが作業領域にありません</translation>
+    </message>
+    <message>
+        <source>the programs have problems: %1</source>
+        <translation>プログラムに問題があります: %1</translation>
+    </message>
+    <message>
+        <source>paused at the panel</source>
+        <translation>パネルで一時停止</translation>
+    </message>
+    <message>
+        <source>&quot;factor&quot; is no number from %1 to %2</source>
+        <translation>「factor」は %1～%2 の数ではありません</translation>
+    </message>
+    <message>
+        <source>there is no input &quot;%1&quot;</source>
+        <translation>入力「%1」がありません</translation>
+    </message>
+    <message>
+        <source>there is no fault &quot;%1&quot;, there are %2</source>
+        <translation>故障「%1」はありません。使えるもの: %2</translation>
+    </message>
+    <message>
+        <source>&quot;side&quot; is neither 0 (left) nor 1 (right)</source>
+        <translation>「side」が 0 (左) でも 1 (右) でもありません</translation>
+    </message>
+    <message>
+        <source>&quot;action&quot; is &quot;%1&quot;, neither &quot;take&quot; nor &quot;bring&quot;</source>
+        <translation>「action」が「%1」で、「take」でも「bring」でもありません</translation>
+    </message>
+    <message>
+        <source>Program: %1</source>
+        <translation>プログラム: %1</translation>
+    </message>
+    <message>
+        <source>%1 %2:%3, layer %4, piece %5: %6</source>
+        <translation>%1 %2:%3、%4 段目、%5 個目: %6</translation>
+    </message>
+    <message>
+        <source>this is no name of a file</source>
+        <translation>ファイル名ではありません</translation>
+    </message>
+    <message>
+        <source>the file cannot be read: %1</source>
+        <translation>ファイルを読めません: %1</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation>ファイルが %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>there is no kind of task &quot;%1&quot;</source>
+        <translation>タスクの種類「%1」がありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name of a task</source>
+        <translation>「%1」はタスク名ではありません</translation>
+    </message>
+    <message>
+        <source>the emergency stop is pressed</source>
+        <translation>非常停止が押されています</translation>
+    </message>
+    <message>
+        <source>the robot was stopped by a collision; reset first</source>
+        <translation>ロボットは衝突で停止しました。先にリセットしてください</translation>
+    </message>
+    <message>
+        <source>somebody stands in the field of scanner %1</source>
+        <translation>スキャナ %1 の範囲に人がいます</translation>
+    </message>
+    <message>
+        <source>the project has no motion task</source>
+        <translation>プロジェクトに動作タスクがありません</translation>
+    </message>
+    <message>
+        <source>no program runs</source>
+        <translation>プログラムは動いていません</translation>
+    </message>
+    <message>
+        <source>the program runs; pause it first</source>
+        <translation>プログラムが動いています。先に一時停止してください</translation>
+    </message>
+    <message>
+        <source>the power was cut</source>
+        <translation>電源が切れました</translation>
+    </message>
+    <message>
+        <source>the stop button was pressed</source>
+        <translation>停止ボタンが押されました</translation>
+    </message>
+    <message>
+        <source>paused by the program, %1</source>
+        <translation>プログラムによる一時停止、%1</translation>
+    </message>
+    <message>
+        <source>the program is at its end</source>
+        <translation>プログラムは終わりました</translation>
+    </message>
+    <message>
+        <source>one step was made, to %1</source>
+        <translation>1 ステップ実行、%1 まで</translation>
+    </message>
+    <message>
+        <source>a program runs; pause it first</source>
+        <translation>プログラムが動いています。先に一時停止してください</translation>
+    </message>
+    <message>
+        <source>the robot is braking</source>
+        <translation>ロボットが減速しています</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>

@@ -451,6 +451,322 @@
         <source>The project %1 cannot be built: it has no folder in the workspace &quot;%2&quot;</source>
         <translation>프로젝트 %1을(를) 빌드할 수 없습니다. 작업 공간 &quot;%2&quot;에 폴더가 없습니다</translation>
     </message>
+    <message>
+        <source>there is no recipe &quot;%1&quot;</source>
+        <translation>레시피 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>the recipe &quot;%1&quot; cannot be used: %2</source>
+        <translation>레시피 &quot;%1&quot;을(를) 사용할 수 없음: %2</translation>
+    </message>
+    <message>
+        <source>recipe %1</source>
+        <translation>레시피 %1</translation>
+    </message>
+    <message>
+        <source>left recipe %1</source>
+        <translation>왼쪽 레시피 %1</translation>
+    </message>
+    <message>
+        <source>right recipe %1</source>
+        <translation>오른쪽 레시피 %1</translation>
+    </message>
+    <message>
+        <source>there is no %1, there are %2</source>
+        <translation>%1이(가) 없습니다. %2개가 있습니다</translation>
+    </message>
+    <message>
+        <source>the recipe &quot;%1&quot; has no layer %2, it has %3</source>
+        <translation>레시피 &quot;%1&quot;에 %2단이 없습니다. %3단입니다</translation>
+    </message>
+    <message>
+        <source>layer %1 of the recipe &quot;%2&quot; has no piece %3, it has %4</source>
+        <translation>레시피 &quot;%2&quot;의 %1단에 %3번째가 없습니다. %4개입니다</translation>
+    </message>
+    <message>
+        <source>no pallet point is set yet</source>
+        <translation>팔레트 포인트가 아직 없습니다</translation>
+    </message>
+    <message>
+        <source>it has no points</source>
+        <translation>포인트가 없습니다</translation>
+    </message>
+    <message>
+        <source>the recipe &quot;%1&quot; has no point &quot;%2&quot; for layer %3, piece %4</source>
+        <translation>레시피 &quot;%1&quot;에 %3단 %4번째의 포인트 &quot;%2&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>in &quot;%1&quot; of the recipe &quot;%2&quot;: %3</source>
+        <translation>레시피 &quot;%2&quot;의 &quot;%1&quot;: %3</translation>
+    </message>
+    <message>
+        <source>its work object needs three calibration points</source>
+        <translation>작업 객체에는 보정 포인트 3개가 필요합니다</translation>
+    </message>
+    <message>
+        <source>start button</source>
+        <translation>시작 버튼</translation>
+    </message>
+    <message>
+        <source>stop button</source>
+        <translation>정지 버튼</translation>
+    </message>
+    <message>
+        <source>reset button</source>
+        <translation>리셋 버튼</translation>
+    </message>
+    <message>
+        <source>left arrow button</source>
+        <translation>왼쪽 화살표 버튼</translation>
+    </message>
+    <message>
+        <source>right arrow button</source>
+        <translation>오른쪽 화살표 버튼</translation>
+    </message>
+    <message>
+        <source>left pallet in place</source>
+        <translation>왼쪽 팔레트 있음</translation>
+    </message>
+    <message>
+        <source>right pallet in place</source>
+        <translation>오른쪽 팔레트 있음</translation>
+    </message>
+    <message>
+        <source>scanner 1, input 1</source>
+        <translation>스캐너 1, 입력 1</translation>
+    </message>
+    <message>
+        <source>scanner 1, input 2</source>
+        <translation>스캐너 1, 입력 2</translation>
+    </message>
+    <message>
+        <source>scanner 1, input 3</source>
+        <translation>스캐너 1, 입력 3</translation>
+    </message>
+    <message>
+        <source>scanner 2, input 1</source>
+        <translation>스캐너 2, 입력 1</translation>
+    </message>
+    <message>
+        <source>scanner 2, input 2</source>
+        <translation>스캐너 2, 입력 2</translation>
+    </message>
+    <message>
+        <source>scanner 2, input 3</source>
+        <translation>스캐너 2, 입력 3</translation>
+    </message>
+    <message>
+        <source>air pressure</source>
+        <translation>공기압</translation>
+    </message>
+    <message>
+        <source>product in place</source>
+        <translation>제품 있음</translation>
+    </message>
+    <message>
+        <source>start lamp</source>
+        <translation>시작 램프</translation>
+    </message>
+    <message>
+        <source>stop lamp</source>
+        <translation>정지 램프</translation>
+    </message>
+    <message>
+        <source>reset lamp</source>
+        <translation>리셋 램프</translation>
+    </message>
+    <message>
+        <source>left arrow lamp</source>
+        <translation>왼쪽 화살표 램프</translation>
+    </message>
+    <message>
+        <source>right arrow lamp</source>
+        <translation>오른쪽 화살표 램프</translation>
+    </message>
+    <message>
+        <source>suction</source>
+        <translation>흡착</translation>
+    </message>
+    <message>
+        <source>scanner 1, zone 1</source>
+        <translation>스캐너 1, 구역 1</translation>
+    </message>
+    <message>
+        <source>scanner 1, zone 2</source>
+        <translation>스캐너 1, 구역 2</translation>
+    </message>
+    <message>
+        <source>scanner 2, zone 1</source>
+        <translation>스캐너 2, 구역 1</translation>
+    </message>
+    <message>
+        <source>scanner 2, zone 2</source>
+        <translation>스캐너 2, 구역 2</translation>
+    </message>
+    <message>
+        <source>left beacon red</source>
+        <translation>왼쪽 경광등 빨강</translation>
+    </message>
+    <message>
+        <source>left beacon yellow</source>
+        <translation>왼쪽 경광등 노랑</translation>
+    </message>
+    <message>
+        <source>left beacon green</source>
+        <translation>왼쪽 경광등 초록</translation>
+    </message>
+    <message>
+        <source>left buzzer</source>
+        <translation>왼쪽 부저</translation>
+    </message>
+    <message>
+        <source>right beacon red</source>
+        <translation>오른쪽 경광등 빨강</translation>
+    </message>
+    <message>
+        <source>right beacon yellow</source>
+        <translation>오른쪽 경광등 노랑</translation>
+    </message>
+    <message>
+        <source>right beacon green</source>
+        <translation>오른쪽 경광등 초록</translation>
+    </message>
+    <message>
+        <source>right buzzer</source>
+        <translation>오른쪽 부저</translation>
+    </message>
+    <message>
+        <source>conveyor forward</source>
+        <translation>컨베이어 정방향</translation>
+    </message>
+    <message>
+        <source>conveyor reverse</source>
+        <translation>컨베이어 역방향</translation>
+    </message>
+    <message>
+        <source>&quot;on&quot; is missing or neither true nor false</source>
+        <translation>&quot;on&quot;이 없거나 true도 false도 아닙니다</translation>
+    </message>
+    <message>
+        <source>and %1 more problems in the programs</source>
+        <translation>프로그램에 문제 %1개 더 있음</translation>
+    </message>
+    <message>
+        <source>there is no current project</source>
+        <translation>현재 프로젝트가 없습니다</translation>
+    </message>
+    <message>
+        <source>the project %1 has no folder in the workspace</source>
+        <translation>프로젝트 %1의 폴더가 작업 공간에 없습니다</translation>
+    </message>
+    <message>
+        <source>the programs have problems: %1</source>
+        <translation>프로그램에 문제가 있음: %1</translation>
+    </message>
+    <message>
+        <source>paused at the panel</source>
+        <translation>패널에서 일시 정지</translation>
+    </message>
+    <message>
+        <source>&quot;factor&quot; is no number from %1 to %2</source>
+        <translation>&quot;factor&quot;이(가) %1 ~ %2의 수가 아닙니다</translation>
+    </message>
+    <message>
+        <source>there is no input &quot;%1&quot;</source>
+        <translation>입력 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>there is no fault &quot;%1&quot;, there are %2</source>
+        <translation>고장 &quot;%1&quot;이(가) 없습니다. 가능한 것: %2</translation>
+    </message>
+    <message>
+        <source>&quot;side&quot; is neither 0 (left) nor 1 (right)</source>
+        <translation>&quot;side&quot;가 0(왼쪽)도 1(오른쪽)도 아닙니다</translation>
+    </message>
+    <message>
+        <source>&quot;action&quot; is &quot;%1&quot;, neither &quot;take&quot; nor &quot;bring&quot;</source>
+        <translation>&quot;action&quot;이 &quot;%1&quot;(으)로, &quot;take&quot;도 &quot;bring&quot;도 아닙니다</translation>
+    </message>
+    <message>
+        <source>Program: %1</source>
+        <translation>프로그램: %1</translation>
+    </message>
+    <message>
+        <source>%1 %2:%3, layer %4, piece %5: %6</source>
+        <translation>%1 %2:%3, %4단, %5번째: %6</translation>
+    </message>
+    <message>
+        <source>this is no name of a file</source>
+        <translation>파일 이름이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the file cannot be read: %1</source>
+        <translation>파일을 읽을 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation>파일이 %1바이트보다 큽니다</translation>
+    </message>
+    <message>
+        <source>there is no kind of task &quot;%1&quot;</source>
+        <translation>작업 종류 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name of a task</source>
+        <translation>&quot;%1&quot;은(는) 작업 이름이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the emergency stop is pressed</source>
+        <translation>비상 정지가 눌려 있습니다</translation>
+    </message>
+    <message>
+        <source>the robot was stopped by a collision; reset first</source>
+        <translation>로봇이 충돌로 정지했습니다. 먼저 리셋하십시오</translation>
+    </message>
+    <message>
+        <source>somebody stands in the field of scanner %1</source>
+        <translation>스캐너 %1의 영역에 사람이 있습니다</translation>
+    </message>
+    <message>
+        <source>the project has no motion task</source>
+        <translation>프로젝트에 동작 작업이 없습니다</translation>
+    </message>
+    <message>
+        <source>no program runs</source>
+        <translation>실행 중인 프로그램이 없습니다</translation>
+    </message>
+    <message>
+        <source>the program runs; pause it first</source>
+        <translation>프로그램이 실행 중입니다. 먼저 일시 정지하십시오</translation>
+    </message>
+    <message>
+        <source>the power was cut</source>
+        <translation>전원이 끊겼습니다</translation>
+    </message>
+    <message>
+        <source>the stop button was pressed</source>
+        <translation>정지 버튼이 눌렸습니다</translation>
+    </message>
+    <message>
+        <source>paused by the program, %1</source>
+        <translation>프로그램에 의한 일시 정지, %1</translation>
+    </message>
+    <message>
+        <source>the program is at its end</source>
+        <translation>프로그램이 끝났습니다</translation>
+    </message>
+    <message>
+        <source>one step was made, to %1</source>
+        <translation>한 단계 실행, %1까지</translation>
+    </message>
+    <message>
+        <source>a program runs; pause it first</source>
+        <translation>프로그램이 실행 중입니다. 먼저 일시 정지하십시오</translation>
+    </message>
+    <message>
+        <source>the robot is braking</source>
+        <translation>로봇이 감속 중입니다</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>

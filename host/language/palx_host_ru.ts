@@ -451,6 +451,322 @@
         <source>The project %1 cannot be built: it has no folder in the workspace &quot;%2&quot;</source>
         <translation>Проект %1 нельзя собрать: в рабочей папке «%2» нет его папки</translation>
     </message>
+    <message>
+        <source>there is no recipe &quot;%1&quot;</source>
+        <translation>рецепта «%1» нет</translation>
+    </message>
+    <message>
+        <source>the recipe &quot;%1&quot; cannot be used: %2</source>
+        <translation>рецепт «%1» нельзя использовать: %2</translation>
+    </message>
+    <message>
+        <source>recipe %1</source>
+        <translation>рецепт %1</translation>
+    </message>
+    <message>
+        <source>left recipe %1</source>
+        <translation>левый рецепт %1</translation>
+    </message>
+    <message>
+        <source>right recipe %1</source>
+        <translation>правый рецепт %1</translation>
+    </message>
+    <message>
+        <source>there is no %1, there are %2</source>
+        <translation>%1: нет, всего %2</translation>
+    </message>
+    <message>
+        <source>the recipe &quot;%1&quot; has no layer %2, it has %3</source>
+        <translation>в рецепте «%1» нет слоя %2, всего слоёв %3</translation>
+    </message>
+    <message>
+        <source>layer %1 of the recipe &quot;%2&quot; has no piece %3, it has %4</source>
+        <translation>в слое %1 рецепта «%2» нет изделия %3, всего %4</translation>
+    </message>
+    <message>
+        <source>no pallet point is set yet</source>
+        <translation>точка паллеты ещё не задана</translation>
+    </message>
+    <message>
+        <source>it has no points</source>
+        <translation>у него нет точек</translation>
+    </message>
+    <message>
+        <source>the recipe &quot;%1&quot; has no point &quot;%2&quot; for layer %3, piece %4</source>
+        <translation>в рецепте «%1» нет точки «%2» для слоя %3, изделия %4</translation>
+    </message>
+    <message>
+        <source>in &quot;%1&quot; of the recipe &quot;%2&quot;: %3</source>
+        <translation>в «%1» рецепта «%2»: %3</translation>
+    </message>
+    <message>
+        <source>its work object needs three calibration points</source>
+        <translation>его рабочему объекту нужны три точки калибровки</translation>
+    </message>
+    <message>
+        <source>start button</source>
+        <translation>кнопка «Пуск»</translation>
+    </message>
+    <message>
+        <source>stop button</source>
+        <translation>кнопка «Стоп»</translation>
+    </message>
+    <message>
+        <source>reset button</source>
+        <translation>кнопка сброса</translation>
+    </message>
+    <message>
+        <source>left arrow button</source>
+        <translation>кнопка «Влево»</translation>
+    </message>
+    <message>
+        <source>right arrow button</source>
+        <translation>кнопка «Вправо»</translation>
+    </message>
+    <message>
+        <source>left pallet in place</source>
+        <translation>левая паллета на месте</translation>
+    </message>
+    <message>
+        <source>right pallet in place</source>
+        <translation>правая паллета на месте</translation>
+    </message>
+    <message>
+        <source>scanner 1, input 1</source>
+        <translation>сканер 1, вход 1</translation>
+    </message>
+    <message>
+        <source>scanner 1, input 2</source>
+        <translation>сканер 1, вход 2</translation>
+    </message>
+    <message>
+        <source>scanner 1, input 3</source>
+        <translation>сканер 1, вход 3</translation>
+    </message>
+    <message>
+        <source>scanner 2, input 1</source>
+        <translation>сканер 2, вход 1</translation>
+    </message>
+    <message>
+        <source>scanner 2, input 2</source>
+        <translation>сканер 2, вход 2</translation>
+    </message>
+    <message>
+        <source>scanner 2, input 3</source>
+        <translation>сканер 2, вход 3</translation>
+    </message>
+    <message>
+        <source>air pressure</source>
+        <translation>давление воздуха</translation>
+    </message>
+    <message>
+        <source>product in place</source>
+        <translation>изделие на месте</translation>
+    </message>
+    <message>
+        <source>start lamp</source>
+        <translation>лампа «Пуск»</translation>
+    </message>
+    <message>
+        <source>stop lamp</source>
+        <translation>лампа «Стоп»</translation>
+    </message>
+    <message>
+        <source>reset lamp</source>
+        <translation>лампа сброса</translation>
+    </message>
+    <message>
+        <source>left arrow lamp</source>
+        <translation>лампа «Влево»</translation>
+    </message>
+    <message>
+        <source>right arrow lamp</source>
+        <translation>лампа «Вправо»</translation>
+    </message>
+    <message>
+        <source>suction</source>
+        <translation>вакуум</translation>
+    </message>
+    <message>
+        <source>scanner 1, zone 1</source>
+        <translation>сканер 1, зона 1</translation>
+    </message>
+    <message>
+        <source>scanner 1, zone 2</source>
+        <translation>сканер 1, зона 2</translation>
+    </message>
+    <message>
+        <source>scanner 2, zone 1</source>
+        <translation>сканер 2, зона 1</translation>
+    </message>
+    <message>
+        <source>scanner 2, zone 2</source>
+        <translation>сканер 2, зона 2</translation>
+    </message>
+    <message>
+        <source>left beacon red</source>
+        <translation>левый маяк, красный</translation>
+    </message>
+    <message>
+        <source>left beacon yellow</source>
+        <translation>левый маяк, жёлтый</translation>
+    </message>
+    <message>
+        <source>left beacon green</source>
+        <translation>левый маяк, зелёный</translation>
+    </message>
+    <message>
+        <source>left buzzer</source>
+        <translation>левый зуммер</translation>
+    </message>
+    <message>
+        <source>right beacon red</source>
+        <translation>правый маяк, красный</translation>
+    </message>
+    <message>
+        <source>right beacon yellow</source>
+        <translation>правый маяк, жёлтый</translation>
+    </message>
+    <message>
+        <source>right beacon green</source>
+        <translation>правый маяк, зелёный</translation>
+    </message>
+    <message>
+        <source>right buzzer</source>
+        <translation>правый зуммер</translation>
+    </message>
+    <message>
+        <source>conveyor forward</source>
+        <translation>конвейер вперёд</translation>
+    </message>
+    <message>
+        <source>conveyor reverse</source>
+        <translation>конвейер назад</translation>
+    </message>
+    <message>
+        <source>&quot;on&quot; is missing or neither true nor false</source>
+        <translation>«on» отсутствует или не true и не false</translation>
+    </message>
+    <message>
+        <source>and %1 more problems in the programs</source>
+        <translation>и ещё ошибок в программах: %1</translation>
+    </message>
+    <message>
+        <source>there is no current project</source>
+        <translation>текущего проекта нет</translation>
+    </message>
+    <message>
+        <source>the project %1 has no folder in the workspace</source>
+        <translation>у проекта %1 нет папки в рабочей области</translation>
+    </message>
+    <message>
+        <source>the programs have problems: %1</source>
+        <translation>в программах ошибки: %1</translation>
+    </message>
+    <message>
+        <source>paused at the panel</source>
+        <translation>пауза с панели</translation>
+    </message>
+    <message>
+        <source>&quot;factor&quot; is no number from %1 to %2</source>
+        <translation>«factor» не число от %1 до %2</translation>
+    </message>
+    <message>
+        <source>there is no input &quot;%1&quot;</source>
+        <translation>входа «%1» нет</translation>
+    </message>
+    <message>
+        <source>there is no fault &quot;%1&quot;, there are %2</source>
+        <translation>неисправности «%1» нет, есть: %2</translation>
+    </message>
+    <message>
+        <source>&quot;side&quot; is neither 0 (left) nor 1 (right)</source>
+        <translation>«side» не 0 (слева) и не 1 (справа)</translation>
+    </message>
+    <message>
+        <source>&quot;action&quot; is &quot;%1&quot;, neither &quot;take&quot; nor &quot;bring&quot;</source>
+        <translation>«action» имеет значение «%1», а не «take» или «bring»</translation>
+    </message>
+    <message>
+        <source>Program: %1</source>
+        <translation>Программа: %1</translation>
+    </message>
+    <message>
+        <source>%1 %2:%3, layer %4, piece %5: %6</source>
+        <translation>%1 %2:%3, слой %4, изделие %5: %6</translation>
+    </message>
+    <message>
+        <source>this is no name of a file</source>
+        <translation>это не имя файла</translation>
+    </message>
+    <message>
+        <source>the file cannot be read: %1</source>
+        <translation>файл не читается: %1</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation>файл больше %1 байт</translation>
+    </message>
+    <message>
+        <source>there is no kind of task &quot;%1&quot;</source>
+        <translation>вида задачи «%1» нет</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name of a task</source>
+        <translation>«%1» — не имя задачи</translation>
+    </message>
+    <message>
+        <source>the emergency stop is pressed</source>
+        <translation>нажата аварийная остановка</translation>
+    </message>
+    <message>
+        <source>the robot was stopped by a collision; reset first</source>
+        <translation>робот остановлен столкновением; сначала сброс</translation>
+    </message>
+    <message>
+        <source>somebody stands in the field of scanner %1</source>
+        <translation>в поле сканера %1 кто-то есть</translation>
+    </message>
+    <message>
+        <source>the project has no motion task</source>
+        <translation>в проекте нет задачи движения</translation>
+    </message>
+    <message>
+        <source>no program runs</source>
+        <translation>программа не выполняется</translation>
+    </message>
+    <message>
+        <source>the program runs; pause it first</source>
+        <translation>программа выполняется; сначала пауза</translation>
+    </message>
+    <message>
+        <source>the power was cut</source>
+        <translation>питание отключилось</translation>
+    </message>
+    <message>
+        <source>the stop button was pressed</source>
+        <translation>нажата кнопка «Стоп»</translation>
+    </message>
+    <message>
+        <source>paused by the program, %1</source>
+        <translation>пауза из программы, %1</translation>
+    </message>
+    <message>
+        <source>the program is at its end</source>
+        <translation>программа завершена</translation>
+    </message>
+    <message>
+        <source>one step was made, to %1</source>
+        <translation>выполнен один шаг, до %1</translation>
+    </message>
+    <message>
+        <source>a program runs; pause it first</source>
+        <translation>выполняется программа; сначала пауза</translation>
+    </message>
+    <message>
+        <source>the robot is braking</source>
+        <translation>робот тормозит</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>
