@@ -41,14 +41,28 @@ private:
     orba::Node values_;
 };
 
+orba::ModuleObject *recipeNode(const QString &name)
+{
+    const auto all = palx::stacksNode()->cmobjs();
+    const auto found = std::find_if(all.begin(), all.end(), [&name](orba::ModuleObject *stack) {
+        return stack->getString("name") == name;
+    });
+    return found == all.end() ? palx::stacksNode()->c("") : *found;
+}
+
+/// What a person would do on the tool page.
+bool useTool(orba::ModuleObject *recipe)
+{
+    if (recipe->getBool("use_global_tool"))
+        return palx::switchToTool();
+    return palx::switchToToolset(recipe->c("toolset"), true, false, false);
+}
+
 /// What a person would set on the home page.
 void enable(const StackedSide &side)
 {
     const QString suffix = side.side == 0 ? QStringLiteral("L") : QStringLiteral("R");
-    int height = 0;
-    for (const orba::ModuleObject *stack : palx::stacksNode()->cmobjs())
-        if (stack->getString("name") == side.recipe)
-            height = qRound(stack->node().getDouble(u"product_cfg.product.height"));
+    const int height = qRound(recipeNode(side.recipe)->getDouble("product_cfg.product.height"));
     palx::setValueOfPERSVar(QStringLiteral("palletIndex") + suffix, QString::number(indexOnSide(side)));
     palx::setValueOfPERSVar(QStringLiteral("boxHeight") + suffix, QString::number(height));
     palx::setValueOfPERSVar(QStringLiteral("enableStack") + suffix, QStringLiteral("1"));
@@ -102,8 +116,10 @@ bool SimulationProject::fill(Session &session, const SimulateRequest &request)
     for (orba::ModuleObject *stack : palx::stacksNode()->cmobjs())
         palx::genStackWayPoints(stack);
     palx::saveAllToRC(false);
-    if (palx::pluginNode()->c("global_tool")->cmobjCount() > 0)
-        palx::switchToTool();
+    if (!useTool(recipeNode(sides_.first().recipe))) {
+        say(QStringLiteral("the tool of the recipe \"%1\" cannot be used").arg(sides_.first().recipe));
+        return false;
+    }
     session.presenter().setQuiet(true);
     Parameters parameters(sides_, request.withLift);
     if (!palx::addProject(kProject, std::nullopt, &parameters)) {

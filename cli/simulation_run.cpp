@@ -14,6 +14,7 @@ using controller::cell::Violation;
 namespace {
 
 constexpr double kLook = 0.5;          ///< between two looks of the operator [s]
+constexpr double kHold = 0.1;           ///< between two signs of the held button [s]
 constexpr double kLongestPerBox = 120; ///< a cell that is slower than this will not get ready [s]
 constexpr double kLongestApart = 600;  ///< column, faults, start [s]
 
@@ -107,6 +108,28 @@ int expectedBoxes(controller::Station *station, const QVector<StackedSide> &side
     return count;
 }
 
+/// The operator drives the robot to where it waits, as one does before the first start. Why not; empty when it stands
+/// there.
+QString driveHome(controller::Station *station, const QString &recipe)
+{
+    const auto plan = station->desk().runner().cell().plan(recipe);
+    const orba::Node *home = plan ? plan->recipe()->find(u"get.enter_p") : nullptr;
+    if (!home)
+        return QStringLiteral("the recipe \"%1\" has no point where the robot waits").arg(recipe);
+    orba::Node move;
+    move.ensure(u"type")->setString(QStringLiteral("j"));
+    move.ensure(u"motion.toolset")->setString(station->tree().getString(u"quill.body.toolset"));
+    move.ensure(u"motion.speed")->setInt(1000);
+    move.ensure(u"point")->assign(*home);
+    const QString why = station->request(QStringLiteral("motion.start"), move).refusal;
+    orba::Node nothing;
+    while (station->isBusy()) {
+        station->advance(kHold);
+        station->request(QStringLiteral("motion.hold"), nothing);
+    }
+    return why;
+}
+
 /// Until the pallets are full and the robot is home again. False when the programs stopped for good; why.
 bool runUntilFull(controller::Station *station, const SimulationProject &project,
                   const SimulateRequest &request, QString *why)
@@ -117,7 +140,9 @@ bool runUntilFull(controller::Station *station, const SimulationProject &project
     const double longest = kLongestApart * (1 + request.faults.size()) + kLongestPerBox * expected;
     Progress progress;
     orba::Node nothing;
-    *why = station->request(QStringLiteral("program.run"), nothing).refusal;
+    *why = driveHome(station, project.sides().first().recipe);
+    if (why->isEmpty())
+        *why = station->request(QStringLiteral("program.run"), nothing).refusal;
     bool goesOn = why->isEmpty();
     while (goesOn && world.now() < longest && (!areFull(world, project.sides()) || world.way().isMoving())) {
         station->simulate(kLook);

@@ -27,9 +27,9 @@ struct Axis
     double maxAcceleration; ///< [rad/s^2]
 };
 
-/// The third joint stops before the elbow is straight, so that there is one way to reach each place in front.
+/// The first joint reaches a pallet on either side of a conveyor behind the robot without turning back. The third joint stops before the elbow is straight, so that there is one way to reach each place in front.
 constexpr std::array<Axis, 6> kAxes{{
-    {radians(-185), radians(185), radians(130), radians(450)},
+    {radians(-275), radians(275), radians(130), radians(450)},
     {radians(-60), radians(120), radians(115), radians(400)},
     {radians(-85), radians(75), radians(125), radians(450)},
     {radians(-350), radians(350), radians(190), radians(900)},

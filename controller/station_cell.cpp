@@ -3,13 +3,16 @@
 #include "controller/station.h"
 #include "controller/texts.h"
 
+#include <QDir>
+
 namespace controller {
 
 using orba::Node;
 
 ProjectInUse Station::projectInUse()
 {
-    return {projects_.current(), projectFolder(), project().find(Projects::kLists[0]),
+    const QString folder = projectFolder();
+    return {projects_.current(), QDir(folder).exists() ? folder : QString(), project().find(Projects::kLists[0]),
             &projects_.variableList()};
 }
 

@@ -47,6 +47,7 @@ void PalletPlace::clear()
 {
     sheets_.clear();
     boxes_.clear();
+    tops_.clear();
     sheetsBelow_ = 1;
     top_ = plan_ ? pallet_.block.top() : 0;
 }
@@ -65,10 +66,11 @@ void PalletPlace::follow(std::shared_ptr<const RecipePlan> plan)
         top_ = pallet_.block.top();
 }
 
-void PalletPlace::add(std::vector<Body> *list, Body body)
+void PalletPlace::addBox(const Resting &box)
 {
-    top_ = std::max(top_, body.block.top());
-    list->push_back(std::move(body));
+    boxes_.push_back(box);
+    tops_.push_back(box.body.block.top());
+    top_ = std::max(top_, tops_.back());
 }
 
 void PalletPlace::laySheetsBelow(int layer)
@@ -76,9 +78,11 @@ void PalletPlace::laySheetsBelow(int layer)
     for (; sheetsBelow_ < layer; ++sheetsBelow_) {
         Pose point;
         QString why;
-        if (plan_->isSheet(sheetsBelow_) &&
-            plan_->point(script::PalletPoint::Wobj, sheetsBelow_, 1, &point, &why))
-            add(&sheets_, {Body::Kind::Sheet, side_, sheetsBelow_, 0, plan_->sheetAt(point)});
+        if (!plan_->isSheet(sheetsBelow_) ||
+            !plan_->point(script::PalletPoint::Wobj, sheetsBelow_, 1, &point, &why))
+            continue;
+        sheets_.push_back({Body::Kind::Sheet, side_, sheetsBelow_, 0, plan_->sheetAt(point)});
+        top_ = std::max(top_, sheets_.back().block.top());
     }
 }
 
@@ -88,8 +92,7 @@ void PalletPlace::put(const Body &box, const Pose &putPoint)
     Resting resting{box, 0, 0};
     resting.errorMm = (box.block.pose.translation() - wished.pose.translation()).norm() * 1000;
     resting.errorDeg = degrees(angleBetween(box.block.pose.linear(), wished.pose.linear()));
-    top_ = std::max(top_, box.block.top());
-    boxes_.push_back(resting);
+    addBox(resting);
 }
 
 void PalletPlace::nextPiece(int *layer, int *piece) const
@@ -139,8 +142,7 @@ void PalletPlace::restore(const Node &kept, std::shared_ptr<const RecipePlan> pl
         Body box{Body::Kind::Box, side_, static_cast<int>(numbers->number(0)),
                  static_cast<int>(numbers->number(1)), plan_->productAt(Pose::Identity())};
         box.block.pose = poseFrom(*numbers);
-        top_ = std::max(top_, box.block.top());
-        boxes_.push_back({box, numbers->number(8), numbers->number(9)});
+        addBox({box, numbers->number(8), numbers->number(9)});
     }
 }
 

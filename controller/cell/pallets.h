@@ -44,8 +44,18 @@ public:
         for (const Resting &box : boxes_)
             visit(box.body);
     }
-    /// Height of the highest corner of everything here [m]; for a quick look.
-    double top() const { return top_; }
+    /// The same, but only what reaches above that height [m].
+    template <class Visit> void visitAbove(double height, Visit visit) const
+    {
+        if (!isInPlace_ || !plan_ || top_ <= height)
+            return;
+        visit(pallet_);
+        for (const Body &sheet : sheets_)
+            visit(sheet);
+        for (std::size_t i = 0; i < boxes_.size(); ++i)
+            if (tops_[i] > height)
+                visit(boxes_[i].body);
+    }
 
     /// The piece to go on with, by what lies there: the first that is missing, counted through the layers. Behind the last
     /// piece: layers + 1, 1.
@@ -62,7 +72,7 @@ public:
 
 private:
     void restore(const orba::Node &kept, std::shared_ptr<const RecipePlan> plan);
-    void add(std::vector<Body> *list, Body body);
+    void addBox(const Resting &box);
 
     int side_;
     bool isInPlace_ = true;
@@ -70,8 +80,9 @@ private:
     Body pallet_;
     std::vector<Body> sheets_;
     std::vector<Resting> boxes_;
+    std::vector<double> tops_; ///< of the boxes, by themselves, because they are looked through often
     int sheetsBelow_ = 1; ///< layer up to which sheets were laid
-    double top_ = 0;
+    double top_ = 0; ///< of everything
 };
 
 } // namespace controller::cell

@@ -125,8 +125,7 @@ void World::watchWay(const Block &from, const Pose &to)
     const Block end{to, from.half};
     const double lowest = std::min(from.bottom(), end.bottom());
     for (const PalletPlace &pallet : pallets_)
-        if (pallet.top() > lowest)
-            pallet.visit(check);
+        pallet.visitAbove(lowest, check);
     check(column());
     Body waiting;
     if (waitingBox(&waiting) && liftedOff_)
@@ -224,7 +223,12 @@ void World::lose(const char *how)
 void World::settle(Body box)
 {
     std::vector<const Block *> others;
-    pallet(box.side).visit([&others](const Body &body) { others.push_back(&body.block); });
+    const Vector at = box.block.pose.translation();
+    const double reach = box.block.reach();
+    pallet(box.side).visit([&](const Body &body) {
+        if ((body.block.pose.translation() - at).head<2>().norm() < reach + body.block.reach())
+            others.push_back(&body.block);
+    });
     const double tilt = std::acos(std::min(1.0, box.block.pose.linear()(2, 2)));
     if (tilt > kUpright)
         violate(way_.where(),

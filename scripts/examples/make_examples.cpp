@@ -64,6 +64,22 @@ Recipe lineSide(bool right)
     return recipe;
 }
 
+/// Eight layers of ten boxes: the upper ones need the lift column.
+Recipe liftSide(bool right)
+{
+    Recipe recipe;
+    recipe.name = right ? QStringLiteral("Lift right") : QStringLiteral("Lift left");
+    recipe.desc = QStringLiteral("Boxes 400x240x200, eight layers of ten on the %1 pallet; the robot stands on a lift column")
+                      .arg(right ? QStringLiteral("right") : QStringLiteral("left"));
+    recipe.product = {400, 240, 200, 7};
+    recipe.palletPreset = 5;
+    recipe.patterns = {{QStringLiteral("A"), {false, false, true}}, {QStringLiteral("B"), {true, false, false}}};
+    recipe.layers = alternating(QStringLiteral("A"), QStringLiteral("B"), 8);
+    recipe.palletPosition = right ? 1 : 0;
+    layTowardsConveyor(&recipe);
+    return recipe;
+}
+
 Recipe cellSide(bool right)
 {
     Recipe recipe;
@@ -95,14 +111,16 @@ Recipe large()
 }
 
 /// The exchange file of recipes that bring their own tool and pallet frame.
-orba::Node exchangeFile(const orba::Node &pluginTemplate, const Recipe &recipe)
+orba::Node exchangeFile(const orba::Node &pluginTemplate, const QVector<Recipe> &recipes)
 {
     orba::Node list(orba::Name(u"temp_list"));
     list.reset(orba::Node::Kind::List);
     list.add(orba::Name(u"default"))->assign(*pluginTemplate.child(u"default"));
-    orba::Node stack = examples::makeStack(pluginTemplate, recipe);
-    examples::teachOwnCell(stack, recipe);
-    list.add()->assign(stack);
+    for (const Recipe &recipe : recipes) {
+        orba::Node stack = examples::makeStack(pluginTemplate, recipe);
+        examples::teachOwnCell(stack, recipe);
+        list.add()->assign(stack);
+    }
     return list;
 }
 
@@ -121,10 +139,12 @@ orba::Node globalCell(const orba::Node &pluginTemplate)
 
 bool write(const orba::Node &pluginTemplate, const QString &folder, orba::FormatError *error)
 {
-    const QVector<QPair<QString, Recipe>> files{{QStringLiteral("interlocked-1200x800"), interlocked()},
-                                                {QStringLiteral("line-left"), lineSide(false)},
-                                                {QStringLiteral("line-right"), lineSide(true)},
-                                                {QStringLiteral("large-20x100"), large()}};
+    const QVector<QPair<QString, QVector<Recipe>>> files{
+        {QStringLiteral("interlocked-1200x800"), {interlocked()}},
+        {QStringLiteral("line-left"), {lineSide(false)}},
+        {QStringLiteral("line-right"), {lineSide(true)}},
+        {QStringLiteral("lift-pair"), {liftSide(false), liftSide(true)}},
+        {QStringLiteral("large-20x100"), {large()}}};
     for (const auto &file : files) {
         const QString path = folder + QLatin1Char('/') + file.first + QStringLiteral(".xml");
         if (!orba::ModuleManager::writeToXmlFile(exchangeFile(pluginTemplate, file.second), path, error))

@@ -1,0 +1,132 @@
+// Whole pallets with the program templates, in every kind of cell that they are for.
+
+#include "line.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// Every product lies at its put point, in the order of the recipe.
+void expectWellStacked(Line &line, int side, int layers)
+{
+    const auto &pallet = line.pallet(side);
+    ASSERT_TRUE(pallet.plan());
+    EXPECT_EQ(layers, pallet.plan()->layers());
+    int layer = 1;
+    int piece = 0;
+    for (const auto &box : pallet.boxes()) {
+        if (++piece > pallet.plan()->pieces(layer)) {
+            ++layer;
+            piece = 1;
+        }
+        EXPECT_EQ(layer, box.body.layer);
+        EXPECT_EQ(piece, box.body.piece);
+        EXPECT_LT(box.errorMm, 0.1) << "layer " << layer << " piece " << piece;
+        EXPECT_LT(box.errorDeg, 0.01) << "layer " << layer << " piece " << piece;
+    }
+    EXPECT_EQ(layers, layer);
+    EXPECT_EQ(pallet.plan()->pieces(layers), piece);
+}
+
+/// How counters and flags of a side stand once its n-th pallet is full.
+void expectFullCounters(Line &line, int side, int layers, int pallets)
+{
+    const std::string end = side == 0 ? "L" : "R";
+    const auto number = [&](const char *name) { return line.number((name + end).c_str()); };
+    EXPECT_EQ(layers + 1, number("currentLayer"));
+    EXPECT_EQ(1, number("layerCount"));
+    EXPECT_EQ(0, number("palletCount"));
+    EXPECT_EQ(pallets, number("totalPallets"));
+    EXPECT_EQ(1, number("flag"));
+}
+
+bool isStacked(const LineSetup &setup, int side)
+{
+    return setup.scheme == 2 || setup.scheme == side;
+}
+
+class Fill : public ::testing::TestWithParam<LineSetup>
+{
+};
+
+TEST_P(Fill, WholePalletsTwice)
+{
+    LineSetup setup = GetParam();
+    Line line(setup);
+    if (setup.hasLift)
+        line.set("SetZ", 300); // so that the upper layer needs the column
+    line.start();
+    for (int pallet = 1; pallet <= 2; ++pallet) {
+        ASSERT_TRUE(line.runUntil([&line] { return line.isFull(); })) << line.runner().why();
+        EXPECT_EQ("", line.violations());
+        EXPECT_EQ(0, line.number("palletStatus"));
+        for (const int side : {0, 1}) {
+            if (!isStacked(setup, side))
+                continue;
+            expectWellStacked(line, side, setup.layers);
+            expectFullCounters(line, side, setup.layers, pallet);
+        }
+        line.run(1);
+        EXPECT_EQ(setup.scheme == 2, line.number("flagL1") == 1 && line.number("flagR1") == 1)
+            << "both were full";
+        if (setup.hasLift) {
+            EXPECT_EQ(0, line.number("rise"));
+            EXPECT_EQ(0, line.number("use_rise"));
+            EXPECT_NEAR(1, line.world().drive().heightMm(), 0.2);
+        }
+        for (const int side : {0, 1})
+            if (isStacked(setup, side) && pallet == 1)
+                line.exchangePallet(side);
+    }
+    EXPECT_EQ(controller::Runner::State::Running, line.runner().state());
+}
+
+std::vector<LineSetup> everySetup()
+{
+    std::vector<LineSetup> all;
+    for (const int scheme : {0, 1, 2})
+        for (const bool hasLift : {true, false})
+            for (const int towards : {0, 1})
+                all.push_back({scheme, hasLift, towards, 2, 1});
+    return all;
+}
+
+std::string nameOfSetup(const ::testing::TestParamInfo<LineSetup> &test)
+{
+    static const char *const schemes[] = {"Left", "Right", "Both"};
+    return std::string(schemes[test.param.scheme]) + (test.param.hasLift ? "WithLift" : "") +
+           (test.param.towards == 0 ? "Forward" : "Backwards");
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, Fill, ::testing::ValuesIn(everySetup()), nameOfSetup);
+
+class Lines : public controller::cell::TraceSink
+{
+public:
+    void line(const std::string &text) override { all += text + '\n'; }
+    std::string all;
+};
+
+std::string traceOf(std::uint64_t seed, double step)
+{
+    LineSetup setup{2, true, 0, 1, seed};
+    Line line(setup);
+    Lines trace;
+    line.runner().cell().setTrace(&trace);
+    line.start();
+    for (int i = 0; i * step < 120; ++i)
+        line.station().simulate(step);
+    line.runner().cell().setTrace(nullptr);
+    return trace.all;
+}
+
+} // namespace
+
+TEST(Determinism, TheSameSeedGivesTheSameTraceHoweverTimeIsCut)
+{
+    const std::string trace = traceOf(7, 0.5);
+    EXPECT_GT(trace.size(), 10000u);
+    EXPECT_EQ(trace, traceOf(7, 0.5));
+    EXPECT_EQ(trace, traceOf(7, 0.125));
+    EXPECT_NE(trace, traceOf(8, 0.5)) << "products come at other distances";
+}
