@@ -23,6 +23,15 @@ QStringList alternating(const QString &first, const QString &second, int count)
     return layers;
 }
 
+/// Laid from the corner that lies furthest from the conveyor towards the one where boxes come in.
+void layTowardsConveyor(Recipe *recipe)
+{
+    const bool right = recipe->palletPosition == 1;
+    recipe->laying.fromFarLength = right;
+    recipe->laying.fromFarWidth = true;
+    recipe->laying.direction = right ? QStringLiteral("BottomRight") : QStringLiteral("TopRight");
+}
+
 /// A sheet above every second layer, none on top.
 QStringList withSheets(const QStringList &layers)
 {
@@ -46,6 +55,7 @@ Recipe interlocked()
     recipe.patterns = {{QStringLiteral("A"), kFourRows}, {QStringLiteral("B"), kFourRowsBack}};
     recipe.layers = withSheets(alternating(QStringLiteral("A"), QStringLiteral("B"), 8));
     recipe.sheetHeight = 3;
+    layTowardsConveyor(&recipe);
     return recipe;
 }
 
@@ -61,6 +71,7 @@ Recipe lineSide(bool right)
                        {QStringLiteral("B"), {true, true, false, false}}};
     recipe.layers = alternating(QStringLiteral("A"), QStringLiteral("B"), 6);
     recipe.palletPosition = right ? 1 : 0;
+    layTowardsConveyor(&recipe);
     return recipe;
 }
 
@@ -107,6 +118,7 @@ Recipe large()
     recipe.patterns = {{QStringLiteral("A"), QVector<bool>(10, false)}};
     recipe.layers = QVector<QString>(20, QStringLiteral("A")).toList();
     recipe.gap = 2;
+    layTowardsConveyor(&recipe);
     return recipe;
 }
 

@@ -229,10 +229,12 @@ void teachOwnCell(orba::Node &stack, const Recipe &recipe)
     addGripper(*stack.ensure(u"toolset"), 0.285, 14.5);
     teach(stack, "tool.ref_p", {0.92, 0.31, 0.12, 0, {0.3249, -0.3142, 1.4661, 0, 0.4189, 0.3249}});
     teach(stack, "tool.rotate_p", {0.92, 0.31, 0.12, kPi / 2, {0.3249, -0.3142, 1.4661, 0, 0.4189, -1.2459}});
-    // In the pallet frame: the gripper stands on a box that stands on the pallet.
+    // In the pallet frame: the gripper stands on a box that stands on the pallet. The way in leads over the corner that
+    // lies towards the conveyor, so that a box comes over places that are still free.
+    const double corner = right ? -0.05 : recipe.palletPreset == 4 ? 1.15 : 1.25;
     teach(stack, "put.put_p", {0.2, 0.15, boxTop, 0, {side * 1.1345, -0.3491, 1.5359, 0, 0.384, 0}});
     teach(stack, "put.enter_p",
-          {0.6, -0.25, boxTop + 0.4, 0, {side * 0.7854, -0.5236, 1.2217, 0, 0.8727, 0}});
+          {corner, -0.25, boxTop + 0.4, 0, {side * 0.7854, -0.5236, 1.2217, 0, 0.8727, 0}});
     // In the robot's base frame: the gripper on the box at the end of the conveyor.
     teach(stack, "get.get_p", {1.35, 0, boxTop - 0.05, 0, {0, -0.192, 1.3788, 0, 0.384, 0}});
     teach(stack, "get.enter_p", {1.15, 0, boxTop + 0.45, 0, {0, -0.4887, 1.0996, 0, 0.9599, 0}});
