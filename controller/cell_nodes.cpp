@@ -151,7 +151,6 @@ void publishLooseBoxes(const World &world, Node *node)
         carried->reset(Node::Kind::List);
 }
 
-/// What lies there is written anew only when it is more or less than before.
 void publishLying(const cell::PalletPlace &place, Node *node)
 {
     std::vector<const Body *> sheets;
@@ -164,11 +163,9 @@ void publishLying(const cell::PalletPlace &place, Node *node)
     Node *list = listOf(node, u"sheets", static_cast<int>(sheets.size()));
     for (std::size_t i = 0; i < sheets.size(); ++i)
         setBlock(list->at(static_cast<int>(i)), sheets[i]->block);
-    const int before = node->ensure(u"boxes")->size();
-    const int count = static_cast<int>(place.boxes().size());
-    list = listOf(node, u"boxes", count);
-    for (int i = before > count ? 0 : before; i < count; ++i)
-        setBlock(list->at(i), place.boxes()[static_cast<std::size_t>(i)].body.block);
+    list = listOf(node, u"boxes", static_cast<int>(place.boxes().size()));
+    for (std::size_t i = 0; i < place.boxes().size(); ++i)
+        setBlock(list->at(static_cast<int>(i)), place.boxes()[i].body.block);
 }
 
 void publishPallets(const World &world, Node *node)

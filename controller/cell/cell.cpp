@@ -110,7 +110,8 @@ void Cell::setRelax(bool relax)
 
 void Cell::pause(const Location &where)
 {
-    note("pause");
+    if (relax_) // who asks again while nothing runs changes nothing
+        note("pause");
     pause_ = where;
     world_.way().pause();
 }

@@ -247,6 +247,7 @@ void teachGlobalCell(orba::Node &plugin)
         orba::Node &tool = *tools.add();
         fill(tool, {{"name", QString::fromLatin1(name)}});
         addGripper(tool, 0.31, 16);
+        fill(tool, {{"frame.pos.x", 0.0}, {"frame.pos.y", 0.0}, {"frame.pos.z", 0.31}});
         // The box in the gripper while the pallets' origin points were taught.
         fill(tool, {{"load.length", 380}, {"load.width", 260}});
     }

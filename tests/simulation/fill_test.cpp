@@ -54,7 +54,7 @@ TEST_P(Fill, WholePalletsTwice)
     LineSetup setup = GetParam();
     Line line(setup);
     if (setup.hasLift)
-        line.set("SetZ", 300); // so that the upper layer needs the column
+        line.set("SetZ", 400); // so that the upper layer needs the column
     line.start();
     for (int pallet = 1; pallet <= 2; ++pallet) {
         ASSERT_TRUE(line.runUntil([&line] { return line.isFull(); })) << line.runner().why();
