@@ -11,7 +11,10 @@
 #include "plan_pictures.h"
 #include "recipe_commands.h"
 #include "stack/way_points.h"
+#include "ui/pattern_view.h"
+#include "ui/recipe_frame.h"
 #include "ui/recipe_wizard.h"
+#include "ui/stack_panel.h"
 #include "ui/stackhomepage.h"
 #include "workstation/plugin_node.h"
 
@@ -25,6 +28,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QSlider>
 #include <QTimer>
 
 #include <functional>
@@ -239,7 +243,20 @@ void takeSetup(Camera &camera)
     }
 }
 
-/// Every page of every wizard, with something chosen where the recipe holds something.
+/// The page of a wizard as it opens, and with something chosen on it.
+void takeWizardPage(Camera &camera, RecipeWizard *wizard, const QString &name)
+{
+    camera.takeWindow(wizard, name);
+    RecipeFrame *page = wizard->pages()[wizard->page()];
+    if (auto *view = page->findChild<PatternView *>())
+        view->editing()->select({4});
+    auto *panel = page->findChild<StackPanel *>();
+    if (auto *slider = panel ? panel->findChild<QSlider *>() : nullptr)
+        slider->setValue(slider->maximum() * 2 / 3);
+    camera.takeWindow(wizard, name + QStringLiteral("-chosen"));
+}
+
+/// Every page of every wizard.
 void takeWizards(Camera &camera)
 {
     auto *button = control<QPushButton>(camera, QStringLiteral("btnWizard"));
@@ -251,7 +268,7 @@ void takeWizards(Camera &camera)
         if (!wizard)
             return camera.fail(QStringLiteral("no wizard came up for ") + entry->objectName());
         for (int page = 0; page < wizard->pages().size(); ++page) {
-            camera.takeWindow(wizard, QStringLiteral("%1-%2").arg(entry->objectName()).arg(page + 1));
+            takeWizardPage(camera, wizard, QStringLiteral("%1-%2").arg(entry->objectName()).arg(page + 1));
             if (page + 1 < wizard->pages().size())
                 wizard->next();
         }

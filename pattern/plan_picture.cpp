@@ -32,4 +32,20 @@ QImage planPicture(const orba::Node &stack, int layer, const QSize &pixels)
     return image;
 }
 
+QImage patternPicture(const orba::Node &stack, const QString &pattern, const QSize &pixels)
+{
+    constexpr double kTextPixels = 12; // numbers of a list are only looked at beside a full plan
+    QImage image = pictureImage(pixels);
+    image.fill(QColor::fromRgba(plan_style::kPaper));
+    const orba::Node *items = findPattern(stack, pattern);
+    PatternScene scene;
+    scene.setStack(stack);
+    scene.setPattern(items ? *items : orba::Node());
+    scene.setTextPixels(kTextPixels);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    scene.paintPlan(&painter, QRectF(image.rect()).adjusted(2, 2, -2, -2));
+    return image;
+}
+
 } // namespace palx

@@ -20,5 +20,7 @@ struct StackLook
 PALX_API QImage stackPicture(const orba::Node &stack, const QSize &pixels, const StackLook &look = {});
 /// The plan of a layer (from 0) to scale, with a title block.
 PALX_API QImage planPicture(const orba::Node &stack, int layer, const QSize &pixels);
+/// The plan of a pattern alone, on paper, for lists of patterns.
+PALX_API QImage patternPicture(const orba::Node &stack, const QString &pattern, const QSize &pixels);
 
 } // namespace palx

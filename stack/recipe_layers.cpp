@@ -158,6 +158,18 @@ orba::ModuleObject *insertLayer(orba::ModuleObject *stack, int index, const QStr
     return layer;
 }
 
+bool setLayerPattern(orba::ModuleObject *stack, int index, const QString &pattern)
+{
+    const bool known =
+        pattern == kSheetPattern || pattern == kEmptyPattern || patternOf(stack->node(), pattern);
+    if (!known || index < 0 || index >= layerCount(stack->node()))
+        return false;
+    const QString path = QStringLiteral("layers.#%1.pattern").arg(index);
+    stack->ensure(path);
+    stack->set(nullptr, path, pattern);
+    return true;
+}
+
 bool removeLayer(orba::ModuleObject *stack, int index)
 {
     return index >= 0 && index < layerCount(stack->node()) &&

@@ -43,6 +43,9 @@ PALX_API QStringList layerProblems(const orba::Node &stack);
 /// Inserts a layer before `index` (or at the end when it is out of range); the new layer, or the empty node.
 PALX_API orba::ModuleObject *insertLayer(orba::ModuleObject *stack, int index, const QString &pattern,
                                          double heightOffsetMm = 0);
+/// Gives a layer a pattern of the recipe, the separator sheet or the end of the stack; false, without a change,
+/// for another name or a layer that is not there.
+PALX_API bool setLayerPattern(orba::ModuleObject *stack, int index, const QString &pattern);
 PALX_API bool removeLayer(orba::ModuleObject *stack, int index);
 /// Moves a layer to another place; false when one of the places does not exist.
 PALX_API bool moveLayer(orba::ModuleObject *stack, int from, int to);

@@ -215,6 +215,25 @@ bool renamePattern(ModuleObject *stack, const QString &name, const QString &newN
     return true;
 }
 
+QString patternRemovalProblem(const Node &stack, const QString &name)
+{
+    constexpr int kNamed = 8; // more would not fit into a line
+    const QVector<LayerFacts> layers = layerFacts(stack);
+    QStringList users;
+    for (int i = 0; i < layers.size(); ++i) {
+        if (layers[i].pattern == name)
+            users << QString::number(i + 1);
+    }
+    if (users.isEmpty())
+        return QString();
+    const QString named = users.mid(0, kNamed).join(QStringLiteral(", "));
+    return users.size() == 1 ? PatternText::tr("Pattern \"%1\" is used by layer %2.").arg(name, named)
+           : users.size() <= kNamed
+               ? PatternText::tr("Pattern \"%1\" is used by the layers %2.").arg(name, named)
+               : PatternText::tr("Pattern \"%1\" is used by %2 layers: %3, ...")
+                     .arg(name, QString::number(users.size()), named);
+}
+
 bool removePattern(ModuleObject *stack, const QString &name)
 {
     ModuleObject *pattern = patternMobj(stack, name);

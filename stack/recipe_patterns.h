@@ -42,6 +42,8 @@ PALX_API orba::ModuleObject *addPattern(orba::ModuleObject *stack, const QString
                                         const QString &cloneOf = QString());
 /// Renames the pattern and every layer that uses it; false when there is none or the new name is refused.
 PALX_API bool renamePattern(orba::ModuleObject *stack, const QString &name, const QString &newName);
+/// Why the pattern should not be removed: the layers that use it; empty when none does.
+PALX_API QString patternRemovalProblem(const orba::Node &stack, const QString &name);
 /// Removes the pattern; layers that use it keep its name and are reported by `layerProblems`.
 PALX_API bool removePattern(orba::ModuleObject *stack, const QString &name);
 

@@ -41,21 +41,14 @@ LayersFrame::~LayersFrame()
 
 void LayersFrame::bindLayerFields()
 {
+    connect(ui_->cmbPattern, QOverload<int>::of(&QComboBox::activated), this,
+            [this] { setPattern(ui_->cmbPattern->currentData().toString()); });
     setupNumberField(ui_->spnOffset, QStringLiteral("h_offset"));
-    layerBinder_->bind(ui_->cmbPattern, QStringLiteral("pattern"));
     layerBinder_->bind(ui_->spnOffset, QStringLiteral("h_offset"));
     layerBinder_->setCheck([this](const QString &path, const QVariant &value) {
-        return stack() && path == QLatin1String("h_offset")
-                   ? palx::fieldProblem(stack()->node(), path, value.toDouble())
-                   : QString();
+        return stack() ? palx::fieldProblem(stack()->node(), path, value.toDouble()) : QString();
     });
-    connect(layerBinder_, &NodeBinder::edited, this,
-            [this](QWidget *, const QString &path) { spread(path); });
-    // The last chosen layer may have the pattern already while others have not.
-    connect(ui_->cmbPattern, QOverload<int>::of(&QComboBox::activated), this, [this] {
-        if (layers().size() > 1)
-            spread(QStringLiteral("pattern"));
-    });
+    connect(layerBinder_, &NodeBinder::edited, this, &LayersFrame::spreadOffset);
     connect(layerBinder_, &NodeBinder::refused, this,
             [this](QWidget *, const QString &reason) { Q_EMIT refused(reason); });
 }
@@ -172,13 +165,15 @@ void LayersFrame::fillPatterns()
         ui_->cmbPattern->addItem(shownPattern(name), name);
     for (const QString &name : {palx::kSheetPattern, palx::kEmptyPattern})
         ui_->cmbPattern->addItem(shownPattern(name), name);
-    layerBinder_->reload();
 }
 
 void LayersFrame::showLayer()
 {
     const bool chosen = stack() && layer() >= 0;
     layerBinder_->setRoot(chosen ? stack()->r("layers")->c(layer()) : nullptr);
+    const QVariant pattern = layers_->index(layer(), LayerTableModel::kPattern).data(Qt::EditRole);
+    ui_->cmbPattern->setCurrentIndex(chosen ? ui_->cmbPattern->findData(pattern) : -1);
+    ui_->cmbPattern->setEnabled(chosen);
     scene_->setLayer(std::max(layer(), 0));
     if (ui_->stack->marked().layer != layer()) {
         ui_->stack->markPiece(palx::Piece{layer(), -1});
@@ -228,16 +223,22 @@ QString LayersFrame::usualPattern() const
     return patterns.value(std::min(layers.size(), patterns.size() - 1));
 }
 
-/// What was written to one layer goes to the other chosen ones too, as part of the same edit.
-void LayersFrame::spread(const QString &path)
+void LayersFrame::setPattern(const QString &pattern)
 {
-    if (layer() < 0 || !stack())
-        return;
-    const QVariant value = stack()->r("layers")->c(layer())->c(path)->value();
+    const palx::LayerSet chosen = layers();
+    for (const int layer : chosen)
+        layers_->setData(layers_->index(layer, LayerTableModel::kPattern), pattern);
+    changed(chosen);
+}
+
+/// What was written to one layer goes to the other chosen ones too, as part of the same edit.
+void LayersFrame::spreadOffset()
+{
+    const QVariant value = layerBinder_->root()->c("h_offset")->value();
     for (const int other : layers()) {
-        const QString key = QStringLiteral("layers.#%1.%2").arg(other).arg(path);
-        stack()->ensure(key);
-        stack()->set(this, key, value);
+        const QString path = QStringLiteral("layers.#%1.h_offset").arg(other);
+        stack()->ensure(path);
+        stack()->set(this, path, value);
     }
     Q_EMIT edited();
 }

@@ -46,7 +46,8 @@ private:
     void showPiece(const palx::Piece &piece);
     QString usualPattern() const;
 
-    void spread(const QString &path);
+    void setPattern(const QString &pattern);
+    void spreadOffset();
     void insert(int index, const QString &pattern);
     void removeLayers();
     void moveLayers(bool up);

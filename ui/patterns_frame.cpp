@@ -28,7 +28,7 @@ constexpr int kProductsPage = 1;
 
 PatternsFrame::PatternsFrame(QWidget *parent)
     : RecipeFrame(parent), ui_(std::make_unique<Ui::PatternsFrame>()), scene_(new PatternScene(this)),
-      items_(new ItemTableModel(this)), itemBinder_(new NodeBinder(this))
+      items_(new ItemTableModel(this)), plans_(new PatternListModel(this)), itemBinder_(new NodeBinder(this))
 {
     ui_->setupUi(this);
     ui_->view->showPlan(scene_);
@@ -40,6 +40,7 @@ PatternsFrame::PatternsFrame(QWidget *parent)
     fillDirections(ui_->cmbDirection);
     bindItemFields();
     connect(ui_->cmbPattern, QOverload<int>::of(&QComboBox::activated), this, &PatternsFrame::showPattern);
+    setupPlans();
     connectEditing();
     connectPages();
     connectButtons();
@@ -49,6 +50,18 @@ PatternsFrame::PatternsFrame(QWidget *parent)
 PatternsFrame::~PatternsFrame()
 {
     delete ui_->view; // before the scene that it shows
+}
+
+void PatternsFrame::setupPlans()
+{
+    constexpr int kTextRow = 28;
+    ui_->lstPatterns->setModel(plans_);
+    ui_->lstPatterns->setIconSize(QSize(PatternListModel::kPixels, PatternListModel::kPixels));
+    ui_->lstPatterns->setGridSize(QSize(PatternListModel::kPixels + 2 * ix::xtheme::kGap,
+                                        PatternListModel::kPixels + kTextRow + ix::xtheme::kGap));
+    setTouchScrolling(ui_->lstPatterns);
+    connect(ui_->lstPatterns, &QListView::clicked, this,
+            [this](const QModelIndex &row) { choosePattern(plans_->name(row.row())); });
 }
 
 void PatternsFrame::bindItemFields()
@@ -145,6 +158,7 @@ void PatternsFrame::stackChanged()
 {
     scene_->setStack(stack());
     items_->setStack(stack());
+    plans_->setStack(stack());
     ui_->cmbPattern->clear(); // the choice belongs to the recipe
     shownPattern_.clear();
 }
@@ -170,6 +184,8 @@ void PatternsFrame::fillPatterns()
 
 void PatternsFrame::showPattern()
 {
+    plans_->refresh();
+    ui_->lstPatterns->setCurrentIndex(plans_->index(plans_->rowOf(pattern())));
     const bool another = pattern() != shownPattern_;
     shownPattern_ = pattern();
     scene_->setPattern(stack() ? stack()->r("patterns")->c(pattern()) : nullptr);
@@ -295,10 +311,12 @@ void PatternsFrame::renamePattern(const QString &name)
 void PatternsFrame::deletePattern()
 {
     const QString name = pattern();
-    const int layers = palx::patternUse(stack()->node(), name);
-    const QString use =
-        layers > 0 ? tr("It is used in %1 layers, which will get no points.").arg(layers) : QString();
-    const QString question = tr("Delete the pattern %1? %2").arg(name, use).trimmed();
+    const QString problem = palx::patternRemovalProblem(stack()->node(), name);
+    if (!problem.isEmpty()) {
+        Q_EMIT refused(problem);
+        return;
+    }
+    const QString question = tr("Delete the pattern %1?").arg(name);
     if (!nexo::ManagerHelper::instance()->execMsgOk(tr("Delete pattern"), question) || !stack())
         return;
     palx::removePattern(stack(), name);

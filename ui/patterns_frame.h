@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/pattern_list_model.h"
 #include "ui/pattern_problems.h"
 #include "ui/recipe_frame.h"
 #include "ui/recipe_tables.h"
@@ -36,6 +37,7 @@ private:
     void connectPages();
     void connectButtons();
     void bindItemFields();
+    void setupPlans();
     void fillPatterns();
     void showPattern();
     void followSelection();
@@ -54,6 +56,7 @@ private:
     std::unique_ptr<Ui::PatternsFrame> ui_;
     PatternScene *scene_;
     ItemTableModel *items_;
+    PatternListModel *plans_;
     NodeBinder *itemBinder_; ///< to the one product that is chosen
     QString shownPattern_;
     QVector<palx::PatternProblem> countProblems_;

@@ -30,8 +30,7 @@ bool differs(const orba::Node &a, const orba::Node &b, std::initializer_list<con
 void RecipeEditing::open(orba::ModuleObject *stack)
 {
     stack_ = stack && !stack->isEmptyMobj() ? stack : nullptr;
-    isEdited_ = false;
-    isSent_ = false;
+    isEdited_ = isTouched_ = isSent_ = false;
     if (stack_) {
         palx::checkProductPallet(stack_);
         palx::ensureRecipeKeys(stack_, palx::pluginNode()->r("default")->node());
@@ -64,7 +63,7 @@ bool RecipeEditing::redo()
 bool RecipeEditing::stepped(bool made)
 {
     if (made) {
-        isEdited_ = true;
+        isEdited_ = isTouched_ = true;
         announce();
     }
     return made;
@@ -87,7 +86,7 @@ void RecipeEditing::announce() const
 
 bool RecipeEditing::differsFromOpened() const
 {
-    return stack_ && palx::recipeContent(stack_->node()) != opened_;
+    return stack_ && isTouched_ && palx::recipeContent(stack_->node()) != opened_;
 }
 
 void RecipeEditing::generate(bool report)
@@ -121,7 +120,7 @@ void RecipeEditing::leave()
 
 void RecipeEditing::revert()
 {
-    if (!stack_)
+    if (!differsFromOpened())
         return;
     palx::restoreContent(stack_, opened_);
     stepped(history_.commit());

@@ -34,7 +34,8 @@ public:
 
     /// Edits since the points were last made and sent.
     bool isEdited() const { return isEdited_; }
-    /// Whether the recipe differs from what was opened, repairs not counted.
+    /// Whether edits made the recipe another one than was opened; repairs, and layers that generation drops, do
+    /// not count.
     bool differsFromOpened() const;
     /// Makes the points anew and sends the recipe when it was edited.
     void save();
@@ -54,5 +55,6 @@ private:
     RecipeHistory history_;
     orba::Node opened_;
     bool isEdited_ = false;
-    bool isSent_ = false; ///< edits were sent since the recipe was opened
+    bool isTouched_ = false; ///< something was edited since the recipe was opened
+    bool isSent_ = false;    ///< edits were sent since the recipe was opened
 };

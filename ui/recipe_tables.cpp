@@ -34,6 +34,29 @@ int LayerTableModel::readRows()
     return layers_.size();
 }
 
+Qt::ItemFlags LayerTableModel::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags flags = RecordTableModel::flags(index);
+    return index.column() == kPattern ? flags | Qt::ItemIsEditable : flags;
+}
+
+QVariant LayerTableModel::data(const QModelIndex &index, int role) const
+{
+    if (role == Qt::EditRole && index.column() == kPattern && index.row() < layers_.size())
+        return layers_[index.row()].pattern;
+    return RecordTableModel::data(index, role);
+}
+
+bool LayerTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    const QString pattern = value.toString();
+    if (!stackMobj() || role != Qt::EditRole || index.column() != kPattern ||
+        !palx::setLayerPattern(stackMobj(), index.row(), pattern))
+        return false;
+    refresh();
+    return true;
+}
+
 QStringList LayerTableModel::columns() const
 {
     return {tr("Layer"), tr("Pattern"), tr("Boxes"), tr("From\nmm"), tr("To\nmm")};

@@ -6,7 +6,7 @@
 #include <QVector>
 
 /// The layers of a recipe from the pallet up: number, pattern, products, bottom and top above the pallet's
-/// deck.
+/// deck. A layer's pattern can be written, to one that the recipe has, the separator sheet or the empty layer.
 class PALX_API LayerTableModel : public RecordTableModel
 {
     Q_OBJECT
@@ -16,6 +16,12 @@ public:
     static constexpr int kBottom = 3;  ///< column
 
     using RecordTableModel::RecordTableModel;
+
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    /// The name of the pattern for Qt::EditRole in the pattern's column.
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    /// Writes the pattern; false for one that the recipe does not have.
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
 protected:
     int readRows() override;

@@ -25,7 +25,11 @@ RecipeWizard::RecipeWizard(orba::ModuleObject *stack, QWidget *parent)
     connectButtons();
 }
 
-RecipeWizard::~RecipeWizard() = default;
+/// Another dialog may take its place while it is open; what was edited stays then and is sent.
+RecipeWizard::~RecipeWizard()
+{
+    editing_.save();
+}
 
 void RecipeWizard::connectButtons()
 {

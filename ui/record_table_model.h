@@ -26,6 +26,8 @@ public:
 protected:
     /// The recipe's storage, or null.
     const orba::Node *stack() const;
+    /// The recipe, or null.
+    orba::ModuleObject *stackMobj() const { return stack_; }
     /// Reads what the rows need; returns their number.
     virtual int readRows() = 0;
     virtual QStringList columns() const = 0;

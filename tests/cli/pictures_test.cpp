@@ -48,7 +48,10 @@ const char *const kPages[] = {"home",
                               "panel-controller",
                               "wizard-layers-1",
                               "wizard-layers-2",
-                              "wizard-patterns-1"};
+                              "wizard-patterns-1",
+                              "wizard-patterns-2",
+                              "wizard-directions-1",
+                              "wizard-directions-2"};
 
 void expectDrawn(const QString &file)
 {

@@ -352,3 +352,23 @@ TEST(RecipePoints, AZeroRecordIsNotTaught)
     const Node turned = nodeFromJson(R"({"trans": [0, 0, 0], "rot": [0, 0, 0.1]})");
     EXPECT_TRUE(palx::isTaught(&turned));
 }
+
+TEST(RecipePatterns, TheLayersThatUseAPatternAreNamed)
+{
+    orba::ModuleObject stack;
+    stack.node() = nodeFromJson(R"({"patterns":{"A":[],"B":[],"C":[]},"layers":[{"pattern":"A"}]})");
+    for (int i = 0; i < 10; ++i)
+        palx::insertLayer(&stack, -1, i % 5 == 0 ? QStringLiteral("C") : QStringLiteral("B"));
+    const struct
+    {
+        const char *pattern, *problem;
+    } cases[] = {{"A", "Pattern \"A\" is used by layer 1."},
+                 {"C", "Pattern \"C\" is used by the layers 2, 7."},
+                 {"B", "Pattern \"B\" is used by the layers 3, 4, 5, 6, 8, 9, 10, 11."},
+                 {"D", ""}};
+    for (const auto &c : cases)
+        EXPECT_EQ(palx::patternRemovalProblem(stack.node(), c.pattern), QString(c.problem));
+    palx::insertLayer(&stack, -1, "B");
+    EXPECT_EQ(palx::patternRemovalProblem(stack.node(), "B"),
+              QString("Pattern \"B\" is used by 9 layers: 3, 4, 5, 6, 8, 9, 10, 11, ..."));
+}

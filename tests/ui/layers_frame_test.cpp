@@ -154,3 +154,24 @@ TEST(LayersFrame, ABoxTouchedInTheStackChoosesItsLayer)
     l.frame.chooseLayer(3);
     EXPECT_EQ(panel->marked(), (palx::Piece{3, -1})) << "the whole layer";
 }
+
+TEST(LayerTableModel, WritesThePatternOfALayer)
+{
+    PluginTree tree;
+    orba::ModuleObject *stack = tree.addRecipe("Box");
+    LayerTableModel model;
+    model.setStack(stack);
+    const auto cell = [&model](int row, int column) { return model.index(row, column); };
+    const int pattern = LayerTableModel::kPattern;
+    EXPECT_EQ(cell(1, pattern).data(Qt::EditRole), QVariant(QStringLiteral("B")));
+    EXPECT_TRUE(model.setData(cell(1, pattern), QStringLiteral("A")));
+    EXPECT_EQ(stack->getString("layers.#1.pattern"), QString("A"));
+    EXPECT_TRUE(model.setData(cell(0, pattern), palx::kSheetPattern));
+    EXPECT_EQ(cell(0, pattern).data().toString(), QString("Separator sheet"));
+    EXPECT_FALSE(model.setData(cell(1, pattern), QStringLiteral("Z"))) << "there is no such pattern";
+    EXPECT_FALSE(model.setData(cell(1, 0), QStringLiteral("A")));
+    EXPECT_FALSE(model.setData(model.index(7, pattern), QStringLiteral("A")));
+    EXPECT_EQ(stack->getString("layers.#1.pattern"), QString("A"));
+    EXPECT_TRUE(model.flags(cell(0, pattern)) & Qt::ItemIsEditable);
+    EXPECT_FALSE(model.flags(cell(0, 0)) & Qt::ItemIsEditable);
+}

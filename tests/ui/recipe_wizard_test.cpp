@@ -6,11 +6,13 @@
 #include "ui/layers_frame.h"
 #include "ui/message_bar.h"
 #include "ui/page_fixture.h"
+#include "ui/stacksetuppage.h"
 #include "workstation/plugin_node.h"
 
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QMenu>
 #include <QPointer>
 #include <QPushButton>
 
@@ -90,6 +92,92 @@ TEST(RecipeWizard, GoingOnMakesPointsAndTellsTheTable)
     w.click("btnNext");
     EXPECT_EQ(w.points(), 2);
     EXPECT_EQ(table.take(), 1);
+}
+
+TEST(RecipeWizard, CancelAfterGoingOnSendsTheOldStateAgain)
+{
+    LayerWizard w({true});
+    const orba::Node before = w.content();
+    w.click("btnAdd");
+    w.click("btnNext");
+    ASSERT_EQ(w.points(), 3);
+    w.click("btnCancel");
+    EXPECT_EQ(w.content(), before);
+    EXPECT_EQ(w.points(), 2) << "points of a layer that is gone";
+}
+
+TEST(RecipeWizard, EmptyLayersThatGenerationDropsAreNoEdit)
+{
+    LayerWizard w;
+    palx::insertLayer(w.stack, -1, palx::kEmptyPattern);
+    w.wizard = std::make_unique<CascadeNestingWizard>(w.stack, nullptr);
+    w.wizard->show();
+    w.click("btnNext");
+    ASSERT_EQ(w.stack->r("layers")->cmobjCount(), 2);
+    w.click("btnCancel");
+    EXPECT_FALSE(w.wizard->isVisible());
+    EXPECT_TRUE(w.presenter.asked.isEmpty());
+}
+
+TEST(RecipeWizard, PagesAreGoneThroughForthAndBack)
+{
+    PluginTree tree;
+    orba::ModuleObject *stack = tree.addRecipe("Box");
+    const std::unique_ptr<RecipeWizard> wizards[] = {
+        std::make_unique<PlanarNestingWizard>(stack, nullptr),
+        std::make_unique<CascadeNestingWizard>(stack, nullptr),
+        std::make_unique<FeedingDirectionWizard>(stack, nullptr)};
+    for (const auto &wizard : wizards) {
+        wizard->show();
+        auto *back = wizard->findChild<QPushButton *>(QStringLiteral("btnBack"));
+        auto *next = wizard->findChild<QPushButton *>(QStringLiteral("btnNext"));
+        auto *step = wizard->findChild<QLabel *>(QStringLiteral("lblStep"));
+        EXPECT_FALSE(back->isEnabled());
+        EXPECT_EQ(next->text(), QString("Next"));
+        EXPECT_TRUE(step->text().startsWith(QStringLiteral("1 of 2: "))) << step->text();
+        next->click();
+        EXPECT_EQ(wizard->page(), 1);
+        EXPECT_EQ(next->text(), QString("Finish"));
+        back->click();
+        EXPECT_EQ(wizard->page(), 0);
+        next->click();
+        next->click();
+        EXPECT_FALSE(wizard->isVisible());
+        EXPECT_EQ(wizard->result(), int(QDialog::Accepted));
+    }
+}
+
+TEST(RecipeWizard, WhatWasEditedIsSentWhenAnotherDialogTakesItsPlace)
+{
+    LayerWizard w;
+    w.click("btnAdd");
+    ASSERT_EQ(w.points(), 0);
+    w.wizard.reset();
+    EXPECT_EQ(w.points(), 3);
+}
+
+TEST(RecipeWizard, ForTheSetUpPageItIsOneStep)
+{
+    Pages pages;
+    orba::ModuleObject *stack = pages.tree.addRecipe("Box");
+    pages.open("Box");
+    const orba::Node before = palx::recipeContent(stack->node());
+    const auto *menu = pages.field<QMenu>("mnuWizard");
+    ASSERT_EQ(menu->actions().size(), 3);
+    menu->actions().last()->trigger();
+    auto *wizard = pages.center.findChild<RecipeWizard *>();
+    ASSERT_NE(wizard, nullptr);
+    wizard->findChild<QPushButton *>(QStringLiteral("btnAdd"))->click();
+    wizard->findChild<QPushButton *>(QStringLiteral("btnAdd"))->click();
+    wizard->next();
+    wizard->next();
+    EXPECT_FALSE(wizard->isVisible());
+    const orba::Node after = palx::recipeContent(stack->node());
+    EXPECT_EQ(after.find(u"layers")->size(), 4);
+    pages.setup->undo();
+    EXPECT_EQ(palx::recipeContent(stack->node()), before);
+    pages.setup->redo();
+    EXPECT_EQ(palx::recipeContent(stack->node()), after);
 }
 
 TEST(RecipeWizard, ALayerOnAnEmptyOneKeepsTheWizardOpen)

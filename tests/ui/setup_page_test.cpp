@@ -2,6 +2,7 @@
 
 #include "orba/managers.h"
 #include "stack/recipe_edit.h"
+#include "stack/recipe_patterns.h"
 #include "support/recipe_tree.h"
 #include "support/test_support.h"
 #include "ui/current_recipe.h"
@@ -22,6 +23,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QTableView>
 #include <QtTest/QTest>
@@ -212,13 +214,50 @@ TEST(SetupPage, UndoOfLayersAndPatternsShowsThemAgain)
     page.setup->undo();
     EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("ABA"));
     EXPECT_EQ(table->model()->rowCount(), 3);
+    palx::addPattern(page.stack(), "C");
+    page.setup->pageDateRefresh();
     page.setup->showFrame(Patterns);
+    static_cast<PatternsFrame *>(page.setup->frames().at(Patterns))->choosePattern("C");
     ScriptedPresenter presenter({true});
     page.click(Patterns, "btnDelete");
-    EXPECT_FALSE(page.stack()->has("patterns.A"));
+    EXPECT_FALSE(page.stack()->has("patterns.C"));
     page.setup->undo();
+    EXPECT_TRUE(page.stack()->has("patterns.C"));
+    EXPECT_EQ(page.at<QComboBox>(Patterns, "cmbPattern")->count(), 3);
+}
+
+TEST(PatternsFrame, APatternThatLayersUseIsNotDeleted)
+{
+    SetupPage page(Patterns);
+    const ScriptedPresenter presenter({true});
+    page.click(Patterns, "btnDelete");
     EXPECT_TRUE(page.stack()->has("patterns.A"));
-    EXPECT_EQ(page.at<QComboBox>(Patterns, "cmbPattern")->count(), 2);
+    EXPECT_EQ(page.message(), QStringLiteral("Pattern \"A\" is used by layer 1."));
+    EXPECT_TRUE(presenter.asked.isEmpty());
+}
+
+TEST(PatternsFrame, TheListOfPlansFollowsAndChooses)
+{
+    SetupPage page(Patterns);
+    auto *frame = static_cast<PatternsFrame *>(page.setup->frames().at(Patterns));
+    auto *list = page.at<QListView>(Patterns, "lstPatterns");
+    const auto plan = [list](int row) {
+        return list->model()->index(row, 0).data(Qt::DecorationRole).value<QPixmap>().toImage();
+    };
+    ASSERT_EQ(list->model()->rowCount(), 2);
+    EXPECT_EQ(list->currentIndex().row(), 0);
+    const QImage before = plan(0);
+    const QImage other = plan(1);
+    EXPECT_NE(before, other);
+    Q_EMIT list->clicked(list->model()->index(1, 0));
+    EXPECT_EQ(frame->pattern(), QStringLiteral("B"));
+    frame->choosePattern("A");
+    EXPECT_EQ(list->currentIndex().row(), 0);
+    enter(page.at<QDoubleSpinBox>(Patterns, "spnX"), 300.0);
+    EXPECT_NE(plan(0), before);
+    EXPECT_EQ(plan(1), other);
+    page.setup->undo();
+    EXPECT_EQ(plan(0), before);
 }
 
 TEST(SetupPage, AFieldInEditCountsBeforeUndo)
