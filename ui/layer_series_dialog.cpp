@@ -33,8 +33,14 @@ LayerSeriesDialog::LayerSeriesDialog(orba::ModuleObject *stack, int layer, QWidg
 
 LayerSeriesDialog::~LayerSeriesDialog() = default;
 
+/// Also anew in another language; the choices stay.
 void LayerSeriesDialog::fill()
 {
+    const int first = ui_->cmbFirst->currentIndex();
+    const int second = ui_->cmbSecond->currentIndex();
+    const int where = ui_->cmbWhere->currentIndex();
+    for (QComboBox *combo : {ui_->cmbFirst, ui_->cmbSecond, ui_->cmbWhere})
+        combo->clear();
     ui_->spnSheet->setSpecialValueText(tr("none"));
     const QStringList patterns = palx::patternNames(stack_->node());
     for (const QString &name : patterns) {
@@ -45,10 +51,12 @@ void LayerSeriesDialog::fill()
                               tr("Turned by half")};
     for (int i = 0; i < 3; ++i)
         ui_->cmbSecond->addItem(images[i], i);
-    ui_->cmbSecond->setCurrentIndex(std::min(1, patterns.size() - 1));
     ui_->cmbWhere->addItem(tr("On top"), -1);
     if (layer_ >= 0)
         ui_->cmbWhere->addItem(tr("From layer %1 on, replacing").arg(layer_ + 1), layer_);
+    ui_->cmbFirst->setCurrentIndex(std::max(first, 0));
+    ui_->cmbSecond->setCurrentIndex(second < 0 ? std::min(1, patterns.size() - 1) : second);
+    ui_->cmbWhere->setCurrentIndex(std::max(where, 0));
 }
 
 int LayerSeriesDialog::image() const
@@ -97,6 +105,8 @@ void LayerSeriesDialog::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui_->retranslateUi(this);
+        if (stack_)
+            fill();
         showResult();
     }
     QDialog::changeEvent(event);

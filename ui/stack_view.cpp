@@ -92,8 +92,7 @@ void StackView::paintEvent(QPaintEvent *)
     if (!shown_)
         return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing,
-                          !dragged_); // smooth lines would hold up a large stack that turns
+    painter.setRenderHint(QPainter::Antialiasing, !moving_); // smooth lines would hold up a large stack that turns
     painter.translate(origin());
     painter.scale(scale(), scale());
     drawing_.paint(&painter, scale());
@@ -110,6 +109,7 @@ void StackView::mouseMoveEvent(QMouseEvent *event)
     dragged_ = dragged_ || (event->pos() - pressed_).manhattanLength() >= QApplication::startDragDistance();
     if (!dragged_)
         return;
+    moving_ = true;
     const QPoint by = event->pos() - last_;
     last_ = event->pos();
     moveBy(by.y());
@@ -120,7 +120,7 @@ void StackView::mouseReleaseEvent(QMouseEvent *event)
 {
     if (!dragged_ && shown_)
         Q_EMIT pieceTouched(drawing_.pieceAt((event->pos() - origin()) / scale()));
-    dragged_ = false;
+    moving_ = false;
     update();
 }
 
@@ -143,7 +143,8 @@ bool StackView::pinch(QGestureEvent *event)
     auto *gesture = static_cast<QPinchGesture *>(event->gesture(Qt::PinchGesture));
     if (!gesture)
         return false;
-    dragged_ = gesture->state() != Qt::GestureFinished; // two fingers are no touch of a piece
+    dragged_ = true; // two fingers are no touch of a piece
+    moving_ = gesture->state() != Qt::GestureFinished && gesture->state() != Qt::GestureCanceled;
     zoomBy(gesture->scaleFactor());
     event->accept(gesture);
     return true;

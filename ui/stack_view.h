@@ -61,5 +61,6 @@ private:
     double zoom_ = 1;
     double heightShift_ = 0; ///< of the middle that is shown, picture millimetres
     QPoint pressed_, last_;
-    bool dragged_ = false;
+    bool dragged_ = false; ///< the present press is no touch of a piece
+    bool moving_ = false;  ///< a finger is turning or enlarging the stack
 };

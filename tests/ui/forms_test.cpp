@@ -11,6 +11,7 @@
 #include "ui/base_sub_page.h"
 #include "ui/controller_dialog.h"
 #include "ui/dialog_fixture.h"
+#include "ui/form_checks.h"
 #include "ui/page_fixture.h"
 #include "ui/page_scroll.h"
 #include "ui/point_group.h"
@@ -32,68 +33,6 @@
 #include <algorithm>
 
 namespace {
-
-/// The panel's looks for the time of a test.
-struct Looks
-{
-    Looks() : font(QApplication::font()), palette(QApplication::palette()) { ix::xtheme::apply(qApp); }
-    ~Looks()
-    {
-        qApp->setStyleSheet(QString());
-        QApplication::setFont(font);
-        QApplication::setPalette(palette);
-    }
-    QFont font;
-    QPalette palette;
-};
-
-bool isControl(const QWidget *widget)
-{
-    const bool partOfAnother = widget->objectName().startsWith(QLatin1String("qt_"));
-    return !partOfAnother &&
-           (qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget) ||
-            qobject_cast<const QComboBox *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
-            qobject_cast<const QAbstractItemView *>(widget));
-}
-
-/// Controls of a form; parts of other controls (the popup of a combo box, a corner button) are not meant.
-QList<QWidget *> controls(const QWidget *form)
-{
-    QList<QWidget *> found;
-    for (QWidget *widget : form->findChildren<QWidget *>()) {
-        const QWidget *parent = widget->parentWidget();
-        const bool inner = qobject_cast<const QAbstractItemView *>(parent) ||
-                           qobject_cast<const QLineEdit *>(parent) || widget->inherits("QComboBoxListView") ||
-                           widget->inherits("QHeaderView");
-        if (isControl(widget) && !inner)
-            found << widget;
-    }
-    return found;
-}
-
-void expectReadable(const QWidget *form, const QString &where)
-{
-    for (const QLabel *label : form->findChildren<QLabel *>()) {
-        if (!label->isVisible() || label->text().isEmpty() || label->wordWrap())
-            continue;
-        EXPECT_GE(label->width(), label->sizeHint().width()) << where << label->objectName() << label->text();
-    }
-    for (const QAbstractButton *button : form->findChildren<QAbstractButton *>()) {
-        if (!button->isVisible() || button->text().isEmpty())
-            continue;
-        EXPECT_GE(button->width(), button->minimumSizeHint().width())
-            << where << button->objectName() << button->text();
-    }
-}
-
-void expectTouchable(const QWidget *form, const QString &where)
-{
-    for (const QWidget *control : controls(form)) {
-        if (!control->isVisible() || qobject_cast<const QAbstractItemView *>(control))
-            continue;
-        EXPECT_GE(control->height(), 56) << where << control->objectName();
-    }
-}
 
 /// The project manager in its two views: looking at a project, and adding one.
 template <typename Visit> void eachProjectView(Pages &pages, Visit visit)
@@ -195,14 +134,7 @@ TEST(Forms, EveryControlHasANameForTestsAndForReaders)
     Keypad keypad(KeypadRequest{QStringLiteral("Length"), {}, 0, 1, 0, 0}, &pages.center);
     NameDialog name(
         QStringLiteral("Name"), [](const QString &) { return QString(); }, &pages.center);
-    int count = 0;
-    for (const QWidget *control : controls(&pages.center)) {
-        const QString parent = control->parentWidget()->objectName();
-        EXPECT_FALSE(control->objectName().isEmpty()) << control->metaObject()->className() << parent;
-        EXPECT_FALSE(control->accessibleName().isEmpty()) << control->objectName() << parent;
-        ++count;
-    }
-    EXPECT_GT(count, 100);
+    EXPECT_GT(expectNamed(&pages.center, QString()), 100);
 }
 
 TEST(Forms, FitThePanelsTheyAreMadeFor)
