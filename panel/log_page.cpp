@@ -12,6 +12,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QScroller>
 
 using ix::xtheme::Glyph;
 
@@ -70,6 +71,7 @@ void LogPage::setupTable()
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table->horizontalHeader()->setSectionResizeMode(LogModel::Title, QHeaderView::Stretch);
     table->horizontalHeader()->setHighlightSections(false);
+    QScroller::grabGesture(table->viewport(), QScroller::TouchGesture);
     connect(table->selectionModel(), &QItemSelectionModel::currentChanged, this, &LogPage::showChosen);
     connect(found_, &QAbstractItemModel::rowsInserted, this,
             [this](const QModelIndex &, int first, int last) {
