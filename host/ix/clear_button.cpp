@@ -42,7 +42,8 @@ void ClearButton::place()
 void ClearButton::follow(const QString &text)
 {
     setVisible(!text.isEmpty());
-    field_->setTextMargins(0, 0, text.isEmpty() ? 0 : field_->height(), 0);
+    const int left = field_->textMargins().left(); // is the form's business
+    field_->setTextMargins(left, 0, text.isEmpty() ? left : field_->height(), 0);
 }
 
 } // namespace ix
