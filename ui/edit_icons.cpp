@@ -121,8 +121,9 @@ QIcon editIcon(EditIcon icon)
     return result;
 }
 
-void showTipWhenPressed(QAbstractButton *button)
+void setupTool(QAbstractButton *button)
 {
+    button->setFocusPolicy(Qt::TabFocus);
     QObject::connect(button, &QAbstractButton::pressed, button, [button] {
         QToolTip::showText(button->mapToGlobal(QPoint(0, -button->height())), button->toolTip(), button);
     });

@@ -39,5 +39,6 @@ enum class EditIcon {
 
 /// Dark, and light on a checked button.
 QIcon editIcon(EditIcon icon);
-/// Shows a button's tool tip while it is pressed: a finger cannot hover.
-void showTipWhenPressed(QAbstractButton *button);
+/// A button beside a plan: shows its tool tip while it is pressed, because a finger cannot hover, and leaves the
+/// keyboard to the plan unless it is reached with the Tab key.
+void setupTool(QAbstractButton *button);

@@ -66,7 +66,7 @@ void EditTools::showIcons()
     for (const auto &entry : buttons) {
         entry.button->setIcon(editIcon(entry.icon));
         entry.button->setIconSize(QSize(kIconPixels, kIconPixels));
-        showTipWhenPressed(entry.button);
+        setupTool(entry.button);
     }
 }
 

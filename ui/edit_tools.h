@@ -2,6 +2,7 @@
 
 #include "orba/export.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -45,5 +46,5 @@ private:
     double stepMm() const;
 
     std::unique_ptr<Ui::EditTools> ui_;
-    PatternView *view_ = nullptr;
+    QPointer<PatternView> view_;
 };

@@ -22,7 +22,7 @@ OrderTools::OrderTools(QWidget *parent) : QWidget(parent), ui_(std::make_unique<
     ui_->btnStepBack->setIcon(ix::xtheme::icon(ix::xtheme::Glyph::Back));
     ui_->btnStepOn->setIcon(ix::xtheme::icon(ix::xtheme::Glyph::Forward));
     for (QAbstractButton *button : findChildren<QAbstractButton *>())
-        showTipWhenPressed(button);
+        setupTool(button);
 }
 
 OrderTools::~OrderTools() = default;

@@ -2,6 +2,7 @@
 
 #include "orba/export.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -39,5 +40,5 @@ private:
     int only() const;
 
     std::unique_ptr<Ui::OrderTools> ui_;
-    PatternView *view_ = nullptr;
+    QPointer<PatternView> view_;
 };

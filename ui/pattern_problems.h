@@ -13,6 +13,10 @@ struct PALX_API PatternProblem
     QString text;
     Selection items; ///< places from 0
 };
+inline bool operator==(const PatternProblem &a, const PatternProblem &b)
+{
+    return a.text == b.text && a.items == b.items;
+}
 
 /// What is wrong with items that are shown or edited: overlaps, products over the pallet or in a margin, narrow
 /// gaps, ways that are blocked, stored values that cannot be used.

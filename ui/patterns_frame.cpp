@@ -105,6 +105,7 @@ void PatternsFrame::connectEditing()
             });
     connect(ui_->btnZoomFit, &QPushButton::clicked, ui_->view, &PatternView::fitPlan);
     ui_->btnZoomFit->setIcon(editIcon(EditIcon::ZoomFit));
+    setupTool(ui_->btnZoomFit);
 }
 
 void PatternsFrame::connectPages()

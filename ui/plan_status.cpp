@@ -58,7 +58,8 @@ void showPlanStatus(QLabel *label, const PatternView &view, const QVector<palx::
     if (!problems.isEmpty())
         lines << problemText(problems);
     label->setToolTip(lines.join(QLatin1Char('\n')));
-    label->setWordWrap(problems.isEmpty()); // two lines in any case
+    if (label->wordWrap() != problems.isEmpty()) // two lines in any case
+        label->setWordWrap(problems.isEmpty());
     const int room = label->width() - 2 * label->margin() - 4;
     for (QString &line : lines)
         line = problems.isEmpty() ? line : label->fontMetrics().elidedText(line, Qt::ElideRight, room);

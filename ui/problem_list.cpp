@@ -19,7 +19,7 @@ ProblemList::ProblemList(QWidget *parent) : QWidget(parent), ui_(std::make_uniqu
 {
     ui_->setupUi(this);
     setTouchScrolling(ui_->lstProblems);
-    showProblems({});
+    fill();
 }
 
 ProblemList::~ProblemList() = default;
@@ -28,28 +28,44 @@ void ProblemList::attach(PatternView *view)
 {
     view_ = view;
     connect(ui_->lstProblems, &QListWidget::itemClicked, this, [this](const QListWidgetItem *item) {
-        view_->editing()->select(problems_.value(ui_->lstProblems->row(item)).items);
+        if (view_)
+            view_->editing()->select(problems_.value(ui_->lstProblems->row(item)).items);
     });
 }
 
 void ProblemList::showProblems(const QVector<palx::PatternProblem> &problems)
 {
+    if (problems == problems_)
+        return;
     problems_ = problems;
+    if (isVisible())
+        fill();
+}
+
+void ProblemList::fill()
+{
     ui_->lstProblems->clear();
-    for (const palx::PatternProblem &problem : problems.mid(0, kMostShown))
+    for (const palx::PatternProblem &problem : problems_.mid(0, kMostShown))
         ui_->lstProblems->addItem(problem.text);
-    const bool good = problems.isEmpty();
-    ui_->lblResult->setText(
-        good ? tr("Nothing is wrong with the pattern.")
-             : tr("%n things are wrong. Touch one to choose its products.", nullptr, problems.size()));
-    ix::xtheme::setState(ui_->lblResult, good ? State::None : State::Attention);
+    const int count = problems_.size();
+    ui_->lblResult->setText(count == 0 ? tr("Nothing is wrong with the pattern.")
+                            : count == 1
+                                ? tr("One thing is wrong. Touch it to choose its products.")
+                                : tr("%1 things are wrong. Touch one to choose its products.").arg(count));
+    ix::xtheme::setState(ui_->lblResult, count == 0 ? State::None : State::Attention);
+}
+
+void ProblemList::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    fill();
 }
 
 void ProblemList::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui_->retranslateUi(this);
-        showProblems(problems_);
+        fill();
     }
     QWidget::changeEvent(event);
 }

@@ -2,6 +2,7 @@
 
 #include "ui/pattern_problems.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -23,14 +24,18 @@ public:
 
     /// Once; the view must outlive the list's use.
     void attach(PatternView *view);
+    /// The list is filled while it can be seen: a dragged product may make and end hundreds of problems.
     void showProblems(const QVector<palx::PatternProblem> &problems);
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void fill();
+
     std::unique_ptr<Ui::ProblemList> ui_;
-    PatternView *view_ = nullptr;
+    QPointer<PatternView> view_;
     QVector<palx::PatternProblem> problems_;
 };

@@ -55,8 +55,10 @@ struct PatternPage : Pages
         }
         return texts.join(QLatin1Char(' ')).toStdString();
     }
+    /// What the page "Check" lists.
     QStringList problems() const
     {
+        click("tabCheck");
         QStringList texts;
         const auto *list = at<QListWidget>("lstProblems");
         for (int i = 0; i < list->count(); ++i)
