@@ -125,8 +125,8 @@ void StackSetupPage::openWizard(NestingWizard kind)
     editing_.save(); // a wizard that is cancelled goes back to what stands here now
     RecipeWizard *wizard = openNestingWizard(kind, stack(), wgt_);
     connect(wizard, &QDialog::finished, wgt_, [this] { pageDateRefresh(); });
-    connect(wizard, &QObject::destroyed, wgt_,
-            [this] { pageDateRefresh(); }); // also when another takes its place
+    // Also when another takes its place; queued, because it ends with the page too.
+    connect(wizard, &QObject::destroyed, wgt_, [this] { pageDateRefresh(); }, Qt::QueuedConnection);
 }
 
 void StackSetupPage::showFrame(int index)

@@ -1,7 +1,10 @@
 #include "controller/program_variables.h"
 #include "controller/recipes.h"
+#include "controller/variables.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 using namespace controller;
 using orba::Node;

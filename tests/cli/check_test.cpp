@@ -94,7 +94,7 @@ TEST(Check, PlainMistakesAreWarnedOf)
         const char *warning; ///< the beginning of one of the warnings
     } cases[] = {
         {setter("patterns.A.#0.x", 60), "Pattern \"A\": Product 1 reaches 60.0 mm over the pallet."},
-        {setter("patterns.A.#1.x", 150), "Pattern \"A\": Products 1 and 2 overlap by "},
+        {setter("patterns.A.#1.x", 650), "Pattern \"A\": Products 1 and 2 overlap by "},
         {[](Node &stack) { stack.find(u"get.get_p")->reset(Node::Kind::Null); },
          "The pick point is not taught."},
         {[](Node &stack) { stack.find(u"put.put_p")->reset(Node::Kind::Null); },

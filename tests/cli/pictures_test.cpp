@@ -160,12 +160,12 @@ TEST_F(Pictures, TheDemonstrationGoesTheWholePath)
     ASSERT_EQ(run.code, 0) << run.err.constData();
     for (const char *step :
          {"read   interlocked-1200x800.xml: \"Interlocked 1200x800\", 8 layers and 3 sheets, 72 products",
-          "check  6 recipes, 0 findings", "points 2333 products", "draw   12 pictures",
+          "check  8 recipes, 0 findings", "points 2493 products", "draw   16 pictures",
           "store  read back after a restart"})
         EXPECT_TRUE(run.out.contains(step)) << step << " not in\n" << run.out.constData();
     const QString pictures = path("build/demo");
     EXPECT_TRUE(run.out.contains("done   the pictures are in " + pictures.toUtf8())) << run.out.constData();
-    const int pages = picturesIn(pictures).size() - 12;
+    const int pages = picturesIn(pictures).size() - 16;
     EXPECT_GE(pages, int(std::size(kPages)));
     EXPECT_TRUE(run.out.contains("pages  " + QByteArray::number(pages) + " pictures")) << run.out.constData();
 }

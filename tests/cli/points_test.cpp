@@ -80,7 +80,7 @@ void expectStack(const Node &stack, const Node &recipe)
 
 TEST(Points, JsonHasTheDocumentedShapeForEveryExample)
 {
-    ASSERT_EQ(exampleFiles().size(), 5);
+    ASSERT_EQ(exampleFiles().size(), 6);
     for (const QString &file : exampleFiles()) {
         SCOPED_TRACE(qPrintable(file));
         const Node result = pointsOf({examplePath(file)});
@@ -97,23 +97,23 @@ TEST(Points, OwnFrameGivesTheHandComputedPositions)
 {
     const Node result = pointsOf({examplePath("interlocked-1200x800.xml")});
     const Node &stack = *result.find(u"stacks.#0");
-    // Layer 0, first box: centre 135 across, 202.5 along; closes up from 40 mm beside.
-    expectPoint(stack, "put.#0.#0.put_p", 0.2025, 0.135, 0.2, 0);
-    expectPoint(stack, "put.#0.#0.ready_p", 0.2425, 0.175, 0.35, 0);
-    expectPoint(stack, "put.#0.#0.approach_p", 0.2025, 0.135, 0.26, 0);
-    expectPoint(stack, "put.#0.#0.retract_p", 0.2025, 0.135, 0.38, 0);
-    expectPoint(stack, "put.#0.#0.exit_p", 0.2025, 0.135, 0.52, 0);
-    expectPoint(stack, "put.#0.#0.enter_p", 0.6, -0.25, 0.6, 0);
-    // Layer 1, first box: turned by 90 degrees, centre 202.5 across, 137.5 along.
-    expectPoint(stack, "put.#1.#0.put_p", 0.1375, 0.2025, 0.4, -kPi / 2);
+    // Layer 0, first box: centre 665 across, 202.5 along; closes up from 40 mm beside.
+    expectPoint(stack, "put.#0.#0.put_p", 0.2025, 0.665, 0.2, 0);
+    expectPoint(stack, "put.#0.#0.ready_p", 0.2425, 0.625, 0.35, 0);
+    expectPoint(stack, "put.#0.#0.approach_p", 0.2025, 0.665, 0.26, 0);
+    expectPoint(stack, "put.#0.#0.retract_p", 0.2025, 0.665, 0.38, 0);
+    expectPoint(stack, "put.#0.#0.exit_p", 0.2025, 0.665, 0.52, 0);
+    expectPoint(stack, "put.#0.#0.enter_p", 1.15, -0.25, 0.6, 0);
+    // Layer 1, first box: turned by 90 degrees, centre 597.5 across, 137.5 along.
+    expectPoint(stack, "put.#1.#0.put_p", 0.1375, 0.5975, 0.4, -kPi / 2);
     // Layer 2 is a sheet in the middle of the pallet, 3 mm thick.
     expectPoint(stack, "put.#2.#0.put_p", 0.6, 0.4, 0.6, 0);
-    expectPoint(stack, "put.#3.#0.put_p", 0.2025, 0.135, 0.603, 0);
+    expectPoint(stack, "put.#3.#0.put_p", 0.2025, 0.665, 0.603, 0);
     // The last layer: seven layers and three sheets below; 20 mm replace all heights.
-    expectPoint(stack, "put.#10.#0.put_p", 0.1375, 0.2025, 1.609, -kPi / 2);
+    expectPoint(stack, "put.#10.#0.put_p", 0.1375, 0.5975, 1.609, -kPi / 2);
     for (const char *name : {"approach_p", "retract_p", "exit_p"})
-        expectPoint(stack, QStringLiteral("put.#10.#0.") + name, 0.1375, 0.2025, 1.629, -kPi / 2);
-    expectPoint(stack, "put.#10.#0.ready_p", 0.1775, 0.2425, 1.629, -kPi / 2);
+        expectPoint(stack, QStringLiteral("put.#10.#0.") + name, 0.1375, 0.5975, 1.629, -kPi / 2);
+    expectPoint(stack, "put.#10.#0.ready_p", 0.1775, 0.5575, 1.629, -kPi / 2);
     // Pick side: the heights of the recipe above the taught point.
     expectPoint(stack, "get.ready_p", 1.35, 0, 0.45, 0);
     expectPoint(stack, "get.approach_p", 1.35, 0, 0.23, 0);
@@ -179,7 +179,7 @@ TEST(Points, TableShowsMillimetresAndDegreesWithOneLinePerPoint)
     EXPECT_EQ(lines.size(), 2 + 5 + 6 * (8 * 9 + 3));
     EXPECT_EQ(lines.first(), "Recipe \"Interlocked 1200x800\": 11 layers");
     EXPECT_TRUE(run.out.contains(
-        "1 A, 1                put_p          202.50    135.00    200.00   180.000     0.000     "
+        "1 A, 1                put_p          202.50    665.00    200.00   180.000     0.000     "
         "0.000\n"))
         << run.out.left(2000).constData();
 }

@@ -147,6 +147,7 @@ void ProjectTest::add(const QString &name, const char *parameters)
     presenter.answer(true);
     steps.parameters = nodeFromJson(parameters);
     EXPECT_TRUE(palx::addProject(name, std::nullopt, &steps)) << takeMessages().join(QLatin1Char('|'));
+    settle(); // the controller builds it
     takeMessages();
     steps.told.clear();
 }

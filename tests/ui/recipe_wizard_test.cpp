@@ -7,6 +7,7 @@
 #include "ui/message_bar.h"
 #include "ui/page_fixture.h"
 #include "ui/stacksetuppage.h"
+#include "workstation/controller_sync.h"
 #include "workstation/plugin_node.h"
 
 #include <QCoreApplication>
@@ -97,6 +98,7 @@ TEST(RecipeWizard, GoingOnMakesPointsAndTellsTheTable)
 TEST(RecipeWizard, CancelAfterGoingOnSendsTheOldStateAgain)
 {
     LayerWizard w({true});
+    palx::genPointsAndSaveToRC(w.stack, false); // writes pick points into the recipe too
     const orba::Node before = w.content();
     w.click("btnAdd");
     w.click("btnNext");
