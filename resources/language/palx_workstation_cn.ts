@@ -935,6 +935,21 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>LongWorkDialog</name>
+    <message>
+        <source>What is being done</source>
+        <translation>正在执行的操作</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>MessageBar</name>
     <message>
         <source>Message</source>
@@ -1332,6 +1347,13 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>PatternListModel</name>
+    <message>
+        <source>In %1 layers</source>
+        <translation>用于 %1 层</translation>
+    </message>
+</context>
+<context>
     <name>PatternNameDialog</name>
     <message>
         <source>Name</source>
@@ -1455,6 +1477,18 @@ mm</translation>
         <source>Name is repeated!</source>
         <translation>名称重复！</translation>
     </message>
+    <message>
+        <source>Pattern &quot;%1&quot; is used by layer %2.</source>
+        <translation>垛型“%1”被第 %2 层使用。</translation>
+    </message>
+    <message>
+        <source>Pattern &quot;%1&quot; is used by the layers %2.</source>
+        <translation>垛型“%1”被以下层使用:%2。</translation>
+    </message>
+    <message>
+        <source>Pattern &quot;%1&quot; is used by %2 layers: %3, ...</source>
+        <translation>垛型“%1”被 %2 层使用:%3……</translation>
+    </message>
 </context>
 <context>
     <name>PatternsFrame</name>
@@ -1537,14 +1571,6 @@ mm</translation>
     <message>
         <source>The recipe was closed.</source>
         <translation>配方已关闭。</translation>
-    </message>
-    <message>
-        <source>It is used in %1 layers, which will get no points.</source>
-        <translation>它用于 %1 层，这些层将不生成点。</translation>
-    </message>
-    <message>
-        <source>Delete the pattern %1? %2</source>
-        <translation>删除垛型 %1？%2</translation>
     </message>
     <message>
         <source>Delete pattern</source>
@@ -1645,6 +1671,14 @@ mm</translation>
     <message>
         <source>Fill the pattern by an automatic layout</source>
         <translation>用自动布局填充垛型</translation>
+    </message>
+    <message>
+        <source>Patterns of the recipe</source>
+        <translation>配方的垛型</translation>
+    </message>
+    <message>
+        <source>Delete the pattern %1?</source>
+        <translation>删除垛型 %1?</translation>
     </message>
 </context>
 <context>
@@ -1922,11 +1956,13 @@ mm</translation>
         <source>Nothing is wrong with the pattern.</source>
         <translation>垛型没有问题。</translation>
     </message>
-    <message numerus="yes">
-        <source>%n things are wrong. Touch one to choose its products.</source>
-        <translation>
-            <numerusform>有 %n 个问题。点按其中一个可选择相关产品。</numerusform>
-        </translation>
+    <message>
+        <source>One thing is wrong. Touch it to choose its products.</source>
+        <translation>有一处问题。触摸它可选中相关产品。</translation>
+    </message>
+    <message>
+        <source>%1 things are wrong. Touch one to choose its products.</source>
+        <translation>有 %1 处问题。触摸其中一处可选中相关产品。</translation>
     </message>
 </context>
 <context>

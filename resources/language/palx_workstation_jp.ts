@@ -935,6 +935,21 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>LongWorkDialog</name>
+    <message>
+        <source>What is being done</source>
+        <translation>実行中の操作</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
     <name>MessageBar</name>
     <message>
         <source>Message</source>
@@ -1332,6 +1347,13 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>PatternListModel</name>
+    <message>
+        <source>In %1 layers</source>
+        <translation>%1 段で使用</translation>
+    </message>
+</context>
+<context>
     <name>PatternNameDialog</name>
     <message>
         <source>Name</source>
@@ -1455,6 +1477,18 @@ mm</translation>
         <source>Name is repeated!</source>
         <translation>名前が重複しています！</translation>
     </message>
+    <message>
+        <source>Pattern &quot;%1&quot; is used by layer %2.</source>
+        <translation>パターン「%1」は %2 段目 で使われています。</translation>
+    </message>
+    <message>
+        <source>Pattern &quot;%1&quot; is used by the layers %2.</source>
+        <translation>パターン「%1」は %2 段目 で使われています。</translation>
+    </message>
+    <message>
+        <source>Pattern &quot;%1&quot; is used by %2 layers: %3, ...</source>
+        <translation>パターン「%1」は %2 段で使われています: %3 …</translation>
+    </message>
 </context>
 <context>
     <name>PatternsFrame</name>
@@ -1537,14 +1571,6 @@ mm</translation>
     <message>
         <source>The recipe was closed.</source>
         <translation>レシピは閉じられました。</translation>
-    </message>
-    <message>
-        <source>It is used in %1 layers, which will get no points.</source>
-        <translation>%1 段で使われており、それらの段には点が作られなくなります。</translation>
-    </message>
-    <message>
-        <source>Delete the pattern %1? %2</source>
-        <translation>パターン %1 を削除しますか？ %2</translation>
     </message>
     <message>
         <source>Delete pattern</source>
@@ -1645,6 +1671,14 @@ mm</translation>
     <message>
         <source>Fill the pattern by an automatic layout</source>
         <translation>自動配置でパターンを埋める</translation>
+    </message>
+    <message>
+        <source>Patterns of the recipe</source>
+        <translation>レシピのパターン</translation>
+    </message>
+    <message>
+        <source>Delete the pattern %1?</source>
+        <translation>パターン %1 を削除しますか?</translation>
     </message>
 </context>
 <context>
@@ -1922,11 +1956,13 @@ mm</translation>
         <source>Nothing is wrong with the pattern.</source>
         <translation>パターンに問題はありません。</translation>
     </message>
-    <message numerus="yes">
-        <source>%n things are wrong. Touch one to choose its products.</source>
-        <translation>
-            <numerusform>問題が %n 件あります。触れるとその製品を選択します。</numerusform>
-        </translation>
+    <message>
+        <source>One thing is wrong. Touch it to choose its products.</source>
+        <translation>問題が 1 件あります。タッチすると製品が選択されます。</translation>
+    </message>
+    <message>
+        <source>%1 things are wrong. Touch one to choose its products.</source>
+        <translation>問題が %1 件あります。タッチすると製品が選択されます。</translation>
     </message>
 </context>
 <context>

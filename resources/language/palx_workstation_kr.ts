@@ -935,6 +935,21 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>LongWorkDialog</name>
+    <message>
+        <source>What is being done</source>
+        <translation>진행 중인 작업</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>진행 상황</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
     <name>MessageBar</name>
     <message>
         <source>Message</source>
@@ -1332,6 +1347,13 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>PatternListModel</name>
+    <message>
+        <source>In %1 layers</source>
+        <translation>%1개 단에서 사용</translation>
+    </message>
+</context>
+<context>
     <name>PatternNameDialog</name>
     <message>
         <source>Name</source>
@@ -1455,6 +1477,18 @@ mm</translation>
         <source>Name is repeated!</source>
         <translation>이름이 중복됩니다!</translation>
     </message>
+    <message>
+        <source>Pattern &quot;%1&quot; is used by layer %2.</source>
+        <translation>패턴 &quot;%1&quot;은(는) 단 %2에서 사용됩니다.</translation>
+    </message>
+    <message>
+        <source>Pattern &quot;%1&quot; is used by the layers %2.</source>
+        <translation>패턴 &quot;%1&quot;은(는) 다음 단에서 사용됩니다: %2.</translation>
+    </message>
+    <message>
+        <source>Pattern &quot;%1&quot; is used by %2 layers: %3, ...</source>
+        <translation>패턴 &quot;%1&quot;은(는) %2개 단에서 사용됩니다: %3 ...</translation>
+    </message>
 </context>
 <context>
     <name>PatternsFrame</name>
@@ -1537,14 +1571,6 @@ mm</translation>
     <message>
         <source>The recipe was closed.</source>
         <translation>레시피가 닫혔습니다.</translation>
-    </message>
-    <message>
-        <source>It is used in %1 layers, which will get no points.</source>
-        <translation>%1개 단에서 사용 중이며, 이 단에는 포인트가 생성되지 않습니다.</translation>
-    </message>
-    <message>
-        <source>Delete the pattern %1? %2</source>
-        <translation>패턴 %1을(를) 삭제하시겠습니까? %2</translation>
     </message>
     <message>
         <source>Delete pattern</source>
@@ -1645,6 +1671,14 @@ mm</translation>
     <message>
         <source>Fill the pattern by an automatic layout</source>
         <translation>자동 배치로 패턴 채우기</translation>
+    </message>
+    <message>
+        <source>Patterns of the recipe</source>
+        <translation>레시피의 패턴</translation>
+    </message>
+    <message>
+        <source>Delete the pattern %1?</source>
+        <translation>패턴 %1을(를) 삭제할까요?</translation>
     </message>
 </context>
 <context>
@@ -1922,11 +1956,13 @@ mm</translation>
         <source>Nothing is wrong with the pattern.</source>
         <translation>패턴에 문제가 없습니다.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n things are wrong. Touch one to choose its products.</source>
-        <translation>
-            <numerusform>문제가 %n개 있습니다. 하나를 누르면 해당 제품이 선택됩니다.</numerusform>
-        </translation>
+    <message>
+        <source>One thing is wrong. Touch it to choose its products.</source>
+        <translation>문제가 1개 있습니다. 터치하면 제품이 선택됩니다.</translation>
+    </message>
+    <message>
+        <source>%1 things are wrong. Touch one to choose its products.</source>
+        <translation>문제가 %1개 있습니다. 하나를 터치하면 제품이 선택됩니다.</translation>
     </message>
 </context>
 <context>

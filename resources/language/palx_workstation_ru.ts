@@ -935,6 +935,21 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>LongWorkDialog</name>
+    <message>
+        <source>What is being done</source>
+        <translation>Что выполняется</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Ход работы</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
     <name>MessageBar</name>
     <message>
         <source>Message</source>
@@ -1332,6 +1347,13 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>PatternListModel</name>
+    <message>
+        <source>In %1 layers</source>
+        <translation>В слоях: %1</translation>
+    </message>
+</context>
+<context>
     <name>PatternNameDialog</name>
     <message>
         <source>Name</source>
@@ -1455,6 +1477,18 @@ mm</translation>
         <source>Name is repeated!</source>
         <translation>Такое имя уже есть!</translation>
     </message>
+    <message>
+        <source>Pattern &quot;%1&quot; is used by layer %2.</source>
+        <translation>Схема «%1» используется слоем %2.</translation>
+    </message>
+    <message>
+        <source>Pattern &quot;%1&quot; is used by the layers %2.</source>
+        <translation>Схема «%1» используется слоями %2.</translation>
+    </message>
+    <message>
+        <source>Pattern &quot;%1&quot; is used by %2 layers: %3, ...</source>
+        <translation>Схема «%1» используется слоями (%2): %3, ...</translation>
+    </message>
 </context>
 <context>
     <name>PatternsFrame</name>
@@ -1537,14 +1571,6 @@ mm</translation>
     <message>
         <source>The recipe was closed.</source>
         <translation>Рецепт закрыт.</translation>
-    </message>
-    <message>
-        <source>It is used in %1 layers, which will get no points.</source>
-        <translation>Она используется в слоях (%1), и они останутся без точек.</translation>
-    </message>
-    <message>
-        <source>Delete the pattern %1? %2</source>
-        <translation>Удалить схему %1? %2</translation>
     </message>
     <message>
         <source>Delete pattern</source>
@@ -1645,6 +1671,14 @@ mm</translation>
     <message>
         <source>Fill the pattern by an automatic layout</source>
         <translation>Заполнить схему автоматической раскладкой</translation>
+    </message>
+    <message>
+        <source>Patterns of the recipe</source>
+        <translation>Схемы рецепта</translation>
+    </message>
+    <message>
+        <source>Delete the pattern %1?</source>
+        <translation>Удалить схему %1?</translation>
     </message>
 </context>
 <context>
@@ -1922,13 +1956,13 @@ mm</translation>
         <source>Nothing is wrong with the pattern.</source>
         <translation>Ошибок в схеме нет.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n things are wrong. Touch one to choose its products.</source>
-        <translation>
-            <numerusform>Найдена %n ошибка. Коснитесь её, чтобы выбрать изделия.</numerusform>
-            <numerusform>Найдено %n ошибки. Коснитесь одной, чтобы выбрать изделия.</numerusform>
-            <numerusform>Найдено %n ошибок. Коснитесь одной, чтобы выбрать изделия.</numerusform>
-        </translation>
+    <message>
+        <source>One thing is wrong. Touch it to choose its products.</source>
+        <translation>Одна ошибка. Коснитесь её, чтобы выбрать изделия.</translation>
+    </message>
+    <message>
+        <source>%1 things are wrong. Touch one to choose its products.</source>
+        <translation>Ошибок: %1. Коснитесь одной, чтобы выбрать изделия.</translation>
     </message>
 </context>
 <context>
