@@ -19,7 +19,6 @@ ProblemList::ProblemList(QWidget *parent) : QWidget(parent), ui_(std::make_uniqu
 {
     ui_->setupUi(this);
     setTouchScrolling(ui_->lstProblems);
-    fill();
 }
 
 ProblemList::~ProblemList() = default;
@@ -40,6 +39,12 @@ void ProblemList::showProblems(const QVector<palx::PatternProblem> &problems)
     problems_ = problems;
     if (isVisible())
         fill();
+}
+
+void ProblemList::empty()
+{
+    ui_->lstProblems->clear();
+    ui_->lblResult->clear();
 }
 
 void ProblemList::fill()
@@ -65,7 +70,10 @@ void ProblemList::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui_->retranslateUi(this);
-        fill();
+        if (isVisible())
+            fill();
+        else
+            empty();
     }
     QWidget::changeEvent(event);
 }

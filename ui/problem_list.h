@@ -34,6 +34,7 @@ protected:
 
 private:
     void fill();
+    void empty();
 
     std::unique_ptr<Ui::ProblemList> ui_;
     QPointer<PatternView> view_;
