@@ -1,7 +1,8 @@
 #include "orba/format_detail.h"
 
+#include "orba/file_writer.h"
+
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QtEndian>
 
 #include <algorithm>
@@ -64,9 +65,22 @@ QString depthText()
     return Texts::tr("lists and maps are nested more than %1 deep").arg(ReadLimits::kMaxDepth);
 }
 
-bool loadFile(const QString &file, const ReadLimits &limits, QByteArray *bytes, FormatError *error)
+bool failTooLarge(FormatError *error)
 {
-    const QFileInfo info(file);
+    return fail(error, Texts::tr("the tree is too large to be written"));
+}
+
+bool failStopped(FormatError *error)
+{
+    fail(error, Texts::tr("was stopped"));
+    if (error)
+        error->isStopped = true;
+    return false;
+}
+
+bool openFile(QFile *file, const ReadLimits &limits, FormatError *error)
+{
+    const QFileInfo info(file->fileName());
     if (!info.exists())
         return fail(error, Texts::tr("the file does not exist"));
     if (!info.isFile()) // reading a pipe or a device might never end
@@ -75,9 +89,15 @@ bool loadFile(const QString &file, const ReadLimits &limits, QByteArray *bytes, 
         return fail(error, Texts::tr("the file has %1 bytes, more than the %2 that are read")
                                .arg(info.size())
                                .arg(limits.maxBytes));
+    return file->open(QIODevice::ReadOnly) ||
+           fail(error, Texts::tr("cannot be opened: %1").arg(file->errorString()));
+}
+
+bool loadFile(const QString &file, const ReadLimits &limits, QByteArray *bytes, FormatError *error)
+{
     QFile source(file);
-    if (!source.open(QIODevice::ReadOnly))
-        return fail(error, Texts::tr("cannot be opened: %1").arg(source.errorString()));
+    if (!openFile(&source, limits, error))
+        return false;
     *bytes = source.readAll();
     if (source.error() != QFileDevice::NoError)
         return fail(error, Texts::tr("cannot be read: %1").arg(source.errorString()));
@@ -98,19 +118,8 @@ bool syncFolder(const QString &folder, QString *why)
 
 bool saveFile(const QString &file, const QByteArray &bytes, FormatError *error)
 {
-    QSaveFile target(file);
-    if (!target.open(QIODevice::WriteOnly))
-        return fail(error, Texts::tr("cannot be written: %1").arg(target.errorString()));
-    if (target.write(bytes) != bytes.size() || !target.flush())
-        return fail(error, Texts::tr("cannot be written: %1").arg(target.errorString()));
-    if (::fsync(target.handle()) != 0)
-        return fail(error, Texts::tr("cannot be written: %1").arg(qt_error_string(errno)));
-    if (!target.commit())
-        return fail(error, Texts::tr("cannot be written: %1").arg(target.errorString()));
-    QString why;
-    if (!syncFolder(QFileInfo(file).absolutePath(), &why))
-        return fail(error, Texts::tr("is written, but may be lost when the power fails: %1").arg(why));
-    return true;
+    FileWriter target(file);
+    return target.open(error) && target.write(bytes.constData(), bytes.size(), error) && target.commit(error);
 }
 
 } // namespace orba::format

@@ -4,6 +4,13 @@
 
 #include <QCoreApplication>
 
+class QFile;
+class QIODevice;
+
+namespace orba {
+class FileWriter;
+}
+
 /// What the JSON and XML halves of ModuleManager share with each other, with the store and with the controller's state.
 namespace orba::format {
 
@@ -28,11 +35,16 @@ bool fromBase64(const QByteArray &base64, QString *text);
 bool fail(FormatError *error, const QString &what, qint64 line = 0, qint64 column = 0);
 /// The same for a place in UTF-8 text; columns count characters.
 bool failAt(FormatError *error, const QString &what, const char *text, std::size_t offset);
+bool failTooLarge(FormatError *error);
+/// For work that its watch has stopped.
+bool failStopped(FormatError *error);
 /// "why (at path)" for a node that cannot be written.
 QString refusal(const QString &why, const Node &node, const Node &root);
 QString depthText();
 
-/// The whole content of a regular file or resource of at most that many bytes.
+/// Opens a regular file or resource of at most that many bytes for reading.
+bool openFile(QFile *file, const ReadLimits &limits, FormatError *error);
+/// The whole content of such a file.
 PALX_API bool loadFile(const QString &file, const ReadLimits &limits, QByteArray *bytes, FormatError *error);
 /// Writes beside the file, syncs, renames, and syncs the folder.
 PALX_API bool saveFile(const QString &file, const QByteArray &bytes, FormatError *error);
@@ -50,7 +62,9 @@ bool writeJsonItem(const Node &node, QByteArray *out, FormatError *error);
 bool readJsonItem(const QByteArray &text, Node *item, FormatError *error);
 
 bool writeXml(const Node &node, QByteArray *out, FormatError *error);
-/// Fills `node` only on success.
-bool readXml(const QByteArray &text, const ReadLimits &limits, Node *node, FormatError *error);
+bool writeXml(const Node &node, FileWriter *out, const ReadLimits &limits, const Watch &watch,
+              FormatError *error);
+/// Fills `node` only on success. `source` can be sought in.
+bool readXml(QIODevice *source, const ReadLimits &limits, const Watch &watch, Node *node, FormatError *error);
 
 } // namespace orba::format

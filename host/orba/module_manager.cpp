@@ -1,40 +1,20 @@
 #include "orba/module_manager.h"
 
+#include "orba/file_writer.h"
 #include "orba/format_detail.h"
+
+#include <QBuffer>
+#include <QFile>
 
 namespace orba {
 
 namespace {
-
-using Encode = bool (*)(const Node &, QByteArray *, FormatError *);
-using Decode = bool (*)(const QByteArray &, const ReadLimits &, Node *, FormatError *);
-
-bool encodeJson(const Node &node, QByteArray *out, FormatError *error)
-{
-    return format::writeJson(node, false, out, error);
-}
 
 bool named(bool done, const QString &file, FormatError *error)
 {
     if (!done && error)
         error->file = file;
     return done;
-}
-
-bool write(const Node &node, const QString &file, Encode encode, FormatError *error)
-{
-    QByteArray bytes;
-    bool done = encode(node, &bytes, error);
-    if (done && bytes.size() > ReadLimits().maxBytes) // nobody could read it back
-        done = format::fail(error, format::Texts::tr("the tree is too large to be written"));
-    return named(done && format::saveFile(file, bytes, error), file, error);
-}
-
-bool read(const QString &file, Node *node, Decode decode, FormatError *error, const ReadLimits &limits)
-{
-    QByteArray bytes;
-    const bool done = format::loadFile(file, limits, &bytes, error) && decode(bytes, limits, node, error);
-    return named(done, file, error);
 }
 
 /// Writing "there is none" would hide a mistake, reading into it would lose the content.
@@ -44,10 +24,12 @@ bool isUsable(const ModuleObject *mobj, const QString &file, FormatError *error)
     return usable || named(format::fail(error, format::Texts::tr("there is no such node")), file, error);
 }
 
-bool read(const QString &file, ModuleObject *mobj, Decode decode, FormatError *error)
+using Read = bool (*)(const QString &, Node *, FormatError *, const ReadLimits &);
+
+bool read(const QString &file, ModuleObject *mobj, Read readNode, FormatError *error)
 {
     Node node;
-    if (!isUsable(mobj, file, error) || !read(file, &node, decode, error, ReadLimits()))
+    if (!isUsable(mobj, file, error) || !readNode(file, &node, error, ReadLimits()))
         return false;
     mobj->copyFrom(node);
     return true;
@@ -76,13 +58,20 @@ bool ModuleManager::fromJson(const QByteArray &text, Node *node, FormatError *er
 
 bool ModuleManager::writeToJson(const Node &node, const QString &file, FormatError *error)
 {
-    return write(node, file, encodeJson, error);
+    QByteArray bytes;
+    bool done = format::writeJson(node, false, &bytes, error);
+    if (done && bytes.size() > ReadLimits().maxBytes)
+        done = format::failTooLarge(error);
+    return named(done && format::saveFile(file, bytes, error), file, error);
 }
 
 bool ModuleManager::readFromJson(const QString &file, Node *node, FormatError *error,
                                  const ReadLimits &limits)
 {
-    return read(file, node, format::readJson, error, limits);
+    QByteArray bytes;
+    const bool done =
+        format::loadFile(file, limits, &bytes, error) && format::readJson(bytes, limits, node, error);
+    return named(done, file, error);
 }
 
 QByteArray ModuleManager::toXml(const Node &node, FormatError *error)
@@ -93,18 +82,39 @@ QByteArray ModuleManager::toXml(const Node &node, FormatError *error)
 
 bool ModuleManager::fromXml(const QByteArray &text, Node *node, FormatError *error, const ReadLimits &limits)
 {
-    return format::readXml(text, limits, node, error);
+    QBuffer source;
+    source.setData(text);
+    source.open(QIODevice::ReadOnly);
+    return format::readXml(&source, limits, Watch(), node, error);
 }
 
 bool ModuleManager::writeToXmlFile(const Node &node, const QString &file, FormatError *error)
 {
-    return write(node, file, format::writeXml, error);
+    return writeToXmlFile(node, file, error, ReadLimits(), Watch());
 }
 
 bool ModuleManager::readFromXmlFile(const QString &file, Node *node, FormatError *error,
                                     const ReadLimits &limits)
 {
-    return read(file, node, format::readXml, error, limits);
+    return readFromXmlFile(file, node, error, limits, Watch());
+}
+
+bool ModuleManager::writeToXmlFile(const Node &node, const QString &file, FormatError *error,
+                                   const ReadLimits &limits, const Watch &watch)
+{
+    FileWriter target(file);
+    const bool done =
+        target.open(error) && format::writeXml(node, &target, limits, watch, error) && target.commit(error);
+    return named(done, file, error);
+}
+
+bool ModuleManager::readFromXmlFile(const QString &file, Node *node, FormatError *error,
+                                    const ReadLimits &limits, const Watch &watch)
+{
+    QFile source(file);
+    const bool done =
+        format::openFile(&source, limits, error) && format::readXml(&source, limits, watch, node, error);
+    return named(done, file, error);
 }
 
 bool ModuleManager::writeToXmlFile(const ModuleObject *mobj, const QString &file, FormatError *error)
@@ -114,7 +124,7 @@ bool ModuleManager::writeToXmlFile(const ModuleObject *mobj, const QString &file
 
 bool ModuleManager::readFromXmlFile(const QString &file, ModuleObject *mobj, FormatError *error)
 {
-    return read(file, mobj, format::readXml, error);
+    return read(file, mobj, &ModuleManager::readFromXmlFile, error);
 }
 
 bool ModuleManager::writeToJson(const ModuleObject *mobj, const QString &file, FormatError *error)
@@ -124,7 +134,7 @@ bool ModuleManager::writeToJson(const ModuleObject *mobj, const QString &file, F
 
 bool ModuleManager::readFromJson(const QString &file, ModuleObject *mobj, FormatError *error)
 {
-    return read(file, mobj, format::readJson, error);
+    return read(file, mobj, &ModuleManager::readFromJson, error);
 }
 
 } // namespace orba

@@ -4,24 +4,33 @@
 
 #include <QByteArray>
 
+#include <functional>
+
 namespace orba {
 
 /// What a refused read or write says: what, where, why.
-struct PALX_API FormatError {
-    QString file;      ///< empty for text from memory
-    QString what;      ///< the reason, one sentence without the place
-    qint64 line = 0;   ///< from 1; 0 when the fault has no place in the text
-    qint64 column = 0; ///< from 1
+struct PALX_API FormatError
+{
+    QString file;           ///< empty for text from memory
+    QString what;           ///< the reason, one sentence without the place
+    qint64 line = 0;        ///< from 1; 0 when the fault has no place in the text
+    qint64 column = 0;      ///< from 1
+    bool isStopped = false; ///< nothing is wrong; the watch wanted no more
     bool isSet() const { return !what.isEmpty(); }
     /// "file:line:column: what"
     QString text() const;
 };
 
-/// Limits for reading from outside.
-struct PALX_API ReadLimits {
+/// Limits for reading from outside; what is written keeps them too, because nobody could read it back.
+struct PALX_API ReadLimits
+{
     static constexpr int kMaxDepth = 256;
     qint64 maxBytes = 64LL * 1024 * 1024;
 };
+
+/// Is told from time to time, several times per megabyte, how much of long reading (bytes) or writing (nodes) is done.
+/// By false it stops the work, which then fails and leaves everything as it was.
+using Watch = std::function<bool(qint64 done, qint64 total)>;
 
 /// Writes node trees as JSON and XML text and reads them back without loss: kinds, order, names (null, empty,
 /// equal), any string, doubles in their shortest exact form. Integers stay integers, 1.0 stays a double.
@@ -50,6 +59,12 @@ public:
     static bool writeToXmlFile(const Node &node, const QString &file, FormatError *error = nullptr);
     static bool readFromXmlFile(const QString &file, Node *node, FormatError *error = nullptr,
                                 const ReadLimits &limits = ReadLimits());
+
+    /// The same in pieces: beside the tree they hold no more of the file than one of them.
+    static bool writeToXmlFile(const Node &node, const QString &file, FormatError *error,
+                               const ReadLimits &limits, const Watch &watch);
+    static bool readFromXmlFile(const QString &file, Node *node, FormatError *error, const ReadLimits &limits,
+                                const Watch &watch);
 
     // The same on handles; reading replaces the node's content and announces it.
     static bool writeToXmlFile(const ModuleObject *mobj, const QString &file, FormatError *error = nullptr);

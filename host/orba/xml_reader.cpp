@@ -1,5 +1,7 @@
 #include "orba/format_detail.h"
+#include "orba/xml_source.h"
 
+#include <QFile>
 #include <QXmlStreamReader>
 
 #include <rapidjson/encodings.h>
@@ -76,7 +78,7 @@ QString printable(QString text)
 class XmlIn
 {
 public:
-    explicit XmlIn(const QByteArray &text) : reader_(text)
+    explicit XmlIn(QIODevice *source) : reader_(source)
     {
         reader_.setNamespaceProcessing(false); // the dialect has none
     }
@@ -84,11 +86,22 @@ public:
     bool document(Node *root);
     /// Passes the reason on.
     bool failed(FormatError *error) const { return fail(error, what_, line_, column_); }
-    bool isUtf8() const
+    bool isCutShort() const { return reader_.error() == QXmlStreamReader::PrematureEndOfDocumentError; }
+    /// The same for a reason from elsewhere, whose place is where the reader came to.
+    bool failed(const FormatError &reason, FormatError *error) const
     {
-        return reader_.documentEncoding().isEmpty() ||
-               reader_.documentEncoding().compare(QLatin1String("UTF-8"), Qt::CaseInsensitive) == 0;
+        if (error) {
+            *error = reason;
+            error->line = reader_.lineNumber();
+            error->column = reader_.columnNumber() + 1;
+        }
+        return false;
     }
+    bool isEncoding(const char *name) const
+    {
+        return reader_.documentEncoding().compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+    }
+    bool isUtf8() const { return reader_.documentEncoding().isEmpty() || isEncoding("UTF-8"); }
 
 private:
     /// The attributes of one element.
@@ -99,6 +112,8 @@ private:
         bool isBase64 = false;
     };
 
+    /// Those that extend ASCII and are still met.
+    bool isEncodingKnown() const { return isUtf8() || isEncoding("US-ASCII") || isEncoding("ISO-8859-1"); }
     void next();
     void mark()
     {
@@ -145,8 +160,6 @@ bool XmlIn::refuseToken()
     case QXmlStreamReader::Invalid:
         mark();
         return refuse(printable(reader_.errorString()));
-    case QXmlStreamReader::DTD:
-        return refuse(Texts::tr("document types and entities are not accepted"));
     case QXmlStreamReader::EntityReference:
         return refuse(Texts::tr("the entity \"%1\" is unknown").arg(reader_.name().toString()));
     case QXmlStreamReader::StartElement:
@@ -163,6 +176,10 @@ bool XmlIn::document(Node *root)
         next();
         switch (reader_.tokenType()) {
         case QXmlStreamReader::StartDocument:
+            if (!isEncodingKnown())
+                return refuse(Texts::tr("the encoding \"%1\" is not accepted")
+                                  .arg(reader_.documentEncoding().toString()));
+            break;
         case QXmlStreamReader::EndDocument:
         case QXmlStreamReader::Comment:
         case QXmlStreamReader::ProcessingInstruction:
@@ -334,23 +351,32 @@ bool XmlIn::doubles(const QByteArray &text, Node *node)
 
 } // namespace
 
-bool readXml(const QByteArray &text, const ReadLimits &limits, Node *node, FormatError *error)
+bool readXml(QIODevice *source, const ReadLimits &limits, const Watch &watch, Node *node, FormatError *error)
 {
-    if (text.size() > limits.maxBytes)
+    if (source->size() > limits.maxBytes)
         return fail(error, Texts::tr("the text has %1 bytes, more than the %2 that are read")
-                               .arg(text.size())
+                               .arg(source->size())
                                .arg(limits.maxBytes));
     Node result;
-    XmlIn xml(text);
-    if (!xml.document(&result)) {
-        // The reader decodes in large pieces and could only name the beginning of one.
-        const std::size_t bad = xml.isUtf8() ? firstBadByte(text) : static_cast<std::size_t>(text.size());
-        if (bad < static_cast<std::size_t>(text.size()))
-            return failAt(error, Texts::tr("the text is not UTF-8"), text.constData(), bad);
-        return xml.failed(error);
+    XmlSource bytes(source, watch);
+    XmlIn xml(&bytes);
+    const bool isRead = xml.document(&result);
+    if (bytes.error().isSet() && (isRead || xml.isCutShort()))
+        return xml.failed(bytes.error(), error);
+    if (isRead) {
+        node->take(result);
+        return true;
     }
-    node->take(result);
-    return true;
+    const auto *file = qobject_cast<QFileDevice *>(source);
+    if (file && file->error() != QFileDevice::NoError)
+        return fail(error, Texts::tr("cannot be read: %1").arg(file->errorString()));
+    source->seek(0);
+    const QByteArray text = xml.isUtf8() ? source->readAll() : QByteArray();
+    const std::size_t bad =
+        firstBadByte(text); // the reader decodes in pieces and could only name the beginning of one
+    if (bad < static_cast<std::size_t>(text.size()))
+        return failAt(error, Texts::tr("the text is not UTF-8"), text.constData(), bad);
+    return xml.failed(error);
 }
 
 } // namespace orba::format

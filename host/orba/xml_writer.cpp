@@ -1,5 +1,7 @@
+#include "orba/file_writer.h"
 #include "orba/format_detail.h"
 
+#include <QBuffer>
 #include <QXmlStreamWriter>
 
 #include <algorithm>
@@ -10,6 +12,8 @@ namespace orba::format {
 namespace {
 
 enum class Place { Text, Attribute };
+
+constexpr int kPiece = 64 * 1024; // bytes that are kept before they are written
 
 /// XML has no form for most control characters and half surrogate pairs, and readers turn line ends into "\n" and, in
 /// attributes, white space into blanks.
@@ -37,10 +41,29 @@ bool isOfDoubles(const Node &list)
     return true;
 }
 
+/// Nodes below and including this one; a packed list counts once.
+qint64 countNodes(const Node &node)
+{
+    qint64 count = 1;
+    for (int i = 0; i < (node.isPacked() ? 0 : node.size()); ++i)
+        count += countNodes(*node.at(i));
+    return count;
+}
+
+/// Takes over what the writer has put into the buffer.
+class Drain
+{
+public:
+    virtual ~Drain() = default;
+    /// Called after every node; false ends the writing.
+    virtual bool take(QBuffer *buffer) = 0;
+};
+
 class XmlOut
 {
 public:
-    XmlOut(QByteArray *out, const Node &root) : writer_(out), root_(root)
+    XmlOut(QBuffer *out, const Node &root, Drain *drain = nullptr)
+        : writer_(out), buffer_(out), root_(root), drain_(drain)
     {
         writer_.setAutoFormatting(true);
         writer_.setAutoFormattingIndent(1);
@@ -70,7 +93,9 @@ private:
     void value(const QString &text) { writer_.writeCharacters(text); }
 
     QXmlStreamWriter writer_;
+    QBuffer *buffer_;
     const Node &root_;
+    Drain *drain_;
     const QString element_ = QStringLiteral("node"); // made once, not per element
     const QString type_ = QStringLiteral("type");
     const QString name_ = QStringLiteral("name");
@@ -111,7 +136,7 @@ bool XmlOut::element(const Node &node)
         done = container(node);
     }
     writer_.writeEndElement();
-    return done;
+    return done && (!drain_ || drain_->take(buffer_));
 }
 
 void XmlOut::name(const QString &name)
@@ -179,12 +204,66 @@ bool XmlOut::doubles(const Node &list)
     return true;
 }
 
+/// Into a file, piece by piece.
+class FileDrain : public Drain
+{
+public:
+    FileDrain(FileWriter *file, const ReadLimits &limits, const Watch &watch, qint64 total)
+        : file_(file), limits_(limits), watch_(watch), total_(total)
+    {
+    }
+    bool take(QBuffer *buffer) override
+    {
+        ++done_;
+        return buffer->pos() < kPiece || flush(buffer);
+    }
+    bool flush(QBuffer *buffer)
+    {
+        bytes_ += buffer->pos();
+        if (bytes_ > limits_.maxBytes)
+            return format::failTooLarge(&error_);
+        if (!file_->write(buffer->data().constData(), buffer->pos(), &error_))
+            return false;
+        buffer->seek(0);
+        return !watch_ || watch_(done_, total_) || format::failStopped(&error_);
+    }
+    /// Why it ended the writing.
+    const FormatError &error() const { return error_; }
+
+private:
+    FileWriter *file_;
+    const ReadLimits &limits_;
+    const Watch &watch_;
+    qint64 total_;
+    qint64 done_ = 0;
+    qint64 bytes_ = 0;
+    FormatError error_;
+};
+
 } // namespace
 
 bool writeXml(const Node &node, QByteArray *out, FormatError *error)
 {
-    XmlOut xml(out, node);
+    QBuffer buffer(out);
+    buffer.open(QIODevice::WriteOnly);
+    XmlOut xml(&buffer, node);
     return xml.document() || fail(error, xml.what());
+}
+
+bool writeXml(const Node &node, FileWriter *out, const ReadLimits &limits, const Watch &watch,
+              FormatError *error)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    FileDrain drain(out, limits, watch, watch ? countNodes(node) : 0);
+    XmlOut xml(&buffer, node, &drain);
+    if (xml.document() && drain.flush(&buffer))
+        return true;
+    if (!drain.error().isSet())
+        return fail(error, xml.what());
+    if (error)
+        *error = drain.error();
+    return false;
 }
 
 } // namespace orba::format
