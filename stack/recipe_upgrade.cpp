@@ -4,13 +4,22 @@ namespace palx {
 
 QStringList upgradeRecipe(orba::Node &stack, const orba::Node &templateStack)
 {
+    std::vector<orba::Name> keys;
+    for (int i = 0; i < templateStack.size(); ++i)
+        keys.push_back(templateStack.at(i)->name());
+    return upgradeRecipe(stack, templateStack, keys);
+}
+
+QStringList upgradeRecipe(orba::Node &stack, const orba::Node &templateStack,
+                          const std::vector<orba::Name> &keys)
+{
     QStringList added;
-    for (int i = 0; i < templateStack.size(); ++i) {
-        const orba::Node *subtree = templateStack.at(i);
-        if (stack.child(subtree->name()))
+    for (const orba::Name key : keys) {
+        const orba::Node *subtree = templateStack.child(key);
+        if (!subtree || stack.child(key))
             continue;
-        stack.add(subtree->name())->assign(*subtree);
-        added.append(subtree->name().toString());
+        stack.add(key)->assign(*subtree);
+        added.append(key.toString());
     }
     return added;
 }

@@ -11,12 +11,13 @@ class RandomTree
 public:
     explicit RandomTree(unsigned seed) : random_(seed) {}
     orba::Node make();
-
-private:
-    int below(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
+    // One value of its kind, ordinary or odd.
     double number();
     qint64 integer();
     QString text();
+
+private:
+    int below(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
     orba::Name name();
     void fill(orba::Node *node, int depth);
     void fillNumbers(orba::Node *node);
