@@ -47,6 +47,7 @@ CellDesk::Handler CellDesk::handlerOf(const QString &name)
         {QStringLiteral("cell.input"), &CellDesk::setInput},
         {QStringLiteral("cell.fault"), &CellDesk::setFault},
         {QStringLiteral("cell.pallet"), &CellDesk::changePallet},
+        {QStringLiteral("cell.gripper"), &CellDesk::clearGripper},
     };
     return handlers.value(name, nullptr);
 }
@@ -185,11 +186,23 @@ QString CellDesk::changePallet(const Node &payload, const ProjectInUse &)
     return {};
 }
 
+QString CellDesk::clearGripper(const Node &payload, const ProjectInUse &)
+{
+    const QString action = payload.getString(u"action");
+    if (action != QLatin1String("clear"))
+        return Texts::tr("\"action\" is \"%1\", not \"clear\"").arg(action.left(100));
+    if (runner_.state() == Runner::State::Running)
+        return Texts::tr("a program runs; pause it first");
+    runner_.cell().world().clearGripper();
+    return {};
+}
+
 // ---------------------------------------------------------------- project, variables
 
-void CellDesk::leaveProject()
+void CellDesk::leaveProject(Node *variables)
 {
-    runner_.stop(QString());
+    flushVariables(variables);
+    runner_.leave();
     problems_.clear();
 }
 

@@ -31,8 +31,8 @@ public:
     QString request(const QString &name, const orba::Node &payload, const ProjectInUse &project);
     /// Checks the programs of the project; the problems are kept to be shown and told.
     void check(const ProjectInUse &project);
-    /// Another project, or none: nothing runs any more.
-    void leaveProject();
+    /// Another project, or none: nothing runs any more. What programs did to variables is put into the list first.
+    void leaveProject(orba::Node *variables);
     /// The panel changed variables.
     void variablesChanged(const orba::Node &list);
     /// Puts what programs did to variables into the list. Returns whether something persistent changed.
@@ -69,6 +69,7 @@ private:
     QString setInput(const orba::Node &payload, const ProjectInUse &project);
     QString setFault(const orba::Node &payload, const ProjectInUse &project);
     QString changePallet(const orba::Node &payload, const ProjectInUse &project);
+    QString clearGripper(const orba::Node &payload, const ProjectInUse &project);
     LoadedPrograms load(const ProjectInUse &project, const std::vector<script::VariableInfo> &variables);
     void tell(const char *level, const QString &text) { notices_.push_back({level, text}); }
 

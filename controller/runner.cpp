@@ -130,6 +130,13 @@ void Runner::stop(const QString &why)
     world.signals().setOutput(cell::out::kConveyorReverse, false);
 }
 
+void Runner::leave()
+{
+    stop(QString());
+    cell_.setVariables(nullptr);
+    variables_.reset();
+}
+
 void Runner::fail(const QString &why)
 {
     stop(why);

@@ -26,6 +26,8 @@ public:
     QString step();
     /// Ends all tasks; the robot brakes, the belt stands, suction stays as it is.
     void stop(const QString &why);
+    /// Stops and forgets the project's variables.
+    void leave();
     /// Takes back what only a person may take back: the stop by a collision. Returns why not.
     QString reset();
     /// All power is gone for a moment: nothing runs, what is in the air falls, what lies on pallets stays.

@@ -200,11 +200,12 @@ void Station::written(const QString &path)
 
 void Station::switchProject()
 {
-    desk_.leaveProject();
+    desk_.leaveProject(&projects_.variableList());
     projects_.exchange();
     setBuilt(false);
     refreshProjects();
     tellLists();
+    publishAll();
 }
 
 void Station::tellLists()

@@ -1,6 +1,7 @@
 #include "controller/cell/gripper.h"
 
 #include <cmath>
+#include <utility>
 
 namespace controller::cell {
 
@@ -13,17 +14,13 @@ Gripper::Event Gripper::advance(double seconds, bool isSuctionOn, bool canHold)
         seconds_ = 0;
         isChanging_ = true;
     }
-    if (!isChanging_)
-        return Event::None;
     seconds_ += seconds;
     if (seconds_ < (isSuctionOn ? kBuildTime : kReleaseTime))
         return Event::None;
-    if (isSuctionOn && !canHold)
-        return Event::None; // it grips as soon as it can
-    isChanging_ = false;
+    const bool hasChanged = std::exchange(isChanging_, false);
     if (isSuctionOn)
-        return carries() ? Event::None : Event::Grip;
-    return carries() ? Event::LetGo : Event::None;
+        return carries() || !canHold ? Event::None : Event::Grip;
+    return carries() && hasChanged ? Event::LetGo : Event::None;
 }
 
 void Gripper::grip(const Body &body, const Pose &tool)

@@ -18,7 +18,8 @@ public:
 
     /// What happened in a step of time.
     enum class Event { None, Grip, LetGo };
-    /// `isSuctionOn` as the output says; `canHold`: there is vacuum at all. Grip: something may be gripped now.
+    /// `isSuctionOn` as the output says; `canHold`: there is vacuum at all. Grip: something may be gripped now;
+    /// again and again as long as suction holds nothing.
     Event advance(double seconds, bool isSuctionOn, bool canHold);
 
     /// Takes a product along, seen from the tool's point.

@@ -182,7 +182,7 @@ void World::moveGripper()
 void World::grip()
 {
     Body box;
-    if (!waitingBox(&box) || !Gripper::reaches(tool_, box.block))
+    if (way_.isMoving() || !waitingBox(&box) || !Gripper::reaches(tool_, box.block))
         return;
     box = {Body::Kind::Box, plan_->side(), layer_, piece_, box.block};
     waitingBottom_ = box.block.bottom();
@@ -217,6 +217,20 @@ void World::lose(const char *how)
     ++lost_;
     ++keptVersion_;
     listener_->happened(nameOf(box) + " " + how);
+}
+
+bool World::clearGripper()
+{
+    signals_.setOutput(out::kSuction, false);
+    if (!gripper_.carries())
+        return false;
+    const Body box = gripper_.letGo();
+    if (liftedOff_)
+        listener_->happened(nameOf(box) + " is taken off the gripper by hand");
+    liftedOff_ = true;
+    showSensors();
+    touch();
+    return true;
 }
 
 /// What was let go sinks onto what is below it and stays there.

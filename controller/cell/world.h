@@ -93,6 +93,9 @@ public:
     void bringPallet(int side);
     void takePallet(int side);
 
+    /// Somebody takes what the gripper holds off by hand and switches suction off. Returns whether it held something.
+    bool clearGripper();
+
     void setFault(Fault fault, bool on);
     bool hasFault(Fault fault) const { return faults_.test(static_cast<std::size_t>(fault)); }
     /// All drives lose their power: what is carried falls, outputs go off.

@@ -138,6 +138,19 @@ TEST_F(DeskTest, AnotherProjectEndsThePrograms)
     EXPECT_EQ("there is no current project", ask("program.run"));
 }
 
+TEST_F(DeskTest, AProjectThatIsLeftKeepsWhatItsProgramsCounted)
+{
+    makeProject("GLOBAL PROC main()\n    WHILE true\n        Wait(0.01)\n        count := count + 1\n    ENDWHILE\n"
+                "ENDPROC\n");
+    ask("program.run");
+    panel.wait(0.57);
+    const auto counted = std::get<std::int64_t>(core.station().desk().runner().variables()->value(0));
+    EXPECT_LT(panel.tree.getInt(u"quill.project.var._list.#0.value.#0"), counted) << "not told yet";
+    panel.write(QStringLiteral("quill.project.cur_project"), QString());
+    panel.write(QStringLiteral("quill.project.cur_project"), QStringLiteral("SIM-0001/P"));
+    EXPECT_EQ(counted, panel.tree.getInt(u"quill.project.var._list.#0.value.#0"));
+}
+
 TEST_F(DeskTest, NobodyMovesTheRobotByHandWhileAProgramRuns)
 {
     makeProject(kLoop);
@@ -192,6 +205,7 @@ TEST_F(DeskTest, RefusesWhatItCannotDo)
         {"cell.pallet", R"({"side":2,"action":"take"})", "\"side\" is neither 0 (left) nor 1 (right)"},
         {"cell.pallet", R"({"side":0,"action":"burn"})",
          "\"action\" is \"burn\", neither \"take\" nor \"bring\""},
+        {"cell.gripper", R"({"action":"open"})", "\"action\" is \"open\", not \"clear\""},
     };
     for (const RefusalCase &each : cases)
         EXPECT_EQ(each.why, ask(each.request, each.payload)) << each.request << " " << each.payload;

@@ -98,9 +98,11 @@ TEST(Gripper, HoldsAfterAMomentAndLetsGoAfterAMoment)
 {
     Gripper gripper;
     EXPECT_EQ(Events{}, run(gripper, 0.19, true));
-    EXPECT_EQ(Events{Gripper::Event::Grip}, run(gripper, 1, true));
+    EXPECT_EQ(Events{Gripper::Event::Grip}, run(gripper, 0.01, true));
+    EXPECT_EQ(Events(2, Gripper::Event::Grip), run(gripper, 0.02, true)) << "as long as it holds nothing";
     gripper.grip(box(1, 0, 0.5), toolAt(1, 0, 0.5));
     EXPECT_TRUE(gripper.hasVacuum());
+    EXPECT_EQ(Events{}, run(gripper, 1, true));
     EXPECT_EQ(Events{}, run(gripper, 0.09, false));
     EXPECT_TRUE(gripper.carries());
     EXPECT_EQ(Events{Gripper::Event::LetGo}, run(gripper, 0.02, false));
@@ -112,7 +114,7 @@ TEST(Gripper, WithoutVacuumGripsNothingAndDropsWhatItCarries)
 {
     Gripper gripper;
     EXPECT_EQ(Events{}, run(gripper, 1, true, false));
-    EXPECT_EQ(Events{Gripper::Event::Grip}, run(gripper, 0.02, true, true)) << "as soon as there is vacuum";
+    EXPECT_EQ(Events{Gripper::Event::Grip}, run(gripper, 0.01, true, true)) << "as soon as there is vacuum";
     gripper.grip(box(1, 0, 0.5), toolAt(1, 0, 0.5));
     EXPECT_EQ(Gripper::Event::LetGo, gripper.advance(0.01, true, false));
 }
