@@ -144,7 +144,7 @@ TEST_F(DeskTest, AProjectThatIsLeftKeepsWhatItsProgramsCounted)
                 "ENDPROC\n");
     ask("program.run");
     panel.wait(0.57);
-    const auto counted = std::get<std::int64_t>(core.station().desk().runner().variables()->value(0));
+    const qint64 counted = std::get<std::int64_t>(core.station().desk().runner().variables()->value(0));
     EXPECT_LT(panel.tree.getInt(u"quill.project.var._list.#0.value.#0"), counted) << "not told yet";
     panel.write(QStringLiteral("quill.project.cur_project"), QString());
     panel.write(QStringLiteral("quill.project.cur_project"), QStringLiteral("SIM-0001/P"));
