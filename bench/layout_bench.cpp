@@ -29,7 +29,7 @@ void fullPattern(benchmark::State &state)
 {
     qint64 count = 0;
     for (auto _ : state)
-        count = palx::generateLayout(kFull, int(state.range(0))).count;
+        count = palx::generateLayout(kFull, palx::StackingPattern(int(state.range(0)))).count;
     state.counters["products"] = double(count);
 }
 BENCHMARK(fullPattern)->ArgName("kind")->DenseRange(0, 3)->Unit(benchmark::kMicrosecond);

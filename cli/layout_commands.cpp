@@ -94,7 +94,7 @@ QVector<AutoLayout> allKinds(const palx::LayoutInput &input)
 {
     QVector<AutoLayout> layouts;
     for (int kind = 0; kind < palx::kLayoutKinds; ++kind)
-        layouts.append(palx::generateLayout(input, kind));
+        layouts.append(palx::generateLayout(input, palx::StackingPattern(kind)));
     return layouts;
 }
 
@@ -116,7 +116,7 @@ int bestKind(const QVector<AutoLayout> &layouts)
 void putFigures(Node &node, const AutoLayout &layout, int kind, const palx::LayoutInput &input)
 {
     put(node, u"kind", kind);
-    put(node, u"name", palx::layoutName(kind));
+    put(node, u"name", palx::layoutName(palx::StackingPattern(kind)));
     put(node, u"count", layout.count);
     put(node, u"area_used", palx::areaUsed(input, layout.count));
     put(node, u"over_edge", overEdge(layout, input));

@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int kCrisscross = 2;
+constexpr auto kCrisscross = int(palx::StackingPattern::OneRowRotation);
 constexpr double kShareOfWindow = 0.96; // plans want all the room there is
 const QString kTopBottom = QStringLiteral("automatic_stacker.top_bottom_margin");
 const QString kLeftRight = QStringLiteral("automatic_stacker.left_right_margin");
@@ -109,7 +109,7 @@ void AutomaticStackerDialog::generate()
 void AutomaticStackerDialog::showLayout(int index, const palx::LayoutInput &input)
 {
     LayoutPreview *preview = previews_[index];
-    const palx::AutoLayout layout = palx::generateLayout(input, index);
+    const palx::AutoLayout layout = palx::generateLayout(input, palx::StackingPattern(index));
     preview->scene()->clearItems();
     palx::addGeneratedItems(preview->scene(), layout.items);
     const bool isMatrix = index == kCrisscross && layout.turnedRows == 0 && layout.count > 0;
@@ -117,7 +117,8 @@ void AutomaticStackerDialog::showLayout(int index, const palx::LayoutInput &inpu
     const QString facts = layout.count == 0 ? tr("Nothing fits")
                           : isMatrix        ? tr("No turned row fits")
                                             : tr("Boxes: %1, area: %2 %").arg(layout.count).arg(share);
-    preview->setTexts(palx::layoutName(index), facts, layoutWarning(preview->scene(), layout));
+    preview->setTexts(palx::layoutName(palx::StackingPattern(index)), facts,
+                      layoutWarning(preview->scene(), layout));
     preview->setEnabled(layout.count > 0 && !isMatrix);
     preview->setVisible(index < palx::kLayoutKinds || layout.count > 0);
 }
@@ -139,7 +140,7 @@ bool AutomaticStackerDialog::isEffective(int index) const
 
 palx::AutoLayout AutomaticStackerDialog::chosenLayout() const
 {
-    return palx::generateLayout(palx::readLayoutInput(stack_->node()), selected_);
+    return palx::generateLayout(palx::readLayoutInput(stack_->node()), palx::StackingPattern(selected_));
 }
 
 bool AutomaticStackerDialog::mayOverwrite()

@@ -27,12 +27,6 @@ Placement placementOf(const Node &stack)
     return stack.getInt(u"pallet_position") == 0 ? Placement::Left : Placement::Right;
 }
 
-/// The first corner of what is centred in the room.
-double centred(double room, double extent)
-{
-    return (room - extent) / 2;
-}
-
 double extentOf(int count, double extent, double spacing)
 {
     return count * (extent + spacing) - spacing;
@@ -51,17 +45,17 @@ RowChoice chooseRows(const LayoutInput &input)
     const double end = input.palletLength;
     const double start = 2 * input.topBottomMargin;
     double used = start;
-    while (used < end - kSameMm) {
+    while (used < end) {
         const double next = used + input.length;
-        if (std::abs(next - end) <= kSameMm) {
+        if (next == end) {
             rows.turned.append(false);
             used = next;
             break;
         }
-        if (next + input.spacing <= end + kSameMm) {
+        if (next + input.spacing <= end) {
             rows.turned.append(false);
             used = next + input.spacing;
-        } else if (used + input.width <= end + kSameMm) {
+        } else if (used + input.width <= end) {
             rows.turned.append(true);
             used += input.width; // and no spacing, although an unturned row counts one
         } else {
@@ -71,6 +65,8 @@ RowChoice chooseRows(const LayoutInput &input)
     rows.total = used - start;
     return rows;
 }
+
+constexpr double kSameMm = 1e-6; // sums of tenths of a millimetre are not exact
 
 /// Blocks are laid in an order in which none is brought past one that lies farther from the near corner: the two
 /// beside the first block, whichever of them reaches beside the other last.
@@ -84,15 +80,16 @@ void layRing(LayoutBuilder &builder, const Ring &ring, const RingRoom &room)
 {
     const double across = ring.across - room.spacing;
     const double along = ring.along - room.spacing;
-    const double left = centred(builder.roomAcross(), across);
-    const double top = centred(builder.roomAlong(), along);
+    const double left = (builder.roomAcross() - across) / 2;
+    const double top = (builder.roomAlong() - along) / 2;
     for (const int i : blockOrder(ring, room.pitchAcross)) {
         const RingBlock &block = ring.blocks[std::size_t(i)];
         const bool turned = i % 2 == 1;
         const double width = extentOf(block.columns, builder.extentAcross(turned), room.spacing);
         const double height = extentOf(block.rows, builder.extentAlong(turned), room.spacing);
-        builder.addBlock(i == 1 || i == 2 ? left + across - width : left, i >= 2 ? top + along - height : top,
-                         block.columns, block.rows, turned);
+        builder.addBlock(builder.startAcross(i == 1 || i == 2 ? left + across - width : left),
+                         builder.startAlong(i >= 2 ? top + along - height : top), block.columns, block.rows,
+                         turned);
     }
 }
 
@@ -122,9 +119,9 @@ AutoLayout generateMatrixPattern(const LayoutInput &input, bool vertical)
     const double b = builder.extentAlong(!vertical);
     const int columns = fitCount(builder.roomAcross(), a, input.spacing);
     const int rows = fitCount(builder.roomAlong(), b, input.spacing);
-    builder.addBlock(centred(builder.roomAcross(), extentOf(columns, a, input.spacing)),
-                     centred(builder.roomAlong(), extentOf(rows, b, input.spacing)), columns, rows,
-                     !vertical);
+    builder.addBlock(builder.startAcross(centringMargin(builder.roomAcross(), columns, a, input.spacing)),
+                     builder.startAlong(centringMargin(builder.roomAlong(), rows, b, input.spacing)), columns,
+                     rows, !vertical);
     return builder.take();
 }
 
@@ -134,15 +131,15 @@ AutoLayout generateOneRowRotationPattern(const LayoutInput &input)
     if (!builder.isUsable())
         return {};
     const RowChoice rows = chooseRows(input);
-    double start = centred(builder.roomAlong(), rows.total);
+    double start = builder.startAlong((builder.roomAlong() - rows.total) / 2);
     for (const bool turned : rows.turned) {
         const double a = builder.extentAcross(turned);
         const int columns = fitCount(builder.roomAcross(), a, input.spacing);
-        builder.addBlock(centred(builder.roomAcross(), extentOf(columns, a, input.spacing)), start, columns,
-                         1, turned);
+        const double margin = centringMargin(builder.roomAcross(), columns, a, input.spacing);
+        builder.addBlock(builder.startAcross(margin), start, columns, 1, turned);
         if (turned)
             builder.addTurnedRow();
-        start += builder.extentAlong(turned) + input.spacing;
+        start = builder.fartherAlong(start, builder.extentAlong(turned) + input.spacing);
     }
     return builder.take();
 }
@@ -164,35 +161,33 @@ AutoLayout generateSpiralPattern(const LayoutInput &input)
     return builder.take();
 }
 
-AutoLayout generateLayout(const LayoutInput &input, int kind)
+AutoLayout generateLayout(const LayoutInput &input, StackingPattern kind)
 {
     switch (kind) {
-    case 0:
-    case 1:
-        return generateMatrixPattern(input, kind == 0);
-    case 2:
+    case StackingPattern::MatrixVertical:
+    case StackingPattern::MatrixHorizontal:
+        return generateMatrixPattern(input, kind == StackingPattern::MatrixVertical);
+    case StackingPattern::OneRowRotation:
         return generateOneRowRotationPattern(input);
-    case 3:
+    case StackingPattern::Spiral:
         return generateSpiralPattern(input);
-    default:
-        return {};
     }
+    return {};
 }
 
-QString layoutName(int kind)
+QString layoutName(StackingPattern kind)
 {
     switch (kind) {
-    case 0:
+    case StackingPattern::MatrixVertical:
         return LayoutText::tr("Matrix (vertical)");
-    case 1:
+    case StackingPattern::MatrixHorizontal:
         return LayoutText::tr("Matrix (horizontal)");
-    case 2:
+    case StackingPattern::OneRowRotation:
         return LayoutText::tr("Crisscross");
-    case 3:
+    case StackingPattern::Spiral:
         return LayoutText::tr("Back letterform");
-    default:
-        return QString();
     }
+    return QString();
 }
 
 QString layoutProblem(const AutoLayout &layout)

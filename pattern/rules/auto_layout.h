@@ -10,7 +10,7 @@
 /// between the near corner and one that is placed already.
 ///
 /// Sizes that nothing can be laid with (no numbers, products under a millimetre, a spacing below 0, beyond what a
-/// plan shows) give no items. Lengths that differ by less than a millionth of a millimetre are the same.
+/// plan shows) give no items. Counts come from the doubles as they are: 3 x 100.1 mm do not fit into 300.2999 mm.
 namespace palx {
 
 /// Near corner, offsets and direction of all items.
@@ -59,12 +59,14 @@ PALX_API AutoLayout generateOneRowRotationPattern(const LayoutInput &input);
 /// are tried.
 PALX_API AutoLayout generateSpiralPattern(const LayoutInput &input);
 
-/// A layout by the number of its kind: 0 and 1 matrix (vertical, horizontal), 2 one-row rotation, 3 spiral. Any
-/// other has no items.
-PALX_API AutoLayout generateLayout(const LayoutInput &input, int kind);
+/// The kinds by their numbers on the command line and in the order of the previews.
+enum class StackingPattern : int { MatrixVertical, MatrixHorizontal, OneRowRotation, Spiral };
 constexpr int kLayoutKinds = 4;
+
+/// A layout of that kind; a number that is no kind has no items.
+PALX_API AutoLayout generateLayout(const LayoutInput &input, StackingPattern kind);
 /// What the operator calls the kind; empty for a number that is none.
-PALX_API QString layoutName(int kind);
+PALX_API QString layoutName(StackingPattern kind);
 
 /// Why the layout must not become a pattern; empty when it may: a pattern holds at most kMaxItems.
 PALX_API QString layoutProblem(const AutoLayout &layout);

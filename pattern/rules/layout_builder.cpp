@@ -37,11 +37,20 @@ void putPlacement(PatternItem *item, Placement placement)
 
 int fitCount(double room, double extent, double spacing)
 {
-    return std::max(0, int((room + spacing + kSameMm) / (extent + spacing)));
+    return std::max(0, int((room + spacing) / (extent + spacing)));
+}
+
+double centringMargin(double room, int count, double extent, double spacing)
+{
+    return ((room - count * (extent + spacing)) + spacing) / 2;
 }
 
 LayoutBuilder::LayoutBuilder(const LayoutInput &input)
-    : input_(input), across_(input.palletWidth - 2 * input.leftRightMargin),
+    : input_(input), acrossAxis_{input.leftRightMargin, input.palletWidth - input.leftRightMargin,
+                                 input.placement == Placement::Right},
+      alongAxis_{input.topBottomMargin, input.palletLength - input.topBottomMargin,
+                 input.placement != Placement::Plain},
+      across_(input.palletWidth - 2 * input.leftRightMargin),
       along_(input.palletLength - 2 * input.topBottomMargin), usable_(canBeLaid(input))
 {
     if (!usable_)
@@ -52,32 +61,27 @@ LayoutBuilder::LayoutBuilder(const LayoutInput &input)
     putPlacement(&model_, input.placement);
 }
 
+double LayoutBuilder::fartherAlong(double from, double distance) const
+{
+    return alongAxis_.mirrored ? from - distance : from + distance;
+}
+
 void LayoutBuilder::addBlock(double across, double along, int columns, int rows, bool turned)
 {
     const double a = extentAcross(turned);
     const double b = extentAlong(turned);
     layout_.count += qint64(columns) * rows;
+    model_.r = turned ? 90 : 0;
     for (int row = 0; row < rows; ++row) {
-        const double place = along + row * (b + input_.spacing) + b / 2;
+        model_.y = centre(alongAxis_, along, row * (b + input_.spacing), b);
         for (int column = 0; column < columns; ++column) {
             if (layout_.items.size() >= kMaxShownItems)
                 return;
-            add(across + column * (a + input_.spacing) + a / 2, place, turned);
+            ++model_.index;
+            model_.x = centre(acrossAxis_, across, column * (a + input_.spacing), a);
+            layout_.items.append(model_);
         }
     }
-}
-
-void LayoutBuilder::add(double across, double along, bool turned)
-{
-    const bool mirrorAcross = input_.placement == Placement::Right;
-    const bool mirrorAlong = input_.placement != Placement::Plain;
-    ++model_.index;
-    model_.r = turned ? 90 : 0;
-    model_.x =
-        mirrorAcross ? input_.palletWidth - input_.leftRightMargin - across : input_.leftRightMargin + across;
-    model_.y =
-        mirrorAlong ? input_.palletLength - input_.topBottomMargin - along : input_.topBottomMargin + along;
-    layout_.items.append(model_);
 }
 
 } // namespace palx

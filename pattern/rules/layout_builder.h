@@ -4,13 +4,13 @@
 
 namespace palx {
 
-constexpr double kSameMm = 1e-6; // sums of tenths of a millimetre are not exact
-
 /// How many extents with spacings between them fit into the room. Not negative.
 int fitCount(double room, double extent, double spacing);
+/// What is free before the first and behind the last of so many extents that are centred in the room.
+double centringMargin(double room, int count, double extent, double spacing);
 
-/// Puts products into a layout, given by their places from the near corner of the area inside the margins, and
-/// brings them to the plan.
+/// Puts products into a layout. A start is the near side of the first product on the plan; from there products
+/// follow towards the far side, which on a mirrored axis is the low end.
 class LayoutBuilder
 {
 public:
@@ -24,16 +24,37 @@ public:
     double extentAcross(bool turned) const { return turned ? input_.length : input_.width; }
     double extentAlong(bool turned) const { return turned ? input_.width : input_.length; }
 
-    /// `columns` x `rows` products row by row, the first corner at (`across`, `along`). All are counted; those
-    /// over kMaxShownItems are not made.
+    /// Starts that far from the near side of the area inside the margins.
+    double startAcross(double distance) const { return start(acrossAxis_, distance); }
+    double startAlong(double distance) const { return start(alongAxis_, distance); }
+    /// A start that lies farther from the near end of the length.
+    double fartherAlong(double from, double distance) const;
+
+    /// `columns` x `rows` products row by row from the two starts. All are counted; those over kMaxShownItems are
+    /// not made.
     void addBlock(double across, double along, int columns, int rows, bool turned);
     void addTurnedRow() { ++layout_.turnedRows; }
     AutoLayout take() { return std::move(layout_); }
 
 private:
-    void add(double across, double along, bool turned);
+    /// Where the area inside the margins begins and ends on the plan, and whether laying begins at its end.
+    struct Axis
+    {
+        double low, high;
+        bool mirrored;
+    };
+    static double start(const Axis &axis, double distance)
+    {
+        return axis.mirrored ? axis.high - distance : axis.low + distance;
+    }
+    static double centre(const Axis &axis, double start, double distance, double extent)
+    {
+        return axis.mirrored ? start - distance - extent / 2 : start + distance + extent / 2;
+    }
 
     LayoutInput input_;
+    Axis acrossAxis_;
+    Axis alongAxis_;
     double across_;
     double along_;
     bool usable_;

@@ -17,7 +17,6 @@ struct TemplateText
 
 constexpr qint64 kMaxNumber = 1000000; // products of two such numbers stay exact
 constexpr int kClipItems = 4;
-constexpr double kRoundingMm = 1e-6; // sums of tenths of a millimetre are not exact
 
 int kindOf(const Node &stack)
 {
@@ -64,9 +63,9 @@ Extent extentOf(int kind, const TemplateNumbers &n, double length, double width)
     if (isKind(kind, TemplateKind::Overlap))
         return {n.offsetX + n.numX * length + spaces, row(n.numY, width)};
     if (isKind(kind, TemplateKind::Cross)) {
-        const double thickness = n.numX / 2 * (length + width) + n.numX % 2 * length;
         const double first = row(n.numY1, width);
-        return {n.offsetX + thickness + spaces, n.numX == 1 ? first : std::max(first, row(n.numY2, length))};
+        return {n.offsetX + n.numX / 2 * (length + width) + n.numX % 2 * length + spaces,
+                n.numX == 1 ? first : std::max(first, row(n.numY2, length))};
     }
     if (isKind(kind, TemplateKind::Clip))
         return {n.offsetX + length + n.spaceX + width, n.offsetY + length + n.spaceY + width};
@@ -184,9 +183,9 @@ QString checkTemplate(const Node &stack, int present)
     const Extent extent = extentOf(kind, numbers, stack.getDouble(u"product_cfg.product.length"),
                                    stack.getDouble(u"product_cfg.product.width"));
     // Asked this way round, a size that is no number is refused too.
-    if (!(extent.x <= stack.getDouble(u"product_cfg.pallet.length") + kRoundingMm))
+    if (!(extent.x <= stack.getDouble(u"product_cfg.pallet.length")))
         return TemplateText::tr("Wobj is beyond the pallet's x edge");
-    if (!(extent.y <= stack.getDouble(u"product_cfg.pallet.width") + kRoundingMm))
+    if (!(extent.y <= stack.getDouble(u"product_cfg.pallet.width")))
         return TemplateText::tr("Wobj is beyond the pallet's y edge");
     return QString();
 }

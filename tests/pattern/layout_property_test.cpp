@@ -59,7 +59,7 @@ TEST(LayoutProperties, EveryLayoutIsFeasible)
         for (const Placement placement : kPlacements) {
             input.placement = placement;
             for (int kind = 0; kind < palx::kLayoutKinds; ++kind) {
-                const AutoLayout layout = palx::generateLayout(input, kind);
+                const AutoLayout layout = palx::generateLayout(input, palx::StackingPattern(kind));
                 expectFeasible(layout, input, kind);
                 laid += layout.count > 0 ? 1 : 0;
             }
@@ -77,7 +77,8 @@ TEST(LayoutProperties, NoProductIsBroughtPastOneThatLiesThere)
         for (const Placement placement : {Placement::Left, Placement::Right}) {
             input.placement = placement;
             for (int kind = 0; kind < palx::kLayoutKinds; ++kind) {
-                const QVector<PatternItem> items = palx::generateLayout(input, kind).items;
+                const QVector<PatternItem> items =
+                    palx::generateLayout(input, palx::StackingPattern(kind)).items;
                 EXPECT_TRUE(palx::checkOrder(items, frameOf(placement)).hits.isEmpty())
                     << layoutCase(input, kind);
                 for (const PatternItem &item : items)
@@ -97,7 +98,8 @@ TEST(LayoutProperties, MoreRoomNeverHoldsFewer)
             LayoutInput larger = input;
             larger.palletLength += 37;
             larger.palletWidth += 11;
-            EXPECT_LE(palx::generateLayout(input, kind).count, palx::generateLayout(larger, kind).count)
+            EXPECT_LE(palx::generateLayout(input, palx::StackingPattern(kind)).count,
+                      palx::generateLayout(larger, palx::StackingPattern(kind)).count)
                 << layoutCase(input, kind);
         }
     }
@@ -123,7 +125,7 @@ TEST(LayoutProperties, ExtremesOfTheFieldsStayFeasible)
         for (const Placement placement : kPlacements) {
             input.placement = placement;
             for (int kind = 0; kind < palx::kLayoutKinds; ++kind)
-                expectFeasible(palx::generateLayout(input, kind), input, kind);
+                expectFeasible(palx::generateLayout(input, palx::StackingPattern(kind)), input, kind);
         }
     }
     EXPECT_EQ(palx::generateMatrixPattern(cases[0], true).count, 100000000);
