@@ -2,6 +2,8 @@
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QStaticText>
+#include <QVarLengthArray>
 
 #include <algorithm>
 #include <cmath>
@@ -52,22 +54,24 @@ void drawSlantingLines(QPainter *painter, const QPolygonF &shape, const QRectF &
     const double low = std::min({one, other, third, fourth});
     const double high = std::max({one, other, third, fourth});
     // Lines stand at multiples of the pitch, so that the hatches of neighbours go on in each other.
+    QVarLengthArray<QLineF, 64> lines;
     for (double offset = std::floor(low / kHatchPitch) * kHatchPitch; offset < high; offset += kHatchPitch) {
         const QLineF line = stretchInside(shape, slant, offset);
         if (!line.isNull())
-            painter->drawLine(line);
+            lines.append(line);
     }
+    painter->drawLines(lines.data(), lines.size());
 }
 
 /// The text in the paper's colour, shifted all around: much faster than stroking its outline.
-void drawRim(QPainter *painter, const QPointF &baseline, const QString &text)
+void drawRim(QPainter *painter, const QPointF &corner, const QStaticText &glyphs)
 {
     constexpr double shift = 1.5; // pixels
     const QPen ink = painter->pen();
     painter->setPen(QColor::fromRgba(kPaper));
     for (const double dx : {-shift, 0.0, shift}) {
         for (const double dy : {-shift, 0.0, shift})
-            painter->drawText(baseline + QPointF(dx, dy), text);
+            painter->drawStaticText(corner + QPointF(dx, dy), glyphs);
     }
     painter->setPen(ink);
 }
@@ -104,13 +108,13 @@ PixelScope::PixelScope(QPainter *painter, const QPointF &origin) : painter_(pain
 
 void drawText(QPainter *painter, const QPointF &at, const QString &text, Qt::Alignment alignment, bool rim)
 {
-    const QFontMetricsF metrics(painter->font());
-    const QPointF corner = textCorner(
-        at, QSizeF(metrics.horizontalAdvance(text), metrics.ascent() + metrics.descent()), alignment);
-    const QPointF baseline = corner + QPointF(0, metrics.ascent());
+    QStaticText glyphs(text); // looked up once, though a rim draws them many times
+    glyphs.setTextFormat(Qt::PlainText);
+    glyphs.prepare(QTransform(), painter->font());
+    const QPointF corner = textCorner(at, glyphs.size(), alignment);
     if (rim)
-        drawRim(painter, baseline, text);
-    painter->drawText(baseline, text);
+        drawRim(painter, corner, glyphs);
+    painter->drawStaticText(corner, glyphs);
 }
 
 void drawArrow(QPainter *painter, const QPointF &from, const QPointF &to, double head, bool filled)
