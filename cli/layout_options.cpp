@@ -2,6 +2,7 @@
 
 #include "layout_commands.h"
 #include "pattern/rules/pattern_template.h"
+#include "place_options.h"
 #include "stack/recipe_fields.h"
 
 #include <CLI/CLI.hpp>
@@ -71,19 +72,6 @@ CLI::Option *addNumber(CLI::App *command, const char *name, Number *target, cons
     return command->add_option(name, *target, help)
         ->check(CLI::Range(Number(spec.minimum), Number(spec.maximum)))
         ->capture_default_str();
-}
-
-void addFormat(CLI::App *command, std::string *format)
-{
-    command
-        ->add_option("--format", *format, "json or table; otherwise table on a terminal and json elsewhere")
-        ->check(CLI::IsMember({"json", "table"}));
-}
-
-Output outputOf(const std::string &format)
-{
-    const bool json = format.empty() ? !resultGoesToTerminal() : format == "json";
-    return json ? Output::Json : Output::Table;
 }
 
 struct LayoutArguments

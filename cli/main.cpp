@@ -1,6 +1,7 @@
 // The command line of the palletizing workstation; docs/command-line.md says what each command does.
 
 #include "demo.h"
+#include "exchange_options.h"
 #include "layout_options.h"
 #include "project_options.h"
 #include "recipe_commands.h"
@@ -193,6 +194,7 @@ int run(int argc, char **argv)
     addRecipeCommand(app, arguments, "check", "check recipes; print repairs, refusals and warnings",
                      &cli::runCheck);
     cli::addProjectCommands(app, &arguments.command);
+    cli::addExchangeCommands(app, &arguments.command);
     cli::addLayoutCommands(app, &arguments.command);
     cli::addSimulateCommand(app, &arguments.command);
     addRender(app, arguments);

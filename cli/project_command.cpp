@@ -1,8 +1,6 @@
 #include "project_command.h"
 
-#include "core/controller_link.h"
 #include "orba/module_manager.h"
-#include "panel/controller_choice.h"
 #include "project/rules/project_commit.h"
 #include "project/rules/project_place.h"
 #include "project/rules/project_record.h"
@@ -10,40 +8,13 @@
 #include "project/rules/project_variables.h"
 #include "workstation/plugin_node.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
-
-#include <functional>
 
 namespace cli {
 namespace {
 
 using orba::Node;
 using What = ProjectRequest::What;
-
-constexpr int kBoundMs = 10000;
-
-bool waitFor(const std::function<bool()> &condition)
-{
-    QElapsedTimer clock;
-    clock.start();
-    while (!condition() && clock.elapsed() < kBoundMs)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    return condition();
-}
-
-bool waitForRobot()
-{
-    return waitFor([] { return !m("nexo.r.id")->getString().isEmpty(); });
-}
-
-/// What was written goes out when the event loop rests; this program ends before.
-bool waitForController()
-{
-    QCoreApplication::processEvents();
-    return waitFor([] { return host::ControllerLink::current()->unsettledEdits() == 0; });
-}
 
 class Steps : public palx::ProjectSteps
 {
@@ -197,30 +168,13 @@ bool print(Output output)
 
 int runProject(const ProjectRequest &request)
 {
-    panel::ControllerChoice choice;
-    if (!panel::ControllerChoice::parse(request.controller, &choice))
-        return refuse(QStringLiteral("\"%1\" is no controller").arg(request.controller));
-    const QString data = QDir(request.dataFolder).absolutePath();
-    host::SessionOptions options;
-    options.dataFolder = data;
-    if (!request.workspaceFolder.isEmpty())
-        options.workspaceFolder = QDir(request.workspaceFolder).absolutePath();
-    options.carrier = panel::carrierFactory(choice, data, QCoreApplication::applicationDirPath());
-    options.pages = false;
-    Session session(options);
-    session.presenter().setAccepting(true); // who gives the command has decided
-    if (!session.start())
-        return kRefused;
-    if (!waitForRobot())
-        return refuse(QStringLiteral("the controller does not answer"));
+    const auto session = openPanel(request.places);
     Node parameters;
-    if (!areThere(request) || !readParameters(request, &parameters))
+    if (!session || !areThere(request) || !readParameters(request, &parameters))
         return kRefused;
     Steps steps(parameters);
     const bool isDone = carryOut(request, &steps);
-    if (!waitForController())
-        return refuse(QStringLiteral("the controller did not take what was changed"));
-    return isDone && session.host().save() && print(request.output) ? kDone : kRefused;
+    return settlePanel(session.get()) && isDone && print(request.output) ? kDone : kRefused;
 }
 
 } // namespace cli

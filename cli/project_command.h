@@ -1,5 +1,6 @@
 #pragma once
 
+#include "panel_data.h"
 #include "recipe_commands.h"
 
 #include <QMap>
@@ -16,9 +17,7 @@ struct ProjectRequest
     QMap<QString, int>
         parameters; ///< by key of the record; those that are missing stay, or are 0 in a new project
     QMap<QString, QString> recipes;                   ///< the two recipes by their names
-    QString dataFolder;                               ///< the panel's data
-    QString workspaceFolder;                          ///< empty: as the panel's settings say
-    QString controller = QStringLiteral("inprocess"); ///< as for the panel
+    PanelPlaces places;
     Output output = Output::Table;
 };
 

@@ -1,5 +1,6 @@
 #include "project_options.h"
 
+#include "place_options.h"
 #include "project_command.h"
 
 #include <memory>
@@ -12,8 +13,9 @@ using What = ProjectRequest::What;
 /// Options as the parser fills them; shared by the commands, of which one runs.
 struct Arguments
 {
-    std::string name, newName, source, data, workspace, controller = "inprocess", format;
+    std::string name, newName, source;
     std::string scheme, type, sucker, lift, clapboard, leftRecipe, rightRecipe;
+    PlaceArguments place;
 };
 
 /// An option whose words stand for 0, 1, ...
@@ -58,9 +60,7 @@ ProjectRequest requestOf(What what, const Arguments &arguments)
     request.name = text(arguments.name);
     request.newName = text(arguments.newName);
     request.source = text(arguments.source);
-    request.dataFolder = text(arguments.data);
-    request.workspaceFolder = text(arguments.workspace);
-    request.controller = text(arguments.controller);
+    request.places = arguments.place.places();
     for (const Words &each : allWords()) {
         const std::string &word = arguments.*each.value;
         const auto found = std::find(each.words.begin(), each.words.end(), word);
@@ -71,8 +71,7 @@ ProjectRequest requestOf(What what, const Arguments &arguments)
         request.recipes.insert(QStringLiteral("left_stack_recipe"), text(arguments.leftRecipe));
     if (!arguments.rightRecipe.empty())
         request.recipes.insert(QStringLiteral("right_stack_recipe"), text(arguments.rightRecipe));
-    const bool json = arguments.format.empty() ? !resultGoesToTerminal() : arguments.format == "json";
-    request.output = json ? Output::Json : Output::Table;
+    request.output = arguments.place.output();
     return request;
 }
 
@@ -82,17 +81,6 @@ void addParameters(CLI::App *command, Arguments *arguments)
         command->add_option(each.option, arguments->*each.value, each.help)->check(CLI::IsMember(each.words));
     command->add_option("--left-recipe", arguments->leftRecipe, "name of the left pallet's recipe");
     command->add_option("--right-recipe", arguments->rightRecipe, "name of the right pallet's recipe");
-}
-
-void addPlaces(CLI::App *command, Arguments *arguments)
-{
-    command->add_option("--data", arguments->data, "the panel's data; made when missing")->required();
-    command->add_option("--workspace", arguments->workspace,
-                        "the controller workspace; as the panel's settings say unless given");
-    command->add_option("--controller", arguments->controller, "inprocess, spawn or HOST:PORT")
-        ->capture_default_str();
-    command->add_option("--format", arguments->format, "json or table; otherwise table on a terminal")
-        ->check(CLI::IsMember({"json", "table"}));
 }
 
 } // namespace
@@ -127,7 +115,7 @@ void addProjectCommands(CLI::App &app, std::function<int()> *command)
             sub->add_option("--rename", arguments->newName, "new name");
         if (each.hasParameters)
             addParameters(sub, arguments.get());
-        addPlaces(sub, arguments.get());
+        addPlaces(sub, &arguments->place);
         sub->callback([command, arguments, what = each.what] {
             const ProjectRequest request = requestOf(what, *arguments);
             *command = [request] { return runProject(request); };

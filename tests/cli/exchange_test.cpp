@@ -1,0 +1,122 @@
+// `palx export` and `palx import`: recipes go from one panel's data to another's by a file.
+
+#include "palx_run.h"
+
+#include "orba/module_manager.h"
+#include "support/test_support.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class PalxExchange : public ::testing::Test
+{
+protected:
+    PalxRun run(const QStringList &arguments, const char *data = "data") const
+    {
+        return runPalx(arguments + QStringList{"--data", data, "--workspace", "work", "--format", "json"},
+                       folder.path());
+    }
+    /// "recipe outcome name place; ..."
+    static QString outcomes(const PalxRun &run)
+    {
+        EXPECT_EQ(run.code, 0) << run.err.constData();
+        QStringList found;
+        const orba::Node result = parsed(run.out);
+        const orba::Node *recipes = result.child(u"recipes");
+        for (int i = 0; recipes && i < recipes->size(); ++i)
+            found.append(
+                QStringList({recipes->at(i)->getString(u"recipe"), recipes->at(i)->getString(u"outcome"),
+                             recipes->at(i)->getString(u"name"), recipes->at(i)->getString(u"place")})
+                    .join(QLatin1Char(' ')));
+        return found.join(QStringLiteral("; "));
+    }
+    QString path(const char *name) const { return folder.filePath(QLatin1String(name)); }
+    QStringList files() const
+    {
+        return QDir(folder.path()).entryList({"*.xml*"}, QDir::Files | QDir::Hidden);
+    }
+
+    QTemporaryDir folder;
+};
+
+} // namespace
+
+TEST_F(PalxExchange, RecipesComeToAnotherPanelAsTheyAre)
+{
+    const QString example = examplePath("line-left.xml");
+    EXPECT_EQ(outcomes(run({"import", example})), "Line left new Line left 1");
+    const PalxRun written = run({"export", "-o", "out"});
+    ASSERT_EQ(written.code, 0) << written.err.constData();
+    const orba::Node result = parsed(written.out);
+    EXPECT_EQ(result.getString(u"file"), path("out.xml"));
+    EXPECT_EQ(result.getInt(u"bytes"), fileContent(path("out.xml")).size());
+    EXPECT_EQ(texts(*result.child(u"recipes")), QStringList("Line left"));
+    EXPECT_EQ(files(), QStringList("out.xml"));
+    orba::Node content;
+    ASSERT_TRUE(orba::ModuleManager::readFromXmlFile(path("out.xml"), &content));
+    EXPECT_EQ(content.at(0)->name(), orba::Name(u"default"));
+    content.remove(u"default");
+    EXPECT_EQ(content, exampleContent("line-left.xml"));
+    EXPECT_EQ(outcomes(run({"import", "out.xml"}, "other")), "Line left new Line left 1");
+}
+
+TEST_F(PalxExchange, ATakenNameIsTreatedAsAsked)
+{
+    const QString example = examplePath("line-left.xml");
+    EXPECT_EQ(outcomes(run({"import", example})), "Line left new Line left 1");
+    EXPECT_EQ(outcomes(run({"import", example})), "Line left renamed Line left1 2");
+    EXPECT_EQ(outcomes(run({"import", example, "--on-clash", "rename"})), "Line left renamed Line left2 3");
+    EXPECT_EQ(outcomes(run({"import", example, "--on-clash", "discard"})), "Line left skipped  0");
+    EXPECT_EQ(outcomes(run({"import", example, "--on-clash", "replace"})), "Line left replaced Line left 3");
+    const PalxRun written = run({"export", "-o", "two.xml", "Line left", "Line left2"});
+    EXPECT_EQ(texts(*parsed(written.out).child(u"recipes")), (QStringList{"Line left2", "Line left"}));
+}
+
+TEST_F(PalxExchange, OlderRecipesSayWhatTheyGot)
+{
+    writeFile(path("old.xml"), "<node type='list'><node type='map'><node name='name' type='string'>Old</node>"
+                               "<node name='get' type='null'/></node></node>");
+    const PalxRun read = run({"import", "old.xml"});
+    EXPECT_EQ(outcomes(read), "Old new Old 1");
+    EXPECT_EQ(texts(*parsed(read.out).find(u"recipes.#0.from_template")),
+              (QStringList{"bollard", "pallet_position", "use_global_tool", "use_global_wobj",
+                           "automatic_stacker", "wobj_margin"}));
+}
+
+TEST_F(PalxExchange, RefusalsSayWhyAndLeaveEverything)
+{
+    ASSERT_EQ(run({"import", examplePath("line-left.xml")}).code, 0);
+    writeFile(path("bad.xml"), "<node type='list'><node type='map'/></nod>");
+    writeFile(path("old.xml"), "old");
+    QDir(folder.path()).mkpath("folder.xml");
+    const struct
+    {
+        QStringList arguments;
+        int code;
+        const char *reason;
+    } cases[] = {
+        {{"import", "bad.xml"}, 1, "bad.xml:1:"},
+        {{"import", "none.xml"}, 1, "none.xml: the file does not exist"},
+        {{"import", "bad.xml", "--controller", "nonsense"}, 1, "\"nonsense\" is no controller"},
+        {{"import", "bad.xml", "--on-clash", "ask"}, 2, "--on-clash"},
+        {{"import"}, 2, "FILE is required"},
+        {{"export"}, 2, "--output is required"},
+        {{"export", "-o", "old.xml", "Box"}, 1, "no recipe is called \"Box\"; there are: \"Line left\""},
+        {{"export", "-o", "no/out.xml"}, 1, "no/out.xml: cannot be written"},
+        {{"export", "-o", "folder.xml"}, 1, "folder.xml: cannot be written"},
+    };
+    for (const auto &each : cases) {
+        const PalxRun refused = run(each.arguments);
+        EXPECT_EQ(refused.code, each.code) << each.arguments.join(' ');
+        EXPECT_TRUE(refused.err.contains(each.reason)) << refused.err.constData();
+        EXPECT_TRUE(refused.out.isEmpty()) << refused.out.constData();
+    }
+    EXPECT_EQ(fileContent(path("old.xml")), QByteArray("old"));
+    EXPECT_EQ(files(), (QStringList{"bad.xml", "old.xml"}));
+    EXPECT_EQ(texts(*parsed(run({"export", "-o", "all.xml"}).out).child(u"recipes")),
+              QStringList("Line left"));
+}
