@@ -140,8 +140,9 @@ TEST_F(DeskTest, AnotherProjectEndsThePrograms)
 
 TEST_F(DeskTest, AProjectThatIsLeftKeepsWhatItsProgramsCounted)
 {
-    makeProject("GLOBAL PROC main()\n    WHILE true\n        Wait(0.01)\n        count := count + 1\n    ENDWHILE\n"
-                "ENDPROC\n");
+    makeProject(
+        "GLOBAL PROC main()\n    WHILE true\n        Wait(0.01)\n        count := count + 1\n    ENDWHILE\n"
+        "ENDPROC\n");
     ask("program.run");
     panel.wait(0.57);
     const qint64 counted = std::get<std::int64_t>(core.station().desk().runner().variables()->value(0));

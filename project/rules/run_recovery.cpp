@@ -1,0 +1,254 @@
+#include "project/rules/run_recovery.h"
+
+#include "project/rules/project_record.h"
+#include "workstation/plugin_node.h"
+#include "xservice.h"
+
+#include <QCoreApplication>
+
+namespace palx {
+
+using orba::Node;
+
+namespace {
+
+const QString kSheetPattern = QStringLiteral("clapboard");
+const QString kSuction = QStringLiteral("DO2_6");
+
+QString say(const char *text)
+{
+    return QCoreApplication::translate("palx", text);
+}
+
+QString sideName(int side)
+{
+    return side == 0 ? say("left pallet") : say("right pallet");
+}
+
+/// The name that a variable has on that side: "currentLayer" is "currentLayerL" on the left one.
+QString onSide(const char *variable, int side)
+{
+    return QLatin1String(variable) + (side == 0 ? QLatin1Char('L') : QLatin1Char('R'));
+}
+
+const Node *recordOf(const Node &list, const QString &name)
+{
+    for (int i = 0; !list.isPacked() && i < list.size(); ++i)
+        if (list.at(i) && list.at(i)->getString(u"name") == name)
+            return list.at(i);
+    return nullptr;
+}
+
+int numberOf(const Node &variables, const QString &name, int fallback)
+{
+    const Node *variable = recordOf(variables, name);
+    const Node *value = variable ? variable->find(u"value.[0][0][0]") : nullptr;
+    return value ? static_cast<int>(value->toInt()) : fallback;
+}
+
+QVector<int> piecesOfLayers(const Node &stack)
+{
+    QVector<int> pieces;
+    const Node *put = stack.find(u"points.put");
+    const Node *layers = stack.child(u"layers");
+    for (int i = 0; put && i < put->size(); ++i) {
+        const Node *layer = layers ? layers->at(i) : nullptr;
+        const bool isSheet = layer && layer->getString(u"pattern") == kSheetPattern;
+        pieces.append(isSheet ? 0 : put->at(i)->size());
+    }
+    return pieces;
+}
+
+/// The first piece there is from that place on: behind the last one of a layer comes the next layer's first.
+PalletPiece firstFrom(const QVector<int> &pieces, PalletPiece from)
+{
+    PalletPiece next{std::max(1, from.layer), std::max(1, from.piece)};
+    while (next.layer <= pieces.size() && next.piece > pieces.at(next.layer - 1))
+        next = {next.layer + 1, 1};
+    return next.layer > pieces.size() && !pieces.isEmpty() ? PalletPiece{pieces.size() + 1, 1} : next;
+}
+
+bool isBehindTheLast(const SideRun &side, PalletPiece piece)
+{
+    return !side.pieces.isEmpty() && piece.layer > side.pieces.size();
+}
+
+void readCounters(const Node &variables, const Node &stacks, int side, SideRun *run)
+{
+    const QStringList names = sideRecipes(stacks, side == 0);
+    run->recipe = names.value(numberOf(variables, onSide("palletIndex", side), 0));
+    if (const Node *stack = run->recipe.isEmpty() ? nullptr : recordOf(stacks, run->recipe))
+        run->pieces = piecesOfLayers(*stack);
+    run->counted = firstFrom(run->pieces, {numberOf(variables, onSide("currentLayer", side), 1),
+                                           numberOf(variables, onSide("layerCount", side), 1)});
+}
+
+void readPallet(const Node &pallet, SideRun *run)
+{
+    const bool isEmpty = pallet.getInt(u"count") == 0;
+    const QString recipe = pallet.getString(u"recipe");
+    if (!isEmpty && recipe != run->recipe) {
+        run->foreign = recipe;
+        return;
+    }
+    run->isKnown = true;
+    run->lying = firstFrom(run->pieces, {static_cast<int>(pallet.getInt(u"layer", 1)),
+                                         static_cast<int>(pallet.getInt(u"piece", 1))});
+}
+
+void propose(SideRun *run)
+{
+    run->proposed = run->isKnown ? run->lying : run->counted;
+    run->isFull = isBehindTheLast(*run, run->proposed);
+    if (run->isFull && !run->isKnown)
+        run->proposed = {}; // nobody sees whether it was replaced; the operator says so by confirming
+}
+
+void readCell(const Node &cell, const Node &variables, RunRecovery *run)
+{
+    const QString state = cell.getString(u"program.state");
+    run->isRunning = state == QLatin1String("running");
+    run->isPaused = state == QLatin1String("paused");
+    run->holdsProduct = cell.getBool(u"gripper.carries");
+    if (const Node *all = cell.child(u"signals"))
+        if (const Node *suction = recordOf(*all, kSuction))
+            run->isSuctionOn = suction->getBool(u"on");
+    const double lift = numberOf(variables, QStringLiteral("liftHeight"), 0);
+    if (lift > 0)
+        run->isColumnUp = cell.getDouble(u"column.height") > lift / 2;
+}
+
+} // namespace
+
+RunRecovery readRunRecovery(const Node &cell, const Node &variables, const Node &stacks)
+{
+    RunRecovery run;
+    const Node *pallets = cell.child(u"pallets");
+    run.isCellKnown = pallets != nullptr;
+    if (run.isCellKnown)
+        readCell(cell, variables, &run);
+    run.served = numberOf(variables, QStringLiteral("palletStatus"), 0) - 1;
+    for (int i = 0; i < 2; ++i) {
+        SideRun &side = run.sides[static_cast<std::size_t>(i)];
+        readCounters(variables, stacks, i, &side);
+        if (pallets && pallets->at(i))
+            readPallet(*pallets->at(i), &side);
+        side.isInterrupted = run.isCellKnown && !run.isRunning && !run.isPaused && run.served == i;
+        propose(&side);
+    }
+    return run;
+}
+
+bool needsConfirmation(const RunRecovery &run, int side)
+{
+    const SideRun &at = run.sides[static_cast<std::size_t>(side)];
+    if (!run.isCellKnown || run.isRunning || run.isPaused || at.recipe.isEmpty())
+        return false;
+    return at.isInterrupted || !at.foreign.isEmpty() || (at.isKnown && at.counted != at.lying);
+}
+
+int piecesBefore(const SideRun &side, PalletPiece piece)
+{
+    int count = piece.piece - 1;
+    for (int i = 0; i < side.pieces.size() && i < piece.layer - 1; ++i)
+        count += side.pieces.at(i);
+    return count;
+}
+
+QString whyNotConfirm(const RunRecovery &run, int side, PalletPiece piece)
+{
+    const SideRun &at = run.sides[static_cast<std::size_t>(side)];
+    if (run.isRunning || run.isPaused)
+        return say("Stop the program first!");
+    if (at.recipe.isEmpty())
+        return say("There is no recipe for the %1!").arg(sideName(side));
+    if (run.holdsProduct || run.isSuctionOn)
+        return say("Clear the gripper first!");
+    if (!at.foreign.isEmpty())
+        return say("Products of the recipe \"%1\" lie on the %2!").arg(at.foreign, sideName(side));
+    if (at.isKnown && at.isFull)
+        return say("The %1 is full; replace it first!").arg(sideName(side));
+    if (piece.layer < 1 || piece.layer > at.pieces.size())
+        return say("The recipe has layers 1 to %1!").arg(at.pieces.size());
+    const int pieces = at.pieces.at(piece.layer - 1);
+    if (piece.piece < 1 || piece.piece > pieces)
+        return say("Layer %1 has pieces 1 to %2!").arg(piece.layer).arg(pieces);
+    return {};
+}
+
+Node confirmedVariables(const RunRecovery &run, int side, PalletPiece piece)
+{
+    const SideRun &at = run.sides[static_cast<std::size_t>(side)];
+    Node values;
+    const auto set = [&values](const QString &name, int value) {
+        values.ensureChild(orba::Name(name))->setInt(value);
+    };
+    set(onSide("currentLayer", side), piece.layer);
+    set(onSide("layerCount", side), piece.piece);
+    set(onSide("palletCount", side), piecesBefore(at, piece));
+    set(onSide("flag", side), 0);
+    set(QStringLiteral("grabbing"), 0);
+    if (at.isInterrupted)
+        set(QStringLiteral("palletStatus"), 0);
+    if (run.isColumnUp)
+        set(QStringLiteral("rise"), *run.isColumnUp ? 1 : 0);
+    return values;
+}
+
+QString whyNotEnable(const RunRecovery &run, int side)
+{
+    const SideRun &at = run.sides[static_cast<std::size_t>(side)];
+    if (at.recipe.isEmpty())
+        return say("There is no recipe for the %1!").arg(sideName(side));
+    if (run.isRunning || run.isPaused || !run.isCellKnown)
+        return {};
+    if (run.holdsProduct || run.isSuctionOn)
+        return say("Clear the gripper first!");
+    if (at.isKnown && at.isFull)
+        return say("The %1 is full; replace it first!").arg(sideName(side));
+    if (needsConfirmation(run, side))
+        return say("Confirm layer and piece of the %1 first!").arg(sideName(side));
+    return {};
+}
+
+QString whyNotGoOn(const RunRecovery &run)
+{
+    if (!run.isPaused || run.served < 0 || run.served > 1)
+        return {};
+    if (run.isSuctionOn && !run.holdsProduct)
+        return say("The product was lost; stop the program and confirm the piece!");
+    const SideRun &at = run.sides[static_cast<std::size_t>(run.served)];
+    const PalletPiece next =
+        firstFrom(at.pieces, {at.counted.layer, at.counted.piece + 1}); // put down, not counted yet
+    if (!at.foreign.isEmpty() || (at.isKnown && at.lying != at.counted && at.lying != next))
+        return say("Another pallet stands there; stop the program and confirm the piece!");
+    return {};
+}
+
+// ---------------------------------------------------------------- the panel's own nodes
+
+RunRecovery currentRunRecovery()
+{
+    return readRunRecovery(m("nexo.cell")->node(), m("quill.project.var._list")->node(),
+                           stacksNode()->node());
+}
+
+QString confirmPiece(int side, PalletPiece piece)
+{
+    const RunRecovery run = currentRunRecovery();
+    const QString why = whyNotConfirm(run, side, piece);
+    if (!why.isEmpty())
+        return why;
+    return xservice()
+        ->set(nullptr, QStringLiteral("monitor.pers.modify"), confirmedVariables(run, side, piece))
+        .error;
+}
+
+QString clearGripper()
+{
+    Node payload;
+    payload.ensure(u"action")->setString(QStringLiteral("clear"));
+    return xservice()->set(nullptr, QStringLiteral("cell.gripper"), payload).error;
+}
+
+} // namespace palx

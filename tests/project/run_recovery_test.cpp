@@ -1,0 +1,226 @@
+// With which piece a side goes on after work was broken off, and what keeps it from doing so.
+
+#include "project/rules/run_recovery.h"
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+using orba::Node;
+using palx::PalletPiece;
+
+namespace {
+
+/// A cell with a left recipe of layers with 2, 2 and 1 products, a sheet between the last two, and an empty right one.
+struct Cell
+{
+    QString state = QStringLiteral("stopped");
+    int served = 0;      ///< "palletStatus"
+    PalletPiece counted; ///< of the left side
+    int lies = 0;        ///< products on the left pallet
+    PalletPiece lying;
+    const char *recipe = "Left";
+    bool carries = false, suction = false;
+    bool isKnown = true;
+    double column = 0;
+};
+
+Node variable(const char *name, int value)
+{
+    Node record;
+    record.ensure(u"name")->setString(QLatin1String(name));
+    record.ensure(u"value.[0][0][0]")->setString(QString::number(value));
+    return record;
+}
+
+Node variablesOf(const Cell &cell)
+{
+    Node list;
+    list.reset(Node::Kind::List);
+    const std::pair<const char *, int> values[] = {{"palletStatus", cell.served},
+                                                   {"currentLayerL", cell.counted.layer},
+                                                   {"layerCountL", cell.counted.piece},
+                                                   {"palletIndexL", 0},
+                                                   {"currentLayerR", 1},
+                                                   {"layerCountR", 1},
+                                                   {"palletIndexR", 3},
+                                                   {"liftHeight", 500}};
+    for (const auto &[name, value] : values)
+        list.add()->assign(variable(name, value));
+    return list;
+}
+
+Node stacks()
+{
+    return nodeFromJson(R"([
+        {"name":"Right","pallet_position":1,"layers":[{"pattern":"A"}],"points":{"put":[[{},{}]]}},
+        {"name":"Left","pallet_position":0,
+         "layers":[{"pattern":"A"},{"pattern":"A"},{"pattern":"clapboard"},{"pattern":"B"}],
+         "points":{"put":[[{},{}],[{},{}],[{}],[{}]]}}])");
+}
+
+Node cellNode(const Cell &cell)
+{
+    if (!cell.isKnown)
+        return Node();
+    Node node =
+        nodeFromJson(R"({"program":{},"gripper":{},"column":{},"signals":[{"name":"DO2_6","on":false}],
+        "pallets":[{"recipe":""},{"recipe":"","count":0,"layer":1,"piece":1}]})");
+    node.find(u"program")->ensure(u"state")->setString(cell.state);
+    node.find(u"gripper")->ensure(u"carries")->setBool(cell.carries);
+    node.find(u"signals.#0")->ensure(u"on")->setBool(cell.suction);
+    node.find(u"column")->ensure(u"height")->setDouble(cell.column);
+    Node *left = node.find(u"pallets.#0");
+    left->ensure(u"recipe")->setString(QLatin1String(cell.recipe));
+    left->ensure(u"count")->setInt(cell.lies);
+    left->ensure(u"layer")->setInt(cell.lying.layer);
+    left->ensure(u"piece")->setInt(cell.lying.piece);
+    return node;
+}
+
+palx::RunRecovery read(const Cell &cell)
+{
+    return palx::readRunRecovery(cellNode(cell), variablesOf(cell), stacks());
+}
+
+QString textOf(PalletPiece piece)
+{
+    return QStringLiteral("%1/%2").arg(piece.layer).arg(piece.piece);
+}
+
+struct RecoveryCase
+{
+    const char *name;
+    Cell cell;
+    const char *proposed;
+    bool isAsked;
+    const char *whyNotEnable;
+    const char *whyNotConfirm; ///< what is proposed
+};
+
+const RecoveryCase kCases[] = {
+    {"Fresh", {}, "1/1", false, "", ""},
+    {"AsCounted", {"stopped", 0, {2, 1}, 2, {2, 1}}, "2/1", false, "", ""},
+    {"BrokenOff",
+     {"stopped", 1, {2, 2}, 3, {2, 2}},
+     "2/2",
+     true,
+     "Confirm layer and piece of the left pallet first!",
+     ""},
+    {"OneBehind",
+     {"stopped", 1, {1, 2}, 2, {2, 1}},
+     "2/1",
+     true,
+     "Confirm layer and piece of the left pallet first!",
+     ""},
+    {"BehindTheLastOfALayerIsTheNextLayersFirst", {"stopped", 0, {1, 3}, 2, {2, 1}}, "2/1", false, "", ""},
+    {"ASheetIsPassed", {"stopped", 0, {3, 1}, 4, {4, 1}}, "4/1", false, "", ""},
+    {"Full",
+     {"stopped", 1, {4, 1}, 5, {5, 1}},
+     "5/1",
+     true,
+     "The left pallet is full; replace it first!",
+     "The left pallet is full; replace it first!"},
+    {"FullAndReplaced",
+     {"stopped", 0, {5, 1}, 0, {1, 1}},
+     "1/1",
+     true,
+     "Confirm layer and piece of the left pallet first!",
+     ""},
+    {"AtTheGripper",
+     {"stopped", 1, {1, 2}, 1, {1, 2}, "Left", true, true},
+     "1/2",
+     true,
+     "Clear the gripper first!",
+     "Clear the gripper first!"},
+    {"SuctionOnly",
+     {"stopped", 0, {1, 2}, 1, {1, 2}, "Left", false, true},
+     "1/2",
+     false,
+     "Clear the gripper first!",
+     "Clear the gripper first!"},
+    {"Foreign",
+     {"stopped", 0, {1, 2}, 1, {1, 2}, "Other"},
+     "1/2",
+     true,
+     "Confirm layer and piece of the left pallet first!",
+     "Products of the recipe \"Other\" lie on the left pallet!"},
+    {"Running", {"running", 1, {1, 2}, 2, {2, 1}}, "2/1", false, "", "Stop the program first!"},
+    {"Paused", {"paused", 1, {1, 2}, 2, {2, 1}}, "2/1", false, "", "Stop the program first!"},
+    {"NobodySeesThePallet", {"", 1, {2, 2}, 0, {1, 1}, "", false, false, false}, "2/2", false, "", ""},
+    {"NobodySeesTheFullPallet", {"", 0, {5, 1}, 0, {1, 1}, "", false, false, false}, "1/1", false, "", ""},
+};
+
+class Recovery : public ::testing::TestWithParam<RecoveryCase>
+{
+};
+
+TEST_P(Recovery, ProposesAndAsks)
+{
+    const RecoveryCase &c = GetParam();
+    const palx::RunRecovery run = read(c.cell);
+    EXPECT_EQ(QLatin1String(c.proposed), textOf(run.sides[0].proposed));
+    EXPECT_EQ(c.isAsked, palx::needsConfirmation(run, 0));
+    EXPECT_EQ(QLatin1String(c.whyNotEnable), palx::whyNotEnable(run, 0));
+    EXPECT_EQ(QLatin1String(c.whyNotConfirm), palx::whyNotConfirm(run, 0, run.sides[0].proposed));
+    EXPECT_EQ("There is no recipe for the right pallet!", palx::whyNotEnable(run, 1));
+    EXPECT_FALSE(palx::needsConfirmation(run, 1));
+}
+
+INSTANTIATE_TEST_SUITE_P(Cells, Recovery, ::testing::ValuesIn(kCases),
+                         [](const auto &test) { return test.param.name; });
+
+} // namespace
+
+TEST(RunRecovery, OnlyPiecesOfTheRecipeAreConfirmed)
+{
+    const palx::RunRecovery run = read({});
+    const std::pair<PalletPiece, const char *> cases[] = {{{2, 2}, ""},
+                                                          {{0, 1}, "The recipe has layers 1 to 4!"},
+                                                          {{5, 1}, "The recipe has layers 1 to 4!"},
+                                                          {{2, 3}, "Layer 2 has pieces 1 to 2!"},
+                                                          {{2, 0}, "Layer 2 has pieces 1 to 2!"},
+                                                          {{3, 1}, "Layer 3 has pieces 1 to 0!"}};
+    for (const auto &[piece, why] : cases)
+        EXPECT_EQ(QLatin1String(why), palx::whyNotConfirm(run, 0, piece)) << qPrintable(textOf(piece));
+}
+
+TEST(RunRecovery, AConfirmationSetsEverythingThatCounts)
+{
+    Cell cell{"stopped", 1, {1, 2}, 4, {4, 1}};
+    EXPECT_EQ(nodeFromJson(R"({"currentLayerL":4,"layerCountL":1,"palletCountL":4,"flagL":0,"grabbing":0,
+                              "palletStatus":0,"rise":0})"),
+              palx::confirmedVariables(read(cell), 0, {4, 1}));
+    cell.column = 499;
+    cell.served = 2; // the other side stays to be confirmed
+    EXPECT_EQ(nodeFromJson(
+                  R"({"currentLayerL":2,"layerCountL":2,"palletCountL":3,"flagL":0,"grabbing":0,"rise":1})"),
+              palx::confirmedVariables(read(cell), 0, {2, 2}));
+}
+
+TEST(RunRecovery, APausedProgramGoesOnOnlyWithItsProductAndItsPallet)
+{
+    const std::pair<Cell, const char *> cases[] = {
+        {{"paused", 1, {1, 2}, 1, {1, 2}}, ""},
+        {{"paused", 1, {1, 2}, 2, {2, 1}}, ""}, // put down, not counted
+        {{"paused", 1, {1, 2}, 1, {1, 2}, "Left", true, true}, ""},
+        {{"paused", 1, {1, 2}, 1, {1, 2}, "Left", false, true},
+         "The product was lost; stop the program and confirm the piece!"},
+        {{"paused", 1, {1, 2}, 0, {1, 1}},
+         "Another pallet stands there; stop the program and confirm the piece!"},
+        {{"paused", 1, {1, 2}, 1, {1, 2}, "Other"},
+         "Another pallet stands there; stop the program and confirm the piece!"},
+        {{"paused", 0, {1, 2}, 0, {1, 1}}, ""},
+        {{"running", 1, {1, 2}, 0, {1, 1}, "Left", false, true}, ""},
+    };
+    for (const auto &[cell, why] : cases)
+        EXPECT_EQ(QLatin1String(why), palx::whyNotGoOn(read(cell)));
+}
+
+TEST(RunRecovery, ATreeWithoutAnythingAsksNothing)
+{
+    const palx::RunRecovery run = palx::readRunRecovery(Node(), Node(), Node());
+    EXPECT_FALSE(palx::needsConfirmation(run, 0));
+    EXPECT_EQ("There is no recipe for the left pallet!", palx::whyNotEnable(run, 0));
+    EXPECT_EQ("There is no recipe for the left pallet!", palx::whyNotConfirm(run, 0, {}));
+    EXPECT_EQ("", palx::whyNotGoOn(run));
+}
