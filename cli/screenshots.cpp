@@ -9,6 +9,7 @@
 #include "panel/panel_window.h"
 #include "pattern_pictures.h"
 #include "plan_pictures.h"
+#include "project_pictures.h"
 #include "recipe_commands.h"
 #include "stack/way_points.h"
 #include "ui/pattern_view.h"
@@ -297,6 +298,15 @@ void takeMoves(Camera &camera)
         camera.fail(QStringLiteral("the simulated controller does not answer"));
 }
 
+/// The project manager, with a controller of its own.
+void takeProjects(Camera &camera)
+{
+    camera.window()->openPage(mName(palx::getPluginName(), QStringLiteral("home_page")));
+    const auto take = [&camera](const QString &name) { camera.takeWindow(camera.window(), name); };
+    if (!showProjects(camera.window(), take))
+        camera.fail(QStringLiteral("no project was made"));
+}
+
 bool fillPages(const QString &examples)
 {
     QString error;
@@ -341,6 +351,7 @@ QString takeAll(Session &session, const ScreenshotRequest &request, int *count)
     }
     camera.takePage(QStringLiteral("panel.controller"), QStringLiteral("panel-controller-gone"));
     takeMoves(camera);
+    takeProjects(camera);
     *count = camera.count();
     return camera.error();
 }
