@@ -6,6 +6,7 @@
 #include "project/rules/project_messages.h"
 #include "project/rules/project_place.h"
 #include "project/rules/project_record.h"
+#include "project/rules/project_recovery.h"
 #include "project/rules/project_tasks.h"
 #include "project/rules/project_variables.h"
 #include "workstation/config_log.h"
@@ -29,7 +30,7 @@ bool isRobotKnown()
 {
     if (robotFolder().isEmpty())
         return error(ProjectText::tr("The robot is not known yet: connect the controller first"));
-    recoverStagedFolders(robotFolder());
+    recoverProjects();
     return true;
 }
 

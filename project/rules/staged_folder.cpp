@@ -12,10 +12,9 @@ namespace {
 
 const QString kDiscarded = QStringLiteral(".discarded"); // no robot's id begins with a dot
 
-/// Beside the robot's folder.
 QDir stagingOf(const QString &robotFolder)
 {
-    return QDir(QFileInfo(robotFolder).path() + QStringLiteral("/.palx-staging"));
+    return QDir(stagingFolder(robotFolder));
 }
 
 /// A free name in the folder of discarded ones. The project's own name may be as long as names can be.
@@ -43,6 +42,11 @@ void tidy(const QDir &staging, const QString &robot)
 }
 
 } // namespace
+
+QString stagingFolder(const QString &robotFolder)
+{
+    return QFileInfo(robotFolder).path() + QStringLiteral("/.palx-staging");
+}
 
 bool isTaken(const QString &path)
 {
@@ -90,6 +94,7 @@ bool StagedFolder::putBack()
     if (!QDir().rename(staged_, folder_))
         return false;
     folder_.clear();
+    staged_.clear();
     tidy(staging, QFileInfo(robotFolder).fileName());
     return true;
 }
@@ -102,15 +107,30 @@ bool StagedFolder::discard()
     const QDir staging = stagingOf(robotFolder);
     const bool isGone = discardFolder(staged_, staging) || removeFolder(staged_);
     folder_.clear();
+    staged_.clear();
     tidy(staging, QFileInfo(robotFolder).fileName());
     return isGone;
 }
 
-void recoverStagedFolders(const QString &robotFolder)
+bool StagedFolder::moveTo(const QString &path)
 {
+    if (folder_.isEmpty())
+        return true;
+    const QString robotFolder = QFileInfo(folder_).path();
+    if (!QDir().rename(staged_, path))
+        return false;
+    folder_.clear();
+    staged_.clear();
+    tidy(stagingOf(robotFolder), QFileInfo(robotFolder).fileName());
+    return true;
+}
+
+QStringList recoverStagedFolders(const QString &robotFolder)
+{
+    QStringList recovered;
     const QDir staging = stagingOf(robotFolder);
     if (robotFolder.isEmpty() || !staging.exists())
-        return;
+        return recovered;
     const QString robot = QFileInfo(robotFolder).fileName();
     const QDir held(staging.filePath(robot));
     constexpr auto kAll = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
@@ -118,10 +138,12 @@ void recoverStagedFolders(const QString &robotFolder)
         const QString place = QDir(robotFolder).filePath(name);
         if (isTaken(place)) // begun, and not finished
             discardFolder(place, staging);
-        QDir().rename(held.filePath(name), place);
+        if (QDir().rename(held.filePath(name), place))
+            recovered.append(name);
     }
     removeFolder(staging.filePath(kDiscarded));
     tidy(staging, robot);
+    return recovered;
 }
 
 } // namespace palx

@@ -2,7 +2,7 @@
 
 #include "orba/export.h"
 
-#include <QString>
+#include <QStringList>
 
 namespace palx {
 
@@ -26,11 +26,19 @@ public:
     /// Removes the folder for good. False when something of it could not be removed; the rest is no project any more and is
     /// tried again by `recoverStagedFolders`.
     bool discard();
+    /// Moves the folder there, out of reach of `recoverStagedFolders`; it is the caller's then. False when it stays staged.
+    bool moveTo(const QString &path);
+
+    /// Where it stands while it is staged; empty while nothing is.
+    QString path() const { return staged_; }
 
 private:
     QString folder_; ///< its place; empty while nothing is staged
     QString staged_; ///< where it is
 };
+
+/// The folder beside a robot's folder for what is being changed.
+PALX_API QString stagingFolder(const QString &robotFolder);
 
 /// Whether something stands at that place; a link that leads nowhere counts.
 PALX_API bool isTaken(const QString &path);
@@ -39,7 +47,7 @@ PALX_API bool isTaken(const QString &path);
 PALX_API bool removeFolder(const QString &folder);
 
 /// Puts back the projects that an interrupted operation left staged, and removes what is left of discarded ones.
-/// `robotFolder` is the folder that holds the robot's projects; an empty one does nothing.
-PALX_API void recoverStagedFolders(const QString &robotFolder);
+/// Returns those that were put back. `robotFolder` is the folder that holds the robot's projects; an empty one does nothing.
+PALX_API QStringList recoverStagedFolders(const QString &robotFolder);
 
 } // namespace palx

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "orba/node.h"
+#include "project/rules/template_exchange.h"
+#include "project/rules/work_folder.h"
+
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace palx {
+
+/// What an import did, one change after the other, to be undone until the next one or the end of the program.
+class ImportUndo
+{
+public:
+    /// An imported project is in its place now.
+    struct Change
+    {
+        QString name;
+        std::unique_ptr<WorkFolder>
+            kept; ///< holds "project", the one that was replaced; null: there was none
+        std::optional<orba::Node> recordBefore; ///< none: there was none
+    };
+
+    ImportUndo();
+
+    /// Whether the robot is the one whose projects were imported.
+    bool isOfThisRobot() const;
+    void note(Change change) { changes_.push_back(std::move(change)); }
+    TemplateChange &templates() { return templates_; }
+    /// The projects that were made, and "mod" for templates.
+    QStringList names() const;
+    /// Undoes the changes, last one first. What cannot be undone stays, after the message.
+    bool undo();
+
+private:
+    QString robotFolder_;
+    std::vector<Change> changes_;
+    TemplateChange templates_;
+};
+
+} // namespace palx

@@ -1,0 +1,204 @@
+#include "project/rules/project_export.h"
+
+#include "orba/module_manager.h"
+#include "project/rules/archive_pack.h"
+#include "project/rules/program_template.h"
+#include "project/rules/project_messages.h"
+#include "project/rules/project_parameters_file.h"
+#include "project/rules/project_place.h"
+#include "project/rules/project_record.h"
+#include "project/rules/project_recovery.h"
+#include "project/rules/run_beside.h"
+#include "project/rules/staged_folder.h"
+#include "project/rules/work_folder.h"
+#include "workstation/config_log.h"
+#include "workstation/file_sync.h"
+#include "workstation/workspace.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+namespace palx {
+
+using orba::Name;
+using orba::Node;
+
+namespace {
+
+const QString kTemplates = QStringLiteral("mod");
+
+/// Archives that are being made, in a folder of their own in the target folder; they get their names when they are whole and
+/// on the disk.
+class ArchiveDesk
+{
+public:
+    explicit ArchiveDesk(const QString &target)
+        : target_(target), folder_(QDir(target).filePath(QStringLiteral(".palx-export")))
+    {
+        isReady_ = (!isTaken(folder_) || removeFolder(folder_)) && QDir().mkdir(folder_);
+    }
+    ~ArchiveDesk()
+    {
+        if (isReady_)
+            removeFolder(folder_);
+    }
+    ArchiveDesk(const ArchiveDesk &) = delete;
+    ArchiveDesk &operator=(const ArchiveDesk &) = delete;
+
+    bool isReady() const { return isReady_; }
+    /// Where the archive of that name is to be made.
+    QString begin(const QString &name) const { return archivePath(folder_, name); }
+    void noteWhole(const QString &name) { whole_.append(name); }
+
+    /// The archives so far get their names.
+    bool finish(QString *why, Progress *progress)
+    {
+        if (whole_.isEmpty())
+            return true;
+        if (!sync(why, progress))
+            return false;
+        for (const QString &name : std::as_const(whole_))
+            if (std::rename(QFile::encodeName(begin(name)).constData(),
+                            QFile::encodeName(archivePath(target_, name)).constData()) != 0) {
+                *why = QStringLiteral("%1: %2").arg(archivePath(target_, name), qt_error_string());
+                return false;
+            }
+        return sync(why, progress);
+    }
+
+private:
+    bool sync(QString *why, Progress *progress) const
+    {
+        bool isDone = false;
+        runBeside(progress, {ProjectText::tr("Writing to the disk"), {}, 0, {}},
+                  [&] { isDone = syncFileSystem(target_, why); });
+        return isDone;
+    }
+
+    QString target_;
+    QString folder_;
+    QStringList whole_;
+    bool isReady_ = false;
+};
+
+bool warn(const QString &text, const QString &why)
+{
+    recordCfgLog(QStringLiteral("%1: %2").arg(text, why), true);
+    return reportProject("warning", text);
+}
+
+/// The copy that is packed gets a "var.xml" of its own, so that the project's stays whatever happens.
+bool addParametersTo(const QString &copy, const QString &project, QString *why)
+{
+    const QString file = copy + QStringLiteral("/var.xml");
+    Node fixed{Name(u"fixed_var_list")};
+    if (!readVariableList(file, &fixed, why))
+        return false;
+    Node temporary{Name(u"temp_var_list")};
+    temporary.assign(fixed);
+    addParameterVariables(projectRecord(project)->node(), &temporary);
+    orba::FormatError error;
+    if (orba::ModuleManager::writeToXmlFile(temporary, file, &error)) // a new file: the project's stays
+        return true;
+    *why = error.text();
+    return false;
+}
+
+bool exportProject(const QString &name, const QString &archive, QString *why, Progress *progress)
+{
+    const QString folder = projectFolder(name);
+    if (folder.isEmpty() || !QFileInfo(folder).isDir()) {
+        *why = ProjectText::tr("there is no such project");
+        return false;
+    }
+    const WorkFolder work(robotFolder(), QStringLiteral("export"));
+    if (work.path().isEmpty()) {
+        *why = ProjectText::tr("there is no room for a copy beside the robot's folder");
+        return false;
+    }
+    const QString copy = work.filePath(QStringLiteral("copy"));
+    return copyForArchive(folder, copy, why) && addParametersTo(copy, name, why) &&
+           packFolder(copy, archive, why, progress);
+}
+
+/// Built-in templates are copied to files first: a folder in the archive would else be one that cannot be written to.
+bool exportTemplates(const QString &programFolder, const QString &archive, QString *why, Progress *progress)
+{
+    const QTemporaryDir work;
+    const QString copy = work.filePath(kTemplates);
+    return copyForArchive(programTemplateRoot(programFolder), copy, why) &&
+           packFolder(copy, archive, why, progress);
+}
+
+bool exportAll(const ExportRequest &request, ArchiveDesk *desk, Progress *progress)
+{
+    QString why;
+    for (const QString &project : request.projects) {
+        if (!exportProject(project, desk->begin(project), &why, progress))
+            return progress->isCancelled() || warn(ProjectText::tr("Export %1 failed!").arg(project), why);
+        desk->noteWhole(project);
+    }
+    if (!request.hasTemplates)
+        return true;
+    if (!exportTemplates(request.programFolder, desk->begin(kTemplates), &why, progress))
+        return progress->isCancelled() || warn(ProjectText::tr("Export Project templates failed!"), why);
+    desk->noteWhole(kTemplates);
+    return true;
+}
+
+/// The name by which a failure to write to the target goes.
+bool warnOfTarget(const ExportRequest &request, const QString &why)
+{
+    return request.projects.isEmpty()
+               ? warn(ProjectText::tr("Export Project templates failed!"), why)
+               : warn(ProjectText::tr("Export %1 failed!").arg(request.projects.first()), why);
+}
+
+bool isAllowed(const ExportRequest &request)
+{
+    if (request.target.isEmpty()) {
+        recordCfgLog(ProjectText::tr("Export path can not be empty!"), true);
+        return false;
+    }
+    if (request.projects.isEmpty() && !request.hasTemplates)
+        return reportProject("error", ProjectText::tr("please select item!"));
+    if (!request.projects.isEmpty() && robotFolder().isEmpty())
+        return reportProject("error",
+                             ProjectText::tr("The robot is not known yet: connect the controller first"));
+    if (request.hasTemplates && request.projects.contains(kTemplates))
+        return reportProject(
+            "error", ProjectText::tr("Export the project \"mod\" and the templates one after the other: both "
+                                     "become \"mod.zip\""));
+    return true;
+}
+
+} // namespace
+
+QString archivePath(const QString &target, const QString &project)
+{
+    return QDir(target).filePath(project + QStringLiteral(".zip"));
+}
+
+bool exportProjects(const ExportRequest &request, Progress *progress)
+{
+    if (!isAllowed(request))
+        return false;
+    recoverProjects();
+    ArchiveDesk desk(request.target);
+    if (!desk.isReady())
+        return warnOfTarget(request, ProjectText::tr("%1 cannot be written to").arg(request.target));
+    const bool isExported = exportAll(request, &desk, progress);
+    if (!progress->enterLastPart())
+        return false;
+    QString why;
+    if (!desk.finish(&why, progress))
+        return warnOfTarget(request, why);
+    if (isExported)
+        reportProject("info", ProjectText::tr("Export to %1 success!").arg(request.target));
+    return isExported;
+}
+
+} // namespace palx

@@ -1,0 +1,57 @@
+#include "project/rules/work_folder.h"
+
+#include "project/rules/staged_folder.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <csignal>
+
+namespace palx {
+
+namespace {
+
+const QString kPrefix = QStringLiteral(".work-"); // followed by the process; no robot's id begins with a dot
+
+bool isAlive(const QString &folder)
+{
+    const qint64 process = folder.mid(kPrefix.size()).toLongLong();
+    return process > 0 && (::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM);
+}
+
+} // namespace
+
+WorkFolder::WorkFolder(const QString &robotFolder, const QString &name)
+{
+    const QString path = QStringLiteral("%1/%2%3/%4")
+                             .arg(stagingFolder(robotFolder), kPrefix)
+                             .arg(QCoreApplication::applicationPid())
+                             .arg(name);
+    if (!robotFolder.isEmpty() && (!isTaken(path) || removeFolder(path)) && QDir().mkpath(path))
+        path_ = path;
+}
+
+WorkFolder::~WorkFolder()
+{
+    if (path_.isEmpty())
+        return;
+    removeFolder(path_);
+    const QDir ofProcess(QFileInfo(path_).path());
+    if (QDir().rmdir(ofProcess.path()))
+        QDir().rmdir(QFileInfo(ofProcess.path()).path());
+}
+
+void removeAbandonedWork(const QString &robotFolder)
+{
+    const QDir staging(stagingFolder(robotFolder));
+    if (robotFolder.isEmpty() || !staging.exists())
+        return;
+    for (const QString &name : staging.entryList({kPrefix + QLatin1Char('*')}, QDir::Dirs | QDir::Hidden))
+        if (!isAlive(name))
+            removeFolder(staging.filePath(name));
+    QDir().rmdir(staging.path());
+}
+
+} // namespace palx

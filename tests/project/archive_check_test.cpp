@@ -1,0 +1,215 @@
+// Archives that must not be unpacked are refused before anything of them is written, with the entry named.
+
+#include "raw_zip.h"
+
+#include "project/rules/archive_check.h"
+#include "project/rules/archive_unpack.h"
+#include "support/test_support.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using palx::ArchiveContent;
+
+namespace {
+
+/// The reason; "fine" for an archive that is accepted.
+QString judged(const QByteArray &bytes, ArchiveContent *content = nullptr)
+{
+    QBuffer device;
+    device.setData(bytes);
+    ArchiveContent mine;
+    QString why;
+    palx::NoProgress nobody;
+    return palx::checkArchive(&device, content ? content : &mine, &why, &nobody) ? QStringLiteral("fine")
+                                                                                 : why;
+}
+
+RawEntry file(const char *name, const char *data = "data")
+{
+    return {name, data, 0100644, 0, 0, {}, {}, 0};
+}
+
+RawEntry kind(const char *name, std::uint32_t mode)
+{
+    return {name, "data", mode, 0, 0, {}, {}, 0};
+}
+
+std::vector<RawEntry> many(int count)
+{
+    std::vector<RawEntry> entries;
+    for (int i = 0; i < count; ++i)
+        entries.push_back({QByteArray::number(i), QByteArray(), 0, 0, 0, {}, {}, 0});
+    return entries;
+}
+
+QStringList everythingBelow(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+struct Case
+{
+    const char *what;
+    std::vector<RawEntry> entries;
+    const char *reason;
+};
+
+} // namespace
+
+TEST(ArchiveCheck, ListsFilesAndFolders)
+{
+    ArchiveContent content;
+    ASSERT_EQ(judged(rawZip({kind("task0/", 040755), file("task0/main.mod"), file("\xd0\x9b/.rlprog", "12")},
+                            "with a comment"),
+                     &content),
+              QStringLiteral("the entry \"task0/\" is a folder with a content of its own"));
+    RawEntry folder = kind("task0/", 040755);
+    folder.data.clear();
+    ASSERT_EQ(judged(rawZip({folder, file("task0/main.mod"), file("\xd0\x9b/.rlprog", "12")}, "a comment"),
+                     &content),
+              QStringLiteral("fine"));
+    ASSERT_EQ(content.entries.size(), 3);
+    EXPECT_TRUE(content.entries[0].isFolder);
+    EXPECT_EQ(content.entries[0].name, QStringLiteral("task0"));
+    EXPECT_EQ(content.entries[2].name, QString::fromUtf8("\xd0\x9b/.rlprog"));
+    EXPECT_EQ(content.bytes, 6);
+}
+
+TEST(ArchiveCheck, RefusesWhatCannotBeUnpackedAsItIsListed)
+{
+    const QByteArray longName = QByteArray(200, 'a') + "/" + QByteArray(55, 'b');
+    RawEntry encrypted = file("a");
+    encrypted.flags = 1;
+    RawEntry wrongSum = file("a/b");
+    wrongSum.checksum = 1;
+    RawEntry foreign = file("a");
+    foreign.method = 12;
+    RawEntry folder = file("a");
+    folder.dosAttributes = 0x10;
+    RawEntry shorter = zeros("z", 1000);
+    shorter.size = 999;
+    RawEntry longer = zeros("z", 1000);
+    longer.size = 1001;
+    const Case cases[] = {
+        {"climbing", {file("ok"), file("a/../../b")}, "the entry \"a/../../b\" leads out of the folder"},
+        {"climbing at once", {file("../b")}, "the entry \"../b\" leads out of the folder"},
+        {"absolute", {file("/etc/passwd")}, "the entry \"/etc/passwd\" has an absolute name"},
+        {"a resource", {file(":/a")}, "the entry \":/a\" has an absolute name"},
+        {"a drive", {file("C:a")}, "the entry \"C:a\" has an absolute name"},
+        {"backslashes", {file("a\\b")}, "the entry \"a\\b\" has a backslash in its name"},
+        {"an empty part", {file("a//b")}, "the entry \"a//b\" has a name that is no path"},
+        {"a dot", {file("./a")}, "the entry \"./a\" has a name that is no path"},
+        {"no name", {file("")}, "the entry \"\" has a name that is no path"},
+        {"bad bytes", {file("\xff")}, "the entry \"\xef\xbf\xbd\" has a name that is no text in UTF-8"},
+        {"a line end", {file("a\nb")}, "the entry \"a?b\" has a control character in its name"},
+        {"too long", {file(longName.constData())}, "has too long a name"},
+        {"a link", {kind("a", 0120777)}, "the entry \"a\" is a link"},
+        {"a device", {kind("a", 060644)}, "the entry \"a\" is neither a file nor a folder"},
+        {"a pipe", {kind("a", 010644)}, "the entry \"a\" is neither a file nor a folder"},
+        {"a folder called file", {kind("a/", 0100644)}, "the entry \"a/\" is called a file and a folder"},
+        {"a file called folder", {folder}, "the entry \"a\" is called a file and a folder"},
+        {"twice", {file("a/b"), file("a/b")}, "the entry \"a/b\" is there twice"},
+        {"case", {file("main.mod"), file("Main.mod")}, "the entry \"Main.mod\" is there twice"},
+        {"a slash", {file("a", ""), {"a/", "", 0, 0, 0, {}, {}, 0}}, "the entry \"a/\" is there twice"},
+        {"folders of two cases",
+         {file("A/b"), file("a/c")},
+         "the entry \"a/c\" needs a folder where there is another entry"},
+        {"a file on the way",
+         {file("a"), file("a/b")},
+         "the entry \"a/b\" needs a folder where there is another entry"},
+        {"encrypted", {encrypted}, "the entry \"a\" is encrypted"},
+        {"a wrong checksum", {file("ok"), wrongSum}, "the entry \"a/b\" is damaged"},
+        {"a foreign packing", {foreign}, "the entry \"a\" is packed in a way that is not known here"},
+        {"too short a size", {shorter}, "the entry \"z\" is damaged"},
+        {"too long a size", {longer}, "the entry \"z\" is damaged"},
+        {"nothing", {}, "it is no whole zip archive"},
+    };
+    for (const Case &each : cases) {
+        SCOPED_TRACE(each.what);
+        EXPECT_TRUE(judged(rawZip(each.entries)).contains(QString::fromUtf8(each.reason)))
+            << judged(rawZip(each.entries));
+    }
+}
+
+TEST(ArchiveCheck, RefusesBombsByWhatTheyClaim)
+{
+    const RawEntry bomb = zeros("zeros", 1LL << 30);
+    EXPECT_LT(bomb.data.size(), 1200000);
+    EXPECT_EQ(judged(rawZip({bomb})),
+              QStringLiteral("the entry \"zeros\" makes it larger than 512 MB, which no project is"));
+    RawEntry liar = bomb;
+    liar.size = 1000;
+    EXPECT_EQ(judged(rawZip({liar})), QStringLiteral("the entry \"zeros\" is damaged"));
+    EXPECT_EQ(judged(rawZip(many(60000))),
+              QStringLiteral("it has 60000 entries; no project has more than 10000"));
+    EXPECT_EQ(judged(rawZip(many(10000))), QStringLiteral("fine"));
+    // The count in the end has 16 bits, so that it is not true.
+    const QString why = judged(rawZip(many(100000)));
+    EXPECT_TRUE(why.contains(QStringLiteral("entries"))) << why;
+}
+
+TEST(ArchiveCheck, RefusesATruncatedArchiveAtAnyByte)
+{
+    for (const QByteArray &comment : {QByteArray(), QByteArray("PK\5\6 is no end")}) {
+        const QByteArray whole = rawZip({file("a/b"), file("c")}, comment);
+        EXPECT_EQ(judged(whole) == QLatin1String("fine"),
+                  comment.isEmpty()); // a mark in a comment is not taken
+        for (int size = 0; size < whole.size(); ++size)
+            EXPECT_NE(judged(whole.left(size)), QStringLiteral("fine")) << size;
+        EXPECT_EQ(judged(whole + 'x'), QStringLiteral("it is no whole zip archive"));
+    }
+}
+
+TEST(ArchiveCheck, RefusesADamagedByteOfContentOrReadsTheSame)
+{
+    const QByteArray whole = rawZip({file("a/b", "content"), file("c", "more")});
+    for (int at = 0; at < whole.size(); ++at) {
+        QByteArray damaged = whole;
+        damaged[at] = static_cast<char>(damaged.at(at) ^ 0x20);
+        ArchiveContent content;
+        const bool isTaken = judged(damaged, &content) == QLatin1String("fine");
+        EXPECT_EQ(isTaken ? content.bytes : 11, 11) << at;
+    }
+}
+
+TEST(ArchiveUnpack, UnpacksWhatItListed)
+{
+    const QTemporaryDir folder;
+    const QString archive = folder.filePath("a.zip");
+    QFile out(archive);
+    ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+    out.write(rawZip({file("deep/er/.hidden", "1"), zeros("zeros", 100000), file("empty", "")}));
+    out.close();
+    ASSERT_TRUE(QDir().mkpath(folder.filePath("to")));
+    QString why;
+    palx::NoProgress nobody;
+    ASSERT_TRUE(palx::unpackArchive(archive, folder.filePath("to"), &why, &nobody)) << why;
+    EXPECT_EQ(QFileInfo(folder.filePath("to/zeros")).size(), 100000);
+    EXPECT_EQ(palx::recursiveAllFiles(folder.filePath("to")).size(), 5);
+    EXPECT_TRUE(palx::chmodFiles(palx::recursiveAllFiles(folder.filePath("to"))));
+    EXPECT_EQ(int(QFileInfo(folder.filePath("to/deep/er/.hidden")).permissions()), 0x7777);
+}
+
+TEST(ArchiveUnpack, WritesNothingOfARefusedArchive)
+{
+    const QTemporaryDir folder;
+    const QString archive = folder.filePath("a.zip");
+    QFile out(archive);
+    ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+    out.write(rawZip({file("good"), file("../evil")}));
+    out.close();
+    ASSERT_TRUE(QDir().mkpath(folder.filePath("to")));
+    QString why;
+    palx::NoProgress nobody;
+    EXPECT_FALSE(palx::unpackArchive(archive, folder.filePath("to"), &why, &nobody));
+    EXPECT_EQ(why, QStringLiteral("the entry \"../evil\" leads out of the folder"));
+    EXPECT_TRUE(everythingBelow(folder.filePath("to")).isEmpty());
+    EXPECT_EQ(everythingBelow(folder.path()), QStringList({"a.zip", "to"}));
+    EXPECT_FALSE(palx::unpackArchive(folder.filePath("none.zip"), folder.filePath("to"), &why, &nobody));
+    EXPECT_EQ(why, QStringLiteral("there is no such file"));
+}

@@ -1,0 +1,283 @@
+// A disk that is pulled or gets full, an operator who cancels, a process that is killed: at a hundred moments each. No half
+// archive under its final name, no project half replaced, "var.xml" as before.
+
+#include "exchange_fixture.h"
+
+#include "orba/module_manager.h"
+#include "project/rules/archive_check.h"
+#include "project/rules/project_record.h"
+#include "project/rules/project_recovery.h"
+#include "workstation/hidden_project.h"
+
+#include <QDir>
+#include <QFile>
+#include <QScopeGuard>
+
+#include <csignal>
+#include <ctime>
+#include <random>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using palx::OnClash;
+
+namespace {
+
+constexpr int kMoments = 100;
+const QByteArray kVariables("<node type=\"list\"/>\n");
+
+/// What does not pack well, so that an archive takes its time.
+QByteArray noise(int size)
+{
+    std::mt19937 random(5);
+    QByteArray bytes(size, Qt::Uninitialized);
+    for (char &byte : bytes)
+        byte = static_cast<char>(random());
+    return bytes;
+}
+
+class ExchangeTroubleTest : public ExchangeTest
+{
+protected:
+    void SetUp() override
+    {
+        startAlone();
+        putProject(QStringLiteral("P"), kVariables);
+        putFile(QStringLiteral("P/data/noise.bin"), noise(300000));
+        for (int i = 0; i < 50; ++i) // each is a step
+            putFile(QStringLiteral("P/data/%1.mod").arg(i), "small");
+        setRecord(QStringLiteral("P"), R"({"scheme_layout": 2})");
+        ASSERT_TRUE(exportNames({"P"}));
+        putFile(QStringLiteral("P/old.mod"), "old");
+        setRecord(QStringLiteral("P"), R"({"scheme_layout": 1})");
+        palx::saveDataToHiddenProject();
+        before_ = files();
+        archive_ = fileContent(onDisk(QStringLiteral("P.zip")));
+        takeMessages();
+    }
+
+    static QByteArray fileContent(const QString &name)
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    static bool isWhole(const QString &archive)
+    {
+        palx::ArchiveContent content;
+        palx::NoProgress nobody;
+        QString why;
+        return palx::checkArchive(archive, &content, &why, &nobody);
+    }
+    /// The project as it was, or as the archive makes it; with the record that belongs to it.
+    void expectOldOrNew()
+    {
+        const bool isOld = record(QStringLiteral("P")) == QLatin1String("P 1 0 0 0 0 0 0");
+        EXPECT_TRUE(isOld || record(QStringLiteral("P")) == QLatin1String("P 2 0 0 0 0 0 0"));
+        EXPECT_EQ(content("P/old.mod"), QByteArray(isOld ? "old" : "(no file)"));
+        EXPECT_EQ(content("P/.palx-record.xml"), QByteArray("(no file)"));
+        EXPECT_EQ(content("P/data/noise.bin").size(), 300000);
+        EXPECT_EQ(files() == before_, isOld);
+        ++(isOld ? old_ : new_);
+    }
+    void expectOld()
+    {
+        EXPECT_EQ(files(), before_);
+        EXPECT_EQ(record(QStringLiteral("P")), QStringLiteral("P 1 0 0 0 0 0 0"));
+    }
+    void makeNewAgain()
+    {
+        palx::forgetLastImport();
+        QFile::remove(place("P/var.xml"));
+        putFile(QStringLiteral("P/var.xml"), kVariables);
+        putFile(QStringLiteral("P/old.mod"), "old");
+        setRecord(QStringLiteral("P"), R"({"scheme_layout": 1})");
+        palx::saveDataToHiddenProject();
+        before_ = files();
+    }
+
+    /// Runs `work` in a process of its own, which is killed after that many microseconds. False when it had ended.
+    static bool killed(const std::function<void()> &work, long microseconds)
+    {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+            work();
+            ::_exit(0);
+        }
+        const timespec moment{0, microseconds * 1000};
+        ::nanosleep(&moment, nullptr);
+        ::kill(child, SIGKILL);
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        return WIFSIGNALED(status);
+    }
+    /// How long it takes [us].
+    static long duration(const std::function<void()> &work)
+    {
+        timespec start{}, end{};
+        ::clock_gettime(CLOCK_MONOTONIC, &start);
+        killed(work, 900000);
+        work();
+        ::clock_gettime(CLOCK_MONOTONIC, &end);
+        return (end.tv_sec - start.tv_sec) * 1000000 + (end.tv_nsec - start.tv_nsec) / 1000 - 900000;
+    }
+
+    std::map<std::string, std::string> before_;
+    QByteArray archive_;
+    int old_ = 0;
+    int new_ = 0;
+};
+
+/// No file of this process grows beyond a size, as on a disk that is full.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{bytes, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        handler_ = std::signal(SIGXFSZ, SIG_IGN);
+    }
+    ~FullDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+
+private:
+    rlimit before_{};
+    void (*handler_)(int) = nullptr;
+};
+
+} // namespace
+
+TEST_F(ExchangeTroubleTest, ACancelledExportLeavesTheDiskAsItWas)
+{
+    CountingProgress counting;
+    ASSERT_TRUE(exportNames({"P"}, &counting));
+    const QByteArray newer = fileContent(onDisk(QStringLiteral("P.zip")));
+    ASSERT_GE(counting.steps, kMoments);
+    for (int at = 0; at < counting.steps - 3; ++at) {
+        CountingProgress cancelling;
+        cancelling.at = at;
+        cancelling.act = [&cancelling] { cancelling.cancel(); };
+        const bool isExported = exportNames({"P"}, &cancelling);
+        EXPECT_TRUE(!isExported || cancelling.steps <= at) << at;
+        EXPECT_EQ(names(disk()), QStringList("P.zip"));
+        EXPECT_TRUE(isWhole(onDisk(QStringLiteral("P.zip"))));
+        expectOld();
+    }
+    EXPECT_EQ(newer.left(2), "PK");
+}
+
+TEST_F(ExchangeTroubleTest, ACancelledImportLeavesEverythingAsItWas)
+{
+    CountingProgress counting;
+    ASSERT_TRUE(import({"P.zip", "P.zip"}, OnClash::Replace, &counting));
+    ASSERT_TRUE(palx::undoLastImport());
+    expectOld();
+    for (int at = 0; at < counting.steps; ++at) {
+        CountingProgress cancelling;
+        cancelling.at = at;
+        cancelling.act = [&cancelling] { cancelling.cancel(); };
+        if (import({"P.zip", "P.zip"}, OnClash::Replace, &cancelling))
+            palx::undoLastImport(); // the last steps come too late
+        expectOld();
+    }
+}
+
+TEST_F(ExchangeTroubleTest, ADiskThatIsPulledGetsNoHalfArchive)
+{
+    CountingProgress counting;
+    ASSERT_TRUE(exportNames({"P"}, &counting));
+    for (int at = 0; at < counting.steps; ++at) {
+        CountingProgress pulling;
+        pulling.at = at;
+        pulling.act = [this] { QDir().rename(disk(), disk() + "-gone"); };
+        exportNames({"P"}, &pulling);
+        if (QDir(disk() + "-gone").exists()) {
+            QDir(disk()).removeRecursively();
+            ASSERT_TRUE(QDir().rename(disk() + "-gone", disk()));
+        }
+        EXPECT_TRUE(isWhole(onDisk(QStringLiteral("P.zip")))) << at;
+        expectOld();
+    }
+    EXPECT_TRUE(exportNames({"P"}));
+    EXPECT_EQ(names(disk()), QStringList("P.zip"));
+}
+
+TEST_F(ExchangeTroubleTest, AFullDiskGetsNoHalfArchive)
+{
+    for (int i = 0; i < kMoments; ++i) {
+        const auto room = rlim_t(archive_.size()) * rlim_t(i) / kMoments;
+        bool isExported = true;
+        {
+            const FullDisk full(room);
+            isExported = exportNames({"P"});
+        }
+        EXPECT_FALSE(isExported) << room;
+        EXPECT_EQ(takeMessages().last(), QStringLiteral("warning: Export P failed!"));
+        EXPECT_EQ(names(disk()), QStringList("P.zip"));
+        EXPECT_EQ(fileContent(onDisk(QStringLiteral("P.zip"))), archive_);
+        expectOld();
+    }
+}
+
+TEST_F(ExchangeTroubleTest, AFullDiskGetsNoHalfProject)
+{
+    for (int i = 0; i < kMoments; ++i) {
+        bool isImported = true;
+        {
+            const FullDisk full(rlim_t(3000) * rlim_t(i));
+            isImported = import({"P.zip"}, OnClash::Replace);
+        }
+        EXPECT_FALSE(isImported) << i;
+        expectOld();
+    }
+}
+
+TEST_F(ExchangeTroubleTest, AKilledExportLeavesNoHalfArchiveAndTheProjectAsItWas)
+{
+    const auto work = [this] { exportNames({"P"}); };
+    const long whole = duration(work);
+    int inTheMiddle = 0;
+    for (int i = 0; i < kMoments; ++i) {
+        SCOPED_TRACE(i);
+        inTheMiddle += killed(work, whole * i / kMoments) ? 1 : 0;
+        EXPECT_TRUE(isWhole(onDisk(QStringLiteral("P.zip"))));
+        EXPECT_EQ(content("P/var.xml"), kVariables); // at once, not at the next start only
+        palx::recoverExchange(programs());
+        expectOld();
+    }
+    EXPECT_GT(inTheMiddle, kMoments / 4);
+    ASSERT_TRUE(exportNames({"P"}));
+    EXPECT_EQ(names(disk()), QStringList("P.zip"));
+}
+
+TEST_F(ExchangeTroubleTest, AKilledImportLeavesTheOldOrTheNewProject)
+{
+    const auto work = [this] {
+        import({"P.zip"}, OnClash::Replace);
+        ::raise(SIGKILL); // without what the end of the program does
+    };
+    const auto once = [this] { import({"P.zip"}, OnClash::Replace); };
+    const long whole = duration(once);
+    makeNewAgain();
+    for (int i = 0; i < kMoments; ++i) {
+        SCOPED_TRACE(i);
+        killed(work, whole * i / (kMoments - 10));
+        palx::HiddenProject::current()->load(); // as the next start reads what the killed one wrote
+        palx::recoverExchange(programs());
+        expectOldOrNew();
+        EXPECT_EQ(names(workspace()).filter("staging"), QStringList());
+        if (content("P/old.mod") != "old")
+            makeNewAgain();
+    }
+    EXPECT_GT(old_, 10);
+    EXPECT_GT(new_, 0);
+}

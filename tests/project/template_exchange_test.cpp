@@ -1,0 +1,123 @@
+// The program templates as an archive: out, in, and back to those that are built in.
+
+#include "exchange_fixture.h"
+
+#include "project/rules/program_template.h"
+
+#include <QDir>
+#include <QFile>
+
+using palx::TemplateAction;
+
+namespace {
+
+class TemplateExchangeTest : public ExchangeTest
+{
+protected:
+    bool run(TemplateAction action, const QString &archive = QString())
+    {
+        palx::NoProgress nobody;
+        return palx::importProjects(templatesRequest(action, archive), &nobody);
+    }
+    QString mod(const QString &path = QString()) const { return programs() + "/mod" + path; }
+    void putTemplate(const QString &path, const QByteArray &text) const
+    {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(mod(path)).path()));
+        QFile file(mod(path));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    QByteArray text(const QString &path) const
+    {
+        QFile file(mod(path));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+    }
+    const QStringList success_{"info: Import project templates success!",
+                               "info: Project templates import success!"};
+};
+
+RawEntry file(const char *name)
+{
+    return {name, "text", 0100644, 0, 0, {}, {}, 0};
+}
+
+} // namespace
+
+TEST_F(TemplateExchangeTest, BuiltInTemplatesGoOutAndComeBackAsFiles)
+{
+    palx::NoProgress nobody;
+    ASSERT_TRUE(palx::exportProjects({{}, true, disk(), programs()}, &nobody)) << takeMessages().join("|");
+    EXPECT_EQ(names(disk()), QStringList("mod.zip"));
+    takeMessages();
+    ASSERT_TRUE(run(TemplateAction::Custom, QStringLiteral("mod.zip"))) << records.join("|");
+    EXPECT_EQ(takeMessages(), success_);
+    EXPECT_EQ(palx::programTemplateRoot(programs()), mod());
+    for (const QString &path : palx::programTemplates()) {
+        QFile builtIn(":/palx_workstation/mod" + path);
+        ASSERT_TRUE(path.isEmpty() || builtIn.open(QIODevice::ReadOnly)) << path;
+        EXPECT_EQ(path.isEmpty() ? QByteArray("(no file)") : builtIn.readAll(), text(path)) << path;
+    }
+    EXPECT_EQ(names(programs()).filter("palx"), QStringList());
+}
+
+TEST_F(TemplateExchangeTest, TheContentsOfASingleFolderMoveUp)
+{
+    putTemplate(QStringLiteral("/old.mod"), "old");
+    putArchive(QStringLiteral("t.zip"), {file("top/a.mod"), file("top/deep/b.mod")});
+    ASSERT_TRUE(run(TemplateAction::Custom, QStringLiteral("t.zip")));
+    EXPECT_EQ(names(mod()), QStringList({"a.mod", "deep", "deep/b.mod"}));
+    putArchive(QStringLiteral("t.zip"), {file("top/a.mod"), file("b.mod")});
+    ASSERT_TRUE(run(TemplateAction::Custom, QStringLiteral("t.zip")));
+    EXPECT_EQ(names(mod()), QStringList({"b.mod", "top", "top/a.mod"}));
+    palx::forgetLastImport();
+    EXPECT_EQ(QDir(programs()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList("mod"));
+}
+
+TEST_F(TemplateExchangeTest, ResetGoesBackToTheBuiltInOnes)
+{
+    putTemplate(QStringLiteral("/old.mod"), "old");
+    ASSERT_TRUE(run(TemplateAction::Reset));
+    EXPECT_EQ(takeMessages(), QStringList("info: Reset project templates success!"));
+    EXPECT_EQ(palx::programTemplateRoot(programs()), QStringLiteral(":/palx_workstation/mod"));
+    EXPECT_EQ(palx::lastImported(), QStringList("mod"));
+    ASSERT_TRUE(palx::undoLastImport());
+    EXPECT_EQ(text(QStringLiteral("/old.mod")), QByteArray("old"));
+    ASSERT_TRUE(run(TemplateAction::Reset));
+    ASSERT_TRUE(run(TemplateAction::Reset)); // there is nothing to remove any more
+}
+
+TEST_F(TemplateExchangeTest, ARefusedArchiveLeavesTheTemplates)
+{
+    putTemplate(QStringLiteral("/old.mod"), "old");
+    putArchive(QStringLiteral("t.zip"), {file("a.mod"), file("../b.mod")});
+    for (const char *name : {"t.zip", "none.zip"}) {
+        EXPECT_FALSE(run(TemplateAction::Custom, QLatin1String(name)));
+        EXPECT_EQ(takeMessages().last(), QStringLiteral("warning: Import project templates failed!"));
+        EXPECT_EQ(names(programs()), QStringList({"mod", "mod/old.mod"}));
+    }
+    EXPECT_TRUE(palx::lastImported().isEmpty());
+}
+
+TEST_F(TemplateExchangeTest, AnInterruptedReplacementIsPutRight)
+{
+    putTemplate(QStringLiteral("/old.mod"), "old");
+    ASSERT_TRUE(QDir().rename(mod(), programs() + "/.palx-mod-before"));
+    ASSERT_TRUE(QDir().mkpath(programs() + "/.palx-mod-new/top"));
+    palx::recoverExchange(programs());
+    EXPECT_EQ(names(programs()), QStringList({"mod", "mod/old.mod"}));
+}
+
+TEST_F(TemplateExchangeTest, TheLogSaysWhatIsReplacedByWhat)
+{
+    putArchive(QStringLiteral("t.zip"), {file("a.mod")});
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    run(TemplateAction::Custom, QStringLiteral("t.zip"));
+    run(TemplateAction::Reset);
+    const QString log = QString::fromStdString(testing::internal::GetCapturedStdout() +
+                                               testing::internal::GetCapturedStderr());
+    for (const QString &line :
+         {"mod_dir_path:" + mod(), "template_path:" + onDisk("t.zip"), QString("Remove mod dir success!")})
+        EXPECT_TRUE(log.contains(line)) << log;
+}
