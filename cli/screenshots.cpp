@@ -2,6 +2,7 @@
 
 #include "bwaf/bmodule.h"
 #include "example_cell.h"
+#include "file_pictures.h"
 #include "ix/xtheme.h"
 #include "move_pictures.h"
 #include "nexo/setting_manager.h"
@@ -307,6 +308,14 @@ void takeProjects(Camera &camera)
         camera.fail(QStringLiteral("no project was made"));
 }
 
+/// The file dialog, and what is shown while files are written.
+void takeFiles(Camera &camera)
+{
+    const auto take = [&camera](QWidget *dialog, const QString &name) { camera.takeWindow(dialog, name); };
+    if (!showFileDialogs(camera.window(), take))
+        camera.fail(QStringLiteral("the disk of the file dialog cannot be made up"));
+}
+
 bool fillPages(const QString &examples)
 {
     QString error;
@@ -352,6 +361,8 @@ QString takeAll(Session &session, const ScreenshotRequest &request, int *count)
     camera.takePage(QStringLiteral("panel.controller"), QStringLiteral("panel-controller-gone"));
     takeMoves(camera);
     takeProjects(camera);
+=======
+    takeFiles(camera);
     *count = camera.count();
     return camera.error();
 }

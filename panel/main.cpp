@@ -1,11 +1,14 @@
 #include "ix/xtheme.h"
+#include "nexo/setting_manager.h"
 #include "panel/message_dialog.h"
 #include "panel/panel_options.h"
 #include "panel/panel_window.h"
-#include "panel/shown_report.h"
 #include "panel/quit_signals.h"
+#include "panel/shown_report.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QTextCodec>
 #include <QTimer>
 
 #include <cstdio>
@@ -28,12 +31,22 @@ panel::PanelOptions readOptions(int argc, char **argv)
     return panel::parseOptions(QCoreApplication::arguments(), QCoreApplication::applicationDirPath());
 }
 
+/// A desktop has a folder in place of a USB disk, so that files can be exchanged without one.
+void makeStandIn()
+{
+    const auto *settings = nexo::SettingManager::instance();
+    const QString data = settings->getStr(QStringLiteral("data"));
+    if (!data.isEmpty() && settings->getStr(QStringLiteral("removable")).isEmpty())
+        QDir(data).mkpath(QStringLiteral("removable"));
+}
+
 int runPanel(const host::SessionOptions &options)
 {
     const panel::QuitSignals signals;
     panel::PanelPresenter presenter;
     host::HostSession session(options);
     session.start(); // what failed is shown by the window
+    makeStandIn();
     panel::PanelWindow window(&session, &presenter);
     session.render();
     if (qEnvironmentVariableIsSet("PALX_REPORT_SHOWN"))
@@ -47,6 +60,8 @@ int runPanel(const host::SessionOptions &options)
 
 int main(int argc, char **argv)
 {
+    // Names of files on disks are UTF-8, whatever the panel's own system says.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     QCoreApplication::setApplicationName(QStringLiteral("palx_panel"));
     QCoreApplication::setApplicationVersion(QStringLiteral(PALX_VERSION));
     const panel::PanelOptions options = readOptions(argc, argv);

@@ -39,7 +39,8 @@ QString breakable(const QString &text)
 
 QString titleOf(const Medium &medium)
 {
-    return medium.device.isEmpty() ? medium.name : QStringLiteral("%1 (%2)").arg(medium.name, medium.device);
+    const QString disk = medium.model.isEmpty() ? medium.device : medium.model;
+    return disk.isEmpty() ? medium.name : QStringLiteral("%1 (%2)").arg(medium.name, disk);
 }
 
 } // namespace
@@ -63,8 +64,9 @@ xFileDialog::xFileDialog(FileRequest request, const palx::MediaPlaces &places, Q
     fillDisks();
     const Medium *held = watch_.plugged().of(request_.start);
     showMedium(held || watch_.plugged().media.isEmpty() ? held : &watch_.plugged().media.first());
+    constexpr int kRim = 16; // [px]
     if (parent)
-        resize(parent->window()->size() * 9 / 10);
+        resize(parent->window()->size() - QSize(2 * kRim, 2 * kRim));
 }
 
 xFileDialog::~xFileDialog() = default;
@@ -76,7 +78,10 @@ void xFileDialog::setupTable()
     constexpr int kRow = 56; // [px]
     model_->setOnlyFolders(request_.kind == FileRequest::Folder);
     ui_->tblFiles->setModel(model_);
-    ::setupTable(ui_->tblFiles, XFileModel::kName, false);
+    constexpr int kShortens = -1; // long names are shortened here and stand whole below
+    ::setupTable(ui_->tblFiles, kShortens, false);
+    for (const int column : {XFileModel::kChanged, XFileModel::kSize})
+        ui_->tblFiles->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     ui_->tblFiles->verticalHeader()->setDefaultSectionSize(kRow);
     ui_->tblFiles->horizontalHeader()->setMinimumHeight(kRow);
     ui_->tblFiles->sortByColumn(XFileModel::kName, Qt::AscendingOrder);
@@ -281,26 +286,41 @@ QString xFileDialog::refusal() const
     return selectedFiles().isEmpty() ? problem_ : QString();
 }
 
+/// What is chosen, whole.
+QString xFileDialog::choiceText() const
+{
+    const QStringList names = selectedFiles();
+    if (request_.kind == FileRequest::Folder)
+        return shownPath();
+    if (request_.kind == FileRequest::Save)
+        return replacesFile() ? tr("Replaces %1").arg(fileName()) : fileName();
+    if (!names.isEmpty())
+        return names.join(QStringLiteral(", "));
+    const bool hasFiles = std::any_of(model_->entries().begin(), model_->entries().end(),
+                                      [](const palx::FolderEntry &entry) { return !entry.isFolder; });
+    return hasFiles ? tr("Touch a file.") : tr("There is no such file in this folder.");
+}
+
 void xFileDialog::showState()
 {
-    const QString why = notice_.isEmpty() ? refusal() : notice_;
+    const QString reason = refusal();
+    const QString why = notice_.isEmpty() ? reason : notice_;
     const bool isOpening = request_.kind == FileRequest::Open || request_.kind == FileRequest::OpenSeveral;
-    QStringList names = selectedFiles();
-    if (request_.kind == FileRequest::Save)
-        names = QStringList(fileName());
-    QString text = names.join(QStringLiteral(", "));
-    if (isOpening && names.isEmpty())
-        text = model_->rowCount() == 0 ? tr("There is no such file in this folder.") : tr("Touch a file.");
-    ui_->lblState->setText(breakable(why.isEmpty() && medium() ? text : why));
+    ui_->lblState->setText(breakable(why.isEmpty() && medium() ? choiceText() : why));
     ix::xtheme::setState(ui_->lblState,
                          why.isEmpty() ? ix::xtheme::State::None : ix::xtheme::State::Attention);
-    ui_->btnOk->setEnabled(medium() && (isOpening ? !names.isEmpty() : refusal().isEmpty()));
+    ui_->btnOk->setEnabled(medium() && (isOpening ? !selectedFiles().isEmpty() : reason.isEmpty()));
     ui_->btnNewFolder->setEnabled(medium() && palx::folderRefusal(*medium(), folder_).isEmpty());
+}
+
+bool xFileDialog::replacesFile() const
+{
+    return request_.kind == FileRequest::Save && QFileInfo::exists(QDir(folder_).filePath(fileName()));
 }
 
 bool xFileDialog::mayReplace()
 {
-    if (request_.kind != FileRequest::Save || !QFileInfo::exists(QDir(folder_).filePath(fileName())))
+    if (!replacesFile())
         return true;
     return nexo::ManagerHelper::instance()->execMsgOk(tr("Replace the file?"),
                                                       tr("%1 is there already.").arg(fileName()));

@@ -103,6 +103,8 @@ private:
     QStringList selectedFiles() const;
     QString refusal() const;
     QString shownPath() const;
+    QString choiceText() const;
+    bool replacesFile() const;
     bool mayReplace();
     bool canStillBeChosen();
 

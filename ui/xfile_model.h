@@ -17,6 +17,7 @@ public:
     /// With `onlyFolders` files are shown but cannot be chosen.
     void setOnlyFolders(bool onlyFolders) { onlyFolders_ = onlyFolders; }
     void setEntries(QVector<palx::FolderEntry> entries);
+    const QVector<palx::FolderEntry> &entries() const { return entries_; }
     const palx::FolderEntry &entry(int row) const { return entries_[row]; }
     /// Of a name; -1 when it is not listed.
     int rowOf(const QString &name) const;

@@ -7,14 +7,13 @@ namespace palx {
 MediaWatch::MediaWatch(const MediaPlaces &places, QObject *parent)
     : QObject(parent), places_(places), plugged_(pluggedMedia(places)), mounts_(places.mountInfo)
 {
-    constexpr int kLookEveryMs = 1000;
-    if (mounts_.open(QIODevice::ReadOnly)) {
+    if (!places.mountInfo.isEmpty() && mounts_.open(QIODevice::ReadOnly)) {
         // The kernel marks a change of the list as an exceptional condition of the open file.
         auto *notifier = new QSocketNotifier(mounts_.handle(), QSocketNotifier::Exception, this);
         connect(notifier, &QSocketNotifier::activated, this, &MediaWatch::check);
     }
     connect(&timer_, &QTimer::timeout, this, &MediaWatch::check);
-    timer_.start(kLookEveryMs);
+    timer_.start(places_.lookEveryMs);
 }
 
 void MediaWatch::check()

@@ -17,7 +17,7 @@ namespace {
 QByteArray contents(const QString &file)
 {
     QFile source(file);
-    return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
+    return !file.isEmpty() && source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
 }
 
 QString lineOf(const QString &file)
@@ -105,6 +105,15 @@ public:
                lineOf(disk + QStringLiteral("/device/type")) == QLatin1String("SD");
     }
 
+    /// Maker and kind, as the disk tells them.
+    static QString modelOf(const QString &disk)
+    {
+        const QString device = disk + QStringLiteral("/device/");
+        return (lineOf(device + QStringLiteral("vendor")) + QLatin1Char(' ') +
+                lineOf(device + QStringLiteral("model")))
+            .simplified();
+    }
+
     /// Removable disks that hold something. Optical drives tell a size even when they are empty.
     QStringList removableDisks() const
     {
@@ -187,6 +196,7 @@ QVector<Medium> mediaOf(const QVector<MountedDisks> &mounts)
                 continue;
             media.append(mediumOf(mounted.mount.point, mounted.mount));
             media.last().device = QFileInfo(mounted.device).fileName();
+            media.last().model = BlockDevices::modelOf(mounted.disks.first());
             devices.append(mounted.device);
         }
     return media;
@@ -231,7 +241,11 @@ QString existingPart(const QString &path)
 MediaPlaces MediaPlaces::ofMachine()
 {
     MediaPlaces places;
-    places.standIn = nexo::SettingManager::instance()->getStr(QStringLiteral("removable"));
+    const auto *settings = nexo::SettingManager::instance();
+    const QString data = settings->getStr(QStringLiteral("data"));
+    places.standIn = settings->getStr(QStringLiteral("removable"));
+    if (places.standIn.isEmpty() && !data.isEmpty())
+        places.standIn = QDir(data).filePath(QStringLiteral("removable"));
     return places;
 }
 
@@ -248,7 +262,7 @@ QVector<Mount> parseMountInfo(const QByteArray &text)
 
 bool Medium::operator==(const Medium &other) const
 {
-    return root == other.root && name == other.name && device == other.device &&
+    return root == other.root && name == other.name && device == other.device && model == other.model &&
            fileSystem == other.fileSystem && isReadOnly == other.isReadOnly;
 }
 

@@ -16,7 +16,9 @@ struct PALX_API MediaPlaces
     QString sys = QStringLiteral("/sys");
     QString standIn; ///< a folder that counts as a medium while it is there; empty for none
 
-    /// This machine's; the stand-in is the setting "removable".
+    int lookEveryMs = 1000; ///< for what the kernel tells nobody of
+
+    /// This machine's; the stand-in is the setting "removable", else "removable" in the data folder.
     static MediaPlaces ofMachine();
 };
 
@@ -40,6 +42,7 @@ struct PALX_API Medium
     QString root;   ///< its topmost folder: absolute, without symbolic links
     QString name;   ///< what operators know it by: the last folder of the root, which holds the disk's label
     QString device; ///< "sdb1"; empty for the stand-in
+    QString model;  ///< "Kingston DataTraveler"; empty when unknown
     QString fileSystem; ///< "vfat"; empty when unknown
     bool isReadOnly = false;
 
