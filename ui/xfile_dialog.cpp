@@ -357,10 +357,11 @@ void xFileDialog::accept()
 void xFileDialog::keyPressEvent(QKeyEvent *event)
 {
     const QModelIndex row = ui_->tblFiles->currentIndex();
+    const bool isInList = focusWidget() == ui_->tblFiles;
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (ui_->tblFiles->hasFocus() && isEnter && row.isValid() && model_->entry(row.row()).isFolder)
+    if (isInList && isEnter && row.isValid() && model_->entry(row.row()).isFolder)
         touchRow(row);
-    else if (ui_->tblFiles->hasFocus() && event->key() == Qt::Key_Backspace)
+    else if (isInList && event->key() == Qt::Key_Backspace)
         goUp();
     else
         QDialog::keyPressEvent(event);

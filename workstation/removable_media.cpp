@@ -39,11 +39,12 @@ QString unescaped(const QByteArray &text)
     return QFile::decodeName(plain);
 }
 
-/// "36 35 98:0 / /mnt/a rw,noatime master:1 - ext3 /dev/sdb1 rw"; the fields before the dash vary in number.
+/// "36 35 98:0 / /mnt/a rw,noatime master:1 - ext3 /dev/sdb1 rw"; the fields before the dash vary in number,
+/// and the source may be empty.
 bool parseMount(const QByteArray &line, Mount *mount)
 {
     enum { kDevice = 2, kRoot, kPoint, kOptions, kFirstOptional };
-    const QList<QByteArray> fields = line.simplified().split(' ');
+    const QList<QByteArray> fields = line.split(' ');
     const int dash = fields.indexOf("-", kFirstOptional);
     if (dash < 0 || dash + 3 >= fields.size() || !fields[kDevice].contains(':') ||
         !fields[kPoint].startsWith('/'))

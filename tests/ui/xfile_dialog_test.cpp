@@ -48,8 +48,14 @@ struct Dialog : xFileDialog
 {
     Dialog(const Stick &stick, FileRequest::Kind kind, const QString &start = QString(),
            const QString &filter = kFilter)
-        : xFileDialog({kind, QStringLiteral("Open XML file"), start, filter}, stick.machine.places(), nullptr)
+        : xFileDialog({kind, QStringLiteral("Open XML file"), start, filter}, quick(stick.machine.places()),
+                      nullptr)
     {
+    }
+    static palx::MediaPlaces quick(palx::MediaPlaces places)
+    {
+        places.lookEveryMs = 1;
+        return places;
     }
     QAbstractItemModel *files() const { return partOf<QTableView>(*this, "tblFiles")->model(); }
     QStringList names() const
@@ -96,4 +102,256 @@ TEST(XFileDialog, OpensAFileOfAFolder)
     dialog.press("btnOk");
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_EQ(dialog.chosen(), QStringList(wanted));
+}
+
+TEST(XFileDialog, OpensSeveralFiles)
+{
+    const Stick stick;
+    const QStringList wanted{stick.file(QStringLiteral("a.zip")), stick.file(QStringLiteral("c.zip"))};
+    stick.file(QStringLiteral("b.zip"));
+    Dialog dialog(stick, FileRequest::OpenSeveral, QString(), QStringLiteral("ZIP (*.zip)"));
+    dialog.show();
+    for (const char *name : {"a.zip", "b.zip", "c.zip", "b.zip"}) // the second touch lets go
+        dialog.touch(QLatin1String(name));
+    EXPECT_EQ(dialog.text(), QStringLiteral("a.zip, c.zip"));
+    dialog.press("btnOk");
+    EXPECT_EQ(dialog.chosen(), wanted);
+}
+
+TEST(XFileDialog, BeginsWhereItWasLastAndGoesNoHigherThanTheDisk)
+{
+    const Stick stick;
+    stick.file(QStringLiteral("Рецепты/2026/a.xml"));
+    const QString last = stick.root + QStringLiteral("/Рецепты/2026");
+    Dialog dialog(stick, FileRequest::Open, last);
+    EXPECT_EQ(dialog.text("lblPath"), QStringLiteral("ДИСК 上海 \u203a Рецепты \u203a 2026"));
+    EXPECT_EQ(dialog.names(), QStringList(QStringLiteral("a.xml")));
+    dialog.press("btnUp");
+    dialog.press("btnUp");
+    EXPECT_EQ(dialog.text("lblPath"), QStringLiteral("ДИСК 上海"));
+    EXPECT_FALSE(partOf<QPushButton>(dialog, "btnUp")->isEnabled());
+    const Dialog elsewhere(stick, FileRequest::Open, QStringLiteral("/etc"));
+    EXPECT_EQ(elsewhere.text("lblPath"), QStringLiteral("ДИСК 上海"));
+}
+
+TEST(XFileDialog, SavesUnderANameThatTheDiskCanKeep)
+{
+    const Stick stick;
+    const struct
+    {
+        QString typed;
+        const char *saved; // null: refused
+        const char *text;
+    } cases[] = {
+        {QStringLiteral("pallet.xml"), "pallet.xml", "pallet.xml"},
+        {QStringLiteral(" паллета 1 "), "паллета 1.xml", "паллета 1.xml"},
+        {QStringLiteral("a.txt"), "a.txt.xml", "a.txt.xml"},
+        {QStringLiteral("a/b"), nullptr, "This disk cannot keep a name with /."},
+        {QStringLiteral("../a"), nullptr, "A name does not begin with a dot: the file would be hidden."},
+        {QStringLiteral("a?"), nullptr, "This disk cannot keep a name with ?."},
+        {QString(252, QLatin1Char('x')), nullptr, "The name is too long: 256 of 255 characters."},
+        {QString(), nullptr, "The file needs a name."}};
+    for (const auto &c : cases) {
+        Dialog dialog(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
+        dialog.type(c.typed);
+        EXPECT_EQ(dialog.text(), QString::fromUtf8(c.text));
+        dialog.press("btnOk");
+        dialog.accept(); // as the enter key would
+        const QString path = stick.root + QLatin1Char('/') + QString::fromUtf8(c.saved);
+        EXPECT_EQ(dialog.chosen(), c.saved ? QStringList(path) : QStringList()) << c.typed;
+    }
+}
+
+TEST(XFileDialog, ProposesTheNameAndTakesThatOfATouchedFile)
+{
+    const Stick stick;
+    stick.file(QStringLiteral("old.xml"));
+    Dialog dialog(stick, FileRequest::Save, stick.root + QStringLiteral("/gone/pallet.xml"));
+    dialog.show();
+    EXPECT_EQ(dialog.text(), QStringLiteral("pallet.xml"));
+    dialog.touch(QStringLiteral("old.xml"));
+    EXPECT_EQ(dialog.text(), QStringLiteral("Replaces old.xml"));
+}
+
+TEST(XFileDialog, AsksBeforeItReplacesAFile)
+{
+    const Stick stick;
+    const QString there = stick.file(QStringLiteral("pallet.xml"));
+    for (const bool answer : {false, true}) {
+        ScriptedPresenter presenter({answer});
+        Dialog dialog(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
+        dialog.press("btnOk");
+        ASSERT_EQ(presenter.asked.size(), 1);
+        EXPECT_EQ(messageText(presenter.asked.first()),
+                  QStringLiteral("Replace the file? / pallet.xml is there already. / Cancel"));
+        EXPECT_EQ(dialog.chosen(), answer ? QStringList(there) : QStringList());
+    }
+}
+
+TEST(XFileDialog, AWriteProtectedDiskIsOnlyRead)
+{
+    Stick stick;
+    stick.file(QStringLiteral("a.xml"));
+    stick.mount("ro");
+    for (const auto kind : {FileRequest::Save, FileRequest::Folder}) {
+        const Dialog dialog(stick, kind, QStringLiteral("pallet.xml"));
+        EXPECT_EQ(dialog.text(), QStringLiteral("The disk is write-protected. Nothing can be saved on it."));
+        EXPECT_FALSE(dialog.canConfirm());
+        EXPECT_FALSE(partOf<QPushButton>(dialog, "btnNewFolder")->isEnabled());
+    }
+    Dialog dialog(stick, FileRequest::Open);
+    dialog.show();
+    dialog.touch(QStringLiteral("a.xml"));
+    EXPECT_TRUE(dialog.canConfirm());
+}
+
+TEST(XFileDialog, MakesAFolderAndChoosesIt)
+{
+    const Stick stick;
+    stick.file(QStringLiteral("a.xml"));
+    Dialog dialog(stick, FileRequest::Folder);
+    QTimer::singleShot(0, &dialog, [&] {
+        auto *naming = dialog.findChild<NameDialog *>();
+        naming->setName(QStringLiteral("a:"));
+        naming->accept(); // refused
+        EXPECT_EQ(partOf<QLabel>(*naming, "lblReason")->text(),
+                  QStringLiteral("This disk cannot keep a name with :."));
+        naming->setName(QStringLiteral("Проекты 2026"));
+        naming->accept();
+    });
+    dialog.press("btnNewFolder");
+    EXPECT_EQ(dialog.text(), QStringLiteral("ДИСК 上海 \u203a Проекты 2026"));
+    dialog.press("btnOk");
+    EXPECT_EQ(dialog.chosen(), QStringList(stick.root + QStringLiteral("/Проекты 2026")));
+}
+
+TEST(XFileDialog, FollowsTheDisk)
+{
+    Stick stick;
+    stick.file(QStringLiteral("a.xml"));
+    stick.machine.setMounts({});
+    Dialog dialog(stick, FileRequest::Open);
+    dialog.show();
+    const auto *body = partOf<QWidget>(dialog, "pagNoDisk");
+    EXPECT_TRUE(body->isVisible());
+    EXPECT_FALSE(dialog.canConfirm());
+    stick.mount();
+    EXPECT_TRUE(waitUntil([&] { return !body->isVisible(); }));
+    EXPECT_EQ(dialog.names(), QStringList(QStringLiteral("a.xml")));
+    dialog.touch(QStringLiteral("a.xml"));
+    EXPECT_TRUE(dialog.canConfirm());
+    stick.machine.setMounts({});
+    EXPECT_TRUE(waitUntil([&] { return body->isVisible(); }));
+    EXPECT_EQ(dialog.text(), QStringLiteral("The disk ДИСК 上海 was pulled out."));
+    EXPECT_FALSE(dialog.canConfirm());
+}
+
+TEST(XFileDialog, ADiskThatIsPulledLastIsNotWrittenTo)
+{
+    Stick stick;
+    stick.file(QStringLiteral("pallet.xml"));
+    stick.machine.addStick(QStringLiteral("sdc"), QStringLiteral("8:33"));
+    const QString other = stick.machine.addFolder(QStringLiteral("other"));
+    struct Puller : nexo::MessagePresenter
+    {
+        bool ask(const nexo::Message &) override
+        {
+            pull();
+            return true;
+        }
+        void notify(const QString &, const QString &) override {}
+        std::function<void()> pull;
+    } puller;
+    puller.pull = [&] { stick.machine.setMounts({FakeMachine::mount(QStringLiteral("8:33"), other)}); };
+    nexo::ManagerHelper::instance()->setPresenter(&puller);
+    Dialog dialog(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
+    dialog.press("btnOk");
+    nexo::ManagerHelper::instance()->setPresenter(nullptr);
+    EXPECT_EQ(dialog.chosen(), QStringList()) << "the other disk was not asked about";
+    EXPECT_EQ(dialog.text(), QStringLiteral("The disk ДИСК 上海 was pulled out."));
+    EXPECT_EQ(dialog.text("lblPath"), QStringLiteral("other"));
+}
+
+TEST(XFileDialog, AFileThatIsGoneIsNotOpened)
+{
+    const Stick stick;
+    const QString path = stick.file(QStringLiteral("a.xml"));
+    Dialog dialog(stick, FileRequest::Open);
+    dialog.show();
+    dialog.touch(QStringLiteral("a.xml"));
+    QFile::remove(path);
+    dialog.press("btnOk");
+    EXPECT_EQ(dialog.chosen(), QStringList());
+    EXPECT_EQ(dialog.text(), QStringLiteral("a.xml cannot be read."));
+}
+
+TEST(XFileDialog, KeysWorkTheList)
+{
+    const Stick stick;
+    stick.file(QStringLiteral("folder/a.xml"));
+    Dialog dialog(stick, FileRequest::Open);
+    dialog.show();
+    auto *table = partOf<QTableView>(dialog, "tblFiles");
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Down);
+    QTest::keyClick(table, Qt::Key_Return);
+    EXPECT_EQ(dialog.names(), QStringList(QStringLiteral("a.xml")));
+    QTest::keyClick(table, Qt::Key_Backspace);
+    EXPECT_EQ(dialog.names(), QStringList(QStringLiteral("folder")));
+}
+
+TEST(XFileDialog, ShowsTheSpaceAndEveryDisk)
+{
+    Stick stick;
+    stick.machine.addStick(QStringLiteral("sdc"), QStringLiteral("8:33"));
+    const QString other = stick.machine.addFolder(QStringLiteral("other"));
+    FakeMachine::write(other + QStringLiteral("/b.xml"), "x");
+    stick.machine.setMounts({FakeMachine::mount(QStringLiteral("8:17"), stick.root),
+                             FakeMachine::mount(QStringLiteral("8:33"), other)});
+    const Dialog dialog(stick, FileRequest::Open);
+    auto *disks = partOf<QComboBox>(dialog, "cmbDisk");
+    ASSERT_EQ(disks->count(), 2);
+    EXPECT_EQ(disks->currentText(), QStringLiteral("ДИСК 上海 (sdb1)"));
+    disks->setCurrentIndex(1);
+    Q_EMIT disks->activated(1);
+    EXPECT_EQ(dialog.names(), QStringList(QStringLiteral("b.xml")));
+    EXPECT_TRUE(partOf<QProgressBar>(dialog, "barFree")->text().contains(QStringLiteral(" free of ")));
+}
+
+TEST(XFileDialog, AnswersComeFromAScript)
+{
+    ScriptedFiles files({{QStringLiteral("/a/b.xml")}, {QStringLiteral("/a"), QStringLiteral("/b")}});
+    QWidget page;
+    EXPECT_EQ(xFileDialog::getSaveFileName(&page, QStringLiteral("Save XML file"),
+                                           QStringLiteral("/x/pallet.xml"), kFilter),
+              QStringLiteral("/a/b.xml"));
+    EXPECT_EQ(xFileDialog::getOpenFileNames(&page, QStringLiteral("Open"), QStringLiteral("/x"), kFilter),
+              QStringList({QStringLiteral("/a"), QStringLiteral("/b")}));
+    EXPECT_EQ(xFileDialog::getOpenFileName(&page, QStringLiteral("Open"), QString(), kFilter), QString());
+    EXPECT_EQ(xFileDialog::getExistingDirectory(&page, QStringLiteral("Export"), QString()), QString());
+    QStringList asked;
+    for (const FileRequest &request : files.asked)
+        asked.append(QStringLiteral("%1 %2 %3 %4")
+                         .arg(request.kind)
+                         .arg(request.caption, request.start, request.filter));
+    EXPECT_EQ(asked, QStringList({QStringLiteral("2 Save XML file /x/pallet.xml XML (*.xml)"),
+                                  QStringLiteral("1 Open /x XML (*.xml)"),
+                                  QStringLiteral("0 Open  XML (*.xml)"), QStringLiteral("3 Export  ")}));
+}
+
+TEST(XFileDialog, SaysWhetherTheDiskMayBePulled)
+{
+    const Stick stick;
+    auto *settings = nexo::SettingManager::instance();
+    settings->setOverride(QStringLiteral("removable"), stick.root);
+    const QString path = stick.file(QStringLiteral("a.xml"));
+    const QString elsewhere = stick.machine.path();
+    EXPECT_TRUE(xFileDialog::SystemFileSync(path));
+    EXPECT_FALSE(xFileDialog::SystemFileSync(path + QStringLiteral(".gone")));
+    EXPECT_EQ(xFileDialog::removalText(path, true),
+              QStringLiteral("It is safe to pull out the disk ДИСК 上海 now."));
+    EXPECT_EQ(xFileDialog::removalText(path, false),
+              QStringLiteral("Do not pull out the disk ДИСК 上海 yet: it has not taken everything."));
+    EXPECT_EQ(xFileDialog::removalText(elsewhere, true), QString());
+    settings->setOverride(QStringLiteral("removable"), QString());
 }

@@ -1,0 +1,114 @@
+#include "workstation/medium_names.h"
+
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QString repeated(const QString &text, int times)
+{
+    return text.repeated(times);
+}
+
+} // namespace
+
+TEST(MediumNames, AFileSystemKeepsOnlyWhatItCan)
+{
+    const QString latin = QStringLiteral("x");
+    const QString letter = QString::fromUtf8("п"); // two bytes
+    const QString face = QString::fromUtf8("😀");   // two units, four bytes
+    const struct
+    {
+        QString name;
+        const char *onFat; // what the refusal holds; null: the name is kept
+        const char *onLinux;
+    } cases[] = {{QStringLiteral("pallet.xml"), nullptr, nullptr},
+                 {QString::fromUtf8("上海 паллета №1.xml"), nullptr, nullptr},
+                 {QStringLiteral("a'b&c;d!e$f#g%h(i)+,-=@[]^_`{}~.xml"), nullptr, nullptr},
+                 {QStringLiteral("a:b"), "with :", nullptr},
+                 {QStringLiteral("a\\b"), "with \\", nullptr},
+                 {QStringLiteral("a*b"), "with *", nullptr},
+                 {QStringLiteral("a?b"), "with ?", nullptr},
+                 {QStringLiteral("a\"b"), "with \"", nullptr},
+                 {QStringLiteral("a<b"), "with <", nullptr},
+                 {QStringLiteral("a>b"), "with >", nullptr},
+                 {QStringLiteral("a|b"), "with |", nullptr},
+                 {QStringLiteral("a/b"), "with /", "with /"},
+                 {QStringLiteral("a."), "dot or a blank", nullptr},
+                 {QStringLiteral("a "), "dot or a blank", nullptr},
+                 {QStringLiteral("con"), "named con", nullptr},
+                 {QStringLiteral("Com1.xml"), "named Com1.xml", nullptr},
+                 {QStringLiteral("console.xml"), nullptr, nullptr},
+                 {QStringLiteral("com0.xml"), nullptr, nullptr},
+                 {QString(), "needs a name", "needs a name"},
+                 {QStringLiteral(".xml"), "begin with a dot", "begin with a dot"},
+                 {QStringLiteral(".."), "begin with a dot", "begin with a dot"},
+                 {QStringLiteral("a\nb"), "cannot be seen", "cannot be seen"},
+                 {QStringLiteral("a\x7f"), "cannot be seen", "cannot be seen"},
+                 {repeated(latin, 255), nullptr, nullptr},
+                 {repeated(latin, 256), "256 of 255 characters", "256 of 255 bytes"},
+                 {repeated(letter, 127), nullptr, nullptr},
+                 {repeated(letter, 128), nullptr, "256 of 255 bytes"},
+                 {repeated(letter, 256), "256 of 255 characters", "512 of 255 bytes"},
+                 {repeated(face, 128), "256 of 255 characters", "512 of 255 bytes"}};
+    for (const auto &c : cases) {
+        for (const char *system : {"vfat", "exfat", "ntfs3", "fuseblk", "ext4", "", "tmpfs"}) {
+            const bool isLinux = !*system || QByteArray("ext4 tmpfs").contains(system);
+            const char *part = isLinux ? c.onLinux : c.onFat;
+            const QString refusal = palx::nameRefusal(c.name, QLatin1String(system));
+            EXPECT_EQ(refusal.isEmpty(), !part) << c.name << " on " << system << ": " << refusal;
+            EXPECT_TRUE(refusal.contains(QLatin1String(part)))
+                << c.name << " on " << system << ": " << refusal;
+        }
+    }
+}
+
+TEST(MediumNames, FiltersAreReadAsTheyAreWritten)
+{
+    const struct
+    {
+        const char *filter;
+        const char *patterns; // of all choices
+    } cases[] = {{"XML (*.xml)", "*.xml"},
+                 {"Pictures (*.png *.jpg);;All files (*)", "*.png,*.jpg;*"},
+                 {"Archives (zip) (*.zip;*.ZIP)", "*.zip,*.ZIP"},
+                 {"*.xml", "*.xml"},
+                 {"*.a *.b;;*.c", "*.a,*.b;*.c"},
+                 {"Nothing ()", ""},
+                 {"", ""},
+                 {";;", ""}};
+    for (const auto &c : cases) {
+        QStringList patterns;
+        for (const palx::FileFilter &filter : palx::parseFilters(QLatin1String(c.filter)))
+            patterns.append(filter.patterns.join(QLatin1Char(',')));
+        EXPECT_EQ(patterns.join(QLatin1Char(';')), QLatin1String(c.patterns)) << c.filter;
+    }
+}
+
+TEST(MediumNames, AFilterCompletesANameThatItDoesNotMatch)
+{
+    const struct
+    {
+        const char *filter;
+        const char *name;
+        const char *completed;
+    } cases[] = {{"XML (*.xml)", "pallet", "pallet.xml"},
+                 {"XML (*.xml)", "pallet.xml", "pallet.xml"},
+                 {"XML (*.xml)", "pallet.XML", "pallet.XML"},
+                 {"XML (*.xml)", "pallet.txt", "pallet.txt.xml"},
+                 {"XML (*.xml)", "pallet.", "pallet..xml"},
+                 {"XML (*.xml)", "паллета 1", "паллета 1.xml"},
+                 {"XML (*.xml)", "", ""},
+                 {"Pictures (*.png *.jpg)", "a.jpg", "a.jpg"},
+                 {"Pictures (*.png *.jpg)", "a", "a.png"},
+                 {"Tar (*.tar.gz)", "a", "a.tar.gz"},
+                 {"All (*)", "a", "a"},
+                 {"", "a", "a"},
+                 {"Letters ([a-c].x)", "q", "q"}};
+    for (const auto &c : cases) {
+        const palx::FileFilter filter = palx::parseFilters(QLatin1String(c.filter)).first();
+        EXPECT_EQ(filter.completed(QString::fromUtf8(c.name)), QString::fromUtf8(c.completed))
+            << c.filter << " on " << c.name;
+    }
+}
