@@ -361,7 +361,6 @@ QString takeAll(Session &session, const ScreenshotRequest &request, int *count)
     camera.takePage(QStringLiteral("panel.controller"), QStringLiteral("panel-controller-gone"));
     takeMoves(camera);
     takeProjects(camera);
-=======
     takeFiles(camera);
     *count = camera.count();
     return camera.error();
