@@ -98,7 +98,7 @@ TEST(TemplateRuns, theWayHomeLeadsOutOfTheStack)
          {"move 300 20 100 v1000 z200", "move 0 20 100 v1000 fine"},
          "12"},                                                   // no room above
         {{0, 10, 100}, 3, 3, {"move 0 20 200 v1000 fine"}, "22"}, // behind the last layer
-        {{0, 0, 900}, 1, 1, {}, "11"},                            // at the other pallet
+        {{0, 0, 900}, 3, 1, {"move 0 10 100 v1000 fine"}, "31"}, // not at the pallet: its counters stay
     };
     for (const WayHome &c : cases) {
         Cell cell;

@@ -36,5 +36,10 @@ GLOBAL PROC BackHome()
             MoveL(PalletEnterPoint, v1000, z200, PalletTool)
         ENDIF
         MoveL(PalletHomePoint, v1000, fine, PalletTool)
+    ELSE
+        ! Not at the left pallet: nothing is in the way.
+        name := GetPalletName(palletIndexL, 0)
+        PalletUpdate(name, 1, 1)
+        MoveL(PalletHomePoint, v1000, fine, PalletTool)
     ENDIF
 ENDPROC

@@ -3,6 +3,9 @@
 ! The sign of y tells at which pallet the robot stands: y > 0 is the left one, y <= 0 the right one. Further than Margin
 ! from its home it first lifts what it may be carrying out of the stack, if that stays below MaxZ, and leaves the pallet
 ! by the enter point.
+!
+! Then the column goes where the current layer needs it. rise tells where it should stand; after a power cut in the middle of
+! its way only the drive knows.
 
 GLOBAL PROC BackHome()
     VAR string name
@@ -36,38 +39,6 @@ GLOBAL PROC BackHome()
             MoveL(Offs(PalletEnterPoint, 0, 0, -liftHeight * rise), v1000, z200, PalletTool)
         ENDIF
         MoveL(PalletHomePoint, v1000, fine, PalletTool)
-        ! The robot is clear of the stack: the column goes where the current layer needs it.
-        IF rise == 0 AND (PalletEnterPoint.z > SetZ OR PalletReadyPoint.z > SetZ)
-            use_rise := 1
-            isThere := false
-            WHILE NOT isThere
-                clearAlarm()
-                powerOff()
-                setModeToPosition()
-                powerOn()
-                moveTo(7000 * liftHeight, 7000 * 50, true)
-                powerOff()
-                Wait(0.5)
-                isThere := NOT flag AND Abs(ReadRegister("PositionRead") - 7000 * liftHeight) <= 1000
-            ENDWHILE
-            rise := 1
-            use_rise := 0
-        ELSEIF rise == 1 AND PalletEnterPoint.z <= SetZ AND PalletReadyPoint.z <= SetZ
-            use_rise := 1
-            isThere := false
-            WHILE NOT isThere
-                clearAlarm()
-                powerOff()
-                setModeToPosition()
-                powerOn()
-                moveTo(7000 * 1, 7000 * 50, true)
-                powerOff()
-                Wait(0.5)
-                isThere := NOT flag AND Abs(ReadRegister("PositionRead") - 7000 * 1) <= 1000
-            ENDWHILE
-            rise := 0
-            use_rise := 0
-        ENDIF
     ELSEIF BHOME.y <= 0
         ! Right pallet. Its counters may stand behind the last layer, or come from another recipe.
         name := GetPalletName(palletIndexR, 1)
@@ -92,8 +63,10 @@ GLOBAL PROC BackHome()
             MoveL(Offs(PalletEnterPoint, 0, 0, -liftHeight * rise), v1000, z200, PalletTool)
         ENDIF
         MoveL(PalletHomePoint, v1000, fine, PalletTool)
-        ! The robot is clear of the stack: the column goes where the current layer needs it.
-        IF rise == 0 AND (PalletEnterPoint.z > SetZ OR PalletReadyPoint.z > SetZ)
+    ENDIF
+    ! The robot is clear of the stack.
+    IF PalletEnterPoint.z > SetZ OR PalletReadyPoint.z > SetZ
+        IF rise == 0 OR Abs(ReadRegister("PositionRead") - 7000 * liftHeight) > 1000
             use_rise := 1
             isThere := false
             WHILE NOT isThere
@@ -108,7 +81,9 @@ GLOBAL PROC BackHome()
             ENDWHILE
             rise := 1
             use_rise := 0
-        ELSEIF rise == 1 AND PalletEnterPoint.z <= SetZ AND PalletReadyPoint.z <= SetZ
+        ENDIF
+    ELSE
+        IF rise == 1 OR Abs(ReadRegister("PositionRead") - 7000 * 1) > 1000
             use_rise := 1
             isThere := false
             WHILE NOT isThere

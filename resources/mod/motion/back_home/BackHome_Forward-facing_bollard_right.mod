@@ -4,11 +4,15 @@
 ! The sign of y tells at which pallet the robot stands: y > 0 is the left one, y <= 0 the right one. Further than Margin
 ! from its home it first lifts what it may be carrying out of the stack, if that stays below MaxZ, and leaves the pallet
 ! by the enter point.
+!
+! Then the column goes where the current layer needs it. rise tells where it should stand; after a power cut in the middle of
+! its way only the drive knows.
 
 GLOBAL PROC BackHome()
     VAR string name
     VAR bool isAway
     VAR bool isThere
+    VAR int layer
     boxheight := 300
     name := GetPalletName(0)
     PalletUpdate(name, 1, 1)
@@ -37,8 +41,19 @@ GLOBAL PROC BackHome()
             MoveL(Offs(PalletEnterPoint, 0, 0, -liftHeight * rise), v1000, z200, PalletTool)
         ENDIF
         MoveL(PalletHomePoint, v1000, fine, PalletTool)
-        ! The robot is clear of the stack: the column goes where the current layer needs it.
-        IF rise == 0 AND (PalletEnterPoint.z > SetZ OR PalletReadyPoint.z > SetZ)
+    ELSE
+        ! Not at the right pallet: nothing is in the way.
+        name := GetPalletName(palletIndexR, 1)
+        layer := currentLayerR
+        IF layer > PalletLayerCount(name)
+            layer := PalletLayerCount(name)
+        ENDIF
+        PalletUpdate(name, layer, 1)
+        MoveL(PalletHomePoint, v1000, fine, PalletTool)
+    ENDIF
+    ! The robot is clear of the stack.
+    IF PalletEnterPoint.z > SetZ OR PalletReadyPoint.z > SetZ
+        IF rise == 0 OR Abs(ReadRegister("PositionRead") - 7000 * liftHeight) > 1000
             use_rise := 1
             isThere := false
             WHILE NOT isThere
@@ -53,7 +68,9 @@ GLOBAL PROC BackHome()
             ENDWHILE
             rise := 1
             use_rise := 0
-        ELSEIF rise == 1 AND PalletEnterPoint.z <= SetZ AND PalletReadyPoint.z <= SetZ
+        ENDIF
+    ELSE
+        IF rise == 1 OR Abs(ReadRegister("PositionRead") - 7000 * 1) > 1000
             use_rise := 1
             isThere := false
             WHILE NOT isThere

@@ -1,4 +1,4 @@
-! State at the start of the program: nobody is served, and the both sides count from 0.
+! State at the start of the program: nobody is served, and both sides count from 0.
 ! Layers and pieces are kept, so that a half-full pallet is finished.
 
 GLOBAL PROC Init()
