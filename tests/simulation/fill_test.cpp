@@ -38,6 +38,8 @@ void expectFullCounters(Line &line, int side, int layers, int pallets)
     EXPECT_EQ(0, number("palletCount"));
     EXPECT_EQ(pallets, number("totalPallets"));
     EXPECT_EQ(1, number("flag"));
+    EXPECT_EQ(0, line.number("grabbing"));
+    EXPECT_GT(line.real(("cycleTime" + end).c_str()), 3) << "seconds of the last piece";
 }
 
 bool isStacked(const LineSetup &setup, int side)
@@ -81,24 +83,7 @@ TEST_P(Fill, WholePalletsTwice)
     EXPECT_EQ(controller::Runner::State::Running, line.runner().state());
 }
 
-std::vector<LineSetup> everySetup()
-{
-    std::vector<LineSetup> all;
-    for (const int scheme : {0, 1, 2})
-        for (const bool hasLift : {true, false})
-            for (const int towards : {0, 1})
-                all.push_back({scheme, hasLift, towards, 2, 1});
-    return all;
-}
-
-std::string nameOfSetup(const ::testing::TestParamInfo<LineSetup> &test)
-{
-    static const char *const schemes[] = {"Left", "Right", "Both"};
-    return std::string(schemes[test.param.scheme]) + (test.param.hasLift ? "WithLift" : "") +
-           (test.param.towards == 0 ? "Forward" : "Backwards");
-}
-
-INSTANTIATE_TEST_SUITE_P(Every, Fill, ::testing::ValuesIn(everySetup()), nameOfSetup);
+INSTANTIATE_TEST_SUITE_P(Every, Fill, ::testing::ValuesIn(everyLine()), nameOfLine);
 
 class Lines : public controller::cell::TraceSink
 {

@@ -1,22 +1,19 @@
 #pragma once
 
+#include "made_project.h"
+
 #include "controller/station.h"
 #include "support/test_support.h"
 
 #include <QTemporaryDir>
 
-/// What a palletizing line is like.
-struct LineSetup
-{
-    int scheme = 0; ///< 0 left, 1 right, 2 both
-    bool hasLift = false;
-    int towards = 0; ///< of both work objects; 1: the whole cell is turned about the robot's foot
-    int layers = 2;
-    std::uint64_t seed = 1;
-};
+#include <gtest/gtest.h>
 
-/// A simulated controller with recipes and a project of the program templates, without a panel. Recipes are those of the
-/// cell with shared tool and work objects in the examples, with as many layers as asked for.
+/// Every scheme, with and without the lift column, with work objects that look forward and backwards; two layers.
+std::vector<LineSetup> everyLine();
+std::string nameOfLine(const ::testing::TestParamInfo<LineSetup> &line);
+
+/// A simulated controller with the recipes and the project that a panel made for it, without that panel.
 class Line
 {
 public:
@@ -40,6 +37,7 @@ public:
     void exchangePallet(int side);
 
     qint64 number(const char *variable);
+    double real(const char *variable);
     void set(const char *variable, int value);
     /// Of the violations, one a line.
     QString violations();
@@ -48,12 +46,9 @@ public:
 
 private:
     void open();
-    void writePrograms();
-    void declareVariables();
-    void sendRecipes();
 
     LineSetup setup_;
     QTemporaryDir folder_;
     std::unique_ptr<controller::Station> station_;
-    orba::Node home_; ///< point record
+    const MadeProject &made_;
 };

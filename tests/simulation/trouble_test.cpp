@@ -12,7 +12,7 @@ using controller::cell::Fault;
 class Trouble : public ::testing::Test
 {
 protected:
-    Trouble() : line({0, false, 0, 1, 1}) { line.start(); }
+    Trouble() : line({0, false, 0, 1}) { line.start(); }
     /// Until so many products lie there and the next one is on its way.
     void carryAfter(std::size_t boxes)
     {
