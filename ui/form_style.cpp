@@ -38,6 +38,13 @@ void setFieldMargins(QWidget *form)
         field->setTextMargins(kPixels, 0, kPixels, 0);
 }
 
+void finishField(QWidget *form)
+{
+    QWidget *focus = form->focusWidget();
+    if (focus && focus->hasFocus())
+        focus->clearFocus();
+}
+
 void setTouchScrolling(QAbstractScrollArea *area)
 {
     QScroller::grabGesture(area->viewport(), QScroller::TouchGesture);

@@ -13,6 +13,9 @@ PALX_API void setupTable(QTableView *table, int stretched, bool compact);
 /// Keeps the text of every line edit and spin box of a form off its border.
 void setFieldMargins(QWidget *form);
 
+/// Ends typing in a field of the form, which then counts as edited.
+void finishField(QWidget *form);
+
 /// Lets a finger move the contents; a mouse keeps its own ways.
 void setTouchScrolling(QAbstractScrollArea *area);
 

@@ -91,7 +91,7 @@ bool RecipeWizard::tryNext()
 
 void RecipeWizard::next()
 {
-    finishField();
+    finishField(this);
     if (!stack() || !tryNext())
         return;
     editing_.saveAndTell();
@@ -103,14 +103,14 @@ void RecipeWizard::next()
 
 void RecipeWizard::back()
 {
-    finishField();
+    finishField(this);
     if (page() > 0)
         showPage(page() - 1);
 }
 
 void RecipeWizard::reject()
 {
-    finishField();
+    finishField(this);
     const bool lost = editing_.differsFromOpened();
     if (lost && !nexo::ManagerHelper::instance()->execMsgOk(titleText(), tr("Take back all edits?")))
         return;
@@ -147,19 +147,11 @@ void RecipeWizard::redo()
 
 void RecipeWizard::step(bool (RecipeEditing::*wind)())
 {
-    finishField();
+    finishField(this);
     if (!(editing_.*wind)())
         return;
     ui_->message->clearMessage();
     afterStep();
-}
-
-/// A field that is being typed in counts as edited.
-void RecipeWizard::finishField()
-{
-    QWidget *focus = focusWidget();
-    if (focus && focus->hasFocus())
-        focus->clearFocus();
 }
 
 void RecipeWizard::changeEvent(QEvent *event)

@@ -58,7 +58,6 @@ private:
     void onEdited();
     void afterStep();
     void step(bool (RecipeEditing::*wind)());
-    void finishField();
     void retranslate();
 
     std::unique_ptr<Ui::RecipeWizard> ui_;

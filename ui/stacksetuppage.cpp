@@ -121,7 +121,7 @@ void StackSetupPage::makeWizardMenu()
 
 void StackSetupPage::openWizard(NestingWizard kind)
 {
-    finishField();
+    finishField(wgt_);
     editing_.save(); // a wizard that is cancelled goes back to what stands here now
     RecipeWizard *wizard = openNestingWizard(kind, stack(), wgt_);
     connect(wizard, &QDialog::finished, wgt_, [this] { pageDateRefresh(); });
@@ -193,14 +193,6 @@ void StackSetupPage::afterStep()
     updateHeader();
 }
 
-/// A field that is being typed in counts as edited before its recipe is wound back.
-void StackSetupPage::finishField()
-{
-    QWidget *focus = wgt_->focusWidget();
-    if (focus && focus->hasFocus())
-        focus->clearFocus();
-}
-
 void StackSetupPage::undo()
 {
     step(&RecipeEditing::undo);
@@ -213,7 +205,7 @@ void StackSetupPage::redo()
 
 void StackSetupPage::step(bool (RecipeEditing::*wind)())
 {
-    finishField();
+    finishField(wgt_);
     if (!(editing_.*wind)())
         return;
     ui_->message->clearMessage();

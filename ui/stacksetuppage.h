@@ -53,7 +53,6 @@ private:
     void openWizard(NestingWizard kind);
     void setStack(orba::ModuleObject *stack);
     void fillRecipes();
-    void finishField();
     void onEdited();
     void afterStep();
     void step(bool (RecipeEditing::*wind)());
