@@ -28,6 +28,12 @@ void LongWorkDialog::setCanCancel(bool can)
     ui_->btnCancel->setEnabled(can);
 }
 
+void LongWorkDialog::hideCancel()
+{
+    setCanCancel(false);
+    ui_->btnCancel->hide();
+}
+
 void LongWorkDialog::reject()
 {
     if (ui_->btnCancel->isEnabled())

@@ -22,6 +22,8 @@ public:
     /// `total` 0 shows that something is going on.
     void showStep(int done, int total, const QString &text);
     void setCanCancel(bool can);
+    /// For work that can never be cancelled. It cannot be closed then.
+    void hideCancel();
 
 public Q_SLOTS:
     void reject() override;

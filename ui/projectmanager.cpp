@@ -5,6 +5,7 @@
 #include "project/rules/project_place.h"
 #include "project/rules/project_variables.h"
 #include "ui/form_style.h"
+#include "ui/long_work_dialog.h"
 #include "ui/project_tables.h"
 #include "ui/projectparamsetuppage.h"
 #include "ui_projectmanager.h"
@@ -16,7 +17,6 @@
 #include <QDateTime>
 #include <QEvent>
 #include <QHeaderView>
-#include <QProgressDialog>
 #include <QScopedValueRollback>
 #include <QTimer>
 
@@ -225,11 +225,8 @@ void ProjectManager::showProgress(bool isRunning)
     delete progress_;
     if (!isRunning)
         return;
-    progress_ = new QProgressDialog(tr("Preparing data..."), QString(), 0, 0, window());
-    progress_->setObjectName(QStringLiteral("dlgProgress"));
-    progress_->setWindowModality(Qt::ApplicationModal);
-    progress_->setMinimumDuration(0);
-    progress_->setMinimumWidth(400);
+    progress_ = new LongWorkDialog(tr("Preparing data..."), window());
+    progress_->hideCancel();
     progress_->show();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }

@@ -7,10 +7,10 @@
 
 #include <memory>
 
+class LongWorkDialog;
 class ProgramTableModel;
 class ProjectParamSetupPage;
 class QAction;
-class QProgressDialog;
 class VariableTableModel;
 namespace Ui {
 class ProjectManager;
@@ -94,7 +94,7 @@ private:
     ProgramTableModel *programs_;
     VariableTableModel *variables_;
     QAction *createVariables_;
-    QPointer<QProgressDialog> progress_;
+    QPointer<LongWorkDialog> progress_;
     EditMode editMode_ = NotEditing;
     QString oldName_; ///< of the project that is being edited
     QString source_;  ///< the project that a new one can be a copy of

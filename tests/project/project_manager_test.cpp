@@ -4,6 +4,7 @@
 
 #include "project/rules/project_record.h"
 #include "project/rules/project_variables.h"
+#include "ui/long_work_dialog.h"
 #include "ui/program_view.h"
 #include "ui/project_tables.h"
 #include "ui/projectmanager.h"
@@ -16,7 +17,6 @@
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -200,16 +200,16 @@ TEST_F(ProjectPage, RemovesAndSwitchesByItsButtons)
     choose(QStringLiteral("A"));
     QStringList seen;
     QObject::connect(m("quill.project.cur_project"), &orba::ModuleObject::changed, page.get(), [this, &seen] {
-        const auto *dialog = page->findChild<QProgressDialog *>();
+        const auto *dialog = page->findChild<LongWorkDialog *>();
         ASSERT_TRUE(dialog);
         EXPECT_TRUE(dialog->isModal() && dialog->isVisible());
-        EXPECT_FALSE(dialog->findChild<QPushButton *>());
-        seen.append(dialog->labelText());
+        EXPECT_FALSE(dialog->findChild<QPushButton *>()->isVisible());
+        seen.append(dialog->windowTitle());
     });
     presenter.answer(true);
     click("btnReload");
     EXPECT_EQ(seen, QStringList("Preparing data..."));
-    EXPECT_FALSE(page->findChild<QProgressDialog *>());
+    EXPECT_FALSE(page->findChild<LongWorkDialog *>());
     EXPECT_EQ(current(), QStringLiteral("SIM-0001/A"));
     m("quill.project.cur_project")->disconnect(page.get());
     choose(QStringLiteral("B"));
