@@ -2,16 +2,22 @@
 
 #include "controller/in_process_carrier.h"
 #include "core/controller_link.h"
+#include "project/rules/project_export.h"
 #include "project/rules/project_place.h"
 #include "project/rules/project_record.h"
+#include "ui/imexportprojectdialog.h"
 #include "ui/projectmanager.h"
+#include "ui/xfile_dialog.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTimer>
 
 namespace cli {
@@ -58,9 +64,54 @@ void chooseProgram(const QWidget *page)
         table->selectRow(kLeftStack);
 }
 
+/// Archives as an operator brings them: one of a project that is there, one that is new, one that is cut off.
+bool makeArchives(const QString &folder)
+{
+    palx::NoProgress nobody;
+    const QString first = palx::archivePath(folder, kName);
+    if (!palx::exportProjects({{kName}, false, folder, QString()}, &nobody))
+        return false;
+    QFile::copy(first, palx::archivePath(folder, QStringLiteral("Line south")));
+    const QString cut = palx::archivePath(folder, QStringLiteral("Line west"));
+    QFile::copy(first, cut);
+    return QFile::resize(cut, QFileInfo(cut).size() / 2);
+}
+
+bool showExchange(ProjectManager *page, const std::function<void(QWidget *widget, const QString &name)> &take)
+{
+    const QTemporaryDir disk;
+    if (!makeArchives(disk.path()))
+        return false;
+    xFileDialog::setAnswers([&disk](const FileRequest &request) {
+        QStringList files;
+        for (const QFileInfo &file : QDir(disk.path()).entryInfoList({QStringLiteral("*.zip")}))
+            files.append(file.filePath());
+        return request.kind == FileRequest::Folder ? QStringList(disk.path()) : files;
+    });
+    const struct
+    {
+        const char *open;
+        const char *choose;
+        const char *name;
+    } dialogs[] = {{"btnExport", "btnTarget", "project-export"}, {"btnImport", "btnFiles", "project-import"}};
+    bool isShown = true;
+    for (const auto &each : dialogs) {
+        click(page, each.open);
+        auto *dialog = page->window()->findChild<ImExportProjectDialog *>();
+        isShown = isShown && dialog;
+        if (!dialog)
+            continue;
+        click(dialog, each.choose);
+        take(dialog, QLatin1String(each.name));
+        delete dialog;
+    }
+    xFileDialog::setAnswers(nullptr);
+    return isShown;
+}
+
 } // namespace
 
-bool showProjects(QWidget *window, const std::function<void(const QString &name)> &take)
+bool showProjects(QWidget *window, const std::function<void(QWidget *widget, const QString &name)> &take)
 {
     host::ControllerLink link(newController());
     link.open();
@@ -72,16 +123,17 @@ bool showProjects(QWidget *window, const std::function<void(const QString &name)
         return false;
     click(page, "btnAdd");
     typeProject(page);
-    take(QStringLiteral("projects-new"));
+    take(window, QStringLiteral("projects-new"));
     clickAndAccept(page, "btnWork");
-    take(QStringLiteral("projects"));
+    take(window, QStringLiteral("projects"));
     click(page, "btnTasks");
     chooseProgram(page);
-    take(QStringLiteral("projects-tasks"));
+    take(window, QStringLiteral("projects-tasks"));
     click(page, "btnVariables");
-    take(QStringLiteral("projects-variables"));
+    take(window, QStringLiteral("projects-variables"));
+    const bool isExchanged = showExchange(page, take);
     click(page, "btnBack");
-    return palx::currentProject() == kName;
+    return isExchanged && palx::currentProject() == kName;
 }
 
 } // namespace cli

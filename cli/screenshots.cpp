@@ -303,7 +303,7 @@ void takeMoves(Camera &camera)
 void takeProjects(Camera &camera)
 {
     camera.window()->openPage(mName(palx::getPluginName(), QStringLiteral("home_page")));
-    const auto take = [&camera](const QString &name) { camera.takeWindow(camera.window(), name); };
+    const auto take = [&camera](QWidget *widget, const QString &name) { camera.takeWindow(widget, name); };
     if (!showProjects(camera.window(), take))
         camera.fail(QStringLiteral("no project was made"));
 }

@@ -2,14 +2,17 @@
 
 #include "ix/xtheme.h"
 #include "project/rules/project_files.h"
+#include "project/rules/project_import.h"
 #include "project/rules/project_place.h"
 #include "project/rules/project_variables.h"
 #include "ui/form_style.h"
+#include "ui/imexportprojectdialog.h"
 #include "ui/long_work_dialog.h"
 #include "ui/project_tables.h"
 #include "ui/projectparamsetuppage.h"
 #include "ui_projectmanager.h"
 #include "workstation/plugin_node.h"
+#include "workstation/unique_widget.h"
 #include "workstation/workspace.h"
 
 #include <QAction>
@@ -51,7 +54,7 @@ ProjectManager::ProjectManager(QWidget *page, QWidget *parent)
     connect(createVariables_, &QAction::triggered, this, &palx::createProjectVariables);
     setFieldMargins(this);
     updateUIForCancelOrWork();
-    refreshData();
+    meetRobot();
 }
 
 ProjectManager::~ProjectManager() = default;
@@ -97,6 +100,8 @@ void ProjectManager::connectButtons()
                    {ui_->btnRemove, Glyph::Delete, &ProjectManager::deleteProject},
                    {ui_->btnSetDefault, std::nullopt, &ProjectManager::setDefaultProject},
                    {ui_->btnReload, std::nullopt, &ProjectManager::reloadProject},
+                   {ui_->btnImport, std::nullopt, &ProjectManager::importProject},
+                   {ui_->btnExport, std::nullopt, &ProjectManager::exportProject},
                    {ui_->btnCancel, Glyph::Close, &ProjectManager::cancel},
                    {ui_->btnWork, Glyph::Save, &ProjectManager::work}};
     for (const auto &action : actions) {
@@ -112,8 +117,8 @@ void ProjectManager::connectButtons()
 
 void ProjectManager::followNodes()
 {
-    for (const char *path : {"nexo.r.id", "quill.project.cur_project"})
-        connect(m(path), &ModuleObject::changed, this, &ProjectManager::refreshUnlessBusy);
+    connect(m("nexo.r.id"), &ModuleObject::changed, this, &ProjectManager::meetRobot);
+    connect(m("quill.project.cur_project"), &ModuleObject::changed, this, &ProjectManager::refreshUnlessBusy);
     connect(m("quill.project.autoload_prj_path"), &ModuleObject::changed, this, &ProjectManager::showState);
     connect(palx::triggerNode()->c("refresh_data"), &ModuleObject::changed, this,
             &ProjectManager::refreshUnlessBusy);
@@ -254,7 +259,34 @@ void ProjectManager::setDefaultProject()
     palx::setDefaultProject(chosenProject());
 }
 
+void ProjectManager::importProject()
+{
+    openExchange(true);
+}
+
+void ProjectManager::exportProject()
+{
+    openExchange(false);
+}
+
+void ProjectManager::openExchange(bool import)
+{
+    auto *dialog = new ImExportProjectDialog(import, window());
+    dialog->chooseProject(chosenProject());
+    connect(dialog, &ImExportProjectDialog::projectsChanged, this, &ProjectManager::refreshUnlessBusy);
+    palx::makeUniqueDialog(dialog);
+    dialog->open();
+}
+
 // ---------------------------------------------------------------- showing
+
+/// What an operation left that was killed in the middle is put right as soon as the robot's folder is known.
+void ProjectManager::meetRobot()
+{
+    if (!isWorking_)
+        palx::recoverExchange(QCoreApplication::applicationDirPath());
+    refreshUnlessBusy();
+}
 
 void ProjectManager::refreshUnlessBusy()
 {
@@ -298,6 +330,8 @@ void ProjectManager::showState()
     const bool isKnown = !palx::robotFolder().isEmpty();
     const bool isChosen = !name.isEmpty();
     ui_->btnAdd->setEnabled(isKnown);
+    ui_->btnImport->setEnabled(isKnown);
+    ui_->btnExport->setEnabled(isKnown);
     ui_->btnEdit->setEnabled(isChosen);
     ui_->btnRemove->setEnabled(isChosen);
     ui_->chbClone->setEnabled(isChosen);

@@ -48,6 +48,9 @@ public:
     void reloadProject();
     /// Makes the chosen project the one that the controller loads at its start.
     void setDefaultProject();
+    /// Open the dialog that brings projects in as archives, or out.
+    void importProject();
+    void exportProject();
     /// Lists the projects and shows the current one.
     void refreshData();
     /// Shows a project's parameters, tasks and variables.
@@ -78,6 +81,8 @@ private:
     void connectButtons();
     void setupParts();
     void followNodes();
+    void openExchange(bool import);
+    void meetRobot();
     void refreshUnlessBusy();
     void refreshTables();
     void updateRBtnAndCmb();

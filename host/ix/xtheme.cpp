@@ -82,7 +82,7 @@ QString sizeRules()
                           "QPushButton { padding: 0px 16px; }\n"
                           "QComboBox QAbstractItemView::item { min-height: %1px; }\n"
                           "QCheckBox, QRadioButton { min-height: %3px; spacing: 10px; }\n"
-                          "QCheckBox::indicator, QRadioButton::indicator { width: 28px; height: 28px; }\n"
+                          "QCheckBox::indicator, QRadioButton::indicator, QTableView::indicator { width: 28px; height: 28px; }\n"
                           "QListView::item { min-height: %1px; }\n"
                           "QMenu::item { min-height: %1px; padding: 0px 24px; }\n"
                           "QMenu::item:selected { background: palette(highlight); color: #ffffff; }\n"

@@ -1,0 +1,345 @@
+#include "ui/imexportprojectdialog.h"
+
+#include "ix/xtheme.h"
+#include "nexo/manager_helper.h"
+#include "orba/module_object.h"
+#include "project/rules/archive_check.h"
+#include "project/rules/project_export.h"
+#include "project/rules/project_place.h"
+#include "ui/exchange_table_model.h"
+#include "ui/form_style.h"
+#include "ui/long_work.h"
+#include "ui/xfile_dialog.h"
+#include "ui_imexportprojectdialog.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QEvent>
+#include <QFileInfo>
+
+#include <optional>
+
+using ix::xtheme::Glyph;
+using ix::xtheme::State;
+using palx::OnClash;
+using palx::TemplateAction;
+
+namespace {
+
+const char *const kImportFolder = "project_import";
+const char *const kExportFolder = "project_export";
+
+/// Of the last exchange.
+QString rememberedFolder(const char *item)
+{
+    return m("quill.help.file_path")->getString(item);
+}
+
+void rememberFolder(const char *item, const QString &folder)
+{
+    m("quill.help.file_path")->set(nullptr, item, folder, true);
+}
+
+QString archiveFilter()
+{
+    return ImExportProjectDialog::tr("Project archives") + QStringLiteral(" (*.zip)");
+}
+
+} // namespace
+
+ImExportProjectDialog::ImExportProjectDialog(bool import, QWidget *parent)
+    : ImExportProjectDialog(import, parent, QCoreApplication::applicationDirPath())
+{
+}
+
+ImExportProjectDialog::ImExportProjectDialog(bool import, QWidget *parent, const QString &programFolder)
+    : QDialog(parent), isImport_(import), programFolder_(programFolder),
+      ui_(std::make_unique<Ui::ImExportProjectDialog>()), model_(new ExchangeTableModel(this))
+{
+    ui_->setupUi(this);
+    ui_->tblProjects->setModel(model_);
+    setupTable(ui_->tblProjects, ExchangeTableModel::kBecomes, false);
+    ui_->tblProjects->setSelectionMode(QAbstractItemView::NoSelection);
+    for (QWidget *part : QList<QWidget *>{ui_->btnFiles, ui_->wgtClash, ui_->gpbProjectTemplates})
+        part->setVisible(isImport_);
+    for (QWidget *part : QList<QWidget *>{ui_->edtTarget, ui_->btnTarget, ui_->btnAll, ui_->btnNone,
+                                          ui_->chbProjectTemplates})
+        part->setVisible(!isImport_);
+    ui_->lblHint->setVisible(isImport_);
+    setFieldMargins(this);
+    connectParts();
+    setTexts();
+    if (!isImport_) {
+        const QString folder = rememberedFolder(kExportFolder);
+        ui_->edtTarget->setText(QFileInfo(folder).isDir() ? folder : QString());
+        listProjects();
+    }
+    showState();
+    showUndo();
+}
+
+ImExportProjectDialog::~ImExportProjectDialog() = default;
+
+void ImExportProjectDialog::connectParts()
+{
+    const struct
+    {
+        QPushButton *button;
+        std::optional<Glyph> glyph;
+        void (ImExportProjectDialog::*act)();
+    } actions[] = {{ui_->btnFiles, Glyph::Open, &ImExportProjectDialog::chooseArchives},
+                   {ui_->btnTarget, Glyph::Open, &ImExportProjectDialog::chooseTarget},
+                   {ui_->btnTemplates, Glyph::Open, &ImExportProjectDialog::chooseTemplates},
+                   {ui_->btnWork, std::nullopt, &ImExportProjectDialog::work}};
+    for (const auto &action : actions) {
+        if (action.glyph)
+            action.button->setIcon(ix::xtheme::icon(*action.glyph));
+        action.button->setIconSize(QSize(28, 28));
+        connect(action.button, &QPushButton::clicked, this, action.act);
+    }
+    connect(ui_->btnAll, &QPushButton::clicked, this, [this] { model_->checkAll(true); });
+    connect(ui_->btnNone, &QPushButton::clicked, this, [this] { model_->checkAll(false); });
+    connect(ui_->btnClose, &QPushButton::clicked, this, &QDialog::reject);
+    connect(ui_->tblProjects, &QTableView::clicked, this,
+            [this](const QModelIndex &index) { model_->toggle(index.row()); });
+    connect(model_, &ExchangeTableModel::chosen, this, &ImExportProjectDialog::showPlan);
+    for (QRadioButton *option : {ui_->rBtnReplace, ui_->rBtnNone, ui_->rBtnReset, ui_->rBtnCustom})
+        connect(option, &QRadioButton::toggled, this, &ImExportProjectDialog::showPlan);
+    connect(ui_->chbProjectTemplates, &QCheckBox::toggled, this, &ImExportProjectDialog::showState);
+    connect(ui_->message, &MessageBar::undoWanted, this, &ImExportProjectDialog::undo);
+}
+
+void ImExportProjectDialog::setTexts()
+{
+    setWindowTitle(isImport_ ? tr("Import projects") : tr("Export projects"));
+    ui_->lblTitle->setText(windowTitle());
+    ui_->btnWork->setText(isImport_ ? tr("Import") : tr("Export"));
+    ui_->btnWork->setAccessibleName(windowTitle());
+    ui_->edtTarget->setPlaceholderText(tr("No folder is chosen"));
+    ui_->edtTemplates->setPlaceholderText(tr("No file is chosen"));
+    model_->setTitles({QString(), isImport_ ? tr("Archive") : tr("Project"), tr("What will happen")});
+}
+
+// ---------------------------------------------------------------- choosing
+
+void ImExportProjectDialog::listProjects()
+{
+    QVector<ExchangeTableModel::Row> rows;
+    for (const QString &name : palx::projectNames())
+        rows.append({name, name, QString(), false, QString(), State::None});
+    model_->setRows(rows);
+}
+
+void ImExportProjectDialog::chooseProject(const QString &name)
+{
+    for (int i = 0; i < model_->rows().size(); ++i)
+        if (model_->rows().at(i).item == name && !model_->rows().at(i).isChecked)
+            model_->toggle(i);
+}
+
+void ImExportProjectDialog::chooseArchives()
+{
+    const QStringList archives = xFileDialog::getOpenFileNames(
+        this, tr("Choose project archives"), rememberedFolder(kImportFolder), archiveFilter());
+    if (archives.isEmpty())
+        return;
+    rememberFolder(kImportFolder, QFileInfo(archives.first()).absolutePath());
+    listArchives(archives);
+}
+
+/// Each is read whole, so that what cannot be imported is known before.
+void ImExportProjectDialog::listArchives(const QStringList &archives)
+{
+    QVector<ExchangeTableModel::Row> rows;
+    const auto work = [&](palx::Progress &progress) {
+        for (const QString &archive : archives) {
+            palx::ArchiveContent content;
+            QString why;
+            const bool isFine = palx::checkArchive(archive, &content, &why, &progress);
+            if (progress.isCancelled())
+                return;
+            const QString named = palx::planImport({archive}, OnClash::Rename).first().problem;
+            why = named.isEmpty() ? why : named;
+            rows.append({QFileInfo(archive).fileName(), archive, why, isFine && why.isEmpty(), QString(),
+                         State::None});
+        }
+    };
+    if (palx::runInSlices(this, tr("Checking the archives"), work) == palx::WorkEnd::Finished)
+        model_->setRows(rows);
+}
+
+void ImExportProjectDialog::chooseTarget()
+{
+    const QString folder = xFileDialog::getExistingDirectory(this, tr("Choose a folder for the archives"),
+                                                             rememberedFolder(kExportFolder));
+    if (folder.isEmpty())
+        return;
+    rememberFolder(kExportFolder, folder);
+    ui_->edtTarget->setText(folder);
+    showPlan();
+}
+
+void ImExportProjectDialog::chooseTemplates()
+{
+    const QString file = xFileDialog::getOpenFileName(this, tr("Choose the archive of templates"),
+                                                      rememberedFolder(kImportFolder), archiveFilter());
+    if (file.isEmpty())
+        return;
+    rememberFolder(kImportFolder, QFileInfo(file).absolutePath());
+    ui_->edtTemplates->setText(file);
+    ui_->rBtnCustom->setChecked(true);
+    showState();
+}
+
+// ---------------------------------------------------------------- what will happen
+
+void ImExportProjectDialog::showPlan()
+{
+    if (isImport_)
+        showImportPlan();
+    else
+        showExportPlan();
+    showState();
+}
+
+void ImExportProjectDialog::showImportPlan()
+{
+    const QVector<palx::ImportPlan> plans = palx::planImport(model_->checked(), importRequest().onClash);
+    int next = 0;
+    for (int i = 0; i < model_->rows().size(); ++i) {
+        const ExchangeTableModel::Row row = model_->rows().at(i);
+        if (!row.isChecked) {
+            model_->setBecomes(i, row.problem.isEmpty() ? tr("Not imported") : row.problem,
+                               row.problem.isEmpty() ? State::None : State::Fault);
+            continue;
+        }
+        const palx::ImportPlan plan = plans.at(next++);
+        const QString text = plan.isReplacing ? tr("Replaces the project %1")
+                             : plan.isRenamed ? tr("Renamed to %1")
+                                              : tr("New project %1");
+        model_->setBecomes(i, text.arg(plan.name), plan.isReplacing ? State::Attention : State::None);
+    }
+}
+
+void ImExportProjectDialog::showExportPlan()
+{
+    const QString target = ui_->edtTarget->text();
+    for (int i = 0; i < model_->rows().size(); ++i) {
+        const ExchangeTableModel::Row row = model_->rows().at(i);
+        const QFileInfo archive(palx::archivePath(target, row.item));
+        const bool isReplacing = row.isChecked && !target.isEmpty() && archive.exists();
+        QString text = row.isChecked ? tr("New file %1").arg(archive.fileName()) : tr("Not exported");
+        if (isReplacing)
+            text =
+                tr("Replaces %1 of %2")
+                    .arg(archive.fileName(), locale().toString(archive.lastModified(), QLocale::ShortFormat));
+        model_->setBecomes(i, text, isReplacing ? State::Attention : State::None);
+    }
+}
+
+void ImExportProjectDialog::showState()
+{
+    const bool isCustom = ui_->rBtnCustom->isChecked();
+    ui_->edtTemplates->setEnabled(isCustom);
+    const bool hasChoice = isImport_ ? !ui_->rBtnNone->isChecked() : ui_->chbProjectTemplates->isChecked();
+    const bool canUse = !isImport_ || !isCustom || !ui_->edtTemplates->text().isEmpty();
+    ui_->btnWork->setEnabled(canUse && (hasChoice || !model_->checked().isEmpty()));
+    ui_->btnAll->setEnabled(!model_->rows().isEmpty());
+    ui_->btnNone->setEnabled(!model_->checked().isEmpty());
+}
+
+void ImExportProjectDialog::showUndo()
+{
+    const QStringList made = palx::lastImported();
+    if (isImport_ && !made.isEmpty())
+        ui_->message->showUndo(tr("Imported: %1").arg(made.join(QStringLiteral(", "))), State::Running);
+}
+
+// ---------------------------------------------------------------- doing it
+
+palx::ImportRequest ImExportProjectDialog::importRequest() const
+{
+    palx::ImportRequest request;
+    request.archives = model_->checked();
+    request.onClash = ui_->rBtnReplace->isChecked() ? OnClash::Replace : OnClash::Rename;
+    if (ui_->rBtnReset->isChecked())
+        request.templates = TemplateAction::Reset;
+    else if (ui_->rBtnCustom->isChecked())
+        request.templates = TemplateAction::Custom;
+    request.templateArchive = ui_->edtTemplates->text();
+    request.programFolder = programFolder_;
+    return request;
+}
+
+void ImExportProjectDialog::work()
+{
+    ui_->message->clearMessage();
+    if (isImport_)
+        importChosen();
+    else
+        exportChosen();
+}
+
+void ImExportProjectDialog::exportChosen()
+{
+    const palx::ExportRequest request{model_->checked(), ui_->chbProjectTemplates->isChecked(),
+                                      ui_->edtTarget->text(), programFolder_};
+    bool isDone = false;
+    const auto end = palx::runInSlices(this, windowTitle(), [&](palx::Progress &progress) {
+        isDone = palx::exportProjects(request, &progress);
+    });
+    showPlan();
+    if (isDone)
+        ui_->message->showMessage(
+            QStringList({tr("Exported."), xFileDialog::removalText(request.target, true)})
+                .join(QLatin1Char(' ')),
+            State::Running);
+    else if (end == palx::WorkEnd::Cancelled)
+        ui_->message->showMessage(tr("Cancelled: the folder is as it was before."), State::Stopped);
+    else
+        ui_->message->showMessage(tr("Not everything was exported; the log says why."), State::Fault);
+}
+
+void ImExportProjectDialog::importChosen()
+{
+    const palx::ImportRequest request = importRequest();
+    bool isDone = false;
+    const auto end = palx::runInSlices(this, windowTitle(), [&](palx::Progress &progress) {
+        isDone = palx::importProjects(request, &progress);
+    });
+    Q_EMIT projectsChanged();
+    if (end == palx::WorkEnd::Cancelled)
+        return ui_->message->showMessage(tr("Cancelled: everything is as it was before."), State::Stopped);
+    if (isDone) {
+        ui_->rBtnNone->setChecked(true);
+        model_->setRows({});
+    }
+    showPlan();
+    if (!isDone && palx::lastImported().isEmpty())
+        ui_->message->showMessage(tr("Nothing was imported; the log says why."), State::Fault);
+    showUndo();
+}
+
+void ImExportProjectDialog::undo()
+{
+    const QString question = tr("Take the last import back? What was changed in it since is lost: %1")
+                                 .arg(palx::lastImported().join(QStringLiteral(", ")));
+    if (!nexo::ManagerHelper::instance()->execMsgOk(windowTitle(), question))
+        return showUndo();
+    if (palx::undoLastImport())
+        ui_->message->showMessage(tr("The last import was taken back."), State::Running);
+    else
+        showUndo();
+    Q_EMIT projectsChanged();
+    showPlan();
+}
+
+void ImExportProjectDialog::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui_->retranslateUi(this);
+        setTexts();
+        showPlan();
+    }
+    QDialog::changeEvent(event);
+}
