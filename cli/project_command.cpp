@@ -2,12 +2,15 @@
 
 #include "orba/module_manager.h"
 #include "project/rules/project_commit.h"
+#include "project/rules/project_export.h"
+#include "project/rules/project_import.h"
 #include "project/rules/project_place.h"
 #include "project/rules/project_record.h"
 #include "project/rules/project_tasks.h"
 #include "project/rules/project_variables.h"
 #include "workstation/plugin_node.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 namespace cli {
@@ -64,10 +67,12 @@ bool readParameters(const ProjectRequest &request, Node *parameters)
 bool areThere(const ProjectRequest &request)
 {
     QStringList wanted;
-    if (request.what != What::List && request.what != What::Create && !request.name.isEmpty())
+    if (request.what != What::Create && !request.name.isEmpty())
         wanted.append(request.name);
     if (!request.source.isEmpty())
         wanted.append(request.source);
+    if (request.what == What::Export)
+        wanted += request.files;
     const QStringList names = palx::projectNames();
     for (const QString &name : wanted) {
         if (names.contains(name))
@@ -77,6 +82,39 @@ bool areThere(const ProjectRequest &request)
         return false;
     }
     return true;
+}
+
+/// Shows how far an exchange has come, on a terminal.
+class TerminalProgress : public palx::NoProgress
+{
+public:
+    void step(int done, int total, const QString &text) override { line_.show(text, done, total); }
+
+private:
+    cli::Progress line_;
+};
+
+bool importArchives(const ProjectRequest &request)
+{
+    palx::ImportRequest import;
+    for (const QString &file : request.files)
+        import.archives.append(QFileInfo(file).absoluteFilePath());
+    import.onClash = request.isReplacing ? palx::OnClash::Replace : palx::OnClash::Rename;
+    import.programFolder = QCoreApplication::applicationDirPath();
+    TerminalProgress progress;
+    return palx::importProjects(import, &progress);
+}
+
+bool exportArchives(const ProjectRequest &request)
+{
+    const QString target = QDir(request.targetFolder).absolutePath();
+    if (!QDir().mkpath(target)) {
+        say(target + QStringLiteral(": the folder cannot be made"));
+        return false;
+    }
+    TerminalProgress progress;
+    return palx::exportProjects(
+        {request.files, request.hasTemplates, target, QCoreApplication::applicationDirPath()}, &progress);
 }
 
 bool carryOut(const ProjectRequest &request, Steps *steps)
@@ -97,6 +135,10 @@ bool carryOut(const ProjectRequest &request, Steps *steps)
         return palx::reloadProject(request.name, steps);
     case What::StartUp:
         return palx::setDefaultProject(request.name);
+    case What::Import:
+        return importArchives(request);
+    case What::Export:
+        return exportArchives(request);
     }
     return false;
 }
@@ -172,6 +214,7 @@ int runProject(const ProjectRequest &request)
     Node parameters;
     if (!session || !areThere(request) || !readParameters(request, &parameters))
         return kRefused;
+    palx::recoverExchange(QCoreApplication::applicationDirPath());
     Steps steps(parameters);
     const bool isDone = carryOut(request, &steps);
     return settlePanel(session.get()) && isDone && print(request.output) ? kDone : kRefused;

@@ -14,6 +14,9 @@ using What = ProjectRequest::What;
 struct Arguments
 {
     std::string name, newName, source;
+    std::string onClash = "rename", target;
+    std::vector<std::string> files;
+    bool hasTemplates = false;
     std::string scheme, type, sucker, lift, clapboard, leftRecipe, rightRecipe;
     PlaceArguments place;
 };
@@ -61,6 +64,11 @@ ProjectRequest requestOf(What what, const Arguments &arguments)
     request.newName = text(arguments.newName);
     request.source = text(arguments.source);
     request.places = arguments.place.places();
+    for (const std::string &file : arguments.files)
+        request.files.append(text(file));
+    request.isReplacing = arguments.onClash == "replace";
+    request.hasTemplates = arguments.hasTemplates;
+    request.targetFolder = text(arguments.target);
     for (const Words &each : allWords()) {
         const std::string &word = arguments.*each.value;
         const auto found = std::find(each.words.begin(), each.words.end(), word);
@@ -81,6 +89,25 @@ void addParameters(CLI::App *command, Arguments *arguments)
         command->add_option(each.option, arguments->*each.value, each.help)->check(CLI::IsMember(each.words));
     command->add_option("--left-recipe", arguments->leftRecipe, "name of the left pallet's recipe");
     command->add_option("--right-recipe", arguments->rightRecipe, "name of the right pallet's recipe");
+}
+
+void addImport(CLI::App *command, Arguments *arguments)
+{
+    command->add_option("FILE", arguments->files, "project archives (zip)")->required();
+    command
+        ->add_option(
+            "--on-clash", arguments->onClash,
+            "what happens when there is a project of that name: rename the imported one, or replace it")
+        ->check(CLI::IsMember({"rename", "replace"}))
+        ->capture_default_str();
+}
+
+void addExport(CLI::App *command, Arguments *arguments)
+{
+    command->add_option("NAME", arguments->files, "projects");
+    command->add_flag("--templates", arguments->hasTemplates, "the program templates, too, as mod.zip");
+    command->add_option("-o,--output", arguments->target, "folder for the archives; made when missing")
+        ->required();
 }
 
 } // namespace
@@ -104,6 +131,8 @@ void addProjectCommands(CLI::App &app, std::function<int()> *command)
         {"switch", "switch to a project; without NAME to none", What::Switch, true, false, false},
         {"start-up", "have the controller load a project when it starts; without NAME none", What::StartUp,
          true, false, false},
+        {"import", "make projects from archives", What::Import, false, false, false},
+        {"export", "write an archive NAME.zip for each project", What::Export, false, false, false},
     };
     for (const auto &each : commands) {
         CLI::App *sub = project->add_subcommand(each.name, each.help);
@@ -113,6 +142,10 @@ void addProjectCommands(CLI::App &app, std::function<int()> *command)
             sub->add_option("--clone", arguments->source, "copy the files of this project");
         if (each.what == What::Edit)
             sub->add_option("--rename", arguments->newName, "new name");
+        if (each.what == What::Import)
+            addImport(sub, arguments.get());
+        if (each.what == What::Export)
+            addExport(sub, arguments.get());
         if (each.hasParameters)
             addParameters(sub, arguments.get());
         addPlaces(sub, &arguments->place);

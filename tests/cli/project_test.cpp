@@ -85,6 +85,11 @@ TEST_F(PalxProject, RefusesWithTheReason)
         {{"delete", "none"}, 1, "no project is called \"none\""},
         {{"switch", "none"}, 1, "no project is called \"none\""},
         {{"list", "--controller", "nonsense"}, 1, "\"nonsense\" is no controller"},
+        {{"export", "none", "-o", "zips"}, 1, "no project is called \"none\"; there are: A"},
+        {{"export", "-o", "zips"}, 1, "please select item!"},
+        {{"export", "A"}, 2, "--output is required"},
+        {{"import", "none.zip"}, 1, "there is no such file"},
+        {{"import", "none.zip", "--on-clash", "discard"}, 2, "--on-clash"},
         {{"create"}, 2, "NAME is required"},
         {{"create", "B", "--scheme", "up"}, 2, "--scheme"},
         {{}, 2, "A subcommand is required"},
@@ -96,4 +101,27 @@ TEST_F(PalxProject, RefusesWithTheReason)
         EXPECT_TRUE(refused.out.isEmpty()) << refused.out.constData();
     }
     EXPECT_EQ(names(), QStringList("A"));
+}
+
+TEST_F(PalxProject, LeaveAsArchivesAndComeBack)
+{
+    ASSERT_EQ(run({"create", "Line 1", "--scheme", "both", "--lift", "no"}).code, 0);
+    const PalxRun out = run({"export", "Line 1", "-o", "disk/zips", "--templates"});
+    ASSERT_EQ(out.code, 0) << out.err.constData();
+    EXPECT_TRUE(out.err.contains("Export to ")) << out.err.constData();
+    EXPECT_EQ(QDir(folder.filePath("disk/zips")).entryList(QDir::Files),
+              QStringList({"Line 1.zip", "mod.zip"}));
+    const PalxRun renamed = run({"import", "disk/zips/Line 1.zip"});
+    ASSERT_EQ(renamed.code, 0) << renamed.err.constData();
+    EXPECT_EQ(childTexts(renamed.out, u"name"), QStringList({"Line 1", "Line 1(1)"}));
+    EXPECT_EQ(childTexts(renamed.out, u"parameters.scheme_layout"), QStringList({"2", "2"}));
+    EXPECT_EQ(childTexts(renamed.out, u"parameters.bollard"), QStringList({"1", "1"}));
+    EXPECT_EQ(fileContent(place(QStringLiteral("Line 1(1)/task0/main.mod"))),
+              fileContent(place(QStringLiteral("Line 1/task0/main.mod"))));
+    EXPECT_EQ(run({"edit", "Line 1", "--scheme", "left"}).code, 0);
+    const PalxRun replaced = run({"import", "disk/zips/Line 1.zip", "--on-clash", "replace"});
+    EXPECT_EQ(childTexts(replaced.out, u"parameters.scheme_layout"), QStringList({"2", "2"}));
+    EXPECT_EQ(childTexts(run({"list"}).out, u"parameters.scheme_layout"), QStringList({"2", "2"})); // is kept
+    EXPECT_EQ(QDir(folder.filePath("work")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList("SIM-0001"));
 }
