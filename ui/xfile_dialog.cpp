@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -22,19 +23,25 @@ using palx::Medium;
 
 namespace {
 
-/// A label breaks lines only where a text allows it; long file names do not.
+/// A label breaks lines only where a text allows it; long file names do not. Breaks without width stand behind every sign
+/// and within words that are too long for a line.
 QString breakable(const QString &text)
 {
-    constexpr int kLongest = 16;
+    constexpr int kLongest = 24;
+    static const QRegularExpression parts(QStringLiteral("[^\\W_]+|."),
+                                          QRegularExpression::UseUnicodePropertiesOption |
+                                              QRegularExpression::DotMatchesEverythingOption);
+    const QChar gap(0x200b);
     QString broken;
-    int run = 0;
-    for (const QChar c : text) {
-        run = c.isLetterOrNumber() && run < kLongest ? run + 1 : 0;
-        broken += c;
-        if (run == 0 && !c.isHighSurrogate())
-            broken += QChar(0x200b); // a break without width
+    for (auto match = parts.globalMatch(text); match.hasNext();) {
+        const QString part = match.next().captured();
+        if (part.size() > kLongest)
+            for (const QChar letter : part)
+                broken += letter.isHighSurrogate() ? QString(letter) : letter + QString(gap);
+        else
+            broken += part.at(0).isLetterOrNumber() ? part : part + gap;
     }
-    return broken;
+    return broken.isEmpty() ? text : broken; // no valid text has no parts
 }
 
 QString titleOf(const Medium &medium)

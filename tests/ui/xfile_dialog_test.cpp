@@ -1,89 +1,15 @@
-#include "ui/xfile_dialog.h"
+#include "ui/stick_fixture.h"
 
 #include "nexo/setting_manager.h"
-#include "support/fake_machine.h"
 #include "support/scripted_files.h"
-#include "ui/dialog_fixture.h"
 #include "ui/name_dialog.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QProgressBar>
-#include <QPushButton>
-#include <QTableView>
 #include <QTimer>
-#include <QtTest/QTest>
 
 #include <gtest/gtest.h>
-
-namespace {
-
-const QString kFilter = QStringLiteral("XML (*.xml)");
-
-/// A machine with one disk, mounted at a place with blanks and letters of another script.
-struct Stick
-{
-    Stick() : root(machine.addFolder(QStringLiteral("ДИСК 上海")))
-    {
-        machine.addStick();
-        mount();
-    }
-    void mount(const char *options = "rw", const char *fileSystem = "vfat")
-    {
-        machine.setMounts({FakeMachine::mount(QStringLiteral("8:17"), root, options, fileSystem)});
-    }
-    QString file(const QString &name, const QByteArray &bytes = "x") const
-    {
-        const QString path = root + QLatin1Char('/') + name;
-        FakeMachine::write(path, bytes);
-        return path;
-    }
-    FakeMachine machine;
-    QString root;
-};
-
-struct Dialog : xFileDialog
-{
-    Dialog(const Stick &stick, FileRequest::Kind kind, const QString &start = QString(),
-           const QString &filter = kFilter)
-        : xFileDialog({kind, QStringLiteral("Open XML file"), start, filter}, quick(stick.machine.places()),
-                      nullptr)
-    {
-    }
-    static palx::MediaPlaces quick(palx::MediaPlaces places)
-    {
-        places.lookEveryMs = 1;
-        return places;
-    }
-    QAbstractItemModel *files() const { return partOf<QTableView>(*this, "tblFiles")->model(); }
-    QStringList names() const
-    {
-        QStringList names;
-        for (int row = 0; row < files()->rowCount(); ++row)
-            names.append(files()->index(row, 0).data().toString());
-        return names;
-    }
-    void touch(const QString &name)
-    {
-        auto *table = partOf<QTableView>(*this, "tblFiles");
-        const QModelIndex index = files()->index(names().indexOf(name), 0);
-        ASSERT_TRUE(index.isValid()) << qPrintable(name);
-        table->scrollTo(index);
-        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, table->visualRect(index).center());
-    }
-    void type(const QString &name) { partOf<QLineEdit>(*this, "edtName")->setText(name); }
-    void press(const char *button) { partOf<QPushButton>(*this, button)->click(); }
-    bool canConfirm() const { return partOf<QPushButton>(*this, "btnOk")->isEnabled(); }
-    /// A label's text without the marks that let it break.
-    QString text(const char *label = "lblState") const
-    {
-        return partOf<QLabel>(*this, label)->text().remove(QChar(0x200b));
-    }
-};
-
-} // namespace
 
 TEST(XFileDialog, OpensAFileOfAFolder)
 {
@@ -91,7 +17,7 @@ TEST(XFileDialog, OpensAFileOfAFolder)
     const QString wanted = stick.file(QStringLiteral("Рецепты/паллета 1.xml"));
     stick.file(QStringLiteral("Рецепты/b.txt"));
     stick.file(QStringLiteral(".hidden.xml"));
-    Dialog dialog(stick, FileRequest::Open);
+    FileDialog dialog(stick, FileRequest::Open);
     dialog.show();
     EXPECT_EQ(dialog.names(), QStringList(QStringLiteral("Рецепты")));
     EXPECT_FALSE(dialog.canConfirm());
@@ -109,7 +35,7 @@ TEST(XFileDialog, OpensSeveralFiles)
     const Stick stick;
     const QStringList wanted{stick.file(QStringLiteral("a.zip")), stick.file(QStringLiteral("c.zip"))};
     stick.file(QStringLiteral("b.zip"));
-    Dialog dialog(stick, FileRequest::OpenSeveral, QString(), QStringLiteral("ZIP (*.zip)"));
+    FileDialog dialog(stick, FileRequest::OpenSeveral, QString(), QStringLiteral("ZIP (*.zip)"));
     dialog.show();
     for (const char *name : {"a.zip", "b.zip", "c.zip", "b.zip"}) // the second touch lets go
         dialog.touch(QLatin1String(name));
@@ -123,14 +49,14 @@ TEST(XFileDialog, BeginsWhereItWasLastAndGoesNoHigherThanTheDisk)
     const Stick stick;
     stick.file(QStringLiteral("Рецепты/2026/a.xml"));
     const QString last = stick.root + QStringLiteral("/Рецепты/2026");
-    Dialog dialog(stick, FileRequest::Open, last);
+    FileDialog dialog(stick, FileRequest::Open, last);
     EXPECT_EQ(dialog.text("lblPath"), QStringLiteral("ДИСК 上海 \u203a Рецепты \u203a 2026"));
     EXPECT_EQ(dialog.names(), QStringList(QStringLiteral("a.xml")));
     dialog.press("btnUp");
     dialog.press("btnUp");
     EXPECT_EQ(dialog.text("lblPath"), QStringLiteral("ДИСК 上海"));
     EXPECT_FALSE(partOf<QPushButton>(dialog, "btnUp")->isEnabled());
-    const Dialog elsewhere(stick, FileRequest::Open, QStringLiteral("/etc"));
+    const FileDialog elsewhere(stick, FileRequest::Open, QStringLiteral("/etc"));
     EXPECT_EQ(elsewhere.text("lblPath"), QStringLiteral("ДИСК 上海"));
 }
 
@@ -152,7 +78,7 @@ TEST(XFileDialog, SavesUnderANameThatTheDiskCanKeep)
         {QString(252, QLatin1Char('x')), nullptr, "The name is too long: 256 of 255 characters."},
         {QString(), nullptr, "The file needs a name."}};
     for (const auto &c : cases) {
-        Dialog dialog(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
+        FileDialog dialog(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
         dialog.type(c.typed);
         EXPECT_EQ(dialog.text(), QString::fromUtf8(c.text));
         dialog.press("btnOk");
@@ -166,7 +92,7 @@ TEST(XFileDialog, ProposesTheNameAndTakesThatOfATouchedFile)
 {
     const Stick stick;
     stick.file(QStringLiteral("old.xml"));
-    Dialog dialog(stick, FileRequest::Save, stick.root + QStringLiteral("/gone/pallet.xml"));
+    FileDialog dialog(stick, FileRequest::Save, stick.root + QStringLiteral("/gone/pallet.xml"));
     dialog.show();
     EXPECT_EQ(dialog.text(), QStringLiteral("pallet.xml"));
     dialog.touch(QStringLiteral("old.xml"));
@@ -179,7 +105,7 @@ TEST(XFileDialog, AsksBeforeItReplacesAFile)
     const QString there = stick.file(QStringLiteral("pallet.xml"));
     for (const bool answer : {false, true}) {
         ScriptedPresenter presenter({answer});
-        Dialog dialog(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
+        FileDialog dialog(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
         dialog.press("btnOk");
         ASSERT_EQ(presenter.asked.size(), 1);
         EXPECT_EQ(messageText(presenter.asked.first()),
@@ -194,12 +120,12 @@ TEST(XFileDialog, AWriteProtectedDiskIsOnlyRead)
     stick.file(QStringLiteral("a.xml"));
     stick.mount("ro");
     for (const auto kind : {FileRequest::Save, FileRequest::Folder}) {
-        const Dialog dialog(stick, kind, QStringLiteral("pallet.xml"));
+        const FileDialog dialog(stick, kind, QStringLiteral("pallet.xml"));
         EXPECT_EQ(dialog.text(), QStringLiteral("The disk is write-protected. Nothing can be saved on it."));
         EXPECT_FALSE(dialog.canConfirm());
         EXPECT_FALSE(partOf<QPushButton>(dialog, "btnNewFolder")->isEnabled());
     }
-    Dialog dialog(stick, FileRequest::Open);
+    FileDialog dialog(stick, FileRequest::Open);
     dialog.show();
     dialog.touch(QStringLiteral("a.xml"));
     EXPECT_TRUE(dialog.canConfirm());
@@ -209,7 +135,7 @@ TEST(XFileDialog, MakesAFolderAndChoosesIt)
 {
     const Stick stick;
     stick.file(QStringLiteral("a.xml"));
-    Dialog dialog(stick, FileRequest::Folder);
+    FileDialog dialog(stick, FileRequest::Folder);
     QTimer::singleShot(0, &dialog, [&] {
         auto *naming = dialog.findChild<NameDialog *>();
         naming->setName(QStringLiteral("a:"));
@@ -230,7 +156,7 @@ TEST(XFileDialog, FollowsTheDisk)
     Stick stick;
     stick.file(QStringLiteral("a.xml"));
     stick.machine.setMounts({});
-    Dialog dialog(stick, FileRequest::Open);
+    FileDialog dialog(stick, FileRequest::Open);
     dialog.show();
     const auto *body = partOf<QWidget>(dialog, "pagNoDisk");
     EXPECT_TRUE(body->isVisible());
@@ -264,7 +190,7 @@ TEST(XFileDialog, ADiskThatIsPulledLastIsNotWrittenTo)
     } puller;
     puller.pull = [&] { stick.machine.setMounts({FakeMachine::mount(QStringLiteral("8:33"), other)}); };
     nexo::ManagerHelper::instance()->setPresenter(&puller);
-    Dialog dialog(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
+    FileDialog dialog(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
     dialog.press("btnOk");
     nexo::ManagerHelper::instance()->setPresenter(nullptr);
     EXPECT_EQ(dialog.chosen(), QStringList()) << "the other disk was not asked about";
@@ -276,7 +202,7 @@ TEST(XFileDialog, AFileThatIsGoneIsNotOpened)
 {
     const Stick stick;
     const QString path = stick.file(QStringLiteral("a.xml"));
-    Dialog dialog(stick, FileRequest::Open);
+    FileDialog dialog(stick, FileRequest::Open);
     dialog.show();
     dialog.touch(QStringLiteral("a.xml"));
     QFile::remove(path);
@@ -289,7 +215,7 @@ TEST(XFileDialog, KeysWorkTheList)
 {
     const Stick stick;
     stick.file(QStringLiteral("folder/a.xml"));
-    Dialog dialog(stick, FileRequest::Open);
+    FileDialog dialog(stick, FileRequest::Open);
     dialog.show();
     auto *table = partOf<QTableView>(dialog, "tblFiles");
     table->setFocus();
@@ -308,7 +234,7 @@ TEST(XFileDialog, ShowsTheSpaceAndEveryDisk)
     FakeMachine::write(other + QStringLiteral("/b.xml"), "x");
     stick.machine.setMounts({FakeMachine::mount(QStringLiteral("8:17"), stick.root),
                              FakeMachine::mount(QStringLiteral("8:33"), other)});
-    const Dialog dialog(stick, FileRequest::Open);
+    const FileDialog dialog(stick, FileRequest::Open);
     auto *disks = partOf<QComboBox>(dialog, "cmbDisk");
     ASSERT_EQ(disks->count(), 2);
     EXPECT_EQ(disks->currentText(), QStringLiteral("ДИСК 上海 (sdb1)"));
