@@ -18,6 +18,7 @@ using orba::ModuleObject;
 using orba::Node;
 
 const QString kAllStacks = QStringLiteral("pallet.data");
+const QString kModifyVariables = QStringLiteral("monitor.pers.modify");
 constexpr const char *kAxes[] = {"x", "y", "z"};
 constexpr const char *kEulerAngles[] = {"a", "b", "c"};
 
@@ -64,6 +65,23 @@ bool activate(const Node &record, const QString &name)
     (selection->isEmptyMobj() ? m("quill.body.toolset") : selection)->set(nullptr, "", name);
     writePluginInfo(QStringLiteral("set toolset success"));
     return true;
+}
+
+/// Puts the change of a persistent variable into the payload; other types and unknown or plain variables add nothing.
+void addChange(const QString &name, const QString &value, Node *modify)
+{
+    const Node &variables = m("quill.project.var._list")->node();
+    for (int i = 0; i < variables.size(); ++i) {
+        const Node *variable = variables.at(i);
+        if (!variable || !variable->getBool(u"pers") || variable->getString(u"name") != name)
+            continue;
+        const QString type = variable->getString(u"type");
+        if (type == QLatin1String("double"))
+            modify->ensureChild(orba::Name(name))->setDouble(value.toDouble());
+        else if (type == QLatin1String("bool") || type == QLatin1String("int"))
+            modify->ensureChild(orba::Name(name))->setInt(value.toLongLong());
+    }
+    writePluginLog(QStringLiteral("Modify PERS Var: ") + name + QStringLiteral(" = ") + value);
 }
 
 ModuleObject *firstGlobalTool()
@@ -120,19 +138,26 @@ void setValueOfPERSVar(const QString &name, const QString &value)
 {
     ModuleObject modify(QStringLiteral("modify"));
     modify.node().reset(Node::Kind::Map);
-    const Node &variables = m("quill.project.var._list")->node();
-    for (int i = 0; i < variables.size(); ++i) {
-        const Node *variable = variables.at(i);
-        if (!variable || !variable->getBool(u"pers") || variable->getString(u"name") != name)
+    addChange(name, value, &modify.node());
+    xservice()->command(nullptr, kModifyVariables, &modify);
+}
+
+void changePersVariables(const VariableChanges &changes, QObject *sender,
+                         std::function<void(const XReply &)> answered)
+{
+    ModuleObject modify(QStringLiteral("modify"));
+    modify.node().reset(Node::Kind::Map);
+    for (const auto &[name, value] : changes) {
+        addChange(name, value, &modify.node());
+        if (modify.node().child(name))
             continue;
-        const QString type = variable->getString(u"type");
-        if (type == QLatin1String("double"))
-            modify.node().ensureChild(orba::Name(name))->setDouble(value.toDouble());
-        else if (type == QLatin1String("bool") || type == QLatin1String("int"))
-            modify.node().ensureChild(orba::Name(name))->setInt(value.toLongLong());
+        XReply refusal;
+        refusal.status = XReply::Status::Refused;
+        refusal.error =
+            QCoreApplication::translate("palx", "The project has no such variable: %1").arg(name);
+        return answered(refusal);
     }
-    writePluginLog(QStringLiteral("Modify PERS Var: ") + name + QStringLiteral(" = ") + value);
-    xservice()->command(nullptr, QStringLiteral("monitor.pers.modify"), &modify);
+    xservice()->command(sender, kModifyVariables, &modify, std::move(answered));
 }
 
 bool checkNexoVersion(const QString &prefix)

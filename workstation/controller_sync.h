@@ -3,6 +3,11 @@
 #include "orba/module_object.h"
 #include "xservice.h"
 
+#include <QPair>
+#include <QVector>
+
+#include <functional>
+
 /// The plug-in's only way to the controller: recipes, variables, tools. GUI thread; blocking calls wait at most the
 /// timeout of the service. Results are checked only where a function says so.
 namespace palx {
@@ -27,6 +32,15 @@ PALX_API void saveNameToRC(int index, const QString &name, const QString &desc);
 /// variables of type "double", as a decimal integer for "bool" and "int" (anything else sends 0); other types and
 /// unknown or plain variables send an empty change.
 PALX_API void setValueOfPERSVar(const QString &name, const QString &value);
+
+/// Variables of the current project by name, and their new values as texts.
+using VariableChanges = QVector<QPair<QString, QString>>;
+
+/// Sets several persistent variables at once, all of them or none, each read as above, and does not wait. `answered` gets
+/// the answer once, as long as `sender` lives. A name that is no persistent number or bool of the project is refused at
+/// once, and nothing is sent.
+PALX_API void changePersVariables(const VariableChanges &changes, QObject *sender,
+                                  std::function<void(const XReply &)> answered);
 
 /// Whether the controller's software version starts with `prefix`.
 PALX_API bool checkNexoVersion(const QString &prefix);

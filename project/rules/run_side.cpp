@@ -1,0 +1,234 @@
+#include "project/rules/run_side.h"
+
+#include "project/rules/project_record.h"
+#include "stack/recipe_layers.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+namespace palx {
+
+using orba::Node;
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(palx::RunText)
+};
+
+const Node *variableOf(const Node &variables, const QString &name)
+{
+    for (int i = 0; i < variables.size(); ++i)
+        if (variables.at(i) && variables.at(i)->getString(u"name") == name)
+            return variables.at(i);
+    return nullptr;
+}
+
+/// Values of the variables of one side.
+class Values
+{
+public:
+    Values(const Node &variables, PalletSide side) : variables_(variables), side_(side) {}
+
+    bool has(const char *stem) const { return variableOf(variables_, sideVariable(stem, side_)) != nullptr; }
+    const Node &value(const char *stem) const { return valueOf(sideVariable(stem, side_)); }
+    int number(const char *stem) const { return wholeNumber(value(stem)); }
+    int shared(const char *name) const { return wholeNumber(valueOf(QLatin1String(name))); }
+
+private:
+    const Node &valueOf(const QString &name) const
+    {
+        static const Node none;
+        const Node *variable = variableOf(variables_, name);
+        const Node *value = variable ? variable->find(u"value.[0][0][0]") : nullptr;
+        return value ? *value : none;
+    }
+    static int wholeNumber(const Node &value) { return static_cast<int>(value.toInt()); }
+
+    const Node &variables_;
+    PalletSide side_;
+};
+
+const Node *putPoints(const Node &stack)
+{
+    const Node *put = stack.find(u"points.put");
+    return put && put->kind() == Node::Kind::List ? put : nullptr;
+}
+
+bool isSheet(const Node &stack, int layer)
+{
+    return stack.getString(QStringLiteral("layers.#%1.pattern").arg(layer - 1)) == kSheetPattern;
+}
+
+/// 0 left, 1 right, 2 both sides of one line.
+bool layoutHas(const Node &project, PalletSide side)
+{
+    const qint64 layout = project.getInt(u"scheme_layout", -1);
+    return layout == 2 || layout == static_cast<int>(side);
+}
+
+QString noPoints()
+{
+    return Text::tr("The recipe has no points yet. Generate them on the page \"Points\".");
+}
+
+} // namespace
+
+QString sideVariable(const char *stem, PalletSide side)
+{
+    return QLatin1String(stem) + QLatin1Char(side == PalletSide::Left ? 'L' : 'R');
+}
+
+bool operator==(const RunSide &a, const RunSide &b)
+{
+    const auto all = [](const RunSide &s) {
+        return std::tie(s.isPart, s.recipes, s.recipe, s.isEnabled, s.isFull, s.isStacked, s.piled, s.expected,
+                        s.layer, s.layers, s.piece, s.pieces, s.pallets, s.cycleSeconds);
+    };
+    return all(a) == all(b);
+}
+
+RunSide readRunSide(const RunSource &source, PalletSide which)
+{
+    const Values values(source.variables, which);
+    RunSide side;
+    side.isPart = layoutHas(source.project, which) && values.has("enableStack") && values.has("palletIndex");
+    side.recipes = sideRecipes(source.stacks, which == PalletSide::Left);
+    side.recipe = values.number("palletIndex");
+    side.isEnabled = values.value("enableStack").toBool();
+    side.isFull = values.number("flag") != 0;
+    side.isStacked = source.program.getString(u"state") != QLatin1String("stopped") &&
+                     values.shared("palletStatus") == static_cast<int>(which) + 1;
+    side.piled = values.number("palletCount");
+    side.layer = values.number("currentLayer");
+    side.piece = values.number("layerCount");
+    side.pallets = values.number("totalPallets");
+    side.cycleSeconds = values.value("cycleTime").toDouble();
+    if (const Node *stack = recipeOfSide(source.stacks, which, side.recipe)) {
+        side.layers = pointLayers(*stack);
+        side.pieces = layerPieces(*stack, side.layer);
+        side.expected = piecesBefore(*stack, side.layers + 1, 1, false);
+    }
+    return side;
+}
+
+const Node *recipeOfSide(const Node &stacks, PalletSide side, int index)
+{
+    int place = 0;
+    for (int i = 0; i < stacks.size(); ++i) {
+        const Node *stack = stacks.at(i);
+        if (stack && (stack->getInt(u"pallet_position") == 0) == (side == PalletSide::Left) && place++ == index)
+            return stack;
+    }
+    return nullptr;
+}
+
+int pointLayers(const Node &stack)
+{
+    const Node *put = putPoints(stack);
+    return put ? put->size() : 0;
+}
+
+int layerPieces(const Node &stack, int layer)
+{
+    const Node *put = putPoints(stack);
+    if (!put || layer < 1 || layer > put->size() || isSheet(stack, layer))
+        return 0;
+    return put->at(layer - 1)->size();
+}
+
+int piecesBefore(const Node &stack, int layer, int piece, bool withSheets)
+{
+    int count = 0;
+    const int layers = pointLayers(stack);
+    for (int i = 1; i <= std::min(layer - 1, layers); ++i)
+        count += withSheets && isSheet(stack, i) ? 1 : layerPieces(stack, i);
+    return layer <= layers ? count + std::clamp(piece - 1, 0, layerPieces(stack, layer)) : count;
+}
+
+RunState runState(const RunSide &side, bool isConnected, const Node &program, bool isRobotMoving)
+{
+    if (!isConnected)
+        return RunState::NoController;
+    if (!side.isPart)
+        return RunState::Absent;
+    const QString state = program.getString(u"state");
+    if (program.getBool(u"fault") && side.isEnabled)
+        return RunState::Fault;
+    if (side.isFull)
+        return RunState::Full;
+    if (state == QLatin1String("paused") && side.isEnabled)
+        return RunState::Paused;
+    if (state == QLatin1String("stopped") && isRobotMoving)
+        return RunState::MovedByHand;
+    if (side.isStacked)
+        return RunState::Stacking;
+    if (!side.isEnabled)
+        return RunState::Disabled;
+    return state == QLatin1String("stopped") ? RunState::Standing : RunState::Waiting;
+}
+
+QString startProblem(const RunSide &side, const Node *stack, int layer, int piece)
+{
+    if (!stack)
+        return Text::tr("The controller names a recipe that is not here.");
+    const int layers = pointLayers(*stack);
+    if (layers == 0)
+        return noPoints();
+    if (layer < 1 || layer > layers)
+        return Text::tr("The recipe has the layers 1 to %1.").arg(layers);
+    const int pieces = layerPieces(*stack, layer);
+    if (pieces == 0)
+        return piece == 1 ? QString() : Text::tr("Layer %1 is a separator sheet.").arg(layer);
+    if (piece < 1 || piece > pieces)
+        return Text::tr("Layer %1 has the pieces 1 to %2.").arg(layer).arg(pieces);
+    return side.isStacked ? Text::tr("The robot is stacking this side. Stop the program first.") : QString();
+}
+
+QString recipeChangeProblem(const RunSide &side)
+{
+    return side.isEnabled || side.isStacked ? Text::tr("The side is in use. Disable it and let the robot end its pallet, or stop the program.") : QString();
+}
+
+QString enableProblem(const RunSide &side, const Node *stack)
+{
+    if (side.recipes.isEmpty())
+        return Text::tr("There is no recipe for this side.");
+    if (!stack)
+        return Text::tr("The controller names a recipe that is not here.");
+    return pointLayers(*stack) == 0 ? noPoints() : QString();
+}
+
+VariableChanges enableChanges(PalletSide side, bool on)
+{
+    return {{sideVariable("enableStack", side), QString::number(on ? 1 : 0)}};
+}
+
+VariableChanges startChanges(PalletSide side, const Node &stack, int layer, int piece)
+{
+    return {{sideVariable("currentLayer", side), QString::number(layer)},
+            {sideVariable("layerCount", side), QString::number(piece)},
+            {sideVariable("palletCount", side), QString::number(piecesBefore(stack, layer, piece, false))}};
+}
+
+VariableChanges recipeChanges(PalletSide side, const Node &stack, int index)
+{
+    const long height = std::lround(stack.getDouble(u"product_cfg.product.height"));
+    return VariableChanges{{sideVariable("palletIndex", side), QString::number(index)},
+                           {sideVariable("boxHeight", side), QString::number(height)}} +
+           startChanges(side, stack, 1, 1);
+}
+
+VariableChanges resetChanges(PalletSide side)
+{
+    VariableChanges changes;
+    for (const char *stem : {"totalPallets", "palletTotalCount", "totalPiledCount", "cycleTime"})
+        changes.append({sideVariable(stem, side), QStringLiteral("0")});
+    return changes;
+}
+
+} // namespace palx
