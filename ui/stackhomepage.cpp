@@ -11,13 +11,16 @@
 #include "ui/recipe_list_model.h"
 #include "ui/recipe_tables.h"
 #include "ui/recipe_texts.h"
+#include "ui/run_frame.h"
 #include "ui_stackhomepage.h"
 #include "workstation/controller_recipes.h"
 #include "workstation/plugin_node.h"
 #include "workstation/unique_widget.h"
 
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QSortFilterProxyModel>
+#include <QStackedWidget>
 
 using ix::xtheme::Glyph;
 using ix::xtheme::State;
@@ -32,6 +35,17 @@ QString pageKey(const char *page)
     return mName(palx::getPluginName(), QLatin1String(page));
 }
 
+QPushButton *partButton(const QString &name, QHBoxLayout *row)
+{
+    auto *button = new QPushButton;
+    button->setObjectName(name);
+    button->setCheckable(true);
+    button->setAutoExclusive(true);
+    ix::xtheme::setRole(button, QStringLiteral("tab"));
+    row->addWidget(button);
+    return button;
+}
+
 void raise(const char *trigger)
 {
     palx::triggerNode()->c(trigger)->trigger();
@@ -40,11 +54,12 @@ void raise(const char *trigger)
 } // namespace
 
 StackHomePage::StackHomePage(QWidget *parent, bwaf::BModule *module)
-    : BModule(module), module_(module), wgt_(new SubPageStack(parent)), ui_(std::make_unique<Ui::StackHomePage>()),
-      recipes_(new RecipeListModel(wgt_)), found_(new QSortFilterProxyModel(wgt_)),
-      layers_(new LayerTableModel(wgt_)), onController_(new palx::ControllerRecipes(wgt_))
+    : BModule(module), module_(module), wgt_(new SubPageStack(parent)),
+      ui_(std::make_unique<Ui::StackHomePage>()), recipes_(new RecipeListModel(wgt_)),
+      found_(new QSortFilterProxyModel(wgt_)), layers_(new LayerTableModel(wgt_)),
+      onController_(new palx::ControllerRecipes(wgt_))
 {
-    ui_->setupUi(subPages()->content());
+    ui_->setupUi(setupParts());
     subPages()->registSubPage(kProjectManager,
                               [](QWidget *page, QWidget *owner) { return new ProjectManager(page, owner); });
     wgt_->installEventFilter(this);
@@ -79,6 +94,52 @@ SubPageStack *StackHomePage::subPages() const
 void StackHomePage::openProjects()
 {
     subPages()->openSubPage(kProjectManager);
+}
+
+/// The row that chooses a part, and the parts; returns where the recipes go.
+QWidget *StackHomePage::setupParts()
+{
+    QWidget *content = subPages()->content();
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins(12, 12, 12, 0);
+    auto *row = new QHBoxLayout;
+    column->addLayout(row);
+    btnRun_ = partButton(QStringLiteral("btnRun"), row);
+    btnRecipes_ = partButton(QStringLiteral("btnRecipes"), row);
+    row->addStretch();
+    parts_ = new QStackedWidget;
+    column->addWidget(parts_, 1);
+    run_ = new RunFrame(onController_);
+    auto *recipes = new QWidget;
+    parts_->addWidget(run_);
+    parts_->addWidget(recipes);
+    for (QPushButton *button : {btnRun_, btnRecipes_})
+        connect(button, &QPushButton::clicked, wgt_, [this, button] {
+            isPartChosen_ = true;
+            showPart(button == btnRun_);
+        });
+    const auto lineCame = [this](bool hasLine) {
+        if (!isPartChosen_)
+            showPart(hasLine);
+    };
+    connect(run_, &RunFrame::hasLineChanged, wgt_, lineCame);
+    showPart(run_->hasLine());
+    nameParts();
+    return recipes;
+}
+
+void StackHomePage::showPart(bool run)
+{
+    (run ? btnRun_ : btnRecipes_)->setChecked(true);
+    parts_->setCurrentIndex(run ? 0 : 1);
+}
+
+void StackHomePage::nameParts()
+{
+    btnRun_->setText(tr("Production"));
+    btnRecipes_->setText(tr("Recipes"));
+    for (QPushButton *button : {btnRun_, btnRecipes_})
+        button->setAccessibleName(button->text());
 }
 
 void StackHomePage::setupList()
@@ -340,7 +401,8 @@ bool StackHomePage::eventFilter(QObject *watched, QEvent *event)
 
 void StackHomePage::retranslate()
 {
-    ui_->retranslateUi(subPages()->content());
+    ui_->retranslateUi(parts_->widget(1));
+    nameParts();
     reload();
     showController();
 }

@@ -10,8 +10,11 @@
 
 class LayerTableModel;
 class QModelIndex;
+class QPushButton;
 class QSortFilterProxyModel;
+class QStackedWidget;
 class RecipeListModel;
+class RunFrame;
 class SubPageStack;
 namespace palx {
 class ControllerRecipes;
@@ -20,8 +23,9 @@ namespace Ui {
 class StackHomePage;
 }
 
-/// The plug-in's home page: the list of recipes with names, pictures and figures, and what can be done with
-/// them; and whether the controller holds them.
+/// The plug-in's home page, in two parts: the line while it produces, and the list of recipes with names, pictures and
+/// figures, what can be done with them, and whether the controller holds them. Opens with the recipes, and with the line as
+/// soon as a project is in use; what the operator chose stays.
 ///
 /// Reloads its list on the trigger "refresh_table" and when the list of stacks changes, and raises
 /// "refresh_cmb" when the names have become others; shows its choice again on "refresh_cmb". Raises
@@ -43,6 +47,7 @@ public:
     /// The chosen recipe; the empty node when there is none.
     orba::ModuleObject *chosenStack() const;
     void chooseRecipe(const QString &name);
+    RunFrame *run() const { return run_; }
 
 Q_SIGNALS:
     /// The current recipe is another one, or has another name.
@@ -52,6 +57,9 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    QWidget *setupParts();
+    void showPart(bool run);
+    void nameParts();
     void setupList();
     void connectActions();
     void followTriggers();
@@ -78,6 +86,11 @@ private:
     QSortFilterProxyModel *found_;
     LayerTableModel *layers_;
     palx::ControllerRecipes *onController_;
-    QStringList names_; ///< as last announced by "refresh_cmb"
+    QPushButton *btnRun_ = nullptr;
+    QPushButton *btnRecipes_ = nullptr;
+    QStackedWidget *parts_ = nullptr;
+    RunFrame *run_ = nullptr;
+    bool isPartChosen_ = false; ///< by the operator
+    QStringList names_;         ///< as last announced by "refresh_cmb"
     palx::RemovedStack removed_;
 };

@@ -153,8 +153,7 @@ void changePersVariables(const VariableChanges &changes, QObject *sender,
             continue;
         XReply refusal;
         refusal.status = XReply::Status::Refused;
-        refusal.error =
-            QCoreApplication::translate("palx", "The project has no such variable: %1").arg(name);
+        refusal.error = QCoreApplication::translate("palx", "The project has no such variable: %1").arg(name);
         return answered(refusal);
     }
     xservice()->command(sender, kModifyVariables, &modify, std::move(answered));

@@ -32,7 +32,7 @@ const Node *variableOf(const Node &variables, const QString &name)
 class Values
 {
 public:
-    Values(const Node &variables, PalletSide side) : variables_(variables), side_(side) {}
+    Values(const Node &variables, LineSide side) : variables_(variables), side_(side) {}
 
     bool has(const char *stem) const { return variableOf(variables_, sideVariable(stem, side_)) != nullptr; }
     const Node &value(const char *stem) const { return valueOf(sideVariable(stem, side_)); }
@@ -50,7 +50,7 @@ private:
     static int wholeNumber(const Node &value) { return static_cast<int>(value.toInt()); }
 
     const Node &variables_;
-    PalletSide side_;
+    LineSide side_;
 };
 
 const Node *putPoints(const Node &stack)
@@ -65,7 +65,7 @@ bool isSheet(const Node &stack, int layer)
 }
 
 /// 0 left, 1 right, 2 both sides of one line.
-bool layoutHas(const Node &project, PalletSide side)
+bool layoutHas(const Node &project, LineSide side)
 {
     const qint64 layout = project.getInt(u"scheme_layout", -1);
     return layout == 2 || layout == static_cast<int>(side);
@@ -78,26 +78,26 @@ QString noPoints()
 
 } // namespace
 
-QString sideVariable(const char *stem, PalletSide side)
+QString sideVariable(const char *stem, LineSide side)
 {
-    return QLatin1String(stem) + QLatin1Char(side == PalletSide::Left ? 'L' : 'R');
+    return QLatin1String(stem) + QLatin1Char(side == LineSide::Left ? 'L' : 'R');
 }
 
 bool operator==(const RunSide &a, const RunSide &b)
 {
     const auto all = [](const RunSide &s) {
-        return std::tie(s.isPart, s.recipes, s.recipe, s.isEnabled, s.isFull, s.isStacked, s.piled, s.expected,
-                        s.layer, s.layers, s.piece, s.pieces, s.pallets, s.cycleSeconds);
+        return std::tie(s.isPart, s.recipes, s.recipe, s.isEnabled, s.isFull, s.isStacked, s.piled,
+                        s.expected, s.layer, s.layers, s.piece, s.pieces, s.pallets, s.cycleSeconds);
     };
     return all(a) == all(b);
 }
 
-RunSide readRunSide(const RunSource &source, PalletSide which)
+RunSide readRunSide(const RunSource &source, LineSide which)
 {
     const Values values(source.variables, which);
     RunSide side;
     side.isPart = layoutHas(source.project, which) && values.has("enableStack") && values.has("palletIndex");
-    side.recipes = sideRecipes(source.stacks, which == PalletSide::Left);
+    side.recipes = sideRecipes(source.stacks, which == LineSide::Left);
     side.recipe = values.number("palletIndex");
     side.isEnabled = values.value("enableStack").toBool();
     side.isFull = values.number("flag") != 0;
@@ -116,12 +116,12 @@ RunSide readRunSide(const RunSource &source, PalletSide which)
     return side;
 }
 
-const Node *recipeOfSide(const Node &stacks, PalletSide side, int index)
+const Node *recipeOfSide(const Node &stacks, LineSide side, int index)
 {
     int place = 0;
     for (int i = 0; i < stacks.size(); ++i) {
         const Node *stack = stacks.at(i);
-        if (stack && (stack->getInt(u"pallet_position") == 0) == (side == PalletSide::Left) && place++ == index)
+        if (stack && (stack->getInt(u"pallet_position") == 0) == (side == LineSide::Left) && place++ == index)
             return stack;
     }
     return nullptr;
@@ -191,7 +191,10 @@ QString startProblem(const RunSide &side, const Node *stack, int layer, int piec
 
 QString recipeChangeProblem(const RunSide &side)
 {
-    return side.isEnabled || side.isStacked ? Text::tr("The side is in use. Disable it and let the robot end its pallet, or stop the program.") : QString();
+    return side.isEnabled || side.isStacked
+               ? Text::tr(
+                     "The side is in use. Disable it and let the robot end its pallet, or stop the program.")
+               : QString();
 }
 
 QString enableProblem(const RunSide &side, const Node *stack)
@@ -203,19 +206,19 @@ QString enableProblem(const RunSide &side, const Node *stack)
     return pointLayers(*stack) == 0 ? noPoints() : QString();
 }
 
-VariableChanges enableChanges(PalletSide side, bool on)
+VariableChanges enableChanges(LineSide side, bool on)
 {
     return {{sideVariable("enableStack", side), QString::number(on ? 1 : 0)}};
 }
 
-VariableChanges startChanges(PalletSide side, const Node &stack, int layer, int piece)
+VariableChanges startChanges(LineSide side, const Node &stack, int layer, int piece)
 {
     return {{sideVariable("currentLayer", side), QString::number(layer)},
             {sideVariable("layerCount", side), QString::number(piece)},
             {sideVariable("palletCount", side), QString::number(piecesBefore(stack, layer, piece, false))}};
 }
 
-VariableChanges recipeChanges(PalletSide side, const Node &stack, int index)
+VariableChanges recipeChanges(LineSide side, const Node &stack, int index)
 {
     const long height = std::lround(stack.getDouble(u"product_cfg.product.height"));
     return VariableChanges{{sideVariable("palletIndex", side), QString::number(index)},
@@ -223,7 +226,7 @@ VariableChanges recipeChanges(PalletSide side, const Node &stack, int index)
            startChanges(side, stack, 1, 1);
 }
 
-VariableChanges resetChanges(PalletSide side)
+VariableChanges resetChanges(LineSide side)
 {
     VariableChanges changes;
     for (const char *stem : {"totalPallets", "palletTotalCount", "totalPiledCount", "cycleTime"})

@@ -9,11 +9,11 @@
 /// without pieces.
 namespace palx {
 
-enum class PalletSide { Left, Right };
-constexpr PalletSide kPalletSides[] = {PalletSide::Left, PalletSide::Right};
+enum class LineSide { Left, Right };
+constexpr LineSide kLineSides[] = {LineSide::Left, LineSide::Right};
 
 /// "currentLayer" of the left side is "currentLayerL".
-PALX_API QString sideVariable(const char *stem, PalletSide side);
+PALX_API QString sideVariable(const char *stem, LineSide side);
 
 /// What one side is read from.
 struct PALX_API RunSource
@@ -21,7 +21,8 @@ struct PALX_API RunSource
     const orba::Node &variables; ///< of the current project
     const orba::Node &stacks;
     const orba::Node &project; ///< record of the current project; null for none
-    const orba::Node &program; ///< "nexo.cell.program" with "state", "why", "fault"; null when the controller tells none
+    const orba::Node
+        &program; ///< "nexo.cell.program" with "state", "why", "fault"; null when the controller tells none
 };
 
 struct PALX_API RunSide
@@ -30,10 +31,11 @@ struct PALX_API RunSide
     QStringList recipes; ///< of this side, in the order by which programs count them
     int recipe = 0;      ///< place in that list; may be outside
     bool isEnabled = false;
-    bool isFull = false;    ///< a new pallet has to be confirmed
-    bool isStacked = false; ///< the programs are busy with this side; also when disabled, to the end of the pallet
-    int piled = 0;          ///< products on the pallet
-    int expected = 0;       ///< products of a full one
+    bool isFull = false; ///< a new pallet has to be confirmed
+    bool isStacked =
+        false;        ///< the programs are busy with this side; also when disabled, to the end of the pallet
+    int piled = 0;    ///< products on the pallet
+    int expected = 0; ///< products of a full one
     int layer = 1, layers = 0;
     int piece = 1, pieces = 0; ///< of the present layer
     int pallets = 0;           ///< finished since the last start
@@ -48,10 +50,10 @@ inline bool operator!=(const RunSide &a, const RunSide &b)
     return !(a == b);
 }
 
-PALX_API RunSide readRunSide(const RunSource &source, PalletSide side);
+PALX_API RunSide readRunSide(const RunSource &source, LineSide side);
 
 /// The recipe at a place of a side's list; null outside.
-PALX_API const orba::Node *recipeOfSide(const orba::Node &stacks, PalletSide side, int index);
+PALX_API const orba::Node *recipeOfSide(const orba::Node &stacks, LineSide side, int index);
 /// Layers of generated points, separator sheets among them; 0 while no points were generated.
 PALX_API int pointLayers(const orba::Node &stack);
 /// Products of a layer; 0 for a separator sheet and outside.
@@ -69,11 +71,12 @@ enum class RunState {
     Standing,    ///< enabled, but no program runs
     MovedByHand, ///< the operator drives the robot
     Stacking,
-    Waiting,     ///< enabled, its turn comes
+    Waiting, ///< enabled, its turn comes
     Disabled,
 };
 /// `program` as in RunSource.
-PALX_API RunState runState(const RunSide &side, bool isConnected, const orba::Node &program, bool isRobotMoving);
+PALX_API RunState runState(const RunSide &side, bool isConnected, const orba::Node &program,
+                           bool isRobotMoving);
 
 /// Why stacking cannot begin at that piece; empty when it can.
 PALX_API QString startProblem(const RunSide &side, const orba::Node *stack, int layer, int piece);
@@ -82,12 +85,12 @@ PALX_API QString recipeChangeProblem(const RunSide &side);
 /// Why the side cannot be enabled; empty when it can.
 PALX_API QString enableProblem(const RunSide &side, const orba::Node *stack);
 
-PALX_API VariableChanges enableChanges(PalletSide side, bool on);
+PALX_API VariableChanges enableChanges(LineSide side, bool on);
 /// Layer, piece, and the products that lie there then.
-PALX_API VariableChanges startChanges(PalletSide side, const orba::Node &stack, int layer, int piece);
+PALX_API VariableChanges startChanges(LineSide side, const orba::Node &stack, int layer, int piece);
 /// Another recipe begins at its first piece, with the height of its product.
-PALX_API VariableChanges recipeChanges(PalletSide side, const orba::Node &stack, int index);
+PALX_API VariableChanges recipeChanges(LineSide side, const orba::Node &stack, int index);
 /// Pallets, totals and cycle time become 0. Where the side goes on stays, because that is where products lie.
-PALX_API VariableChanges resetChanges(PalletSide side);
+PALX_API VariableChanges resetChanges(LineSide side);
 
 } // namespace palx

@@ -1,0 +1,251 @@
+#include "ui/run_frame.h"
+
+#include "ix/xtheme.h"
+#include "nexo/manager_helper.h"
+#include "pattern/node_follower.h"
+#include "project/rules/first_project.h"
+#include "project/rules/project_record.h"
+#include "ui/run_side_card.h"
+#include "ui/start_dialog.h"
+#include "ui_run_frame.h"
+#include "workstation/controller_recipes.h"
+#include "workstation/plugin_node.h"
+#include "workstation/unique_widget.h"
+
+#include <QDateTime>
+#include <QEvent>
+
+#include <algorithm>
+
+using ix::xtheme::State;
+using orba::ModuleObject;
+using palx::LineSide;
+
+namespace {
+
+palx::RunSource runSource()
+{
+    return {m("quill.project.var._list")->node(), palx::stacksNode()->node(), palx::currentProjectRecord(),
+            m("nexo.cell.program")->node()};
+}
+
+QString whyOf(palx::RunState state)
+{
+    const bool hasReason = state == palx::RunState::Fault || state == palx::RunState::Paused;
+    return hasReason ? m("nexo.cell.program")->getString("why") : QString();
+}
+
+} // namespace
+
+RunFrame::RunFrame(const palx::ControllerRecipes *recipes, QWidget *parent)
+    : QWidget(parent), ui_(std::make_unique<Ui::RunFrame>()), recipes_(recipes)
+{
+    ui_->setupUi(this);
+    for (const LineSide side : palx::kLineSides)
+        addCard(side);
+    ui_->btnMake->setIcon(ix::xtheme::icon(ix::xtheme::Glyph::Add));
+    connect(ui_->btnMake, &QPushButton::clicked, this, &RunFrame::makeProject);
+    refresh_.setSingleShot(true);
+    connect(&refresh_, &QTimer::timeout, this, &RunFrame::refresh);
+    for (const char *path : {"quill.project.cur_project", "nexo.r.connected"}) // also while it is not seen
+        connect(m(path), &ModuleObject::changed, &refresh_, [this] { refresh_.start(); });
+    refresh();
+}
+
+RunFrame::~RunFrame() = default;
+
+void RunFrame::addCard(LineSide side)
+{
+    auto *card = new RunSideCard(side);
+    cards_[static_cast<std::size_t>(side)] = card;
+    ui_->laySides->addWidget(card, 1);
+    connect(card, &RunSideCard::enableWanted, this, [this, card](bool on) { setEnabledSide(card, on); });
+    connect(card, &RunSideCard::recipeWanted, this, [this, card](int index) { chooseRecipe(card, index); });
+    connect(card, &RunSideCard::startWanted, this, [this, card] { startAt(card); });
+    connect(card, &RunSideCard::resetWanted, this, [this, card] { reset(card); });
+}
+
+// ---------------------------------------------------------------- what the controller says
+
+void RunFrame::follow()
+{
+    follower_ = std::make_unique<palx::NodeFollower>();
+    isStale_ = false;
+    follower_->followTree(m("quill.project.var._list"));
+    follower_->followTree(m("nexo.cell.program"));
+    for (const ModuleObject *node : {m("nexo.robot.moving"), palx::stacksNode(), palx::projectsNode()})
+        follower_->follow(node);
+    connect(follower_.get(), &palx::NodeFollower::valueTouched, &refresh_, [this] { refresh_.start(); });
+    connect(follower_.get(), &palx::NodeFollower::structureTouched, &refresh_, [this] {
+        isStale_ = true;
+        for (RunSideCard *card : cards_)
+            card->forgetPicture();
+        refresh_.start();
+    });
+    for (const char *trigger : {"refresh_table", "refresh_data", "refresh_cmb"})
+        connect(palx::triggerNode()->c(trigger), &ModuleObject::changed, follower_.get(),
+                &palx::NodeFollower::structureTouched);
+}
+
+void RunFrame::refresh()
+{
+    if (follower_ && isStale_)
+        follow();
+    const palx::RunSource source = runSource();
+    const bool isConnected = m("nexo.r")->getBool("connected");
+    bool hasLine = false;
+    for (RunSideCard *card : cards_) {
+        const palx::RunSide side = palx::readRunSide(source, card->side());
+        const palx::RunState state =
+            palx::runState(side, isConnected, source.program, m("nexo.robot")->getBool("moving"));
+        card->setVisible(side.isPart);
+        if (side.isPart)
+            card->showSide(side, state, whyOf(state),
+                           palx::recipeOfSide(source.stacks, card->side(), side.recipe));
+        hasLine = hasLine || side.isPart;
+    }
+    ui_->stkRun->setCurrentWidget(hasLine ? ui_->pagSides : ui_->pagNone);
+    showNone();
+    if (hasLine != std::exchange(hasLine_, hasLine))
+        Q_EMIT hasLineChanged(hasLine);
+}
+
+/// What has to come before anything can be produced.
+void RunFrame::showNone()
+{
+    const bool isConnected = m("nexo.r")->getBool("connected");
+    const bool hasRecipes = palx::stacksNode()->cmobjCount() > 0;
+    ui_->btnMake->setVisible(isConnected && hasRecipes);
+    if (!isConnected)
+        ui_->lblNone->setText(tr("There is no connection to the controller."));
+    else if (!hasRecipes)
+        ui_->lblNone->setText(tr("There are no recipes yet. Make one on the page \"Recipes\"."));
+    else
+        ui_->lblNone->setText(
+            tr("No robot project is in use. Make one here, or choose one on the page \"Projects\"."));
+}
+
+void RunFrame::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    follow();
+    refresh();
+}
+
+void RunFrame::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    follower_.reset();
+}
+
+// ---------------------------------------------------------------- what is asked of it
+
+const orba::Node *RunFrame::recipeOf(const RunSideCard *card) const
+{
+    return palx::recipeOfSide(palx::stacksNode()->node(), card->side(), card->shown().recipe);
+}
+
+void RunFrame::refuse(const QString &why)
+{
+    ui_->message->showMessage(why, State::Fault);
+}
+
+/// Until the answer comes, nothing else can be asked of that side, and the page says that it waits.
+void RunFrame::ask(RunSideCard *card, const palx::VariableChanges &changes)
+{
+    card->setWaiting(true);
+    ui_->message->showMessage(tr("Waiting for the controller."), State::Manual);
+    palx::changePersVariables(changes, card, [this, card](const XReply &reply) {
+        card->setWaiting(false);
+        if (reply.isOk())
+            ui_->message->clearMessage();
+        else
+            refuse(tr("The controller did not take it: %1").arg(reply.error));
+        refresh();
+    });
+}
+
+void RunFrame::setEnabledSide(RunSideCard *card, bool on)
+{
+    QString problem = on ? palx::enableProblem(card->shown(), recipeOf(card)) : QString();
+    if (on && problem.isEmpty())
+        problem = recipeMismatch(card->shown().recipeName());
+    if (problem.isEmpty())
+        ask(card, palx::enableChanges(card->side(), on));
+    else
+        refuse(problem);
+}
+
+/// Programs take points and place of a recipe from the controller.
+QString RunFrame::recipeMismatch(const QString &name) const
+{
+    if (!recipes_ || recipes_->state() != palx::ControllerRecipes::State::Known)
+        return QString();
+    const auto &all = recipes_->matches();
+    const bool isSame = std::any_of(all.begin(), all.end(), [&name](const palx::RecipeMatch &match) {
+        return match.name == name && match.place == palx::RecipePlace::Same;
+    });
+    return isSame ? QString()
+                  : tr("The controller holds the recipe \"%1\" otherwise. Send the recipes first.").arg(name);
+}
+
+void RunFrame::chooseRecipe(RunSideCard *card, int index)
+{
+    const orba::Node *stack = palx::recipeOfSide(palx::stacksNode()->node(), card->side(), index);
+    QString problem = palx::recipeChangeProblem(card->shown());
+    if (problem.isEmpty())
+        problem = palx::enableProblem(card->shown(), stack);
+    if (problem.isEmpty())
+        ask(card, palx::recipeChanges(card->side(), *stack, index));
+    else
+        refuse(problem);
+}
+
+void RunFrame::startAt(RunSideCard *card)
+{
+    const orba::Node *stack = recipeOf(card);
+    const palx::RunSide side = card->shown();
+    const QString problem = palx::startProblem(side, stack, 1, 1);
+    if (!problem.isEmpty())
+        return refuse(problem);
+    const bool isLeft = card->side() == LineSide::Left;
+    auto *dialog = new StartDialog({isLeft ? tr("Start the left side at") : tr("Start the right side at"),
+                                    tr("Recipe \"%1\"").arg(side.recipeName()), side, *stack,
+                                    std::min(side.layer, side.layers), side.piece, false},
+                                   window());
+    palx::makeUniqueDialog(dialog);
+    connect(dialog, &QDialog::accepted, card, [this, card, dialog, node = orba::Node(*stack)] {
+        ask(card, palx::startChanges(card->side(), node, dialog->layer(), dialog->piece()));
+    });
+    dialog->open();
+}
+
+void RunFrame::reset(RunSideCard *card)
+{
+    const QString text =
+        card->side() == LineSide::Left
+            ? tr("Set pallets and cycle time of the left side to 0? Layer and piece stay as they are.")
+            : tr("Set pallets and cycle time of the right side to 0? Layer and piece stay as they are.");
+    if (nexo::ManagerHelper::instance()->execMsgOk(tr("Reset counters"), text))
+        ask(card, palx::resetChanges(card->side()));
+}
+
+void RunFrame::makeProject()
+{
+    ui_->message->showMessage(tr("Waiting for the controller."), State::Manual);
+    repaint(); // what follows handles no events
+    const QString name = QStringLiteral("Palletizing_") +
+                         QDateTime::currentDateTime().toString(QStringLiteral("yyyy_MMdd_HHmm"));
+    palx::makeFirstProject(name); // says itself what went wrong
+    ui_->message->clearMessage();
+    refresh();
+}
+
+void RunFrame::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    ui_->retranslateUi(this);
+    refresh();
+}

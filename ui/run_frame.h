@@ -1,0 +1,67 @@
+#pragma once
+
+#include "orba/module_object.h"
+#include "project/rules/run_side.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+class RunSideCard;
+namespace palx {
+class ControllerRecipes;
+class NodeFollower;
+} // namespace palx
+namespace Ui {
+class RunFrame;
+}
+
+/// The line while it produces: a card for each side that the current project has. Everything shown is what the controller
+/// says; what is pressed is asked of the controller, and shown when its variables say so. Follows the nodes only while it is
+/// seen.
+class PALX_API RunFrame : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `recipes` tells whether the controller holds what the panel shows; it must outlive this.
+    explicit RunFrame(const palx::ControllerRecipes *recipes, QWidget *parent = nullptr);
+    ~RunFrame() override;
+
+    RunSideCard *card(palx::LineSide side) const { return cards_[static_cast<std::size_t>(side)]; }
+    /// Whether a project with a side is current.
+    bool hasLine() const { return hasLine_; }
+
+Q_SIGNALS:
+    void hasLineChanged(bool hasLine);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void addCard(palx::LineSide side);
+    void follow();
+    void refresh();
+    void showNone();
+    void makeProject();
+    void setEnabledSide(RunSideCard *card, bool on);
+    void chooseRecipe(RunSideCard *card, int index);
+    void startAt(RunSideCard *card);
+    void reset(RunSideCard *card);
+    void ask(RunSideCard *card, const palx::VariableChanges &changes);
+    void refuse(const QString &why);
+    const orba::Node *recipeOf(const RunSideCard *card) const;
+    QString recipeMismatch(const QString &name) const;
+
+    std::unique_ptr<Ui::RunFrame> ui_;
+    const palx::ControllerRecipes *recipes_;
+    std::array<RunSideCard *, 2> cards_{};
+    std::unique_ptr<palx::NodeFollower> follower_; ///< while the page is seen
+    QTimer refresh_;                               ///< one for all changes of a turn of the loop
+    bool hasLine_ = false;
+    bool isStale_ = true; ///< the nodes that are followed are others now
+};
