@@ -211,6 +211,8 @@ void publishTrouble(const World &world, Node *node)
         record->ensure(u"layer")->setInt(violation.layer);
         record->ensure(u"piece")->setInt(violation.piece);
         setText(record, u"what", violation.what);
+        setText(record, u"first", violation.bodies[0]);
+        setText(record, u"second", violation.bodies[1]);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "pattern/stack_drawing.h"
 
+#include "pattern/iso_paint.h"
 #include "pattern/plan_style.h"
 
 #include <QPainter>
@@ -14,15 +15,6 @@ namespace {
 
 constexpr int kMaxPictureProducts =
     20000; // far over any pallet; a foreign file must not hold up a list of recipes
-
-/// Light falls from above and from the left.
-constexpr double kLeftWall = 0.87;
-constexpr double kRightWall = 0.73;
-constexpr double kSecondLayer = 0.95; // every second layer is a little darker, so that layers can be counted
-
-constexpr QRgb kPalletTop = 0xffc3bdb1, kPalletLine = 0xff5a554b;
-constexpr QRgb kSheetTop = 0xffd3dce4, kSheetLine = 0xff6b747d;
-constexpr QRgb kProductTop = 0xffe9e6df, kProductLine = 0xff4a4841;
 
 QRgb groundOf(const IsoFace &face, const Course &course)
 {
@@ -52,45 +44,6 @@ QRgb lineOf(const IsoFace &face, const Course &course)
     return face.kind == SolidKind::Pallet  ? kPalletLine
            : face.kind == SolidKind::Sheet ? kSheetLine
                                            : kProductLine;
-}
-
-QColor shaded(QRgb ground, const IsoFace &face, const Course &course)
-{
-    double shade = face.side == FaceSide::Top ? 1 : kRightWall + (kLeftWall - kRightWall) * face.light;
-    if (face.kind == SolidKind::Product && course.layer % 2 == 1)
-        shade *= kSecondLayer;
-    return QColor::fromRgbF(qRed(ground) * shade / 255, qGreen(ground) * shade / 255,
-                            qBlue(ground) * shade / 255);
-}
-
-QPen cosmetic(const QColor &color, double pixels, Qt::PenStyle style = Qt::SolidLine)
-{
-    QPen pen(color, pixels, style);
-    pen.setCosmetic(true);
-    pen.setJoinStyle(Qt::RoundJoin);
-    return pen;
-}
-
-/// Lines fade where products are only a few pixels large; else a small picture would be all lines.
-double lineOpacity(double shortestMm, double scale)
-{
-    return std::clamp(shortestMm * scale / 10, 0.15, 0.9);
-}
-
-/// What fits onto the painter's device.
-QRectF shownPart(const QPainter &painter)
-{
-    const QPaintDevice *device = painter.device();
-    return painter.worldTransform().inverted().mapRect(QRectF(0, 0, device->width(), device->height()));
-}
-
-QRectF boundsOf(const IsoFace &face)
-{
-    const auto [left, right] =
-        std::minmax({face.corners[0].x(), face.corners[1].x(), face.corners[2].x(), face.corners[3].x()});
-    const auto [top, bottom] =
-        std::minmax({face.corners[0].y(), face.corners[1].y(), face.corners[2].y(), face.corners[3].y()});
-    return QRectF(QPointF(left, top), QPointF(right, bottom)).adjusted(-1, -1, 1, 1);
 }
 
 bool contains(const IsoFace &face, const QPointF &at)
@@ -168,10 +121,9 @@ void StackDrawing::paint(QPainter *painter, double scale)
         const Course &course = placed_[face.course];
         QColor line = QColor::fromRgba(lineOf(face, course));
         line.setAlphaF(opacity);
-        painter->setPen(cosmetic(line, 1));
-        painter->setBrush(
-            shaded(isMarked(face) ? plan_style::kSelectionFill : groundOf(face, course), face, course));
-        painter->drawConvexPolygon(face.corners.data(), static_cast<int>(face.corners.size()));
+        const QRgb ground = isMarked(face) ? plan_style::kSelectionFill : groundOf(face, course);
+        const bool isSecond = face.kind == SolidKind::Product && course.layer % 2 == 1;
+        paintFace(painter, face, shaded(ground, face, isSecond), line);
     }
     paintMark(painter);
 }
@@ -183,7 +135,10 @@ void StackDrawing::paintMark(QPainter *painter) const
     if (numberOf(courses_, marked_) < 0)
         return;
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(cosmetic(QColor::fromRgba(plan_style::kSelection), kPixels));
+    QPen pen(QColor::fromRgba(plan_style::kSelection), kPixels);
+    pen.setCosmetic(true);
+    pen.setJoinStyle(Qt::RoundJoin);
+    painter->setPen(pen);
     for (const Course &course : courses_) {
         if (course.layer != marked_.layer)
             continue;

@@ -7,13 +7,10 @@
 #include <QPinchGesture>
 #include <QWheelEvent>
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr double kFill = 0.95;           // of the widget, at zoom 1
-constexpr double kDegreesPerPixel = 0.5; // half a turn takes the width of a small view
 constexpr double kZoomPerNotch = 1.2;
 
 } // namespace
@@ -28,8 +25,18 @@ void StackView::showStack(const orba::Node *stack)
 {
     shown_ = stack != nullptr;
     drawing_.setStack(stack ? *stack : orba::Node());
-    moveBy(0);
+    fit();
     update();
+}
+
+void StackView::fit()
+{
+    camera_.setScene(drawing_.turningBounds(), size());
+}
+
+void StackView::resizeEvent(QResizeEvent *)
+{
+    fit();
 }
 
 void StackView::setPieces(int pieces)
@@ -46,45 +53,22 @@ void StackView::markPiece(const palx::Piece &piece)
 
 void StackView::turnBy(double degrees)
 {
-    drawing_.setTurn(drawing_.turn() + degrees);
+    camera_.turnBy(degrees);
+    drawing_.setTurn(camera_.turn());
     update();
 }
 
 void StackView::zoomBy(double factor)
 {
-    zoom_ = std::clamp(zoom_ * factor, 1.0, kMostZoom);
-    moveBy(0);
+    camera_.zoomBy(factor);
     update();
 }
 
 void StackView::resetView()
 {
+    camera_.reset();
     drawing_.setTurn(0);
-    zoom_ = 1;
-    moveBy(0);
     update();
-}
-
-double StackView::scale() const
-{
-    const QRectF bounds = drawing_.turningBounds();
-    return std::min(width() / bounds.width(), height() / bounds.height()) * kFill * zoom_;
-}
-
-QPointF StackView::origin() const
-{
-    const double middle = drawing_.turningBounds().center().y() + heightShift_;
-    return QPointF(width() / 2.0, height() / 2.0 - middle * scale());
-}
-
-/// Never so far that the stack leaves the view.
-void StackView::moveBy(double pixels)
-{
-    const double pixelsPerMm = scale();
-    if (pixelsPerMm <= 0)
-        return;
-    const double hidden = std::max(0.0, drawing_.turningBounds().height() - height() * kFill / pixelsPerMm);
-    heightShift_ = std::clamp(heightShift_ - pixels / pixelsPerMm, -hidden / 2, hidden / 2);
 }
 
 void StackView::paintEvent(QPaintEvent *)
@@ -92,10 +76,11 @@ void StackView::paintEvent(QPaintEvent *)
     if (!shown_)
         return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing, !moving_); // smooth lines would hold up a large stack that turns
-    painter.translate(origin());
-    painter.scale(scale(), scale());
-    drawing_.paint(&painter, scale());
+    painter.setRenderHint(QPainter::Antialiasing,
+                          !moving_); // smooth lines would hold up a large stack that turns
+    painter.translate(camera_.origin());
+    painter.scale(camera_.pixelsPerMm(), camera_.pixelsPerMm());
+    drawing_.paint(&painter, camera_.pixelsPerMm());
 }
 
 void StackView::mousePressEvent(QMouseEvent *event)
@@ -112,14 +97,14 @@ void StackView::mouseMoveEvent(QMouseEvent *event)
     moving_ = true;
     const QPoint by = event->pos() - last_;
     last_ = event->pos();
-    moveBy(by.y());
-    turnBy(-by.x() * kDegreesPerPixel); // the near side follows the finger
+    camera_.moveBy(by.y());
+    turnBy(-by.x() * palx::IsoCamera::kDegreesPerPixel); // the near side follows the finger
 }
 
 void StackView::mouseReleaseEvent(QMouseEvent *event)
 {
     if (!dragged_ && shown_)
-        Q_EMIT pieceTouched(drawing_.pieceAt((event->pos() - origin()) / scale()));
+        Q_EMIT pieceTouched(drawing_.pieceAt((event->pos() - camera_.origin()) / camera_.pixelsPerMm()));
     moving_ = false;
     update();
 }

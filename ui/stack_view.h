@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pattern/iso_camera.h"
 #include "pattern/stack_drawing.h"
 
 #include <QPoint>
@@ -16,7 +17,6 @@ class PALX_API StackView : public QWidget
 
 public:
     static constexpr double kTurnStep = 15; ///< degrees per press of a button
-    static constexpr double kMostZoom = 8;
 
     explicit StackView(QWidget *parent = nullptr);
 
@@ -26,7 +26,7 @@ public:
     void markPiece(const palx::Piece &piece);
     const palx::StackDrawing &drawing() const { return drawing_; }
 
-    double zoom() const { return zoom_; }
+    double zoom() const { return camera_.zoom(); }
     QSize minimumSizeHint() const override { return QSize(160, 160); }
     QSize sizeHint() const override { return minimumSizeHint(); }
 
@@ -44,22 +44,19 @@ Q_SIGNALS:
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    double scale() const;
-    /// Where the picture's origin lies on the widget.
-    QPointF origin() const;
-    void moveBy(double pixels);
+    void fit();
     bool pinch(QGestureEvent *event);
 
     palx::StackDrawing drawing_;
     bool shown_ = false;
-    double zoom_ = 1;
-    double heightShift_ = 0; ///< of the middle that is shown, picture millimetres
+    palx::IsoCamera camera_;
     QPoint pressed_, last_;
     bool dragged_ = false; ///< the present press is no touch of a piece
     bool moving_ = false;  ///< a finger is turning or enlarging the stack

@@ -109,10 +109,10 @@ QWidget *StackHomePage::setupParts()
     row->addStretch();
     parts_ = new QStackedWidget;
     column->addWidget(parts_, 1);
-    run_ = new RunFrame(onController_);
     auto *recipes = new QWidget;
-    parts_->addWidget(run_);
     parts_->addWidget(recipes);
+    run_ = new RunFrame(onController_);
+    parts_->addWidget(run_);
     for (QPushButton *button : {btnRun_, btnRecipes_})
         connect(button, &QPushButton::clicked, wgt_, [this, button] {
             isPartChosen_ = true;
@@ -131,7 +131,7 @@ QWidget *StackHomePage::setupParts()
 void StackHomePage::showPart(bool run)
 {
     (run ? btnRun_ : btnRecipes_)->setChecked(true);
-    parts_->setCurrentIndex(run ? 0 : 1);
+    parts_->setCurrentIndex(run ? 1 : 0);
 }
 
 void StackHomePage::nameParts()
@@ -401,7 +401,7 @@ bool StackHomePage::eventFilter(QObject *watched, QEvent *event)
 
 void StackHomePage::retranslate()
 {
-    ui_->retranslateUi(parts_->widget(1));
+    ui_->retranslateUi(parts_->widget(0));
     nameParts();
     reload();
     showController();

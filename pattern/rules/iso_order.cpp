@@ -1,4 +1,5 @@
 #include "pattern/rules/iso_scene.h"
+#include "pattern/rules/iso_sorting.h"
 
 #include <algorithm>
 #include <cmath>
@@ -53,26 +54,27 @@ int partedBy(const Corners &a, const Corners &b, const QPointF &viewer)
     return 0;
 }
 
-/// Which of two outlines whose views meet may cover the other: 1 the second, -1 the first, 0 neither (they
-/// overlap).
-int nearer(const Corners &a, const Corners &b, const QPointF &viewer)
+/// What an outline covers across the line of sight.
+Span acrossOf(const Corners &outline, const QPointF &viewer)
 {
-    const int byFirst = partedBy(a, b, viewer);
-    return byFirst != 0 ? byFirst : -partedBy(b, a, viewer);
+    return spanOf(outline, QPointF(-viewer.y(), viewer.x()));
+}
+
+bool areBeside(const Span &a, const Span &b)
+{
+    return a.low >= b.high - kContactMm || b.low >= a.high - kContactMm;
 }
 
 /// For every outline the ones that must be painted after it.
 QVector<QVector<int>> coverings(const QVector<Corners> &outlines, const QPointF &viewer)
 {
-    const QPointF across(-viewer.y(), viewer.x());
     QVector<Span> spans;
     for (const Corners &outline : outlines)
-        spans.append(spanOf(outline, across));
+        spans.append(acrossOf(outline, viewer));
     QVector<QVector<int>> fronts(outlines.size());
     for (int a = 0; a < outlines.size(); ++a) {
         for (int b = a + 1; b < outlines.size(); ++b) {
-            // Boxes beside each other's line of sight do not hide anything of each other.
-            if (spans[a].low >= spans[b].high - kContactMm || spans[b].low >= spans[a].high - kContactMm)
+            if (areBeside(spans[a], spans[b]))
                 continue;
             const int order = nearer(outlines[a], outlines[b], viewer);
             if (order != 0)
@@ -82,7 +84,19 @@ QVector<QVector<int>> coverings(const QVector<Corners> &outlines, const QPointF 
     return fronts;
 }
 
-/// Numbers from the farthest middle to the nearest.
+} // namespace
+
+bool areBeside(const Corners &a, const Corners &b, const QPointF &viewer)
+{
+    return areBeside(acrossOf(a, viewer), acrossOf(b, viewer));
+}
+
+int nearer(const Corners &a, const Corners &b, const QPointF &viewer)
+{
+    const int byFirst = partedBy(a, b, viewer);
+    return byFirst != 0 ? byFirst : -partedBy(b, a, viewer);
+}
+
 QVector<int> byDistance(const QVector<Corners> &outlines, const QPointF &viewer)
 {
     QVector<double> nearness;
@@ -94,28 +108,31 @@ QVector<int> byDistance(const QVector<Corners> &outlines, const QPointF &viewer)
     return order;
 }
 
-} // namespace
-
-QVector<int> backToFront(const QVector<Corners> &outlines, const IsoProjection &view)
+QVector<int> coveredFirst(const QVector<QVector<int>> &coverings, QVector<int> preferred)
 {
-    const QVector<QVector<int>> fronts = coverings(outlines, view.towardsViewer());
-    QVector<int> waitsFor(outlines.size(), 0);
-    for (const QVector<int> &front : fronts) {
+    QVector<int> waitsFor(preferred.size(), 0);
+    for (const QVector<int> &front : coverings) {
         for (const int one : front)
             ++waitsFor[one];
     }
-    QVector<int> rest = byDistance(outlines, view.towardsViewer());
     QVector<int> order;
-    while (!rest.isEmpty()) {
+    while (!preferred.isEmpty()) {
         // Overlapping boxes can wait for each other in a ring; the farthest of them then goes first.
-        auto next = std::find_if(rest.begin(), rest.end(), [&](int i) { return waitsFor[i] <= 0; });
-        const int taken =
-            next == rest.end() ? rest.takeFirst() : rest.takeAt(static_cast<int>(next - rest.begin()));
+        auto next = std::find_if(preferred.begin(), preferred.end(), [&](int i) { return waitsFor[i] <= 0; });
+        const int taken = next == preferred.end()
+                              ? preferred.takeFirst()
+                              : preferred.takeAt(static_cast<int>(next - preferred.begin()));
         order.append(taken);
-        for (const int front : fronts[taken])
+        for (const int front : coverings[taken])
             --waitsFor[front];
     }
     return order;
+}
+
+QVector<int> backToFront(const QVector<Corners> &outlines, const IsoProjection &view)
+{
+    const QPointF viewer = view.towardsViewer();
+    return coveredFirst(coverings(outlines, viewer), byDistance(outlines, viewer));
 }
 
 } // namespace palx

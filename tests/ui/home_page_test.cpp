@@ -47,6 +47,12 @@ void click(const Pages &pages, const char *button)
     found->click();
 }
 
+/// The part of the page with the recipes; the other part has a message bar of its own.
+QWidget *recipesOf(const Pages &pages)
+{
+    return pages.field<QListView>("lstRecipes")->parentWidget();
+}
+
 /// Answers the dialog that asks for a name; returns the reason when it refuses.
 QString answerName(const Pages &pages, const char *name, const char *desc = nullptr)
 {
@@ -154,7 +160,7 @@ TEST(HomePage, DeletesOnlyWhenConfirmedAndTakesItBack)
     EXPECT_TRUE(presenter.asked.last().text.contains(QStringLiteral("\"B\"")));
     EXPECT_EQ(shownNames(pages).join(QLatin1Char(' ')), QStringLiteral("A C"));
     EXPECT_EQ(pages.home->chosenStack()->getString("name"), QStringLiteral("C"));
-    pages.home->wgt()->findChild<QPushButton *>(QStringLiteral("btnAction"))->click();
+    recipesOf(pages)->findChild<QPushButton *>(QStringLiteral("btnAction"))->click();
     EXPECT_EQ(palx::stacksNode()->node(), before);
     EXPECT_EQ(pages.home->chosenStack()->getString("name"), QStringLiteral("B"));
 }
@@ -166,9 +172,9 @@ TEST(HomePage, UndoOfADeletionFindsAnotherNameWhenItsOwnIsTaken)
     ScriptedPresenter presenter({true});
     click(pages, "btnDelete");
     pages.tree.addRecipe("A");
-    pages.home->wgt()->findChild<QPushButton *>(QStringLiteral("btnAction"))->click();
+    recipesOf(pages)->findChild<QPushButton *>(QStringLiteral("btnAction"))->click();
     EXPECT_EQ(stackNames().join(QLatin1Char(' ')), QStringLiteral("A1 A"));
-    EXPECT_TRUE(pages.home->wgt()->findChild<MessageBar *>()->text().contains(QStringLiteral("A1")));
+    EXPECT_TRUE(recipesOf(pages)->findChild<MessageBar *>()->text().contains(QStringLiteral("A1")));
 }
 
 TEST(HomePage, OpensTheChosenRecipe)

@@ -91,9 +91,9 @@ TEST(StackView, WheelAndButtonsEnlargeWithinBounds)
     page.wheel(2);
     EXPECT_GT(page.view()->zoom(), 1.4);
     page.wheel(100);
-    EXPECT_EQ(page.view()->zoom(), StackView::kMostZoom);
+    EXPECT_EQ(page.view()->zoom(), palx::IsoCamera::kMostZoom);
     page.click("btnSmaller");
-    EXPECT_LT(page.view()->zoom(), StackView::kMostZoom);
+    EXPECT_LT(page.view()->zoom(), palx::IsoCamera::kMostZoom);
     page.wheel(-100);
     EXPECT_EQ(page.view()->zoom(), 1) << "smaller than the view would be of no use";
 }

@@ -1,0 +1,329 @@
+#include "panel/cell_drawing.h"
+
+#include "controller/arm.h"
+#include "ix/xtheme.h"
+#include "pattern/iso_paint.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace panel {
+
+using palx::Corners;
+using palx::Course;
+using palx::IsoBlock;
+using palx::IsoGroup;
+using palx::IsoPart;
+using palx::SolidKind;
+
+namespace {
+
+constexpr double kSameHeight = 5;    // [mm] products of one layer may rest at slightly different heights
+constexpr double kColumnEdge = 500;  // [mm] of the lift column and the robot's foot
+constexpr double kFoot = 400;        // [mm] above the robot's base
+constexpr double kBeltLength = 2200; // [mm]
+constexpr double kBeltHeight = 120;  // [mm]
+constexpr double kBeaconEdge = 90;   // [mm]
+constexpr double kMast = 700;        // [mm] below the lamps
+constexpr double kLinkEdge = 150;    // [mm] of the robot's arm
+constexpr int kLinkParts = 9;        // blocks that a link of the arm is drawn with
+
+/// How blocks are coloured; parts of stacks carry the place of their course, all others one of these.
+enum Look { kProduct = -1, kBelt = -2, kColumnLook = -3, kArm = -4, kTool = -5, kCarried = -6, kMastLook = -7, kLamp = -8 };
+
+struct Colours
+{
+    QRgb top, line;
+};
+
+/// Lamps: red, yellow, green; off, then on.
+constexpr QRgb kLamps[3][2] = {
+    {0xff8c6a68, 0xffe02020}, {0xff8f8468, 0xfff0b000}, {0xff687f6d, 0xff20b040}};
+
+Colours coloursOf(int look)
+{
+    switch (look) {
+    case kBelt:
+        return {0xffa4abb2, 0xff4d565e};
+    case kColumnLook:
+        return {0xff8a939b, 0xff3d464e};
+    case kArm:
+        return {0xffc8ced3, 0xff565f67};
+    case kTool:
+        return {0xff7d868e, 0xff3d464e};
+    case kCarried:
+        return {0xffb3cbe6, 0xff1c5fb0};
+    case kMastLook:
+        return {0xff9aa1a8, 0xff565f67};
+    default:
+        break;
+    }
+    if (look <= kLamp) {
+        const int lamp = kLamp - look;
+        return {kLamps[lamp / 2][lamp % 2], 0xff3d464e};
+    }
+    return {palx::kProductTop, palx::kProductLine};
+}
+
+/// On the plan the robot looks up: x of the cell is up, y to the left.
+QPointF onPlan(double x, double y)
+{
+    return QPointF(-y, -x);
+}
+
+Corners outlineOf(const CellBlock &block)
+{
+    const double turn = block.turn * 3.141592653589793 / 180;
+    const auto corner = [&](double along, double across) {
+        const double l = along * block.length / 2;
+        const double w = across * block.width / 2;
+        return onPlan(block.x + l * std::cos(turn) - w * std::sin(turn),
+                      block.y + l * std::sin(turn) + w * std::cos(turn));
+    };
+    return {corner(1, 1), corner(1, -1), corner(-1, -1), corner(-1, 1)};
+}
+
+IsoBlock isoBlock(const CellBlock &block)
+{
+    return {outlineOf(block), block.bottom(), block.top()};
+}
+
+CellBlock cube(double x, double y, double bottom, double edge, double height)
+{
+    return {x, y, bottom + height / 2, 0, edge, edge, height};
+}
+
+/// Consecutive blocks at one height are one course.
+void addCourses(const QVector<CellBlock> &blocks, SolidKind kind, QVector<Course> *courses)
+{
+    for (const CellBlock &block : blocks) {
+        Course *last = courses->isEmpty() ? nullptr : &courses->last();
+        if (!last || last->kind != kind || std::abs(last->bottomMm - block.bottom()) > kSameHeight ||
+            std::abs(last->topMm - block.top()) > kSameHeight) {
+            courses->append(Course{kind, block.bottom(), block.top(), {}, courses->size(), {}});
+            last = &courses->last();
+        }
+        last->outlines.append(outlineOf(block));
+    }
+}
+
+QVector<Course> coursesOf(const CellPallet &pallet)
+{
+    QVector<Course> courses;
+    if (!pallet.pallet.isThere())
+        return courses;
+    addCourses({pallet.pallet}, SolidKind::Pallet, &courses);
+    addCourses(pallet.boxes, SolidKind::Product, &courses);
+    addCourses(pallet.sheets, SolidKind::Sheet, &courses);
+    std::stable_sort(courses.begin(), courses.end(),
+                     [](const Course &a, const Course &b) { return a.bottomMm < b.bottomMm; });
+    return courses;
+}
+
+/// Shoulder, elbow, wrist and flange of the robot [mm in the cell].
+QVector<controller::Vector> armKnees(const controller::Joints &joints, double column)
+{
+    using controller::Vector;
+    using namespace controller::arm;
+    controller::Pose pose = controller::Pose::Identity();
+    QVector<Vector> knees;
+    const auto link = [&](double angle, const Vector &axis, const Vector &step) {
+        pose.rotate(Eigen::AngleAxisd(angle, axis)).translate(step);
+        knees.append(pose.translation() * 1000 + Vector(0, 0, column));
+    };
+    link(joints[0], Vector::UnitZ(), Vector(kShoulderAhead, 0, kShoulderHeight));
+    link(joints[1], Vector::UnitY(), Vector(0, 0, kUpperArm));
+    link(joints[2], Vector::UnitY(), Vector(kForearm, 0, 0));
+    pose.rotate(Eigen::AngleAxisd(joints[3], Vector::UnitX()));
+    link(joints[4], Vector::UnitY(), Vector(kFlange, 0, 0));
+    return knees;
+}
+
+Colours coloursOf(const Course &course)
+{
+    switch (course.kind) {
+    case SolidKind::Pallet:
+        return {palx::kPalletTop, palx::kPalletLine};
+    case SolidKind::Sheet:
+        return {palx::kSheetTop, palx::kSheetLine};
+    case SolidKind::Product:
+        break;
+    }
+    return {palx::kProductTop, palx::kProductLine};
+}
+
+} // namespace
+
+// ---------------------------------------------------------------- what is drawn
+
+void CellDrawing::setScene(const CellScene &scene)
+{
+    for (std::size_t side = 0; side < 2; ++side) {
+        const bool isOther = !(scene.pallets[side] == scene_.pallets[side]);
+        scene_.pallets[side] = scene.pallets[side];
+        if (isOther)
+            readStack(side);
+    }
+    scene_ = scene;
+    rememberBelt();
+    widenBounds();
+}
+
+void CellDrawing::readStack(std::size_t side)
+{
+    stacks_[side].courses = coursesOf(scene_.pallets[side]);
+    stacks_[side].isStale = true;
+}
+
+void CellDrawing::setTurn(double degrees)
+{
+    turn_ = degrees;
+    for (Stack &stack : stacks_)
+        stack.isStale = true;
+}
+
+void CellDrawing::rememberBelt()
+{
+    if (scene_.waiting.isThere())
+        stop_ = scene_.waiting;
+}
+
+double CellDrawing::floor() const
+{
+    double lowest = 0;
+    for (const CellPallet &pallet : scene_.pallets)
+        if (pallet.pallet.isThere())
+            lowest = std::min(lowest, pallet.pallet.bottom());
+    return lowest;
+}
+
+/// The bounds only grow, by what comes to rest; the moving arm has its reach.
+void CellDrawing::widenBounds()
+{
+    Course robot{SolidKind::Product, floor(), 2300, {outlineOf(cube(0, 0, 0, 1600, 1))}, -1, {}};
+    QVector<Course> all{robot};
+    for (const Stack &stack : stacks_)
+        all += stack.courses;
+    if (stop_.isThere())
+        all.append(Course{SolidKind::Product, stop_.bottom(), stop_.top(), {outlineOf(stop_)}, -1, {}});
+    bounds_ |= palx::turningBounds(all, QPointF());
+}
+
+// ---------------------------------------------------------------- groups
+
+void CellDrawing::addStacks(QVector<IsoGroup> *groups, double gapMm)
+{
+    int first = 0;
+    for (Stack &stack : stacks_) {
+        if (stack.isStale || gapMm != gap_) {
+            stack.group = palx::stackGroup(stack.courses, gapMm, view());
+            stack.isStale = false;
+        }
+        IsoGroup group = stack.group;
+        for (IsoPart &part : group)
+            part.look += first;
+        first += stack.courses.size();
+        if (!group.isEmpty())
+            groups->append(group);
+    }
+    gap_ = gapMm;
+}
+
+/// The belt lies under the product at the stop and comes from the side that is farther from the robot.
+void CellDrawing::addConveyor(QVector<IsoGroup> *groups) const
+{
+    if (!stop_.isThere())
+        return;
+    const double turn = stop_.turn * 3.141592653589793 / 180;
+    const double way = stop_.x * std::cos(turn) + stop_.y * std::sin(turn) < 0 ? -1 : 1;
+    const auto along = [&](double mm) {
+        CellBlock block = stop_;
+        block.x += way * mm * std::cos(turn);
+        block.y += way * mm * std::sin(turn);
+        return block;
+    };
+    CellBlock belt = along((kBeltLength - stop_.length) / 2);
+    belt.length = kBeltLength;
+    belt.width = stop_.width + 80;
+    belt.z = stop_.bottom() - kBeltHeight / 2;
+    belt.height = kBeltHeight;
+    groups->append({blockPart(isoBlock(belt), view(), kBelt)});
+    const double ahead = scene_.waiting.isThere() ? 0 : scene_.ahead;
+    if (ahead < kBeltLength - stop_.length)
+        groups->append({blockPart(isoBlock(along(ahead)), view(), kProduct)});
+}
+
+void CellDrawing::addRobot(QVector<IsoGroup> *groups) const
+{
+    const double top = scene_.column + kFoot;
+    groups->append({blockPart(isoBlock(cube(0, 0, floor(), kColumnEdge, top - floor())), view(), kColumnLook)});
+    const CellBlock &carried = scene_.carried;
+    if (carried.isThere())
+        groups->append({blockPart(isoBlock(carried), view(), kCarried)});
+    const QVector<controller::Vector> knees = armKnees(scene_.joints, scene_.column);
+    for (int i = 0; i + 1 < knees.size(); ++i) {
+        for (int part = 0; part < kLinkParts; ++part) {
+            const controller::Vector at =
+                knees[i] + (knees[i + 1] - knees[i]) * ((part + 0.5) / kLinkParts);
+            groups->append({blockPart(isoBlock(cube(at.x(), at.y(), at.z() - kLinkEdge / 2, kLinkEdge, kLinkEdge)),
+                                      view(), kArm)});
+        }
+    }
+    if (carried.isThere()) {
+        const double height = std::max(40.0, knees.last().z() - carried.top());
+        groups->append({blockPart(isoBlock(cube(carried.x, carried.y, carried.top(), 200, height)), view(), kTool)});
+    }
+}
+
+/// Beside the pallets, away from the robot.
+void CellDrawing::addBeacons(QVector<IsoGroup> *groups) const
+{
+    for (const CellPallet &side : scene_.pallets) {
+        const CellBlock &pallet = side.pallet;
+        if (!pallet.isThere())
+            continue;
+        const double reach = std::hypot(pallet.length, pallet.width) / 2 + 150;
+        const double away = std::hypot(pallet.x, pallet.y);
+        const double x = pallet.x + (away > 0 ? pallet.x / away * reach : reach);
+        const double y = pallet.y + (away > 0 ? pallet.y / away * reach : 0);
+        double at = pallet.bottom();
+        groups->append({blockPart(isoBlock(cube(x, y, at, kBeaconEdge / 2, kMast)), view(), kMastLook)});
+        at += kMast;
+        for (int lamp = 2; lamp >= 0; --lamp, at += kBeaconEdge) {
+            const bool on = side.beacon[static_cast<std::size_t>(lamp)];
+            groups->append({blockPart(isoBlock(cube(x, y, at, kBeaconEdge, kBeaconEdge)), view(),
+                                      kLamp - 2 * lamp - (on ? 1 : 0))});
+        }
+    }
+}
+
+// ---------------------------------------------------------------- painting
+
+void CellDrawing::paint(QPainter *painter, double scale)
+{
+    if (scale <= 0)
+        return;
+    QVector<IsoGroup> groups;
+    addStacks(&groups, 1 / scale);
+    addConveyor(&groups);
+    addRobot(&groups);
+    addBeacons(&groups);
+    const QVector<Course> courses = stacks_[0].courses + stacks_[1].courses;
+    const QRectF seen = palx::shownPart(*painter);
+    const double opacity = palx::lineOpacity(150, scale);
+    const IsoGroup parts = palx::arrangeGroups(groups, view());
+    for (const IsoPart &part : parts) {
+        const bool isStack = part.look >= 0;
+        const Colours colours = isStack ? coloursOf(courses[part.look]) : coloursOf(part.look);
+        const bool isSecond = isStack && courses[part.look].layer % 2 == 1;
+        QColor line = QColor::fromRgba(colours.line);
+        line.setAlphaF(part.look == kArm ? 0 : opacity);
+        for (const palx::IsoFace &face : part.faces)
+            if (seen.intersects(palx::boundsOf(face)))
+                palx::paintFace(painter, face, palx::shaded(colours.top, face, isSecond), line);
+    }
+}
+
+} // namespace panel
