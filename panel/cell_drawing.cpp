@@ -31,7 +31,16 @@ constexpr double kLinkEdge = 150;    // [mm] of the robot's arm
 constexpr int kLinkParts = 9;        // blocks that a link of the arm is drawn with
 
 /// How blocks are coloured; parts of stacks carry the place of their course, all others one of these.
-enum Look { kProduct = -1, kBelt = -2, kColumnLook = -3, kArm = -4, kTool = -5, kCarried = -6, kMastLook = -7, kLamp = -8 };
+enum Look {
+    kProduct = -1,
+    kBelt = -2,
+    kColumnLook = -3,
+    kArm = -4,
+    kTool = -5,
+    kCarried = -6,
+    kMastLook = -7,
+    kLamp = -8
+};
 
 struct Colours
 {
@@ -39,8 +48,7 @@ struct Colours
 };
 
 /// Lamps: red, yellow, green; off, then on.
-constexpr QRgb kLamps[3][2] = {
-    {0xff8c6a68, 0xffe02020}, {0xff8f8468, 0xfff0b000}, {0xff687f6d, 0xff20b040}};
+constexpr QRgb kLamps[3][2] = {{0xff8c6a68, 0xffe02020}, {0xff8f8468, 0xfff0b000}, {0xff687f6d, 0xff20b040}};
 
 Colours coloursOf(int look)
 {
@@ -258,22 +266,23 @@ void CellDrawing::addConveyor(QVector<IsoGroup> *groups) const
 void CellDrawing::addRobot(QVector<IsoGroup> *groups) const
 {
     const double top = scene_.column + kFoot;
-    groups->append({blockPart(isoBlock(cube(0, 0, floor(), kColumnEdge, top - floor())), view(), kColumnLook)});
+    groups->append(
+        {blockPart(isoBlock(cube(0, 0, floor(), kColumnEdge, top - floor())), view(), kColumnLook)});
     const CellBlock &carried = scene_.carried;
     if (carried.isThere())
         groups->append({blockPart(isoBlock(carried), view(), kCarried)});
     const QVector<controller::Vector> knees = armKnees(scene_.joints, scene_.column);
     for (int i = 0; i + 1 < knees.size(); ++i) {
         for (int part = 0; part < kLinkParts; ++part) {
-            const controller::Vector at =
-                knees[i] + (knees[i + 1] - knees[i]) * ((part + 0.5) / kLinkParts);
-            groups->append({blockPart(isoBlock(cube(at.x(), at.y(), at.z() - kLinkEdge / 2, kLinkEdge, kLinkEdge)),
-                                      view(), kArm)});
+            const controller::Vector at = knees[i] + (knees[i + 1] - knees[i]) * ((part + 0.5) / kLinkParts);
+            groups->append({blockPart(
+                isoBlock(cube(at.x(), at.y(), at.z() - kLinkEdge / 2, kLinkEdge, kLinkEdge)), view(), kArm)});
         }
     }
     if (carried.isThere()) {
         const double height = std::max(40.0, knees.last().z() - carried.top());
-        groups->append({blockPart(isoBlock(cube(carried.x, carried.y, carried.top(), 200, height)), view(), kTool)});
+        groups->append(
+            {blockPart(isoBlock(cube(carried.x, carried.y, carried.top(), 200, height)), view(), kTool)});
     }
 }
 

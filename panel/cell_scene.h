@@ -41,7 +41,7 @@ struct CellScene
     CellBlock waiting;                 ///< product at the conveyor's stop
     double ahead = 0;                  ///< distance of the next product from the stop [mm]
     CellBlock carried;
-    double column = 0;               ///< height of the lift column [mm]
+    double column = 0;              ///< height of the lift column [mm]
     std::array<double, 6> joints{}; ///< [rad]
 };
 bool operator==(const CellScene &a, const CellScene &b);

@@ -3,6 +3,7 @@
 #include "bwaf/center_widget.h"
 #include "core/global_nodes.h"
 #include "ix/xtheme.h"
+#include "panel/cell_page.h"
 #include "panel/controller_page.h"
 #include "panel/log_page.h"
 #include "panel/message_dialog.h"
@@ -18,6 +19,7 @@ namespace panel {
 
 namespace {
 
+const QString kCellPage = QStringLiteral("panel.cell");
 const QString kControllerPage = QStringLiteral("panel.controller");
 const QString kNoticePage = QStringLiteral("panel.notices");
 const QString kProblemPage = QStringLiteral("panel.problems");
@@ -58,6 +60,8 @@ PanelWindow::~PanelWindow()
 void PanelWindow::addOwnPages()
 {
     using namespace ix::xtheme;
+    center_->addPage(new CellPage, kCellPage);
+    navigator_->addOwnEntry({tr("Cell"), QString(), QString(), kCellPage, -1}, icon(Glyph::Pallet));
     center_->addPage(new ControllerPage, kControllerPage);
     navigator_->addOwnEntry({tr("Controller"), QString(), QString(), kControllerPage, -1},
                             icon(Glyph::Robot));
@@ -104,6 +108,7 @@ void PanelWindow::changeEvent(QEvent *event)
 void PanelWindow::retranslate()
 {
     setWindowTitle(tr("Robot panel"));
+    navigator_->setOwnTitle(kCellPage, tr("Cell"));
     navigator_->setOwnTitle(kControllerPage, tr("Controller"));
     navigator_->setOwnTitle(kNoticePage, tr("Log"));
     navigator_->setOwnTitle(kProblemPage, tr("Problems"));

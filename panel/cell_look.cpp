@@ -1,0 +1,98 @@
+#include "panel/cell_look.h"
+
+#include <QCoreApplication>
+
+namespace panel {
+
+using ix::xtheme::State;
+using orba::Node;
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(panel::CellPage)
+};
+
+QString projectText(const Node &cell)
+{
+    const QString project = cell.getString(u"program.project").section(QLatin1Char('/'), -1);
+    return project.isEmpty() ? Text::tr("No project is in use.") : Text::tr("Project %1").arg(project);
+}
+
+} // namespace
+
+ProgramLook programLook(const Node &cell, bool isConnected)
+{
+    if (!isConnected)
+        return {Text::tr("No controller"), State::Stopped, QString()};
+    const QString state = cell.getString(u"program.state");
+    const QString problem = cell.getString(u"program.problems.#0");
+    QString why = cell.getString(u"program.why");
+    if (why.isEmpty())
+        why = problem.isEmpty() ? projectText(cell) : problem;
+    if (state == QLatin1String("running"))
+        return {Text::tr("Running"), State::Running, why};
+    if (cell.getBool(u"program.fault"))
+        return {Text::tr("Fault"), State::Fault, why};
+    if (state == QLatin1String("paused"))
+        return {Text::tr("Paused"), State::Attention, why};
+    return {Text::tr("Stopped"), problem.isEmpty() ? State::Stopped : State::Fault, why};
+}
+
+PalletLook palletLook(const Node &cell, int side)
+{
+    static const Node none;
+    const Node *found = cell.find(QStringLiteral("pallets.#%1").arg(side));
+    const Node &pallet = found ? *found : none;
+    const QString name = side == 0 ? Text::tr("Left") : Text::tr("Right");
+    const auto look = [&name](const QString &text, State state) {
+        return PalletLook{name + QStringLiteral(": ") + text, state};
+    };
+    if (!pallet.getBool(u"in_place"))
+        return look(Text::tr("no pallet"), State::Attention);
+    if (pallet.getString(u"recipe").isEmpty())
+        return look(Text::tr("empty"), State::None);
+    const QString count =
+        Text::tr("%1 of %2 boxes").arg(pallet.getInt(u"count")).arg(pallet.getInt(u"expected"));
+    return look(count, pallet.getBool(u"full") ? State::Attention : State::None);
+}
+
+const QVector<DeskButton> &deskButtons()
+{
+    static const QVector<DeskButton> buttons{{"btnDeskStart", "DI2_0", "DO2_0", State::Running, false},
+                                             {"btnDeskStop", "DI2_1", "DO2_1", State::Fault, false},
+                                             {"btnDeskReset", "DI2_2", "DO2_2", State::Attention, false},
+                                             {"btnArrowLeft", "DI2_3", "DO2_3", State::Running, true},
+                                             {"btnArrowRight", "DI2_4", "DO2_4", State::Running, true}};
+    return buttons;
+}
+
+QString faultText(const QString &name)
+{
+    const struct
+    {
+        const char *name, *text;
+    } known[] = {{"no-vacuum", QT_TRANSLATE_NOOP("panel::CellPage", "No vacuum")},
+                 {"lost-box", QT_TRANSLATE_NOOP("panel::CellPage", "Lost box")},
+                 {"conveyor-jam", QT_TRANSLATE_NOOP("panel::CellPage", "Conveyor jam")},
+                 {"pallet-pulled", QT_TRANSLATE_NOOP("panel::CellPage", "Pallet pulled")},
+                 {"e-stop", QT_TRANSLATE_NOOP("panel::CellPage", "Emergency stop")},
+                 {"collision", QT_TRANSLATE_NOOP("panel::CellPage", "Collision")},
+                 {"power-cut", QT_TRANSLATE_NOOP("panel::CellPage", "Power cut")}};
+    for (const auto &each : known)
+        if (name == QLatin1String(each.name))
+            return Text::tr(each.text);
+    return name;
+}
+
+QString clockText(double seconds)
+{
+    const auto whole = static_cast<qint64>(seconds);
+    return QStringLiteral("%1:%2:%3")
+        .arg(whole / 3600)
+        .arg(whole / 60 % 60, 2, 10, QLatin1Char('0'))
+        .arg(whole % 60, 2, 10, QLatin1Char('0'));
+}
+
+} // namespace panel
