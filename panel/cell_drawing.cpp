@@ -23,7 +23,8 @@ namespace {
 constexpr double kSameHeight = 5;    // [mm] products of one layer may rest at slightly different heights
 constexpr double kColumnEdge = 500;  // [mm] of the lift column and the robot's foot
 constexpr double kFoot = 400;        // [mm] above the robot's base
-constexpr double kBeltLength = 2200; // [mm]
+constexpr double kArmTop = 1500;     // [mm] where the arm mostly is
+constexpr double kBeltLength = 1600; // [mm]
 constexpr double kBeltHeight = 120;  // [mm]
 constexpr double kBeaconEdge = 90;   // [mm]
 constexpr double kMast = 700;        // [mm] below the lamps
@@ -101,6 +102,27 @@ IsoBlock isoBlock(const CellBlock &block)
 CellBlock cube(double x, double y, double bottom, double edge, double height)
 {
     return {x, y, bottom + height / 2, 0, edge, edge, height};
+}
+
+/// The conveyor comes from the side that is farther from the robot.
+CellBlock upTheBelt(CellBlock block, double mm)
+{
+    const double turn = block.turn * 3.141592653589793 / 180;
+    const double way = block.x * std::cos(turn) + block.y * std::sin(turn) < 0 ? -mm : mm;
+    block.x += way * std::cos(turn);
+    block.y += way * std::sin(turn);
+    return block;
+}
+
+/// The belt under the product at the stop.
+CellBlock beltAt(const CellBlock &stop)
+{
+    CellBlock belt = upTheBelt(stop, (kBeltLength - stop.length) / 2);
+    belt.length = kBeltLength;
+    belt.width = stop.width + 80;
+    belt.z = stop.bottom() - kBeltHeight / 2;
+    belt.height = kBeltHeight;
+    return belt;
 }
 
 /// Consecutive blocks at one height are one course.
@@ -207,16 +229,35 @@ double CellDrawing::floor() const
     return lowest;
 }
 
-/// The bounds only grow, by what comes to rest; the moving arm has its reach.
+/// What stands in the cell only becomes more, so that the picture does not jump; the moving arm has its reach above.
 void CellDrawing::widenBounds()
 {
-    Course robot{SolidKind::Product, floor(), 2300, {outlineOf(cube(0, 0, 0, 1600, 1))}, -1, {}};
-    QVector<Course> all{robot};
-    for (const Stack &stack : stacks_)
-        all += stack.courses;
-    if (stop_.isThere())
-        all.append(Course{SolidKind::Product, stop_.bottom(), stop_.top(), {outlineOf(stop_)}, -1, {}});
-    bounds_ |= palx::turningBounds(all, QPointF());
+    QRectF plan = plan_;
+    const auto add = [&](const CellBlock &block) {
+        if (!block.isThere())
+            return;
+        for (const QPointF &corner : outlineOf(block))
+            plan |= QRectF(corner - QPointF(1, 1), QSizeF(2, 2));
+        top_ = std::max(top_, block.top());
+    };
+    add(cube(0, 0, floor(), kColumnEdge, kArmTop));
+    add(stop_.isThere() ? beltAt(stop_) : CellBlock());
+    for (const CellPallet &pallet : scene_.pallets) {
+        add(pallet.pallet);
+        if (!pallet.boxes.isEmpty())
+            add(pallet.boxes.last());
+    }
+    if (plan == plan_)
+        return;
+    plan_ = plan;
+    for (Stack &stack : stacks_)
+        stack.isStale = true; // seen about another middle
+}
+
+QRectF CellDrawing::bounds() const
+{
+    const Corners outline{plan_.topLeft(), plan_.topRight(), plan_.bottomRight(), plan_.bottomLeft()};
+    return palx::isoBounds({Course{SolidKind::Product, floor(), top_, {outline}, -1, {}}}, view());
 }
 
 // ---------------------------------------------------------------- groups
@@ -239,28 +280,14 @@ void CellDrawing::addStacks(QVector<IsoGroup> *groups, double gapMm)
     gap_ = gapMm;
 }
 
-/// The belt lies under the product at the stop and comes from the side that is farther from the robot.
 void CellDrawing::addConveyor(QVector<IsoGroup> *groups) const
 {
     if (!stop_.isThere())
         return;
-    const double turn = stop_.turn * 3.141592653589793 / 180;
-    const double way = stop_.x * std::cos(turn) + stop_.y * std::sin(turn) < 0 ? -1 : 1;
-    const auto along = [&](double mm) {
-        CellBlock block = stop_;
-        block.x += way * mm * std::cos(turn);
-        block.y += way * mm * std::sin(turn);
-        return block;
-    };
-    CellBlock belt = along((kBeltLength - stop_.length) / 2);
-    belt.length = kBeltLength;
-    belt.width = stop_.width + 80;
-    belt.z = stop_.bottom() - kBeltHeight / 2;
-    belt.height = kBeltHeight;
-    groups->append({blockPart(isoBlock(belt), view(), kBelt)});
+    groups->append({blockPart(isoBlock(beltAt(stop_)), view(), kBelt)});
     const double ahead = scene_.waiting.isThere() ? 0 : scene_.ahead;
     if (ahead < kBeltLength - stop_.length)
-        groups->append({blockPart(isoBlock(along(ahead)), view(), kProduct)});
+        groups->append({blockPart(isoBlock(upTheBelt(stop_, ahead)), view(), kProduct)});
 }
 
 void CellDrawing::addRobot(QVector<IsoGroup> *groups) const

@@ -13,7 +13,7 @@ namespace panel {
 namespace {
 
 constexpr double kZoomPerNotch = 1.2;
-constexpr double kFirstTurn = 0;
+constexpr double kFirstTurn = -25; // the left pallet is on the left, the conveyor behind
 
 } // namespace
 
@@ -37,13 +37,14 @@ bool CellView::showScene(const CellScene &scene)
 
 void CellView::fit()
 {
-    camera_.setScene(drawing_.turningBounds(), size());
+    camera_.setScene(drawing_.bounds(), size());
 }
 
 void CellView::turnBy(double degrees)
 {
     camera_.turnBy(degrees);
     drawing_.setTurn(camera_.turn());
+    fit();
     update();
 }
 
@@ -57,6 +58,7 @@ void CellView::resetView()
 {
     camera_.reset(kFirstTurn);
     drawing_.setTurn(kFirstTurn);
+    fit();
     update();
 }
 

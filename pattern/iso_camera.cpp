@@ -11,9 +11,9 @@ constexpr double kFill = 0.95; // of the view, at zoom 1
 
 } // namespace
 
-void IsoCamera::setScene(const QRectF &turningBounds, const QSizeF &view)
+void IsoCamera::setScene(const QRectF &bounds, const QSizeF &view)
 {
-    scene_ = turningBounds;
+    scene_ = bounds;
     view_ = view;
     moveBy(0);
 }
@@ -52,8 +52,8 @@ double IsoCamera::pixelsPerMm() const
 
 QPointF IsoCamera::origin() const
 {
-    const double middle = scene_.center().y() + heightShift_;
-    return QPointF(view_.width() / 2, view_.height() / 2 - middle * pixelsPerMm());
+    const QPointF middle = scene_.center() + QPointF(0, heightShift_);
+    return QPointF(view_.width() / 2, view_.height() / 2) - middle * pixelsPerMm();
 }
 
 } // namespace palx

@@ -14,8 +14,8 @@ public:
     static constexpr double kMostZoom = 8;
     static constexpr double kDegreesPerPixel = 0.5; ///< half a turn takes the width of a small view
 
-    /// Around the picture at any turn, and the view's size.
-    void setScene(const QRectF &turningBounds, const QSizeF &view);
+    /// What fits the view at zoom 1, and the view's size.
+    void setScene(const QRectF &bounds, const QSizeF &view);
     double turn() const { return turnDeg_; }
     void turnBy(double degrees);
     double zoom() const { return zoom_; }

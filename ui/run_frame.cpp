@@ -5,6 +5,7 @@
 #include "pattern/node_follower.h"
 #include "project/rules/first_project.h"
 #include "project/rules/project_record.h"
+#include "project/rules/run_recovery.h"
 #include "ui/run_side_card.h"
 #include "ui/start_dialog.h"
 #include "ui_run_frame.h"
@@ -29,10 +30,33 @@ palx::RunSource runSource()
             m("nexo.cell.program")->node()};
 }
 
-QString whyOf(palx::RunState state)
+QString whyOf(palx::RunState state, const palx::RunRecovery &run)
 {
+    const QString blocked = state == palx::RunState::Paused ? palx::whyNotGoOn(run) : QString();
+    if (!blocked.isEmpty())
+        return blocked;
     const bool hasReason = state == palx::RunState::Fault || state == palx::RunState::Paused;
     return hasReason ? m("nexo.cell.program")->getString("why") : QString();
+}
+
+int numberOf(const RunSideCard *card)
+{
+    return static_cast<int>(card->side());
+}
+
+palx::RunCircumstances circumstances(const palx::RunRecovery &run, const RunSideCard *card)
+{
+    return {m("nexo.r")->getBool("connected"), m("nexo.robot")->getBool("moving"),
+            palx::needsConfirmation(run, numberOf(card))};
+}
+
+/// A confirmation as changes of variables.
+palx::VariableChanges changesOf(const orba::Node &values)
+{
+    palx::VariableChanges changes;
+    for (int i = 0; i < values.size(); ++i)
+        changes.append({values.at(i)->name().toString(), values.at(i)->toString()});
+    return changes;
 }
 
 } // namespace
@@ -71,8 +95,16 @@ void RunFrame::follow()
 {
     follower_ = std::make_unique<palx::NodeFollower>();
     isStale_ = false;
-    follower_->followTree(m("quill.project.var._list"));
-    follower_->followTree(m("nexo.cell.program"));
+    const ModuleObject *variables = m("quill.project.var._list");
+    follower_->follow(variables);
+    for (const ModuleObject *variable : variables->cmobjs())
+        follower_->follow(variable->r("value.[0][0][0]"));
+    const ModuleObject *cell = m("nexo.cell");
+    for (const char *path : {"program.state", "program.why", "program.fault", "gripper.carries", "pallets"})
+        follower_->follow(cell->r(path));
+    for (const ModuleObject *pallet : cell->r("pallets")->cmobjs())
+        for (const char *key : {"count", "recipe", "layer", "piece"})
+            follower_->follow(pallet->c(key));
     for (const ModuleObject *node : {m("nexo.robot.moving"), palx::stacksNode(), palx::projectsNode()})
         follower_->follow(node);
     connect(follower_.get(), &palx::NodeFollower::valueTouched, &refresh_, [this] { refresh_.start(); });
@@ -92,15 +124,14 @@ void RunFrame::refresh()
     if (follower_ && isStale_)
         follow();
     const palx::RunSource source = runSource();
-    const bool isConnected = m("nexo.r")->getBool("connected");
+    const palx::RunRecovery run = palx::currentRunRecovery();
     bool hasLine = false;
     for (RunSideCard *card : cards_) {
         const palx::RunSide side = palx::readRunSide(source, card->side());
-        const palx::RunState state =
-            palx::runState(side, isConnected, source.program, m("nexo.robot")->getBool("moving"));
+        const palx::RunState state = palx::runState(side, source.program, circumstances(run, card));
         card->setVisible(side.isPart);
         if (side.isPart)
-            card->showSide(side, state, whyOf(state),
+            card->showSide(side, state, whyOf(state, run),
                            palx::recipeOfSide(source.stacks, card->side(), side.recipe));
         hasLine = hasLine || side.isPart;
     }
@@ -108,6 +139,8 @@ void RunFrame::refresh()
     showNone();
     if (hasLine != std::exchange(hasLine_, hasLine))
         Q_EMIT hasLineChanged(hasLine);
+    if (follower_)
+        askWhatBrokeOff();
 }
 
 /// What has to come before anything can be produced.
@@ -167,7 +200,12 @@ void RunFrame::ask(RunSideCard *card, const palx::VariableChanges &changes)
 
 void RunFrame::setEnabledSide(RunSideCard *card, bool on)
 {
+    const palx::RunRecovery run = palx::currentRunRecovery();
+    if (on && palx::needsConfirmation(run, numberOf(card)))
+        return recover(card, true);
     QString problem = on ? palx::enableProblem(card->shown(), recipeOf(card)) : QString();
+    if (on && problem.isEmpty())
+        problem = palx::whyNotEnable(run, numberOf(card));
     if (on && problem.isEmpty())
         problem = recipeMismatch(card->shown().recipeName());
     if (problem.isEmpty())
@@ -203,21 +241,68 @@ void RunFrame::chooseRecipe(RunSideCard *card, int index)
 
 void RunFrame::startAt(RunSideCard *card)
 {
+    const palx::RunRecovery run = palx::currentRunRecovery();
+    if (palx::needsConfirmation(run, numberOf(card)))
+        return recover(card, false);
     const orba::Node *stack = recipeOf(card);
-    const palx::RunSide side = card->shown();
-    const QString problem = palx::startProblem(side, stack, 1, 1);
+    const QString problem = palx::enableProblem(card->shown(), stack);
     if (!problem.isEmpty())
         return refuse(problem);
-    const bool isLeft = card->side() == LineSide::Left;
-    auto *dialog = new StartDialog({isLeft ? tr("Start the left side at") : tr("Start the right side at"),
-                                    tr("Recipe \"%1\"").arg(side.recipeName()), side, *stack,
-                                    std::min(side.layer, side.layers), side.piece, false},
-                                   window());
+    StartRequest request;
+    request.title = numberOf(card) == 0 ? tr("Start the left side at") : tr("Start the right side at");
+    request.text = tr("Recipe \"%1\"").arg(card->shown().recipeName());
+    request.piece = run.sides[static_cast<std::size_t>(numberOf(card))].counted;
+    askForPiece(card, request, {});
+}
+
+/// What broke off goes on only when somebody looked at it.
+void RunFrame::recover(RunSideCard *card, bool thenEnable)
+{
+    StartRequest request;
+    request.title = numberOf(card) == 0 ? tr("The left side broke off") : tr("The right side broke off");
+    request.text =
+        tr("Clear the gripper, look at the pallet, and confirm the box to go on with. It is proposed by the "
+           "counters and by what lies there.");
+    request.piece = palx::currentRunRecovery().sides[static_cast<std::size_t>(numberOf(card))].proposed;
+    request.mustClear = true;
+    askForPiece(card, request,
+                thenEnable ? palx::enableChanges(card->side(), true) : palx::VariableChanges());
+}
+
+void RunFrame::askForPiece(RunSideCard *card, const StartRequest &request,
+                           const palx::VariableChanges &further)
+{
+    const orba::Node *stack = recipeOf(card);
+    if (!stack)
+        return refuse(palx::enableProblem(card->shown(), stack));
+    StartRequest whole = request;
+    whole.side = numberOf(card);
+    whole.stack = *stack;
+    auto *dialog = new StartDialog(whole, window());
+    dialog_ = dialog;
     palx::makeUniqueDialog(dialog);
-    connect(dialog, &QDialog::accepted, card, [this, card, dialog, node = orba::Node(*stack)] {
-        ask(card, palx::startChanges(card->side(), node, dialog->layer(), dialog->piece()));
+    connect(dialog, &QDialog::accepted, card, [this, card, dialog, further] {
+        const orba::Node values =
+            palx::confirmedVariables(palx::currentRunRecovery(), numberOf(card), dialog->piece());
+        ask(card, changesOf(values) + further);
     });
+    connect(dialog, &QDialog::finished, &refresh_, [this] { refresh_.start(); }); // the other side may wait
     dialog->open();
+}
+
+/// Once for each time that a side breaks off, one side after the other.
+void RunFrame::askWhatBrokeOff()
+{
+    const palx::RunRecovery run = palx::currentRunRecovery();
+    for (RunSideCard *card : cards_) {
+        bool &wasAsked = wasAsked_[static_cast<std::size_t>(numberOf(card))];
+        if (!card->shown().isPart || !palx::needsConfirmation(run, numberOf(card))) {
+            wasAsked = false;
+        } else if (!wasAsked && (!dialog_ || !dialog_->isVisible()) && !card->isWaiting()) {
+            wasAsked = true;
+            return recover(card, false);
+        }
+    }
 }
 
 void RunFrame::reset(RunSideCard *card)

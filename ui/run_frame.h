@@ -3,6 +3,8 @@
 #include "orba/module_object.h"
 #include "project/rules/run_side.h"
 
+#include <QDialog>
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
@@ -10,6 +12,7 @@
 #include <memory>
 
 class RunSideCard;
+struct StartRequest;
 namespace palx {
 class ControllerRecipes;
 class NodeFollower;
@@ -20,7 +23,8 @@ class RunFrame;
 
 /// The line while it produces: a card for each side that the current project has. Everything shown is what the controller
 /// says; what is pressed is asked of the controller, and shown when its variables say so. Follows the nodes only while it is
-/// seen.
+/// seen. A side whose program broke off is asked about as soon as the page is seen: the gripper is to be cleared, layer and
+/// piece are to be confirmed, before the side is enabled.
 class PALX_API RunFrame : public QWidget
 {
     Q_OBJECT
@@ -51,6 +55,9 @@ private:
     void setEnabledSide(RunSideCard *card, bool on);
     void chooseRecipe(RunSideCard *card, int index);
     void startAt(RunSideCard *card);
+    void recover(RunSideCard *card, bool thenEnable);
+    void askForPiece(RunSideCard *card, const StartRequest &request, const palx::VariableChanges &further);
+    void askWhatBrokeOff();
     void reset(RunSideCard *card);
     void ask(RunSideCard *card, const palx::VariableChanges &changes);
     void refuse(const QString &why);
@@ -62,6 +69,8 @@ private:
     std::array<RunSideCard *, 2> cards_{};
     std::unique_ptr<palx::NodeFollower> follower_; ///< while the page is seen
     QTimer refresh_;                               ///< one for all changes of a turn of the loop
+    std::array<bool, 2> wasAsked_{};               ///< for the piece of a side that broke off
+    QPointer<QDialog> dialog_;
     bool hasLine_ = false;
     bool isStale_ = true; ///< the nodes that are followed are others now
 };

@@ -28,6 +28,8 @@ Look lookOf(RunState state)
         return {State::Stopped, QT_TRANSLATE_NOOP("RunSideCard", "Not in this project")};
     case RunState::Fault:
         return {State::Fault, QT_TRANSLATE_NOOP("RunSideCard", "Fault")};
+    case RunState::Unconfirmed:
+        return {State::Attention, QT_TRANSLATE_NOOP("RunSideCard", "Broken off: confirm layer and piece")};
     case RunState::Full:
         return {State::Attention, QT_TRANSLATE_NOOP("RunSideCard", "Pallet full: exchange and confirm it")};
     case RunState::Paused:

@@ -29,6 +29,7 @@ public:
     const palx::RunSide &shown() const { return shown_; }
     /// A request is under way: nothing else can be asked for.
     void setWaiting(bool waits);
+    bool isWaiting() const { return waits_; }
     /// The recipe was edited: the picture is drawn anew.
     void forgetPicture() { pictured_.clear(); }
 

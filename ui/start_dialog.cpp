@@ -1,6 +1,8 @@
 #include "ui/start_dialog.h"
 
 #include "ix/xtheme.h"
+#include "orba/module_object.h"
+#include "project/rules/run_side.h"
 #include "ui/form_style.h"
 #include "ui/keypad.h"
 #include "ui_start_dialog.h"
@@ -10,6 +12,16 @@
 using ix::xtheme::Glyph;
 using ix::xtheme::State;
 
+namespace {
+
+bool holdsSomething()
+{
+    const palx::RunRecovery run = palx::currentRunRecovery();
+    return run.holdsProduct || run.isSuctionOn;
+}
+
+} // namespace
+
 StartDialog::StartDialog(StartRequest request, QWidget *parent)
     : QDialog(parent), ui_(std::make_unique<Ui::StartDialog>()), request_(std::move(request))
 {
@@ -17,12 +29,13 @@ StartDialog::StartDialog(StartRequest request, QWidget *parent)
     setWindowTitle(request_.title);
     ui_->lblTitle->setText(request_.title);
     ui_->lblText->setText(request_.text);
+    request_.mustClear = request_.mustClear || holdsSomething();
     ui_->chkClear->setVisible(request_.mustClear);
     ui_->view->showStack(&request_.stack);
     ui_->spnLayer->setMaximum(std::max(1, palx::pointLayers(request_.stack)));
-    ui_->spnLayer->setValue(request_.layer);
+    ui_->spnLayer->setValue(request_.piece.layer);
     showChoice(); // the pieces of that layer
-    ui_->spnPiece->setValue(request_.piece);
+    ui_->spnPiece->setValue(request_.piece.piece);
     connectFields();
     setFieldMargins(this);
     new KeypadOpener(this);
@@ -51,36 +64,45 @@ void StartDialog::connectFields()
     }
     for (QSpinBox *field : {ui_->spnLayer, ui_->spnPiece})
         connect(field, QOverload<int>::of(&QSpinBox::valueChanged), this, &StartDialog::showChoice);
-    connect(ui_->chkClear, &QCheckBox::toggled, this, &StartDialog::showChoice);
+    connect(ui_->chkClear, &QCheckBox::clicked, this, &StartDialog::confirmClear);
+    for (const char *path : {"nexo.cell.program.state", "nexo.cell.gripper.carries",
+                             "nexo.cell.pallets.#0.count", "nexo.cell.pallets.#1.count", "nexo.r.connected"})
+        connect(m(path), &orba::ModuleObject::changed, this, &StartDialog::showChoice);
     connect(ui_->btnOk, &QPushButton::clicked, this, &QDialog::accept);
     connect(ui_->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-int StartDialog::layer() const
+palx::PalletPiece StartDialog::piece() const
 {
-    return ui_->spnLayer->value();
+    return {ui_->spnLayer->value(), ui_->spnPiece->value()};
 }
 
-int StartDialog::piece() const
+void StartDialog::confirmClear(bool isClear)
 {
-    return ui_->spnPiece->value();
+    clearProblem_ = isClear && holdsSomething() ? palx::clearGripper() : QString();
+    if (!clearProblem_.isEmpty())
+        ui_->chkClear->setChecked(false);
+    showChoice();
 }
 
 QString StartDialog::problem() const
 {
-    const QString wrong = palx::startProblem(request_.side, &request_.stack, layer(), piece());
-    if (!wrong.isEmpty() || !request_.mustClear || ui_->chkClear->isChecked())
-        return wrong;
-    return tr("Take the product out of the gripper and confirm that it is empty.");
+    if (!clearProblem_.isEmpty())
+        return clearProblem_;
+    if (request_.mustClear && !ui_->chkClear->isChecked())
+        return tr("Take the product out of the gripper and confirm that it is empty.");
+    return palx::whyNotConfirm(palx::currentRunRecovery(), request_.side, piece());
 }
 
 void StartDialog::showChoice()
 {
-    ui_->spnPiece->setMaximum(std::max(1, palx::layerPieces(request_.stack, layer())));
-    ui_->view->setPieces(palx::piecesBefore(request_.stack, layer(), piece(), true));
+    const orba::Node &stack = request_.stack;
+    ui_->spnPiece->setMaximum(std::max(1, palx::layerPieces(stack, ui_->spnLayer->value())));
+    const palx::PalletPiece next = piece();
+    ui_->view->setPieces(palx::piecesBefore(stack, next.layer, next.piece, true));
     ui_->lblCount->setText(tr("%1 of %2 boxes lie on the pallet.")
-                               .arg(palx::piecesBefore(request_.stack, layer(), piece(), false))
-                               .arg(request_.side.expected));
+                               .arg(palx::piecesBefore(stack, next.layer, next.piece, false))
+                               .arg(palx::piecesBefore(stack, palx::pointLayers(stack) + 1, 1, false)));
     const QString reason = problem();
     ui_->lblReason->setText(reason);
     ix::xtheme::setState(ui_->lblReason, reason.isEmpty() ? State::None : State::Attention);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "orba/node.h"
-#include "project/rules/run_side.h"
+#include "project/rules/run_recovery.h"
 
 #include <QDialog>
 
@@ -15,14 +15,15 @@ class StartDialog;
 struct PALX_API StartRequest
 {
     QString title, text;
-    palx::RunSide side;
-    orba::Node stack; ///< the recipe with its points
-    int layer = 1, piece = 1;
-    bool mustClear = false; ///< the operator has to confirm that the gripper is empty
+    int side = 0;            ///< 0 left, 1 right
+    orba::Node stack;        ///< the recipe with its points
+    palx::PalletPiece piece; ///< proposed
+    bool mustClear = false;  ///< the operator has to confirm that the gripper is empty
 };
 
 /// Asks for layer and piece to go on with, and shows what would lie on the pallet then. Only what the recipe has can be
-/// confirmed.
+/// confirmed, and nothing while something hangs at the gripper: its confirmation tells the controller that it was cleared.
+/// Follows the controller as long as it is open.
 class PALX_API StartDialog : public QDialog
 {
     Q_OBJECT
@@ -31,8 +32,7 @@ public:
     explicit StartDialog(StartRequest request, QWidget *parent = nullptr);
     ~StartDialog() override;
 
-    int layer() const;
-    int piece() const;
+    palx::PalletPiece piece() const;
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -40,8 +40,10 @@ protected:
 private:
     void connectFields();
     void showChoice();
+    void confirmClear(bool isClear);
     QString problem() const;
 
     std::unique_ptr<Ui::StartDialog> ui_;
     StartRequest request_;
+    QString clearProblem_; ///< why the controller does not take the gripper for empty
 };

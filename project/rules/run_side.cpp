@@ -150,43 +150,31 @@ int piecesBefore(const Node &stack, int layer, int piece, bool withSheets)
     return layer <= layers ? count + std::clamp(piece - 1, 0, layerPieces(stack, layer)) : count;
 }
 
-RunState runState(const RunSide &side, bool isConnected, const Node &program, bool isRobotMoving)
+RunState runState(const RunSide &side, const Node &program, const RunCircumstances &now)
 {
-    if (!isConnected)
+    if (!now.isConnected)
         return RunState::NoController;
     if (!side.isPart)
         return RunState::Absent;
     const QString state = program.getString(u"state");
+    const bool isStopped = state == QLatin1String("stopped");
+    if (side.isFull && !isStopped)
+        return RunState::Full;
+    if (state == QLatin1String("paused") && side.isEnabled)
+        return RunState::Paused;
+    if (isStopped && now.isRobotMoving)
+        return RunState::MovedByHand;
     if (program.getBool(u"fault") && side.isEnabled)
         return RunState::Fault;
     if (side.isFull)
         return RunState::Full;
-    if (state == QLatin1String("paused") && side.isEnabled)
-        return RunState::Paused;
-    if (state == QLatin1String("stopped") && isRobotMoving)
-        return RunState::MovedByHand;
+    if (now.mustConfirm)
+        return RunState::Unconfirmed;
     if (side.isStacked)
         return RunState::Stacking;
     if (!side.isEnabled)
         return RunState::Disabled;
-    return state == QLatin1String("stopped") ? RunState::Standing : RunState::Waiting;
-}
-
-QString startProblem(const RunSide &side, const Node *stack, int layer, int piece)
-{
-    if (!stack)
-        return Text::tr("The controller names a recipe that is not here.");
-    const int layers = pointLayers(*stack);
-    if (layers == 0)
-        return noPoints();
-    if (layer < 1 || layer > layers)
-        return Text::tr("The recipe has the layers 1 to %1.").arg(layers);
-    const int pieces = layerPieces(*stack, layer);
-    if (pieces == 0)
-        return piece == 1 ? QString() : Text::tr("Layer %1 is a separator sheet.").arg(layer);
-    if (piece < 1 || piece > pieces)
-        return Text::tr("Layer %1 has the pieces 1 to %2.").arg(layer).arg(pieces);
-    return side.isStacked ? Text::tr("The robot is stacking this side. Stop the program first.") : QString();
+    return isStopped ? RunState::Standing : RunState::Waiting;
 }
 
 QString recipeChangeProblem(const RunSide &side)
@@ -211,19 +199,14 @@ VariableChanges enableChanges(LineSide side, bool on)
     return {{sideVariable("enableStack", side), QString::number(on ? 1 : 0)}};
 }
 
-VariableChanges startChanges(LineSide side, const Node &stack, int layer, int piece)
-{
-    return {{sideVariable("currentLayer", side), QString::number(layer)},
-            {sideVariable("layerCount", side), QString::number(piece)},
-            {sideVariable("palletCount", side), QString::number(piecesBefore(stack, layer, piece, false))}};
-}
-
 VariableChanges recipeChanges(LineSide side, const Node &stack, int index)
 {
     const long height = std::lround(stack.getDouble(u"product_cfg.product.height"));
-    return VariableChanges{{sideVariable("palletIndex", side), QString::number(index)},
-                           {sideVariable("boxHeight", side), QString::number(height)}} +
-           startChanges(side, stack, 1, 1);
+    return {{sideVariable("palletIndex", side), QString::number(index)},
+            {sideVariable("boxHeight", side), QString::number(height)},
+            {sideVariable("currentLayer", side), QStringLiteral("1")},
+            {sideVariable("layerCount", side), QStringLiteral("1")},
+            {sideVariable("palletCount", side), QStringLiteral("0")}};
 }
 
 VariableChanges resetChanges(LineSide side)

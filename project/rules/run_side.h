@@ -66,6 +66,7 @@ enum class RunState {
     NoController,
     Absent,      ///< not in the project's layout
     Fault,       ///< the programs ended with a fault
+    Unconfirmed, ///< layer and piece are to be confirmed before anything starts
     Full,        ///< wants a new pallet
     Paused,      ///< the programs are paused
     Standing,    ///< enabled, but no program runs
@@ -74,20 +75,22 @@ enum class RunState {
     Waiting, ///< enabled, its turn comes
     Disabled,
 };
+/// What else the state of a side depends on.
+struct PALX_API RunCircumstances
+{
+    bool isConnected = false;
+    bool isRobotMoving = false;
+    bool mustConfirm = false; ///< `needsConfirmation` of the side
+};
 /// `program` as in RunSource.
-PALX_API RunState runState(const RunSide &side, bool isConnected, const orba::Node &program,
-                           bool isRobotMoving);
+PALX_API RunState runState(const RunSide &side, const orba::Node &program, const RunCircumstances &now);
 
-/// Why stacking cannot begin at that piece; empty when it can.
-PALX_API QString startProblem(const RunSide &side, const orba::Node *stack, int layer, int piece);
 /// Why another recipe cannot be chosen now; empty when it can.
 PALX_API QString recipeChangeProblem(const RunSide &side);
 /// Why the side cannot be enabled; empty when it can.
 PALX_API QString enableProblem(const RunSide &side, const orba::Node *stack);
 
 PALX_API VariableChanges enableChanges(LineSide side, bool on);
-/// Layer, piece, and the products that lie there then.
-PALX_API VariableChanges startChanges(LineSide side, const orba::Node &stack, int layer, int piece);
 /// Another recipe begins at its first piece, with the height of its product.
 PALX_API VariableChanges recipeChanges(LineSide side, const orba::Node &stack, int index);
 /// Pallets, totals and cycle time become 0. Where the side goes on stays, because that is where products lie.
