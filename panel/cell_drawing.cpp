@@ -28,8 +28,8 @@ constexpr double kBeltLength = 1600; // [mm]
 constexpr double kBeltHeight = 120;  // [mm]
 constexpr double kBeaconEdge = 90;   // [mm]
 constexpr double kMast = 700;        // [mm] below the lamps
-constexpr double kLinkEdge = 150;    // [mm] of the robot's arm
-constexpr int kLinkParts = 9;        // blocks that a link of the arm is drawn with
+constexpr double kLinkEdge = 140;    // [mm] of the robot's arm
+constexpr int kLinkParts = 16;       // blocks that a link of the arm is drawn with
 
 /// How blocks are coloured; parts of stacks carry the place of their course, all others one of these.
 enum Look {
@@ -152,13 +152,13 @@ QVector<Course> coursesOf(const CellPallet &pallet)
     return courses;
 }
 
-/// Shoulder, elbow, wrist and flange of the robot [mm in the cell].
+/// Foot, shoulder, elbow, wrist and flange of the robot [mm in the cell].
 QVector<controller::Vector> armKnees(const controller::Joints &joints, double column)
 {
     using controller::Vector;
     using namespace controller::arm;
     controller::Pose pose = controller::Pose::Identity();
-    QVector<Vector> knees;
+    QVector<Vector> knees{Vector(0, 0, column + kFoot)};
     const auto link = [&](double angle, const Vector &axis, const Vector &step) {
         pose.rotate(Eigen::AngleAxisd(angle, axis)).translate(step);
         knees.append(pose.translation() * 1000 + Vector(0, 0, column));
@@ -240,7 +240,7 @@ void CellDrawing::widenBounds()
             plan |= QRectF(corner - QPointF(1, 1), QSizeF(2, 2));
         top_ = std::max(top_, block.top());
     };
-    add(cube(0, 0, floor(), kColumnEdge, kArmTop));
+    add(cube(0, 0, floor(), kColumnEdge, kFoot));
     add(stop_.isThere() ? beltAt(stop_) : CellBlock());
     for (const CellPallet &pallet : scene_.pallets) {
         add(pallet.pallet);
@@ -257,7 +257,10 @@ void CellDrawing::widenBounds()
 QRectF CellDrawing::bounds() const
 {
     const Corners outline{plan_.topLeft(), plan_.topRight(), plan_.bottomRight(), plan_.bottomLeft()};
-    return palx::isoBounds({Course{SolidKind::Product, floor(), top_, {outline}, -1, {}}}, view());
+    const Corners robot = outlineOf(cube(0, 0, 0, 2 * kColumnEdge, 1));
+    return palx::isoBounds({Course{SolidKind::Product, floor(), std::max(top_, 0.0), {outline}, -1, {}},
+                            Course{SolidKind::Product, floor(), kArmTop, {robot}, -1, {}}},
+                           view());
 }
 
 // ---------------------------------------------------------------- groups

@@ -162,7 +162,7 @@ QVector<CellRow> variableRows(const Node &list, const QString &search)
         if (name.isEmpty() || !found.contains(search, Qt::CaseInsensitive))
             continue;
         const QString type = variable->getString(u"type");
-        rows.append({{name, variable->getString(u"value.[0][0][0]"),
+        rows.append({{name, variable->getString(u"value.#0"),
                       variable->getBool(u"pers") ? type : QLatin1Char('(') + type + QLatin1Char(')')},
                      name,
                      State::None});

@@ -14,7 +14,10 @@
 class RobotCell
 {
 public:
-    RobotCell() : RobotCell(std::make_unique<controller::SteppedCarrier>()) {}
+    explicit RobotCell(const controller::StationOptions &options = {})
+        : RobotCell(std::make_unique<controller::SteppedCarrier>(options))
+    {
+    }
     ~RobotCell()
     {
         link.reset();

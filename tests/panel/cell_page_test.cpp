@@ -1,0 +1,379 @@
+// The page of the simulated cell, against a controller whose time the test turns.
+
+#include "panel/cell_page.h"
+
+#include "controller/stepped_carrier.h"
+#include "core/controller_link.h"
+#include "core/global_nodes.h"
+#include "panel/cell_look.h"
+#include "panel/cell_tables.h"
+#include "panel/cell_view.h"
+#include "support/test_support.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QSlider>
+#include <QTableView>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using orba::Node;
+
+namespace {
+
+constexpr const char *kProgram = "GLOBAL PROC main()\n"
+                                 "    WHILE true\n"
+                                 "        Wait(0.5)\n"
+                                 "        count := count + 1\n"
+                                 "        SetDO(DO2_0, DI2_3)\n"
+                                 "        Wait(0.5)\n"
+                                 "    ENDWHILE\n"
+                                 "ENDPROC\n";
+
+class CellPageTest : public ::testing::Test
+{
+protected:
+    CellPageTest()
+    {
+        EXPECT_TRUE(host::buildGlobalNodes());
+        controller::StationOptions options;
+        options.workspaceFolder = folder.path();
+        auto made = std::make_unique<controller::SteppedCarrier>(options);
+        carrier = made.get();
+        link = std::make_unique<host::ControllerLink>(std::move(made));
+        link->open();
+        settle();
+        EXPECT_TRUE(link->isConnected());
+    }
+    ~CellPageTest() override
+    {
+        page.reset();
+        link.reset();
+        host::removeGlobalNodes();
+    }
+    void settle()
+    {
+        do
+            QCoreApplication::processEvents();
+        while (!link->isIdle());
+    }
+    void makeProject()
+    {
+        QDir(folder.path()).mkpath(QStringLiteral("SIM-0001/P/task0"));
+        QFile file(folder.filePath(QStringLiteral("SIM-0001/P/task0/main.mod")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(kProgram);
+        file.close();
+        m("quill.project")->set(nullptr, "cur_project", QStringLiteral("SIM-0001/P"), true);
+        m("quill.project.task._list")
+            ->copyFrom(nodeFromJson(R"([{"name":"task0","description":"Default","type":"motion","priority":2,
+                                         "files":[{"name":"main","type":"MOD"}]}])"));
+        m("quill.project.var._list")->copyFrom(nodeFromJson(R"([
+            {"name":"count","description":"turns","type":"int","pers":"true","d":[0,0,0],"value":{"[0][0][0]":"0"}},
+            {"name":"other","description":"","type":"double","pers":"false","d":[0,0,0],"value":{"[0][0][0]":"1.5"}}])"));
+        settle();
+    }
+    void openPage()
+    {
+        page = std::make_unique<panel::CellPage>();
+        page->resize(1080, 720);
+        page->show();
+        settle();
+    }
+    /// Simulated seconds.
+    void pass(double seconds)
+    {
+        carrier->pass(seconds);
+        settle();
+        page->refresh();
+    }
+    template <typename T> T *child(const char *name) const
+    {
+        T *found = page->findChild<T *>(QLatin1String(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    void press(const char *button)
+    {
+        child<QPushButton>(button)->click();
+        settle();
+    }
+    QString text(const char *label) const { return child<QLabel>(label)->text(); }
+    QString look(const char *widget) const { return child<QWidget>(widget)->property("state").toString(); }
+    QStringList row(const char *table, int number) const
+    {
+        const QAbstractItemModel *model = child<QTableView>(table)->model();
+        QStringList cells;
+        for (int column = 0; column < model->columnCount(); ++column)
+            cells.append(model->index(number, column).data().toString());
+        return cells;
+    }
+    void choose(const char *table, const char *name)
+    {
+        auto *view = child<QTableView>(table);
+        for (int i = 0; i < view->model()->rowCount(); ++i)
+            if (view->model()->index(i, 0).data().toString() == QLatin1String(name))
+                return view->setCurrentIndex(view->model()->index(i, 0));
+        ADD_FAILURE() << name;
+    }
+
+    QTemporaryDir folder;
+    controller::SteppedCarrier *carrier;
+    std::unique_ptr<host::ControllerLink> link;
+    std::unique_ptr<panel::CellPage> page;
+};
+
+/// A pallet with three boxes on the left, one carried, one waiting.
+Node busyCell()
+{
+    return nodeFromJson(R"({"column":{"height":0},"conveyor":{"box":[900,0,-100,0,300,200,150],"ahead":0},
+        "gripper":{"box":[200,700,400,0,300,200,150]},
+        "pallets":[{"in_place":true,"pallet":[0,900,-650,0,800,1200,144],"sheets":[],
+                    "boxes":[[0,900,-503,0,300,200,150],[0,1100,-503,0,300,200,150],[0,900,-353,90,300,200,150]]},
+                   {"in_place":false,"pallet":[0,-900,-650,0,800,1200,144],"sheets":[],"boxes":[]}],
+        "signals":[{"name":"DO3_0","on":true}]})");
+}
+
+QImage picture(const Node &cell, double turn)
+{
+    panel::CellDrawing drawing;
+    drawing.setScene(panel::readCellScene(cell, nodeFromJson(R"({"joints":[0,0,0,0,1.57,0]})")));
+    drawing.setTurn(turn);
+    QImage image(400, 400, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.translate(200, 250);
+    painter.scale(0.1, 0.1);
+    drawing.paint(&painter, 0.1);
+    return image;
+}
+
+bool hasColour(const QImage &image, QRgb wanted)
+{
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) == wanted)
+                return true;
+    return false;
+}
+
+} // namespace
+
+TEST_F(CellPageTest, RunsPausesStepsAndStopsThePrograms)
+{
+    makeProject();
+    openPage();
+    EXPECT_EQ(text("lblState"), QStringLiteral("Stopped"));
+    EXPECT_EQ(text("lblWhy"), QStringLiteral("Project P"));
+    EXPECT_FALSE(child<QPushButton>("btnPause")->isEnabled());
+    press("btnRun");
+    EXPECT_EQ(text("lblState"), QStringLiteral("Running"));
+    EXPECT_EQ(look("lblState"), QStringLiteral("running"));
+    press("tabTasks");
+    pass(3.3);
+    EXPECT_EQ(row("tblTasks", 0), QStringList({QStringLiteral("task0"), QStringLiteral("waits"),
+                                               QStringLiteral("main.mod:3"), QStringLiteral("main")}));
+    press("btnPause");
+    EXPECT_EQ(text("lblState"), QStringLiteral("Paused"));
+    EXPECT_EQ(look("lblState"), QStringLiteral("attention"));
+    press("btnStep");
+    pass(2);
+    EXPECT_EQ(text("lblState"), QStringLiteral("Paused"));
+    EXPECT_NE(row("tblTasks", 0).value(2), QStringLiteral("main.mod:3"));
+    press("btnStop");
+    EXPECT_EQ(text("lblState"), QStringLiteral("Stopped"));
+    EXPECT_TRUE(child<QPushButton>("btnRun")->isEnabled());
+}
+
+TEST_F(CellPageTest, ARefusedRequestSaysWhy)
+{
+    openPage();
+    press("btnRun");
+    EXPECT_TRUE(text("lblMessage").contains(QStringLiteral("no current project"))) << text("lblMessage");
+    EXPECT_EQ(look("lblMessage"), QStringLiteral("fault"));
+    carrier->lose(true);
+    child<QPushButton>("btnRun")->click();
+    EXPECT_TRUE(text("lblMessage").endsWith(QStringLiteral("waiting for the controller")));
+    carrier->cut("the cable is pulled");
+    QCoreApplication::processEvents();
+    page->refresh();
+    EXPECT_EQ(text("lblState"), QStringLiteral("No controller"));
+    EXPECT_FALSE(child<QPushButton>("btnRun")->isEnabled());
+    EXPECT_FALSE(child<QWidget>("stkParts")->isEnabled());
+}
+
+TEST_F(CellPageTest, ShowsAndSetsVariables)
+{
+    makeProject();
+    openPage();
+    press("tabVariables");
+    EXPECT_EQ(row("tblVariables", 0),
+              QStringList({QStringLiteral("count"), QStringLiteral("0"), QStringLiteral("int")}));
+    choose("tblVariables", "count");
+    child<QLineEdit>("edtValue")->setText(QStringLiteral("41"));
+    press("btnSet");
+    EXPECT_EQ(row("tblVariables", 0).value(1), QStringLiteral("41"));
+    press("btnRun");
+    pass(1.2);
+    EXPECT_EQ(row("tblVariables", 0).value(1), QStringLiteral("42"));
+    child<QLineEdit>("edtValue")->setText(QStringLiteral("many"));
+    press("btnSet");
+    EXPECT_TRUE(text("lblMessage").contains(QStringLiteral("many"))) << text("lblMessage");
+    choose("tblVariables", "other");
+    EXPECT_FALSE(child<QPushButton>("btnSet")->isEnabled()) << "not persistent";
+    child<QLineEdit>("edtFind")->setText(QStringLiteral("TURN"));
+    EXPECT_EQ(child<QTableView>("tblVariables")->model()->rowCount(), 1);
+}
+
+TEST_F(CellPageTest, PressesButtonsForcesInputsAndShowsLamps)
+{
+    makeProject();
+    openPage();
+    press("btnRun");
+    press("btnArrowLeft");
+    EXPECT_TRUE(panel::cellSignal(m("nexo.cell")->node(), QStringLiteral("DI2_3")));
+    pass(2);
+    EXPECT_EQ(look("btnDeskStart"), QStringLiteral("running")) << "the lamp of the start button";
+    pass(5);
+    EXPECT_FALSE(panel::cellSignal(m("nexo.cell")->node(), QStringLiteral("DI2_3")));
+    EXPECT_EQ(look("btnDeskStart"), QString());
+    press("tabInputs");
+    choose("tblSignals", "DI2_2");
+    for (const bool on : {true, false}) {
+        press(on ? "btnOn" : "btnOff");
+        EXPECT_EQ(panel::cellSignal(m("nexo.cell")->node(), QStringLiteral("DI2_2")), on);
+    }
+    choose("tblSignals", "DO2_0");
+    EXPECT_FALSE(child<QPushButton>("btnOn")->isEnabled()) << "an output";
+}
+
+TEST_F(CellPageTest, BringsAboutFaultsAndTakesPalletsAway)
+{
+    openPage();
+    press("btnTakeRight");
+    EXPECT_EQ(text("lblPalletRight"), QStringLiteral("Right: no pallet"));
+    EXPECT_EQ(look("lblPalletRight"), QStringLiteral("attention"));
+    press("btnBringRight");
+    EXPECT_EQ(text("lblPalletRight"), QStringLiteral("Right: empty"));
+    press("tabFaults");
+    for (const bool on : {true, false}) {
+        press("btnFault_conveyor-jam");
+        EXPECT_EQ(m("nexo.cell.conveyor")->getBool("jammed"), on);
+        EXPECT_EQ(look("btnFault_conveyor-jam"), on ? QStringLiteral("fault") : QString());
+    }
+}
+
+TEST_F(CellPageTest, ListsViolations)
+{
+    openPage();
+    m("nexo.cell.violations")->copyFrom(nodeFromJson(R"([
+        {"task":"task0","file":"main.mod","line":7,"layer":1,"piece":2,"what":"first","first":"a","second":"b"},
+        {"task":"task0","file":"Left.mod","line":9,"layer":2,"piece":5,"what":"the box met the column",
+         "first":"box 5 of layer 2 on the left pallet","second":"column"}])"));
+    press("tabFaults");
+    EXPECT_EQ(row("tblViolations", 0),
+              QStringList({QStringLiteral("task0"), QStringLiteral("Left.mod:9"), QStringLiteral("2 / 5"),
+                           QStringLiteral("box 5 of layer 2 on the left pallet"), QStringLiteral("column")}));
+    child<QTableView>("tblViolations")->selectRow(0);
+    EXPECT_EQ(text("lblViolation"), QStringLiteral("the box met the column"));
+}
+
+TEST_F(CellPageTest, TheSpeedIsLogarithmic)
+{
+    openPage();
+    const struct
+    {
+        int tenths;
+        double factor;
+        const char *text;
+    } cases[] = {
+        {-10, 0.1, "0.1 x"}, {0, 1, "1 x"}, {3, 1.995, "2 x"}, {20, 100, "100 x"}, {30, 1000, "1e+03 x"}};
+    for (const auto &each : cases) {
+        child<QSlider>("sldSpeed")->setValue(each.tenths);
+        settle();
+        EXPECT_NEAR(m("nexo.cell")->getDouble("speed"), each.factor, each.factor * 0.01);
+    }
+    press("btnReal");
+    EXPECT_EQ(m("nexo.cell")->getDouble("speed"), 1);
+    EXPECT_EQ(child<QSlider>("sldSpeed")->value(), 0);
+}
+
+TEST_F(CellPageTest, PaintsOnlyWhatIsAnotherPicture)
+{
+    openPage();
+    auto *view = child<panel::CellView>("view");
+    page->refresh();
+    page->grab();
+    const int before = view->paintCount();
+    pass(1);
+    EXPECT_EQ(view->paintCount(), before) << "nothing moved";
+    m("nexo.cell.column")->set(nullptr, "height", 250.0);
+    page->refresh();
+    QCoreApplication::processEvents();
+    EXPECT_GT(view->paintCount(), before);
+    page->hide();
+    EXPECT_FALSE(view->showScene(view->drawing().scene()));
+    const QString time = text("lblTime");
+    carrier->pass(5);
+    settle();
+    EXPECT_EQ(text("lblTime"), time) << "not followed while it is not seen";
+}
+
+TEST(CellPicture, ShowsWhatIsThereAtEveryTurn)
+{
+    const Node cell = busyCell();
+    Node empty = cell;
+    empty.set(u"pallets.#0.in_place", false);
+    for (const double turn : {-180.0, -90.0, -25.0, 0.0, 45.0, 100.0}) {
+        const QImage all = picture(cell, turn);
+        EXPECT_TRUE(hasColour(all, 0xffb3cbe6)) << "the carried box, at " << turn;
+        EXPECT_TRUE(hasColour(all, 0xffe9e6df)) << "a resting box, at " << turn;
+        EXPECT_NE(all, picture(empty, turn));
+        EXPECT_NE(all, picture(cell, turn + 30));
+    }
+    EXPECT_TRUE(hasColour(picture(cell, 0), 0xffe02020)) << "the red lamp is lit";
+}
+
+TEST(CellTables, TextsBecomeValuesOfTheVariablesType)
+{
+    const struct
+    {
+        const char *type, *text, *json;
+    } cases[] = {{"bool", "true", "true"},  {"bool", "0", "0"},        {"int", " 12 ", "12"},
+                 {"int", "1.5", "\"1.5\""}, {"int", "x", "\"x\""},     {"double", "1,5", "1.5"},
+                 {"double", "", "\"\""},    {"string", "12", "\"12\""}};
+    for (const auto &each : cases)
+        EXPECT_EQ(panel::variableValue(QLatin1String(each.type), QLatin1String(each.text)),
+                  nodeFromJson(each.json))
+            << each.type << ' ' << each.text;
+}
+
+TEST(CellLook, ProgramsHaveOneLook)
+{
+    const struct
+    {
+        const char *cell;
+        bool connected;
+        const char *text, *why;
+    } cases[] = {
+        {"{}", false, "No controller", ""},
+        {R"({"program":{"state":"running","project":"R/P"}})", true, "Running", "Project P"},
+        {R"({"program":{"state":"paused","why":"DI2_1"}})", true, "Paused", "DI2_1"},
+        {R"({"program":{"state":"stopped","fault":true,"why":"power"}})", true, "Fault", "power"},
+        {R"({"program":{"state":"stopped","problems":["main.mod:3: x"]}})", true, "Stopped", "main.mod:3: x"},
+        {R"({"program":{"state":"stopped"}})", true, "Stopped", "No project is in use."}};
+    for (const auto &each : cases) {
+        const panel::ProgramLook look = panel::programLook(nodeFromJson(each.cell), each.connected);
+        EXPECT_EQ(look.text, QLatin1String(each.text)) << each.cell;
+        EXPECT_EQ(look.why, QLatin1String(each.why)) << each.cell;
+    }
+    EXPECT_EQ(panel::clockText(3725.9), QStringLiteral("1:02:05"));
+    EXPECT_EQ(panel::faultText(QStringLiteral("unheard-of")), QStringLiteral("unheard-of"));
+}

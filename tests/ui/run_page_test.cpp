@@ -1,0 +1,320 @@
+// The line while it produces, against a controller whose time the test turns.
+
+#include "ui/run_frame.h"
+
+#include "project/rules/first_project.h"
+#include "project/rules/project_place.h"
+#include "project/rules/project_record.h"
+#include "project/rules/run_recovery.h"
+#include "stack/recipe_edit.h"
+#include "stack/recipe_file.h"
+#include "ui/message_bar.h"
+#include "ui/page_fixture.h"
+#include "ui/robot_cell.h"
+#include "ui/run_side_card.h"
+#include "ui/stack_view.h"
+#include "ui/stackhomepage.h"
+#include "ui/start_dialog.h"
+#include "workstation/controller_sync.h"
+#include "workstation/plugin_node.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTemporaryDir>
+
+using palx::LineSide;
+
+namespace {
+
+controller::StationOptions stationIn(const QTemporaryDir &folder)
+{
+    controller::StationOptions options;
+    options.workspaceFolder = folder.path();
+    return options;
+}
+
+class RunPageTest : public ::testing::Test
+{
+protected:
+    RunPageTest() : cell(stationIn(workspace))
+    {
+        m("nexo.setting")->set(nullptr, "workspace", workspace.path());
+        EXPECT_EQ(palx::loadRecipeFiles(palx::pluginNode(),
+                                        {QStringLiteral(PALX_SOURCE_DIR "/examples/global-cell.json")}),
+                  QStringList());
+    }
+    /// Also what the page does at its next turn of the loop.
+    void settle()
+    {
+        cell.settle();
+        QCoreApplication::processEvents();
+    }
+    void makeProject()
+    {
+        cell.presenter.answer(true);
+        ASSERT_TRUE(palx::makeFirstProject(QStringLiteral("Line")));
+        settle();
+    }
+    void openPage()
+    {
+        page = std::make_unique<RunFrame>(nullptr);
+        page->resize(1000, 640);
+        page->show();
+        settle();
+    }
+    template <typename T> T *child(LineSide side, const char *name) const
+    {
+        T *found = page->card(side)->findChild<T *>(QLatin1String(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    QString text(LineSide side, const char *label) const { return child<QLabel>(side, label)->text(); }
+    QString look(LineSide side) const
+    {
+        return child<QLabel>(side, "lblState")->property("state").toString();
+    }
+    void press(LineSide side, const char *button)
+    {
+        child<QPushButton>(side, button)->click();
+        settle();
+    }
+    QString message() const { return page->findChild<MessageBar *>()->text(); }
+    bool ask(const char *request, const char *payload = "null")
+    {
+        const XReply reply = xservice()->set(nullptr, QLatin1String(request), nodeFromJson(payload));
+        settle();
+        return reply.isOk();
+    }
+    /// Simulated seconds, at a hundred times the speed of real ones.
+    void run(double seconds)
+    {
+        ask("program.speed", R"({"factor":100})");
+        cell.pass(seconds / 100);
+        settle();
+    }
+    static qint64 variable(const QString &name)
+    {
+        for (const orba::ModuleObject *each : m("quill.project.var._list")->cmobjs())
+            if (each->getString("name") == name)
+                return each->r("value.#0")->getString() == QLatin1String("true")
+                           ? 1
+                           : each->r("value.#0")->getInt();
+        return -1;
+    }
+    StartDialog *dialog() const
+    {
+        for (StartDialog *found : page->findChildren<StartDialog *>())
+            if (found->isVisible())
+                return found;
+        return nullptr;
+    }
+
+    QTemporaryDir workspace;
+    RobotCell cell;
+    PluginTree tree;
+    std::unique_ptr<RunFrame> page;
+};
+
+} // namespace
+
+TEST_F(RunPageTest, MakesAProjectOfTheRecipesWithOneButton)
+{
+    openPage();
+    EXPECT_FALSE(page->hasLine());
+    auto *make = page->findChild<QPushButton *>(QStringLiteral("btnMake"));
+    ASSERT_TRUE(make->isVisible());
+    cell.presenter.answer(false);
+    make->click();
+    EXPECT_FALSE(page->hasLine()); // the operator thought better of it
+    cell.presenter.answer(true);
+    make->click();
+    settle();
+    ASSERT_TRUE(page->hasLine());
+    EXPECT_TRUE(palx::currentProject().startsWith(QStringLiteral("Palletizing_")));
+    for (const LineSide side : palx::kLineSides) {
+        EXPECT_TRUE(page->card(side)->isVisible());
+        EXPECT_EQ(text(side, "lblState"), QStringLiteral("Disabled"));
+        EXPECT_EQ(text(side, "lblBoxes"), QStringLiteral("0 of 45"));
+    }
+    EXPECT_EQ(variable(QStringLiteral("boxHeightL")), 180);
+}
+
+TEST_F(RunPageTest, EnablesASideAndShowsItsStackGrow)
+{
+    makeProject();
+    openPage();
+    press(LineSide::Left, "btnEnable");
+    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 1);
+    EXPECT_EQ(child<QPushButton>(LineSide::Left, "btnEnable")->text(), QStringLiteral("Disable"));
+    EXPECT_EQ(text(LineSide::Left, "lblState"), QStringLiteral("Enabled, no program runs"));
+    EXPECT_EQ(look(LineSide::Left), QStringLiteral("attention"));
+    ASSERT_TRUE(ask("program.run"));
+    run(60);
+    EXPECT_EQ(text(LineSide::Left, "lblState"), QStringLiteral("Stacking"));
+    EXPECT_EQ(look(LineSide::Left), QStringLiteral("running"));
+    const qint64 piled = variable(QStringLiteral("palletCountL"));
+    EXPECT_GT(piled, 3);
+    EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("%1 of 45").arg(piled));
+    EXPECT_EQ(child<StackView>(LineSide::Left, "view")->drawing().pieces(), piled);
+    EXPECT_NE(text(LineSide::Left, "lblRate"), QString(QChar(0x2013)));
+    EXPECT_EQ(text(LineSide::Right, "lblState"), QStringLiteral("Disabled"));
+    ASSERT_TRUE(ask("program.pause"));
+    EXPECT_TRUE(text(LineSide::Left, "lblState").startsWith(QStringLiteral("Paused")))
+        << text(LineSide::Left, "lblState");
+    EXPECT_EQ(look(LineSide::Left), QStringLiteral("attention"));
+}
+
+TEST_F(RunPageTest, AFullPalletWantsAnother)
+{
+    makeProject();
+    openPage();
+    press(LineSide::Left, "btnEnable");
+    ASSERT_TRUE(ask("program.run"));
+    run(400);
+    EXPECT_EQ(variable(QStringLiteral("flagL")), 1);
+    EXPECT_TRUE(text(LineSide::Left, "lblState").startsWith(QStringLiteral("Pallet full")));
+    EXPECT_EQ(text(LineSide::Left, "lblPallets"), QStringLiteral("1"));
+    EXPECT_EQ(child<StackView>(LineSide::Left, "view")->drawing().pieces(), 45);
+    cell.presenter.answer(false);
+    press(LineSide::Left, "btnReset");
+    EXPECT_EQ(variable(QStringLiteral("totalPalletsL")), 1);
+    cell.presenter.answer(true);
+    press(LineSide::Left, "btnReset");
+    EXPECT_EQ(text(LineSide::Left, "lblPallets"), QStringLiteral("0"));
+}
+
+TEST_F(RunPageTest, StartsAtAnyPieceThatTheRecipeHas)
+{
+    makeProject();
+    openPage();
+    press(LineSide::Right, "btnStartAt");
+    StartDialog *start = dialog();
+    ASSERT_NE(start, nullptr);
+    auto *layer = start->findChild<QSpinBox *>(QStringLiteral("spnLayer"));
+    auto *piece = start->findChild<QSpinBox *>(QStringLiteral("spnPiece"));
+    EXPECT_EQ(layer->maximum(), 5);
+    EXPECT_EQ(piece->maximum(), 9);
+    layer->setValue(3);
+    piece->setValue(5);
+    EXPECT_EQ(start->findChild<QLabel *>(QStringLiteral("lblCount"))->text(),
+              QStringLiteral("22 of 45 boxes lie on the pallet."));
+    EXPECT_EQ(start->findChild<StackView *>()->drawing().pieces(), 22);
+    start->findChild<QPushButton *>(QStringLiteral("btnOk"))->click();
+    settle();
+    EXPECT_EQ(text(LineSide::Right, "lblLayer"), QStringLiteral("3 of 5"));
+    EXPECT_EQ(text(LineSide::Right, "lblPiece"), QStringLiteral("5 of 9"));
+    EXPECT_EQ(text(LineSide::Right, "lblBoxes"), QStringLiteral("22 of 45"));
+    EXPECT_EQ(variable(QStringLiteral("currentLayerL")), 1);
+}
+
+TEST_F(RunPageTest, AfterAPowerCutAsksForAnEmptyGripperAndThePiece)
+{
+    makeProject();
+    openPage();
+    press(LineSide::Left, "btnEnable");
+    ASSERT_TRUE(ask("program.run"));
+    run(60);
+    EXPECT_EQ(dialog(), nullptr);
+    ASSERT_TRUE(ask("cell.fault", R"({"name":"power-cut","on":true})"));
+    ASSERT_TRUE(ask("cell.fault", R"({"name":"power-cut","on":false})"));
+    StartDialog *asked = dialog();
+    ASSERT_NE(asked, nullptr) << "by itself";
+    auto *ok = asked->findChild<QPushButton *>(QStringLiteral("btnOk"));
+    EXPECT_FALSE(ok->isEnabled());
+    asked->reject();
+    settle();
+    EXPECT_EQ(dialog(), nullptr) << "once";
+    EXPECT_EQ(look(LineSide::Left), QStringLiteral("fault"));
+
+    press(LineSide::Left, "btnEnable"); // disables: that is always possible
+    press(LineSide::Left, "btnEnable");
+    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0) << "not before the piece is confirmed";
+    asked = dialog();
+    ASSERT_NE(asked, nullptr);
+    const palx::PalletPiece lying = palx::currentRunRecovery().sides[0].lying;
+    EXPECT_EQ(asked->piece(), lying);
+    asked->findChild<QCheckBox *>(QStringLiteral("chkClear"))->click();
+    ok = asked->findChild<QPushButton *>(QStringLiteral("btnOk"));
+    ASSERT_TRUE(ok->isEnabled()) << asked->findChild<QLabel *>(QStringLiteral("lblReason"))->text();
+    ok->click();
+    settle();
+    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 1);
+    EXPECT_EQ(variable(QStringLiteral("currentLayerL")), lying.layer);
+    EXPECT_EQ(variable(QStringLiteral("layerCountL")), lying.piece);
+    EXPECT_FALSE(palx::needsConfirmation(palx::currentRunRecovery(), 0));
+    ASSERT_TRUE(ask("program.run"));
+    run(400);
+    EXPECT_EQ(m("nexo.cell.pallets.#0.count")->getInt(), 45);
+    EXPECT_EQ(m("nexo.cell.violation_count")->getInt(), 0);
+}
+
+TEST_F(RunPageTest, OnlySidesOfTheLayoutAreShown)
+{
+    makeProject();
+    openPage();
+    orba::ModuleObject *record = palx::projectRecord(QStringLiteral("Line"));
+    record->set(nullptr, "scheme_layout", 1);
+    palx::triggerNode()->c("refresh_data")->trigger();
+    settle();
+    EXPECT_FALSE(page->card(LineSide::Left)->isVisible());
+    EXPECT_TRUE(page->card(LineSide::Right)->isVisible());
+    record->set(nullptr, "scheme_layout", 3);
+    palx::triggerNode()->c("refresh_data")->trigger();
+    settle();
+    EXPECT_FALSE(page->hasLine());
+}
+
+TEST_F(RunPageTest, ShowsThatItWaitsAndWhyItWasRefused)
+{
+    makeProject();
+    openPage();
+    cell.carrier->lose(true);
+    child<QPushButton>(LineSide::Left, "btnEnable")->click();
+    EXPECT_EQ(message(), QStringLiteral("Waiting for the controller."));
+    EXPECT_FALSE(child<QPushButton>(LineSide::Left, "btnEnable")->isEnabled());
+    EXPECT_TRUE(child<QPushButton>(LineSide::Right, "btnEnable")->isEnabled());
+    cell.carrier->cut(std::string("the cable is pulled"));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(message().startsWith(QStringLiteral("The controller did not take it"))) << message();
+    EXPECT_EQ(text(LineSide::Left, "lblState"), QStringLiteral("No controller"));
+    EXPECT_FALSE(child<QPushButton>(LineSide::Left, "btnEnable")->isEnabled());
+    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0);
+}
+
+TEST_F(RunPageTest, AnotherRecipeIsTakenOnlyWhileTheSideIsDisabled)
+{
+    palx::copyStack(palx::stacksNode()->cmobj(0), QStringLiteral("Second"));
+    makeProject();
+    openPage();
+    auto *combo = child<QComboBox>(LineSide::Left, "cmbRecipe");
+    ASSERT_EQ(combo->count(), 2);
+    const auto choose = [&](int index) {
+        combo->setCurrentIndex(index);
+        Q_EMIT combo->activated(index);
+        settle();
+    };
+    choose(1);
+    EXPECT_EQ(variable(QStringLiteral("palletIndexL")), 1);
+    EXPECT_EQ(combo->currentText(), QStringLiteral("Second"));
+    press(LineSide::Left, "btnEnable");
+    choose(0);
+    EXPECT_EQ(variable(QStringLiteral("palletIndexL")), 1);
+    EXPECT_EQ(combo->currentText(), QStringLiteral("Second"));
+    EXPECT_TRUE(message().contains(QStringLiteral("Disable it"))) << message();
+}
+
+TEST_F(RunPageTest, DoesNothingWhileItIsNotSeen)
+{
+    makeProject();
+    openPage();
+    page->hide();
+    ask("monitor.pers.modify", R"({"palletCountL":7})");
+    EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("0 of 45"));
+    page->show();
+    EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("7 of 45"));
+    ask("monitor.pers.modify", R"({"palletCountL":8})");
+    EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("8 of 45"));
+}
