@@ -2,6 +2,7 @@
 
 #include "bwaf/bmodule.h"
 #include "example_cell.h"
+#include "exchange_pictures.h"
 #include "file_pictures.h"
 #include "ix/xtheme.h"
 #include "move_pictures.h"
@@ -149,6 +150,9 @@ void takeHome(Camera &camera)
     takeDialogOf(camera, QStringLiteral("btnNew"), QStringLiteral("new-recipe"));
     takeDialogOf(camera, QStringLiteral("btnDelete"), QStringLiteral("delete-recipe"));
     takeDialogOf(camera, QStringLiteral("btnController"), QStringLiteral("controller-recipes"));
+    if (!showExchange(camera.window(),
+                      [&camera](QWidget *dialog, const QString &name) { camera.takeWindow(dialog, name); }))
+        camera.fail(QStringLiteral("the dialogs of import and export did not come up"));
 }
 
 /// What a touch on a number field brings up.

@@ -40,6 +40,7 @@ public:
     {
         for (const int child : recipeIndexes(list)) {
             owners_[list.at(child)->getString(u"name")].push_back(standing_.size());
+            places_.insert(child, static_cast<int>(standing_.size()));
             standing_.push_back({child, -1, true});
         }
     }
@@ -119,6 +120,7 @@ private:
         const int child = gone.row >= 0 ? overtake(gone.row) : gone.child;
         add(child >= 0 ? ImportStep::Replacing : ImportStep::New, name);
         steps_.back().replaced = child;
+        steps_.back().replacedPlace = child >= 0 ? places_.value(child) : -1;
         steps_.back().sameAs = -1;
     }
 
@@ -144,6 +146,7 @@ private:
     std::vector<ImportStep> steps_;
     std::vector<Standing> standing_;
     QHash<QString, Places> owners_;   ///< places in `standing_`, by name
+    QHash<int, int> places_;          ///< of the list's children among its recipes
     QHash<QString, QString> counted_; ///< last name that was made of a name
 };
 

@@ -76,8 +76,9 @@ struct PALX_API ImportStep
         Overtaken, ///< a later recipe of the file with this name replaces it
     };
     Arrival arrival = Unticked;
-    QString name;      ///< in the list; empty when it does not come
-    int replaced = -1; ///< child of the list that goes
+    QString name;           ///< in the list; empty when it does not come
+    int replaced = -1;      ///< child of the list that goes
+    int replacedPlace = -1; ///< its place among the recipes of the list, from 0
     int sameAs =
         -1; ///< recipe of the file that has the name, for what is renamed, skipped or overtaken because of it
     int place = -1; ///< among the recipes of the list afterwards, from 0

@@ -6,6 +6,7 @@
 #include "ui/controller_dialog.h"
 #include "ui/current_recipe.h"
 #include "ui/form_style.h"
+#include "ui/imexportdialog.h"
 #include "ui/name_dialog.h"
 #include "ui/projectmanager.h"
 #include "ui/recipe_list_model.h"
@@ -179,6 +180,8 @@ void StackHomePage::connectActions()
                    {ui_->btnRename, Glyph::Settings, &StackHomePage::renameRecipe},
                    {ui_->btnDelete, Glyph::Delete, &StackHomePage::deleteRecipe},
                    {ui_->btnOpen, Glyph::Open, &StackHomePage::openRecipe},
+                   {ui_->btnImport, Glyph::Down, &StackHomePage::openImport},
+                   {ui_->btnExport, Glyph::Up, &StackHomePage::openExport},
                    {ui_->btnProjects, Glyph::Log, &StackHomePage::openProjects}};
     for (const auto &action : actions) {
         const bool primary = action.button == ui_->btnOpen;
@@ -186,7 +189,7 @@ void StackHomePage::connectActions()
         action.button->setIconSize(QSize(28, 28));
         connect(action.button, &QPushButton::clicked, wgt_, [this, act = action.act] { (this->*act)(); });
     }
-    connect(ui_->message, &MessageBar::undoWanted, wgt_, [this] { undoDelete(); });
+    connect(ui_->message, &MessageBar::undoWanted, wgt_, [this] { undo_ ? (this->*undo_)() : void(); });
     ui_->btnController->setIconSize(QSize(28, 28));
     connect(ui_->btnController, &QPushButton::clicked, wgt_, [this] { openController(); });
     connect(onController_, &palx::ControllerRecipes::changed, wgt_, [this] { showController(); });
@@ -358,6 +361,7 @@ void StackHomePage::deleteRecipe()
         Q_EMIT reFreshPageDate();
     }
     reload();
+    undo_ = &StackHomePage::undoDelete;
     ui_->message->showUndo(tr("The recipe \"%1\" was deleted.").arg(name), State::Stopped);
 }
 
@@ -371,6 +375,41 @@ void StackHomePage::undoDelete()
     if (name != was)
         ui_->message->showMessage(tr("The recipe is back as \"%1\"; its name was taken.").arg(name),
                                   State::Attention);
+}
+
+void StackHomePage::openImport()
+{
+    auto *dialog = new ImExportDialog(true, palx::stacksNode(), wgt_->window());
+    connect(dialog, &ImExportDialog::worked, wgt_, [this](const QString &text) {
+        importChanged();
+        undo_ = &StackHomePage::undoImport;
+        ui_->message->showUndo(text, State::Stopped);
+    });
+    connect(dialog, &ImExportDialog::takenBack, wgt_, [this] { importChanged(); });
+    dialog->open();
+}
+
+void StackHomePage::openExport()
+{
+    auto *dialog = new ImExportDialog(false, palx::stacksNode(), wgt_->window());
+    connect(dialog, &ImExportDialog::worked, wgt_,
+            [this](const QString &text) { ui_->message->showMessage(text, State::Running); });
+    dialog->open();
+}
+
+void StackHomePage::undoImport()
+{
+    if (ImExportDialog::takeBackLastImport(palx::stacksNode()))
+        importChanged();
+}
+
+/// The recipe that was open may be another node of the same name now, or gone.
+void StackHomePage::importChanged()
+{
+    ui_->message->clearMessage();
+    if (!palx::hasStack(currentRecipe(module_)->value()))
+        currentRecipe(module_)->setValue(QString());
+    Q_EMIT reFreshPageDate();
 }
 
 void StackHomePage::openRecipe()

@@ -74,6 +74,10 @@ private:
     void deleteRecipe();
     void undoDelete();
     void openRecipe();
+    void openImport();
+    void openExport();
+    void undoImport();
+    void importChanged();
     void openProjects();
     void listChanged(const QString &choose);
     void showController();
@@ -93,4 +97,5 @@ private:
     bool isPartChosen_ = false; ///< by the operator
     QStringList names_;         ///< as last announced by "refresh_cmb"
     palx::RemovedStack removed_;
+    void (StackHomePage::*undo_)() = nullptr; ///< what the message at the foot takes back
 };

@@ -1,0 +1,368 @@
+#include "ui/imexportdialog.h"
+
+#include "nexo/manager_helper.h"
+#include "stack/recipe_import.h"
+#include "ui/form_style.h"
+#include "ui/im_export_model.h"
+#include "ui/long_work.h"
+#include "ui/xfile_dialog.h"
+#include "ui_imexportdialog.h"
+#include "workstation/config_log.h"
+#include "workstation/plugin_node.h"
+#include "workstation/point_editor.h"
+#include "workstation/recipe_transfer.h"
+#include "workstation/unique_widget.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QHeaderView>
+#include <QShortcut>
+
+using ix::xtheme::Glyph;
+using ix::xtheme::State;
+using orba::ModuleObject;
+using orba::Node;
+
+namespace {
+
+Node templateStack(const ModuleObject *list)
+{
+    const Node *found = palx::templateStackOf(list->node(), palx::pluginNode()->node());
+    return found ? *found : Node();
+}
+
+} // namespace
+
+ImExportDialog::ImExportDialog(bool import, ModuleObject *list, QWidget *parent)
+    : QDialog(parent), import_(import), list_(list), ui_(std::make_unique<Ui::ImExportDialog>()),
+      model_(new ImExportModel(this)), read_(std::make_shared<ModuleObject>(QStringLiteral("import")))
+{
+    palx::makeUniqueDialog(this);
+    palx::bindDialogToNode(this, list);
+    setUp();
+    connectControls();
+    loadList(list);
+}
+
+ImExportDialog::~ImExportDialog() = default;
+
+void ImExportDialog::setUp()
+{
+    constexpr int kTwoLines = 52;
+    ui_->setupUi(this);
+    ui_->tblRecipes->setModel(model_);
+    setupTable(ui_->tblRecipes, -1, false);
+    setFieldMargins(this);
+    ui_->tblRecipes->verticalHeader()->setDefaultSectionSize(kTwoLines);
+    ui_->tblRecipes->setWordWrap(true);
+    ui_->tblRecipes->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    ui_->tblRecipes->setColumnHidden(ImExportModel::Outcome, !import_);
+    ui_->btnBrowse->setIcon(ix::xtheme::icon(import_ ? Glyph::Open : Glyph::Save));
+    ui_->btnUndo->setIcon(ix::xtheme::icon(Glyph::Back));
+    for (QWidget *part : {static_cast<QWidget *>(ui_->boxClash), static_cast<QWidget *>(ui_->btnUndo)})
+        part->setVisible(import_);
+    showDirection();
+}
+
+void ImExportDialog::showDirection()
+{
+    const QString title = import_ ? tr("Import recipes") : tr("Export recipes");
+    setWindowTitle(title);
+    ui_->lblTitle->setText(title);
+    ui_->edtPath->setPlaceholderText(import_ ? tr("No file chosen") : tr("No place chosen"));
+    ui_->btnOk->setText(import_ ? tr("Import") : tr("Export"));
+    ui_->btnOk->setAccessibleName(ui_->btnOk->text());
+}
+
+void ImExportDialog::connectControls()
+{
+    connect(ui_->btnBrowse, &QPushButton::clicked, this, &ImExportDialog::openFile);
+    connect(ui_->btnOk, &QPushButton::clicked, this, &ImExportDialog::work);
+    connect(ui_->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(ui_->btnUndo, &QPushButton::clicked, this, &ImExportDialog::takeBack);
+    connect(ui_->btnAll, &QPushButton::clicked, this, [this] { model_->tickAll(true); });
+    connect(ui_->btnNone, &QPushButton::clicked, this, [this] { model_->tickAll(false); });
+    connect(ui_->tblRecipes, &QTableView::clicked, this,
+            [this](const QModelIndex &index) { model_->toggle(index.row()); });
+    const auto *space = new QShortcut(Qt::Key_Space, ui_->tblRecipes, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(space, &QShortcut::activated, this,
+            [this] { model_->toggle(ui_->tblRecipes->currentIndex().row()); });
+    for (QRadioButton *option : {ui_->optRename, ui_->optReplace, ui_->optDiscard})
+        connect(option, &QRadioButton::toggled, this, &ImExportDialog::plan);
+    connect(model_, &ImExportModel::tickedChanged, this, &ImExportDialog::plan);
+    connect(list_, &ModuleObject::structureChanged, this, [this] { hasFile_ ? plan() : loadList(list_); });
+}
+
+void ImExportDialog::loadList(ModuleObject *list)
+{
+    hasFile_ = list == read_.get() && !read_->isNull();
+    model_->setRecipes(list->node(), hasFile_ ? added_ : std::vector<QStringList>());
+    constexpr int kMorePartsThanFit = 2;
+    constexpr int kThreeLines = 76;
+    for (int row = 0; hasFile_ && row < model_->rowCount(); ++row)
+        if (added_[static_cast<std::size_t>(row)].size() > kMorePartsThanFit)
+            ui_->tblRecipes->setRowHeight(row, kThreeLines);
+}
+
+palx::OnClash ImExportDialog::onClash() const
+{
+    return ui_->optReplace->isChecked()   ? palx::OnClash::Replace
+           : ui_->optDiscard->isChecked() ? palx::OnClash::Discard
+                                          : palx::OnClash::Rename;
+}
+
+/// Says of every row what will happen.
+void ImExportDialog::plan()
+{
+    if (hasFile_ && list_)
+        model_->setSteps(palx::planImport(list_->node(), read_->node(), model_->ticked(), onClash()));
+    showState();
+}
+
+void ImExportDialog::showState()
+{
+    const int ticked = model_->tickedCount();
+    const bool hasHint = import_ && !hasFile_ && file_.isEmpty();
+    ui_->lblCount->setText(hasHint ? tr("These recipes are here already. Choose a file.")
+                                   : tr("%1 of %2 ticked").arg(ticked).arg(model_->rowCount()));
+    ui_->btnOk->setEnabled(ticked > 0 && (hasFile_ || !import_));
+    const bool canTick = model_->rowCount() > 0 && !hasHint;
+    ui_->btnAll->setEnabled(canTick);
+    ui_->btnNone->setEnabled(canTick);
+    ui_->btnUndo->setEnabled(list_ && palx::LastImport::of(list_));
+}
+
+// ---------------------------------------------------------------- files
+
+QString ImExportDialog::folderPath() const
+{
+    return mName(QStringLiteral("quill.help.file_path"),
+                 import_ ? QStringLiteral("import") : QStringLiteral("export"));
+}
+
+void ImExportDialog::rememberFolder(const QString &file)
+{
+    m(folderPath())->set(nullptr, "", file.left(file.lastIndexOf(QLatin1Char('/'))));
+}
+
+void ImExportDialog::openFile()
+{
+    import_ ? chooseImport() : chooseExport();
+}
+
+void ImExportDialog::chooseImport()
+{
+    const QPointer<ImExportDialog> self(this);
+    const QString file = xFileDialog::getOpenFileName(this, tr("Open XML file"), m(folderPath())->getString(),
+                                                      tr("XML (*.xml)"));
+    if (!self || file.isEmpty())
+        return;
+    rememberFolder(file);
+    read(file);
+}
+
+void ImExportDialog::chooseExport()
+{
+    const QPointer<ImExportDialog> self(this);
+    const QString folder = m(folderPath())->getString();
+    const QString name = QStringLiteral("pallet.xml");
+    const QString file = xFileDialog::getSaveFileName(
+        this, tr("Save XML file"), folder.isEmpty() ? name : folder + QLatin1Char('/') + name,
+        tr("XML (*.xml)"));
+    if (!self || file.isEmpty())
+        return;
+    rememberFolder(file);
+    file_ = palx::exchangeFileName(file);
+    ui_->edtPath->setText(QDir::toNativeSeparators(file_));
+    ui_->message->clearMessage();
+    showState();
+}
+
+void ImExportDialog::read(const QString &file)
+{
+    const QPointer<ImExportDialog> self(this);
+    const Node prototype = list_ ? templateStack(list_) : Node();
+    palx::ExchangeFile content;
+    palx::runInThread(this, tr("Import recipes"), [&](palx::Progress &progress) {
+        content = palx::readExchangeFile(file, prototype, progress);
+    });
+    if (!self || content.isCancelled)
+        return;
+    file_ = file;
+    ui_->edtPath->setText(QDir::current().relativeFilePath(file));
+    read_->node().take(content.content);
+    added_ = std::move(content.added);
+    ui_->message->clearMessage();
+    loadList(read_.get());
+    if (!content.error.isEmpty())
+        tellFault(content.error);
+}
+
+// ---------------------------------------------------------------- work
+
+void ImExportDialog::work()
+{
+    if (isWorking_ || !list_)
+        return;
+    isWorking_ = true;
+    const QPointer<ImExportDialog> self(this);
+    import_ ? importTicked() : exportTicked();
+    if (self)
+        isWorking_ = false;
+}
+
+void ImExportDialog::importTicked()
+{
+    if (!hasFile_)
+        return tellFault(tr("Choose a file to import from."));
+    const QPointer<ImExportDialog> self(this);
+    const QPointer<ModuleObject> list = list_;
+    const std::shared_ptr<ModuleObject> content = read_; // lives on when the dialog ends meanwhile
+    const std::vector<bool> ticked = model_->ticked();
+    const palx::OnClash clash = onClash();
+    bool isDone = false;
+    palx::runInSlices(this, tr("Import recipes"), [&](palx::Progress &progress) {
+        isDone = list && palx::importRecipes(list, content->node(), ticked, clash, progress);
+    });
+    if (isDone)
+        palx::finishImport();
+    if (!self)
+        return;
+    if (!isDone)
+        return ui_->message->showMessage(tr("Cancelled. Nothing was changed."), State::Stopped);
+    const palx::LastImport *import = list ? palx::LastImport::of(list) : nullptr;
+    Q_EMIT worked(tr("Imported: %1 new recipes, %2 of them replace others.")
+                      .arg(import ? import->addedCount() : 0)
+                      .arg(import ? import->removedCount() : 0));
+    accept();
+}
+
+void ImExportDialog::exportTicked()
+{
+    if (file_.isEmpty())
+        return tellFault(tr("Export path can not be empty!"));
+    const QPointer<ImExportDialog> self(this);
+    const Node prototype = templateStack(list_);
+    const Node tempList = palx::makeTempList(list_->node(), &prototype, model_->ticked());
+    const QString file = file_;
+    palx::WrittenFile written;
+    bool isSynced = false;
+    palx::runInThread(this, tr("Export recipes"), [&](palx::Progress &progress) {
+        written = palx::writeExchangeFile(tempList, file, progress);
+        isSynced = written.isDone() && xFileDialog::SystemFileSync(file);
+    });
+    if (written.isDone())
+        palx::finishExport(file, isSynced);
+    if (!self)
+        return;
+    if (written.isCancelled)
+        return ui_->message->showMessage(tr("Cancelled. No file was written."), State::Stopped);
+    if (!written.isDone())
+        return tellFault(written.error);
+    const QString removal = xFileDialog::removalText(file, isSynced);
+    if (!isSynced)
+        return ui_->message->showMessage(removal, State::Fault);
+    Q_EMIT worked(tr("%1 recipes were written to %2.").arg(model_->tickedCount()).arg(file) +
+                  QLatin1Char(' ') + removal);
+    accept();
+}
+
+/// Shown here and kept in the operator's log.
+void ImExportDialog::tellFault(const QString &text)
+{
+    palx::recordCfgLog(text, true);
+    ui_->message->showMessage(text, State::Fault);
+}
+
+// ---------------------------------------------------------------- taking back
+
+bool ImExportDialog::takeBackLastImport(ModuleObject *list)
+{
+    const QPointer<palx::LastImport> import = palx::LastImport::of(list);
+    if (!import ||
+        !nexo::ManagerHelper::instance()->execMsgOk(
+            tr("Undo the last import"), tr("%1 imported recipes are removed, with what was changed in them "
+                                           "since, and %2 replaced ones come back.")
+                                            .arg(import->addedCount())
+                                            .arg(import->removedCount())) ||
+        !import)
+        return false;
+    import->takeBack();
+    palx::finishTakingBack();
+    return true;
+}
+
+void ImExportDialog::takeBack()
+{
+    const QPointer<ImExportDialog> self(this);
+    if (!list_ || !takeBackLastImport(list_) || !self)
+        return;
+    ui_->message->showMessage(tr("The last import was taken back."), State::Stopped);
+    plan();
+    Q_EMIT takenBack();
+}
+
+// ---------------------------------------------------------------- single recipes
+
+bool ImExportDialog::hasNode(const QString &name) const
+{
+    const Node &list = list_ ? list_->node() : emptyMobj()->node();
+    const std::vector<int> recipes = palx::recipeIndexes(list);
+    return std::any_of(recipes.begin(), recipes.end(),
+                       [&](int child) { return list.at(child)->getString(u"name") == name; });
+}
+
+void ImExportDialog::removeNode(const QString &name)
+{
+    for (const int child : palx::recipeIndexes(list_ ? list_->node() : emptyMobj()->node())) {
+        if (list_->node().at(child)->getString(u"name") != name)
+            continue;
+        list_->cmobj(child)->remove();
+        return;
+    }
+}
+
+QString ImExportDialog::getNewName(QString name) const
+{
+    return palx::nextRecipeName(name);
+}
+
+void ImExportDialog::importNode(ModuleObject *stack)
+{
+    Node content;
+    content.add(stack->node().name())->assign(stack->node());
+    palx::NoProgress progress;
+    if (list_)
+        palx::importRecipes(list_, content, {true}, onClash(), progress);
+}
+
+// ---------------------------------------------------------------- looks
+
+/// Names and descriptions share half of the width, what happens gets the rest.
+void ImExportDialog::fitColumns()
+{
+    constexpr int kTickWidth = 56;
+    QTableView *table = ui_->tblRecipes;
+    const int width = table->viewport()->width() - kTickWidth;
+    table->setColumnWidth(ImExportModel::Tick, kTickWidth);
+    table->setColumnWidth(ImExportModel::Name, import_ ? width * 28 / 100 : width * 45 / 100);
+    table->setColumnWidth(ImExportModel::Description, import_ ? width * 24 / 100 : width - width * 45 / 100);
+    table->setColumnWidth(ImExportModel::Outcome, width - width * 28 / 100 - width * 24 / 100);
+}
+
+void ImExportDialog::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    layout()->activate();
+    fitColumns();
+}
+
+void ImExportDialog::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui_->retranslateUi(this);
+        showDirection();
+        showState();
+    }
+    QDialog::changeEvent(event);
+}
