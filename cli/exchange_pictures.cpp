@@ -42,9 +42,9 @@ Node recipesOfEveryFate()
 
 ImExportDialog *openDialog(QWidget *window, const char *button)
 {
-    auto *found = window->findChild<QAbstractButton *>(QLatin1String(button));
-    if (found)
-        found->click();
+    for (auto *found : window->findChildren<QAbstractButton *>(QLatin1String(button)))
+        if (found->isVisible())
+            found->click();
     return window->findChild<ImExportDialog *>();
 }
 
@@ -74,13 +74,14 @@ bool showExchange(QWidget *window, const Take &take)
         delete dialog;
         dialog = openDialog(window, "btnExport");
     }
-    if (dialog) {
+    const bool isShown = dialog != nullptr;
+    if (isShown) {
         dialog->openFile();
         take(dialog, QStringLiteral("export"));
         delete dialog;
     }
     xFileDialog::setAnswers(nullptr);
-    return dialog != nullptr;
+    return isShown;
 }
 
 } // namespace cli

@@ -1,0 +1,352 @@
+#include "ui/imexportdialog.h"
+
+#include "nexo/setting_manager.h"
+#include "orba/module_manager.h"
+#include "stack/recipe_import.h"
+#include "support/scripted_files.h"
+#include "support/test_support.h"
+#include "ui/im_export_model.h"
+#include "ui/message_bar.h"
+#include "workstation/recipe_controller.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTemporaryDir>
+
+namespace {
+
+using orba::ModuleManager;
+using orba::Node;
+
+class ImExportDialogTest : public RecipeControllerTest
+{
+protected:
+    void SetUp() override
+    {
+        RecipeControllerTest::SetUp();
+        QObject::connect(m("quill.log.current"), &orba::ModuleObject::changed, &context, [this](const QVariant &json) {
+            Node record;
+            EXPECT_TRUE(ModuleManager::fromJson(json.toString().toUtf8(), &record));
+            records.append(record.getString(u"level") + QStringLiteral(": ") + record.getString(u"title"));
+        });
+    }
+    void TearDown() override
+    {
+        delete dialog;
+        RecipeControllerTest::TearDown();
+    }
+
+    void open(bool import)
+    {
+        delete dialog;
+        dialog = new ImExportDialog(import, palx::stacksNode());
+        dialog->show();
+    }
+    /// A file with recipes of these names.
+    QString file(const QStringList &names, const char *name = "pallet.xml")
+    {
+        Node content;
+        content.reset(Node::Kind::List);
+        content.add(orba::Name(u"default"))->ensure(u"name")->setString(QStringLiteral("of the writer"));
+        for (const QString &each : names) {
+            Node *recipe = content.add();
+            recipe->assign(*palx::pluginNode()->node().child(u"default"));
+            recipe->ensure(u"name")->setString(each);
+            recipe->ensure(u"desc")->setString(each + QStringLiteral(" from the file"));
+        }
+        EXPECT_TRUE(ModuleManager::writeToXmlFile(content, path(name)));
+        return path(name);
+    }
+    QString path(const char *name) const { return folder.filePath(QLatin1String(name)); }
+    void choose(const QString &chosen)
+    {
+        files.answer({chosen});
+        dialog->openFile();
+    }
+
+    template <typename T> T *child(const char *name) const
+    {
+        T *found = dialog->findChild<T *>(QLatin1String(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    void press(const char *button) const { child<QAbstractButton>(button)->click(); }
+    bool isOn(const char *button) const { return child<QAbstractButton>(button)->isEnabled(); }
+    QString message() const { return child<MessageBar>("message")->text(); }
+    void touchRow(int row) const
+    {
+        auto *table = child<QTableView>("tblRecipes");
+        Q_EMIT table->clicked(table->model()->index(row, ImExportModel::Name));
+    }
+    /// "[x] name: what happens" of every row
+    QStringList rows() const
+    {
+        const QAbstractItemModel *model = child<QTableView>("tblRecipes")->model();
+        QStringList texts;
+        for (int row = 0; row < model->rowCount(); ++row) {
+            const auto cell = [&](int column, int role = Qt::DisplayRole) {
+                return model->index(row, column).data(role);
+            };
+            const bool ticked = cell(ImExportModel::Tick, Qt::CheckStateRole).toInt() == Qt::Checked;
+            texts << QStringLiteral("[%1] %2: %3")
+                         .arg(ticked ? QStringLiteral("x") : QString(), cell(ImExportModel::Name).toString(),
+                              cell(ImExportModel::Outcome).toString());
+        }
+        return texts;
+    }
+    static QStringList names()
+    {
+        QStringList found;
+        for (int i = 0; i < palx::stacksNode()->cmobjCount(); ++i)
+            found << palx::stacksNode()->getString(QStringLiteral("#%1.name").arg(i));
+        return found;
+    }
+
+    QTemporaryDir folder;
+    ScriptedFiles files;
+    ScriptedPresenter presenter;
+    QObject context;
+    QStringList records;
+    QPointer<ImExportDialog> dialog;
+};
+
+TEST_F(ImExportDialogTest, ShowsTheListUntilAFileIsRead)
+{
+    addRecipe("A");
+    addRecipe("B");
+    palx::stacksNode()->node().insert(1, orba::Name(u"default"));
+    open(true);
+    EXPECT_EQ(rows(), (QStringList{"[x] A: ", "[x] B: "}));
+    EXPECT_FALSE(isOn("btnOk"));
+    dialog->work(); // without a file
+    EXPECT_EQ(message(), QStringLiteral("Choose a file to import from."));
+    EXPECT_EQ(names(), (QStringList{"A", "", "B"}));
+    choose(file({"C"}));
+    EXPECT_EQ(rows(), QStringList("[x] C: New"));
+    EXPECT_EQ(child<QLineEdit>("edtPath")->text(), QDir::current().relativeFilePath(path("pallet.xml")));
+}
+
+TEST_F(ImExportDialogTest, AsksForFilesWhereTheLastOnesWere)
+{
+    m("quill.help.file_path")->set(nullptr, "import", QStringLiteral("/media/one"));
+    open(true);
+    choose(file({"C"}));
+    ASSERT_EQ(files.asked.size(), 1);
+    EXPECT_EQ(files.asked[0].kind, FileRequest::Open);
+    EXPECT_EQ(files.asked[0].caption, QStringLiteral("Open XML file"));
+    EXPECT_EQ(files.asked[0].start, QStringLiteral("/media/one"));
+    EXPECT_EQ(files.asked[0].filter, QStringLiteral("XML (*.xml)"));
+    EXPECT_EQ(m("quill.help.file_path.import")->getString(), folder.path());
+    EXPECT_EQ(m("quill.help.file_path.export")->getString(), QString());
+    addRecipe("A");
+    open(false);
+    choose(path("out"));
+    choose(QString()); // refused: everything stays
+    ASSERT_EQ(files.asked.size(), 3);
+    EXPECT_EQ(files.asked[1].kind, FileRequest::Save);
+    EXPECT_EQ(files.asked[1].caption, QStringLiteral("Save XML file"));
+    EXPECT_EQ(files.asked[1].start, QStringLiteral("pallet.xml"));
+    EXPECT_EQ(files.asked[2].start, folder.path() + QStringLiteral("/pallet.xml"));
+    EXPECT_EQ(child<QLineEdit>("edtPath")->text(), path("out.xml"));
+    EXPECT_EQ(m("quill.help.file_path.export")->getString(), folder.path());
+}
+
+TEST_F(ImExportDialogTest, EveryRowFollowsTheOptionAndTheTicks)
+{
+    addRecipe("A");
+    addRecipe("B");
+    open(true);
+    choose(file({"C", "B", "A", "C", ""}));
+    EXPECT_EQ(rows(), (QStringList{"[x] C: New", "[x] B: Renamed to \"B1\"", "[x] A: Renamed to \"A1\"",
+                                   "[x] C: Row 1 has the name: becomes \"C1\"",
+                                   "[x] (no name): Has no name: becomes \"1\""}));
+    press("optReplace");
+    EXPECT_EQ(rows(), (QStringList{"[x] C: Skipped: row 4 replaces it", "[x] B: Replaces no. 2 and stands at no. 1",
+                                   "[x] A: Replaces no. 1 and stands at no. 2", "[x] C: New",
+                                   "[x] (no name): Has no name: becomes \"1\""}));
+    press("optDiscard");
+    touchRow(0);
+    EXPECT_EQ(rows().mid(0, 4), (QStringList{"[] C: Is left out", "[x] B: Skipped: the name is taken",
+                                             "[x] A: Skipped: the name is taken", "[x] C: New"}));
+    EXPECT_EQ(child<QLabel>("lblCount")->text(), QStringLiteral("4 of 5 ticked"));
+    press("btnNone");
+    EXPECT_EQ(rows().filter(QStringLiteral("[] ")).size(), 5);
+    EXPECT_FALSE(isOn("btnOk"));
+    press("btnAll");
+    EXPECT_EQ(rows().filter(QStringLiteral("[x]")).size(), 5);
+    EXPECT_TRUE(isOn("btnOk"));
+    EXPECT_EQ(names(), (QStringList{"A", "B"})); // nothing was merged so far
+}
+
+TEST_F(ImExportDialogTest, OlderRecipesSayWhatTheyGetFromTheTemplate)
+{
+    palx::pluginNode()->set(nullptr, "default.wobj_margin.left", 12);
+    QFile old(path("old.xml"));
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("<node type='list'><node type='map'><node name='name' type='string'>Old</node><node name='get' "
+              "type='null'/><node name='bollard' type='null'/><node name='pallet_position' type='int'>1</node><node "
+              "name='use_global_tool' type='bool'>true</node><node name='automatic_stacker' type='null'/></node></node>");
+    old.close();
+    open(true);
+    choose(path("old.xml"));
+    EXPECT_EQ(rows(), QStringList("[x] Old: New. Usual values for: choice of work object, margins"));
+    press("btnOk");
+    EXPECT_EQ(palx::stacksNode()->getInt("#0.wobj_margin.left"), 12);
+    EXPECT_EQ(palx::stacksNode()->getInt("#0.pallet_position"), 1);
+}
+
+TEST_F(ImExportDialogTest, MergesWhatIsTickedRecordsItAndSendsEverything)
+{
+    connect();
+    addRecipe("A");
+    open(true);
+    choose(file({"A", "B", "C"}));
+    touchRow(1);
+    QSignalSpy worked(dialog, &ImExportDialog::worked);
+    QSignalSpy table(palx::triggerNode()->c("refresh_table"), &orba::ModuleObject::changed);
+    takeCount("pallet.data");
+    records.clear();
+    press("btnOk");
+    EXPECT_EQ(names(), (QStringList{"A", "A1", "C"}));
+    EXPECT_EQ(records, QStringList("warning: Import success!"));
+    EXPECT_EQ(takeCount("pallet.data"), 1);
+    EXPECT_EQ(table.count(), 1);
+    EXPECT_EQ(worked.count(), 1);
+    EXPECT_FALSE(dialog->isVisible());
+    open(true);
+    choose(file({"A", "B", "C"}));
+    press("btnOk");
+    EXPECT_EQ(names(), (QStringList{"A", "A1", "C", "A2", "B", "C1"}));
+}
+
+TEST_F(ImExportDialogTest, TheLastImportIsTakenBackAfterAQuestionAndSentAgain)
+{
+    connect();
+    addRecipe("A");
+    addRecipe("B");
+    const Node before = palx::stacksNode()->node();
+    open(true);
+    EXPECT_FALSE(isOn("btnUndo"));
+    choose(file({"A", "C"}));
+    press("optReplace");
+    press("btnOk");
+    ASSERT_EQ(names(), (QStringList{"B", "A", "C"}));
+    open(true); // later
+    ASSERT_TRUE(isOn("btnUndo"));
+    presenter.answer(false);
+    press("btnUndo");
+    EXPECT_EQ(names(), (QStringList{"B", "A", "C"}));
+    takeCount("pallet.data");
+    presenter.answer(true);
+    press("btnUndo");
+    EXPECT_EQ(palx::stacksNode()->node(), before);
+    EXPECT_EQ(takeCount("pallet.data"), 1);
+    EXPECT_FALSE(isOn("btnUndo"));
+    EXPECT_TRUE(presenter.asked.last().text.startsWith(QStringLiteral("2 imported recipes are removed")));
+}
+
+TEST_F(ImExportDialogTest, AFileThatCannotBeReadEmptiesTheTable)
+{
+    addRecipe("A");
+    open(true);
+    choose(file({"C", "D"}));
+    QFile bad(path("bad.xml"));
+    ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
+    bad.write("<node type='list'><node type='map'>");
+    bad.close();
+    records.clear();
+    choose(path("bad.xml"));
+    EXPECT_EQ(rows(), QStringList());
+    EXPECT_FALSE(isOn("btnOk"));
+    EXPECT_TRUE(message().startsWith(path("bad.xml") + QStringLiteral(":1:"))) << message();
+    EXPECT_EQ(records, QStringList("error: " + message()));
+    dialog->work();
+    EXPECT_EQ(names(), QStringList("A"));
+}
+
+TEST_F(ImExportDialogTest, WritesTheTemplateAndWhatIsTicked)
+{
+    connect();
+    for (const char *name : {"A", "B", "C"})
+        addRecipe(name);
+    open(false);
+    EXPECT_TRUE(child<QTableView>("tblRecipes")->isColumnHidden(ImExportModel::Outcome));
+    EXPECT_FALSE(child<QWidget>("boxClash")->isVisible());
+    touchRow(1);
+    choose(path("out.box"));
+    records.clear();
+    takeCount("pallet.data");
+    press("btnOk");
+    EXPECT_EQ(records, QStringList("warning: Export success to out!"));
+    EXPECT_EQ(takeCount("pallet.data"), 1);
+    EXPECT_FALSE(dialog->isVisible());
+    Node content;
+    ASSERT_TRUE(ModuleManager::readFromXmlFile(path("out.box.xml"), &content));
+    ASSERT_EQ(content.size(), 3);
+    EXPECT_EQ(*content.child(u"default"), *palx::pluginNode()->node().child(u"default"));
+    EXPECT_EQ(*content.at(1), *palx::stacksNode()->node().at(0));
+    EXPECT_EQ(*content.at(2), *palx::stacksNode()->node().at(2));
+}
+
+TEST_F(ImExportDialogTest, AnEmptyPathAndADiskThatIsGoneAreRefused)
+{
+    addRecipe("A");
+    open(false);
+    records.clear();
+    press("btnOk");
+    EXPECT_EQ(records, QStringList("error: Export path can not be empty!"));
+    EXPECT_EQ(message(), QStringLiteral("Export path can not be empty!"));
+    QDir().mkpath(path("stick"));
+    choose(path("stick/out.xml"));
+    ASSERT_TRUE(QDir(path("stick")).removeRecursively());
+    press("btnOk");
+    EXPECT_TRUE(message().startsWith(path("stick/out.xml") + QStringLiteral(": cannot be written"))) << message();
+    EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(ImExportDialogTest, SingleRecipesAreFoundRemovedAndMerged)
+{
+    for (const char *name : {"A", "B", "A"})
+        addRecipe(name);
+    open(true);
+    EXPECT_TRUE(dialog->hasNode(QStringLiteral("A")));
+    EXPECT_FALSE(dialog->hasNode(QStringLiteral("a")));
+    dialog->removeNode(QStringLiteral("A"));
+    EXPECT_EQ(names(), (QStringList{"B", "A"}));
+    dialog->removeNode(QStringLiteral("none"));
+    EXPECT_EQ(names(), (QStringList{"B", "A"}));
+    EXPECT_EQ(dialog->getNewName(QStringLiteral("Box007")), QStringLiteral("Box8"));
+    orba::ModuleObject stack;
+    stack.ensure("name")->set(nullptr, "", QStringLiteral("B"));
+    dialog->importNode(&stack);
+    dialog->importNode(&stack);
+    press("optReplace");
+    dialog->importNode(&stack);
+    press("optDiscard");
+    dialog->importNode(&stack);
+    EXPECT_EQ(names(), (QStringList{"A", "B1", "B2", "B"}));
+}
+
+TEST_F(ImExportDialogTest, EndsWithItsListAndStandsAlone)
+{
+    orba::ModuleObject root;
+    orba::ModuleObject *list = root.add(QStringLiteral("stacks"));
+    const QPointer<ImExportDialog> first = new ImExportDialog(true, list);
+    first->show();
+    open(false); // another of the unique dialogs
+    EXPECT_FALSE(first);
+    const QPointer<ImExportDialog> second = new ImExportDialog(true, list);
+    second->show();
+    QSignalSpy finished(second, &QDialog::rejected);
+    root.remove("stacks");
+    EXPECT_EQ(finished.count(), 1);
+    delete second;
+}
+
+} // namespace
