@@ -126,6 +126,8 @@ QString ImExportModel::text(int row, int column) const
 {
     const Row &shown = rows_[static_cast<std::size_t>(row)];
     switch (column) {
+    case Tick:
+        return QString::number(row + 1);
     case Name:
         return shown.name.trimmed().isEmpty() ? tr("(no name)") : shown.name;
     case Description:

@@ -57,6 +57,10 @@ void ImExportDialog::setUp()
     ui_->tblRecipes->setWordWrap(true);
     ui_->tblRecipes->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     ui_->tblRecipes->setColumnHidden(ImExportModel::Outcome, !import_);
+    ui_->tblRecipes->viewport()->installEventFilter(this);
+    for (QPushButton *button : {ui_->btnBrowse, ui_->btnUndo, ui_->btnOk})
+        button->setIconSize(QSize(28, 28));
+    ui_->btnOk->setIcon(ix::xtheme::icon(import_ ? Glyph::Down : Glyph::Up, Qt::white));
     ui_->btnBrowse->setIcon(ix::xtheme::icon(import_ ? Glyph::Open : Glyph::Save));
     ui_->btnUndo->setIcon(ix::xtheme::icon(Glyph::Back));
     for (QWidget *part : {static_cast<QWidget *>(ui_->boxClash), static_cast<QWidget *>(ui_->btnUndo)})
@@ -82,11 +86,9 @@ void ImExportDialog::connectControls()
     connect(ui_->btnUndo, &QPushButton::clicked, this, &ImExportDialog::takeBack);
     connect(ui_->btnAll, &QPushButton::clicked, this, [this] { model_->tickAll(true); });
     connect(ui_->btnNone, &QPushButton::clicked, this, [this] { model_->tickAll(false); });
-    connect(ui_->tblRecipes, &QTableView::clicked, this,
-            [this](const QModelIndex &index) { model_->toggle(index.row()); });
+    connect(ui_->tblRecipes, &QTableView::clicked, this, &ImExportDialog::toggle);
     const auto *space = new QShortcut(Qt::Key_Space, ui_->tblRecipes, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(space, &QShortcut::activated, this,
-            [this] { model_->toggle(ui_->tblRecipes->currentIndex().row()); });
+    connect(space, &QShortcut::activated, this, [this] { toggle(ui_->tblRecipes->currentIndex()); });
     for (QRadioButton *option : {ui_->optRename, ui_->optReplace, ui_->optDiscard})
         connect(option, &QRadioButton::toggled, this, &ImExportDialog::plan);
     connect(model_, &ImExportModel::tickedChanged, this, &ImExportDialog::plan);
@@ -97,11 +99,20 @@ void ImExportDialog::loadList(ModuleObject *list)
 {
     hasFile_ = list == read_.get() && !read_->isNull();
     model_->setRecipes(list->node(), hasFile_ ? added_ : std::vector<QStringList>());
+    if (import_ && !hasFile_)
+        model_->tickAll(false);
     constexpr int kMorePartsThanFit = 2;
     constexpr int kThreeLines = 76;
     for (int row = 0; hasFile_ && row < model_->rowCount(); ++row)
         if (added_[static_cast<std::size_t>(row)].size() > kMorePartsThanFit)
             ui_->tblRecipes->setRowHeight(row, kThreeLines);
+}
+
+/// What is here already is only looked at.
+void ImExportDialog::toggle(const QModelIndex &index)
+{
+    if (hasFile_ || !import_)
+        model_->toggle(index.row());
 }
 
 palx::OnClash ImExportDialog::onClash() const
@@ -173,7 +184,7 @@ void ImExportDialog::chooseExport()
         return;
     rememberFolder(file);
     file_ = palx::exchangeFileName(file);
-    ui_->edtPath->setText(QDir::toNativeSeparators(file_));
+    ui_->edtPath->setText(file_);
     ui_->message->clearMessage();
     showState();
 }
@@ -341,7 +352,7 @@ void ImExportDialog::importNode(ModuleObject *stack)
 /// Names and descriptions share half of the width, what happens gets the rest.
 void ImExportDialog::fitColumns()
 {
-    constexpr int kTickWidth = 56;
+    constexpr int kTickWidth = 80;
     QTableView *table = ui_->tblRecipes;
     const int width = table->viewport()->width() - kTickWidth;
     table->setColumnWidth(ImExportModel::Tick, kTickWidth);
@@ -350,11 +361,11 @@ void ImExportDialog::fitColumns()
     table->setColumnWidth(ImExportModel::Outcome, width - width * 28 / 100 - width * 24 / 100);
 }
 
-void ImExportDialog::resizeEvent(QResizeEvent *event)
+bool ImExportDialog::eventFilter(QObject *watched, QEvent *event)
 {
-    QDialog::resizeEvent(event);
-    layout()->activate();
-    fitColumns();
+    if (event->type() == QEvent::Resize && watched == ui_->tblRecipes->viewport())
+        fitColumns();
+    return QDialog::eventFilter(watched, event);
 }
 
 void ImExportDialog::changeEvent(QEvent *event)

@@ -28,7 +28,7 @@ public:
 
     /// Asks for a file; on import reads it. A file that cannot be read leaves an empty table.
     void openFile();
-    /// Shows the recipes of a list, all ticked.
+    /// Shows the recipes of a list, all ticked; on import those that were read, any others unticked.
     void loadList(orba::ModuleObject *list);
     /// Imports or exports what is ticked, and closes the dialog when that succeeded.
     void work();
@@ -53,13 +53,14 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void setUp();
     void showDirection();
     void connectControls();
     void fitColumns();
+    void toggle(const QModelIndex &index);
     void plan();
     void showState();
     palx::OnClash onClash() const;

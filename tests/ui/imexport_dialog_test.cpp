@@ -1,12 +1,13 @@
 #include "ui/imexportdialog.h"
 
-#include "nexo/setting_manager.h"
 #include "orba/module_manager.h"
 #include "stack/recipe_import.h"
 #include "support/scripted_files.h"
 #include "support/test_support.h"
+#include "ui/form_checks.h"
 #include "ui/im_export_model.h"
 #include "ui/message_bar.h"
+#include "ui/page_fixture.h"
 #include "workstation/recipe_controller.h"
 
 #include <QAbstractButton>
@@ -30,11 +31,13 @@ protected:
     void SetUp() override
     {
         RecipeControllerTest::SetUp();
-        QObject::connect(m("quill.log.current"), &orba::ModuleObject::changed, &context, [this](const QVariant &json) {
-            Node record;
-            EXPECT_TRUE(ModuleManager::fromJson(json.toString().toUtf8(), &record));
-            records.append(record.getString(u"level") + QStringLiteral(": ") + record.getString(u"title"));
-        });
+        QObject::connect(m("quill.log.current"), &orba::ModuleObject::changed, &context,
+                         [this](const QVariant &json) {
+                             Node record;
+                             EXPECT_TRUE(ModuleManager::fromJson(json.toString().toUtf8(), &record));
+                             records.append(record.getString(u"level") + QStringLiteral(": ") +
+                                            record.getString(u"title"));
+                         });
     }
     void TearDown() override
     {
@@ -110,7 +113,6 @@ protected:
 
     QTemporaryDir folder;
     ScriptedFiles files;
-    ScriptedPresenter presenter;
     QObject context;
     QStringList records;
     QPointer<ImExportDialog> dialog;
@@ -122,7 +124,9 @@ TEST_F(ImExportDialogTest, ShowsTheListUntilAFileIsRead)
     addRecipe("B");
     palx::stacksNode()->node().insert(1, orba::Name(u"default"));
     open(true);
-    EXPECT_EQ(rows(), (QStringList{"[x] A: ", "[x] B: "}));
+    EXPECT_EQ(rows(), (QStringList{"[] A: ", "[] B: "}));
+    touchRow(0);
+    EXPECT_EQ(rows(), (QStringList{"[] A: ", "[] B: "}));
     EXPECT_FALSE(isOn("btnOk"));
     dialog->work(); // without a file
     EXPECT_EQ(message(), QStringLiteral("Choose a file to import from."));
@@ -167,9 +171,10 @@ TEST_F(ImExportDialogTest, EveryRowFollowsTheOptionAndTheTicks)
                                    "[x] C: Row 1 has the name: becomes \"C1\"",
                                    "[x] (no name): Has no name: becomes \"1\""}));
     press("optReplace");
-    EXPECT_EQ(rows(), (QStringList{"[x] C: Skipped: row 4 replaces it", "[x] B: Replaces no. 2 and stands at no. 1",
-                                   "[x] A: Replaces no. 1 and stands at no. 2", "[x] C: New",
-                                   "[x] (no name): Has no name: becomes \"1\""}));
+    EXPECT_EQ(rows(),
+              (QStringList{"[x] C: Skipped: row 4 replaces it", "[x] B: Replaces no. 2 and stands at no. 1",
+                           "[x] A: Replaces no. 1 and stands at no. 2", "[x] C: New",
+                           "[x] (no name): Has no name: becomes \"1\""}));
     press("optDiscard");
     touchRow(0);
     EXPECT_EQ(rows().mid(0, 4), (QStringList{"[] C: Is left out", "[x] B: Skipped: the name is taken",
@@ -190,8 +195,10 @@ TEST_F(ImExportDialogTest, OlderRecipesSayWhatTheyGetFromTheTemplate)
     QFile old(path("old.xml"));
     ASSERT_TRUE(old.open(QIODevice::WriteOnly));
     old.write("<node type='list'><node type='map'><node name='name' type='string'>Old</node><node name='get' "
-              "type='null'/><node name='bollard' type='null'/><node name='pallet_position' type='int'>1</node><node "
-              "name='use_global_tool' type='bool'>true</node><node name='automatic_stacker' type='null'/></node></node>");
+              "type='null'/><node name='bollard' type='null'/><node name='pallet_position' "
+              "type='int'>1</node><node "
+              "name='use_global_tool' type='bool'>true</node><node name='automatic_stacker' "
+              "type='null'/></node></node>");
     old.close();
     open(true);
     choose(path("old.xml"));
@@ -203,7 +210,7 @@ TEST_F(ImExportDialogTest, OlderRecipesSayWhatTheyGetFromTheTemplate)
 
 TEST_F(ImExportDialogTest, MergesWhatIsTickedRecordsItAndSendsEverything)
 {
-    connect();
+    connectLink();
     addRecipe("A");
     open(true);
     choose(file({"A", "B", "C"}));
@@ -227,7 +234,7 @@ TEST_F(ImExportDialogTest, MergesWhatIsTickedRecordsItAndSendsEverything)
 
 TEST_F(ImExportDialogTest, TheLastImportIsTakenBackAfterAQuestionAndSentAgain)
 {
-    connect();
+    connectLink();
     addRecipe("A");
     addRecipe("B");
     const Node before = palx::stacksNode()->node();
@@ -272,7 +279,7 @@ TEST_F(ImExportDialogTest, AFileThatCannotBeReadEmptiesTheTable)
 
 TEST_F(ImExportDialogTest, WritesTheTemplateAndWhatIsTicked)
 {
-    connect();
+    connectLink();
     for (const char *name : {"A", "B", "C"})
         addRecipe(name);
     open(false);
@@ -306,7 +313,8 @@ TEST_F(ImExportDialogTest, AnEmptyPathAndADiskThatIsGoneAreRefused)
     choose(path("stick/out.xml"));
     ASSERT_TRUE(QDir(path("stick")).removeRecursively());
     press("btnOk");
-    EXPECT_TRUE(message().startsWith(path("stick/out.xml") + QStringLiteral(": cannot be written"))) << message();
+    EXPECT_TRUE(message().startsWith(path("stick/out.xml") + QStringLiteral(": cannot be written")))
+        << message();
     EXPECT_TRUE(dialog->isVisible());
 }
 
@@ -331,6 +339,24 @@ TEST_F(ImExportDialogTest, SingleRecipesAreFoundRemovedAndMerged)
     press("optDiscard");
     dialog->importNode(&stack);
     EXPECT_EQ(names(), (QStringList{"A", "B1", "B2", "B"}));
+}
+
+TEST_F(ImExportDialogTest, FitsASmallPanelAFingerAndLongerLanguages)
+{
+    const Looks looks;
+    addRecipe("A");
+    const LongLanguage language;
+    for (const bool import : {true, false}) {
+        const QString where = import ? QStringLiteral("import ") : QStringLiteral("export ");
+        open(import);
+        choose(file({"A", "B", ""}));
+        QCoreApplication::processEvents();
+        expectReadable(dialog, where);
+        expectTouchable(dialog, where);
+        EXPECT_GT(expectNamed(dialog, where), 6);
+        EXPECT_LE(dialog->width(), 1024);
+        EXPECT_LE(dialog->height(), 640);
+    }
 }
 
 TEST_F(ImExportDialogTest, EndsWithItsListAndStandsAlone)
