@@ -18,7 +18,7 @@ struct ImportRequest
 {
     PanelPlaces places;
     QString file;
-    palx::OnClash onClash = palx::OnClash::Rename;
+    palx::RecipeClash onClash = palx::RecipeClash::Rename;
     Output output = Output::Table;
 };
 

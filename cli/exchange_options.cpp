@@ -9,16 +9,16 @@
 namespace cli {
 namespace {
 
-using palx::OnClash;
+using palx::RecipeClash;
 
-const std::map<std::string, OnClash> kClashes{
-    {"rename", OnClash::Rename}, {"replace", OnClash::Replace}, {"discard", OnClash::Discard}};
+const std::map<std::string, RecipeClash> kClashes{
+    {"rename", RecipeClash::Rename}, {"replace", RecipeClash::Replace}, {"discard", RecipeClash::Discard}};
 
 struct Arguments
 {
     std::string file;
     std::vector<std::string> names;
-    OnClash onClash = OnClash::Rename;
+    RecipeClash onClash = RecipeClash::Rename;
     PlaceArguments place;
 };
 

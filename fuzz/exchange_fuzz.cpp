@@ -39,13 +39,13 @@ const Node &templateStack()
 
 void merge(const Node &content)
 {
-    using palx::OnClash;
+    using palx::RecipeClash;
     const std::vector<bool> all(palx::recipeIndexes(content).size(), true);
     palx::NoProgress progress;
-    for (const OnClash onClash : {OnClash::Rename, OnClash::Replace, OnClash::Discard}) {
+    for (const RecipeClash onClash : {RecipeClash::Rename, RecipeClash::Replace, RecipeClash::Discard}) {
         ModuleObject list;
         list.node().reset(Node::Kind::List);
-        require(palx::importRecipes(&list, content, all, OnClash::Rename, progress));
+        require(palx::importRecipes(&list, content, all, RecipeClash::Rename, progress));
         delete palx::LastImport::of(&list);
         const Node before = list.node();
         require(palx::importRecipes(&list, content, all, onClash, progress));

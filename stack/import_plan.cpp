@@ -36,7 +36,7 @@ QString withoutZerosInFront(const QString &digits)
 class Planner
 {
 public:
-    Planner(const Node &list, OnClash onClash) : onClash_(onClash)
+    Planner(const Node &list, RecipeClash onClash) : onClash_(onClash)
     {
         for (const int child : recipeIndexes(list)) {
             owners_[list.at(child)->getString(u"name")].push_back(standing_.size());
@@ -103,9 +103,9 @@ private:
         ImportStep &step = steps_.back();
         const Standing &first = standing_[owners_[name].front()];
         step.sameAs = first.row;
-        if (onClash_ == OnClash::Discard) {
+        if (onClash_ == RecipeClash::Discard) {
             step.arrival = ImportStep::Skipped;
-        } else if (onClash_ == OnClash::Rename) {
+        } else if (onClash_ == RecipeClash::Rename) {
             add(ImportStep::Renamed, freeName(name));
         } else {
             replace(name);
@@ -142,7 +142,7 @@ private:
         standing_.push_back({-1, static_cast<int>(steps_.size()) - 1, true});
     }
 
-    OnClash onClash_;
+    RecipeClash onClash_;
     std::vector<ImportStep> steps_;
     std::vector<Standing> standing_;
     QHash<QString, Places> owners_;   ///< places in `standing_`, by name
@@ -162,7 +162,7 @@ QString nextRecipeName(const QString &name)
 }
 
 std::vector<ImportStep> planImport(const Node &list, const Node &content, const std::vector<bool> &ticked,
-                                   OnClash onClash)
+                                   RecipeClash onClash)
 {
     Planner planner(list, onClash);
     std::size_t row = 0;

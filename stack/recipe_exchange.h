@@ -57,7 +57,7 @@ PALX_API ExchangeFile readExchangeFile(const QString &file, const orba::Node &te
                                        Progress &progress);
 
 /// What to do with a recipe whose name is taken.
-enum class OnClash { Rename, Replace, Discard };
+enum class RecipeClash { Rename, Replace, Discard };
 
 /// The next name to try when one is taken: a number at the end is counted up ("Box9", "Box10"; zeros in front of it are
 /// lost), a name without one gets 1. The number may be of any length.
@@ -88,6 +88,6 @@ struct PALX_API ImportStep
 /// the end; "Replace" removes the first of the list with that name. Names are compared to the letter. A recipe whose name is
 /// missing or blank is numbered whatever the choice.
 PALX_API std::vector<ImportStep> planImport(const orba::Node &list, const orba::Node &content,
-                                            const std::vector<bool> &ticked, OnClash onClash);
+                                            const std::vector<bool> &ticked, RecipeClash onClash);
 
 } // namespace palx

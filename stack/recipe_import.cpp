@@ -101,8 +101,8 @@ void LastImport::remove(std::vector<int> children)
         list.removeAt(*child);
 }
 
-bool importRecipes(ModuleObject *list, const Node &content, const std::vector<bool> &ticked, OnClash onClash,
-                   Progress &progress)
+bool importRecipes(ModuleObject *list, const Node &content, const std::vector<bool> &ticked,
+                   RecipeClash onClash, Progress &progress)
 {
     std::vector<Node> copies;
     if (list->isEmptyMobj() || !copyRecipes(content, ticked, progress, &copies) || !progress.enterLastPart())

@@ -27,7 +27,7 @@ public:
 
 private:
     friend PALX_API bool importRecipes(orba::ModuleObject *, const orba::Node &, const std::vector<bool> &,
-                                       OnClash, Progress &);
+                                       RecipeClash, Progress &);
     struct Removed
     {
         orba::Node recipe;
@@ -47,6 +47,6 @@ private:
 /// list once and becomes its last import; one that adds nothing leaves the last one. False when it was cancelled; nothing has
 /// then changed.
 PALX_API bool importRecipes(orba::ModuleObject *list, const orba::Node &content,
-                            const std::vector<bool> &ticked, OnClash onClash, Progress &progress);
+                            const std::vector<bool> &ticked, RecipeClash onClash, Progress &progress);
 
 } // namespace palx

@@ -115,11 +115,11 @@ void ImExportDialog::toggle(const QModelIndex &index)
         model_->toggle(index.row());
 }
 
-palx::OnClash ImExportDialog::onClash() const
+palx::RecipeClash ImExportDialog::onClash() const
 {
-    return ui_->optReplace->isChecked()   ? palx::OnClash::Replace
-           : ui_->optDiscard->isChecked() ? palx::OnClash::Discard
-                                          : palx::OnClash::Rename;
+    return ui_->optReplace->isChecked()   ? palx::RecipeClash::Replace
+           : ui_->optDiscard->isChecked() ? palx::RecipeClash::Discard
+                                          : palx::RecipeClash::Rename;
 }
 
 /// Says of every row what will happen.
@@ -230,7 +230,7 @@ void ImExportDialog::importTicked()
     const QPointer<ModuleObject> list = list_;
     const std::shared_ptr<ModuleObject> content = read_; // lives on when the dialog ends meanwhile
     const std::vector<bool> ticked = model_->ticked();
-    const palx::OnClash clash = onClash();
+    const palx::RecipeClash clash = onClash();
     bool isDone = false;
     palx::runInSlices(this, tr("Import recipes"), [&](palx::Progress &progress) {
         isDone = list && palx::importRecipes(list, content->node(), ticked, clash, progress);

@@ -63,7 +63,7 @@ private:
     void toggle(const QModelIndex &index);
     void plan();
     void showState();
-    palx::OnClash onClash() const;
+    palx::RecipeClash onClash() const;
     void chooseImport();
     void chooseExport();
     void read(const QString &file);

@@ -15,7 +15,7 @@ using orba::ModuleObject;
 using orba::Name;
 using orba::Node;
 using palx::ImportStep;
-using palx::OnClash;
+using palx::RecipeClash;
 
 const char *arrivalText(ImportStep::Arrival arrival)
 {
@@ -93,25 +93,27 @@ TEST(ImportPlan, SaysWhatBecomesOfEveryRecipe)
     const struct
     {
         QStringList file;
-        OnClash onClash;
+        RecipeClash onClash;
         QStringList steps;
     } cases[] = {
-        {{"C", "A"}, OnClash::Rename, {"new 'C' -1 -1 4", "renamed 'A1' -1 -1 5"}},
-        {{"Box"}, OnClash::Rename, {"renamed 'Box2' -1 -1 4"}},
-        {{"Box", "Box"}, OnClash::Rename, {"renamed 'Box2' -1 -1 4", "renamed 'Box3' -1 -1 5"}},
+        {{"C", "A"}, RecipeClash::Rename, {"new 'C' -1 -1 4", "renamed 'A1' -1 -1 5"}},
+        {{"Box"}, RecipeClash::Rename, {"renamed 'Box2' -1 -1 4"}},
+        {{"Box", "Box"}, RecipeClash::Rename, {"renamed 'Box2' -1 -1 4", "renamed 'Box3' -1 -1 5"}},
         {{"C", "C", "C1"},
-         OnClash::Rename,
+         RecipeClash::Rename,
          {"new 'C' -1 -1 4", "renamed 'C1' -1 0 5", "renamed 'C2' -1 1 6"}},
-        {{"C", "A"}, OnClash::Discard, {"new 'C' -1 -1 4", "skipped '' -1 -1 -1"}},
-        {{"C", "C"}, OnClash::Discard, {"new 'C' -1 -1 4", "skipped '' -1 0 -1"}},
-        {{"C", "A"}, OnClash::Replace, {"new 'C' -1 -1 3", "replacing 'A' 0 -1 4"}},
-        {{"C", "C"}, OnClash::Replace, {"overtaken '' -1 1 -1", "new 'C' -1 -1 4"}},
+        {{"C", "A"}, RecipeClash::Discard, {"new 'C' -1 -1 4", "skipped '' -1 -1 -1"}},
+        {{"C", "C"}, RecipeClash::Discard, {"new 'C' -1 -1 4", "skipped '' -1 0 -1"}},
+        {{"C", "A"}, RecipeClash::Replace, {"new 'C' -1 -1 3", "replacing 'A' 0 -1 4"}},
+        {{"C", "C"}, RecipeClash::Replace, {"overtaken '' -1 1 -1", "new 'C' -1 -1 4"}},
         {{"A", "A", "B"},
-         OnClash::Replace,
+         RecipeClash::Replace,
          {"overtaken '' -1 1 -1", "replacing 'A' 0 -1 2", "replacing 'B' 3 -1 3"}},
-        {{"a", " A", "A "}, OnClash::Replace, {"new 'a' -1 -1 4", "new ' A' -1 -1 5", "new 'A ' -1 -1 6"}},
-        {{"", " "}, OnClash::Discard, {"named '1' -1 -1 4", "named '2' -1 -1 5"}},
-        {{"", "1"}, OnClash::Replace, {"overtaken '' -1 1 -1", "new '1' -1 -1 4"}},
+        {{"a", " A", "A "},
+         RecipeClash::Replace,
+         {"new 'a' -1 -1 4", "new ' A' -1 -1 5", "new 'A ' -1 -1 6"}},
+        {{"", " "}, RecipeClash::Discard, {"named '1' -1 -1 4", "named '2' -1 -1 5"}},
+        {{"", "1"}, RecipeClash::Replace, {"overtaken '' -1 1 -1", "new '1' -1 -1 4"}},
     };
     for (const auto &each : cases) {
         const Node file = named(each.file);
@@ -126,16 +128,17 @@ TEST(ImportPlan, UntickedRowsTakeNoPartAndTheTemplateIsNoRow)
     list.insert(0, Name(u"default"))->ensure(u"name")->setString("T");
     Node file = named({"A", "T", "A"});
     file.insert(1, Name(u"default"))->ensure(u"name")->setString("A");
-    EXPECT_EQ(stepTexts(palx::planImport(list, file, {false, true, true}, OnClash::Replace)),
+    EXPECT_EQ(stepTexts(palx::planImport(list, file, {false, true, true}, RecipeClash::Replace)),
               (QStringList{"unticked '' -1 -1 -1", "new 'T' -1 -1 0", "replacing 'A' 1 -1 1"}));
-    EXPECT_EQ(stepTexts(palx::planImport(list, file, {}, OnClash::Replace)).count("unticked '' -1 -1 -1"), 3);
+    EXPECT_EQ(stepTexts(palx::planImport(list, file, {}, RecipeClash::Replace)).count("unticked '' -1 -1 -1"),
+              3);
 }
 
 TEST(ImportPlan, OfEqualNamesInTheListTheFirstGoes)
 {
     const Node list = named({"A", "B", "A"});
     const Node file = named({"A", "A", "A"});
-    EXPECT_EQ(stepTexts(palx::planImport(list, file, all(file), OnClash::Replace)),
+    EXPECT_EQ(stepTexts(palx::planImport(list, file, all(file), RecipeClash::Replace)),
               (QStringList{"overtaken '' -1 2 -1", "replacing 'A' 2 -1 1", "replacing 'A' 0 -1 2"}));
 }
 
@@ -146,7 +149,7 @@ TEST(ImportPlan, ManyEqualNamesAreNumberedInGoodTime)
     for (int i = 0; i < count; ++i)
         names.append(QStringLiteral("Box"));
     const Node file = named(names);
-    const std::vector<ImportStep> steps = palx::planImport(Node(), file, all(file), OnClash::Rename);
+    const std::vector<ImportStep> steps = palx::planImport(Node(), file, all(file), RecipeClash::Rename);
     EXPECT_EQ(steps.back().name, QStringLiteral("Box%1").arg(count - 1));
 }
 
@@ -155,9 +158,9 @@ TEST(ImportPlan, ManyEqualNamesAreNumberedInGoodTime)
 TEST_F(RecipeExchangeTest, RenamingTwiceInARowCountsOn)
 {
     Node file = named({"A"});
-    ASSERT_TRUE(palx::importRecipes(list(), file, all(file), OnClash::Rename, progress));
-    ASSERT_TRUE(palx::importRecipes(list(), file, all(file), OnClash::Rename, progress));
-    ASSERT_TRUE(palx::importRecipes(list(), file, all(file), OnClash::Rename, progress));
+    ASSERT_TRUE(palx::importRecipes(list(), file, all(file), RecipeClash::Rename, progress));
+    ASSERT_TRUE(palx::importRecipes(list(), file, all(file), RecipeClash::Rename, progress));
+    ASSERT_TRUE(palx::importRecipes(list(), file, all(file), RecipeClash::Rename, progress));
     EXPECT_EQ(namesOf(list()->node()), (QStringList{"A", "A1", "A2"}));
 }
 
@@ -171,7 +174,7 @@ TEST_F(RecipeExchangeTest, TheListIsAnnouncedOnceAndTheOldRecipeGoesLast)
     QSignalSpy structure(list(), &ModuleObject::structureChanged);
     Node file = named({"A", "C", "B"});
     file.at(0)->ensure(u"desc")->setString(QStringLiteral("from the file"));
-    ASSERT_TRUE(palx::importRecipes(list(), file, {true, true, false}, OnClash::Replace, progress));
+    ASSERT_TRUE(palx::importRecipes(list(), file, {true, true, false}, RecipeClash::Replace, progress));
     EXPECT_EQ(seen, (QStringList{"B", "A", "C"})); // the new one stood already
     EXPECT_EQ(structure.count(), 1);
     EXPECT_EQ(list()->getString("#1.desc"), QStringLiteral("from the file"));
@@ -186,12 +189,12 @@ TEST_F(RecipeExchangeTest, CancellingChangesNothing)
     const Node file = named({"A", "C", "D"});
     for (int step = 1; step <= 3; ++step) {
         ScriptedProgress cancelled(step);
-        EXPECT_FALSE(palx::importRecipes(list(), file, all(file), OnClash::Replace, cancelled));
+        EXPECT_FALSE(palx::importRecipes(list(), file, all(file), RecipeClash::Replace, cancelled));
         EXPECT_EQ(list()->node(), before);
     }
     EXPECT_EQ(structure.count(), 0);
     EXPECT_EQ(palx::LastImport::of(list()), nullptr);
-    EXPECT_FALSE(palx::importRecipes(emptyMobj(), file, all(file), OnClash::Replace, progress));
+    EXPECT_FALSE(palx::importRecipes(emptyMobj(), file, all(file), RecipeClash::Replace, progress));
 }
 
 TEST_F(RecipeExchangeTest, TakingBackPutsEverythingWhereItWas)
@@ -199,7 +202,7 @@ TEST_F(RecipeExchangeTest, TakingBackPutsEverythingWhereItWas)
     fill({"A", "B", "C", "D"});
     const Node before = list()->node();
     const Node file = named({"D", "E", "B", "B", "A"});
-    for (OnClash onClash : {OnClash::Rename, OnClash::Replace, OnClash::Discard}) {
+    for (RecipeClash onClash : {RecipeClash::Rename, RecipeClash::Replace, RecipeClash::Discard}) {
         ASSERT_TRUE(palx::importRecipes(list(), file, all(file), onClash, progress));
         EXPECT_NE(list()->node(), before);
         QSignalSpy structure(list(), &ModuleObject::structureChanged);
@@ -214,7 +217,7 @@ TEST_F(RecipeExchangeTest, TakingBackLeavesWhatTheOperatorMadeMeanwhile)
 {
     fill({"A", "B"});
     const Node file = named({"A", "C", "D"});
-    ASSERT_TRUE(palx::importRecipes(list(), file, all(file), OnClash::Replace, progress)); // B A C D
+    ASSERT_TRUE(palx::importRecipes(list(), file, all(file), RecipeClash::Replace, progress)); // B A C D
     list()->cmobj(2)->remove();                                  // the operator deletes C
     list()->cmobj(1)->set(nullptr, "name", "E");                 // names the new A
     list()->addUnnamed()->ensure("name")->set(nullptr, "", "A"); // and makes one of his own
@@ -229,9 +232,9 @@ TEST_F(RecipeExchangeTest, AnImportThatAddsNothingLeavesTheLastOne)
 {
     fill({"A"});
     const Node first = named({"B"});
-    ASSERT_TRUE(palx::importRecipes(list(), first, all(first), OnClash::Rename, progress));
+    ASSERT_TRUE(palx::importRecipes(list(), first, all(first), RecipeClash::Rename, progress));
     const Node second = named({"A"});
-    ASSERT_TRUE(palx::importRecipes(list(), second, all(second), OnClash::Discard, progress));
+    ASSERT_TRUE(palx::importRecipes(list(), second, all(second), RecipeClash::Discard, progress));
     ASSERT_TRUE(palx::LastImport::of(list()));
     palx::LastImport::of(list())->takeBack();
     EXPECT_EQ(namesOf(list()->node()), QStringList("A"));
@@ -347,7 +350,8 @@ TEST_F(RecipeExchangeTest, AThousandRandomRecipesComeBackValueForValue)
         list()->clear();
         const palx::ExchangeFile read = palx::readExchangeFile(path(), *prototype, progress);
         ASSERT_EQ(read.error, QString());
-        ASSERT_TRUE(palx::importRecipes(list(), read.content, all(read.content), OnClash::Discard, progress));
+        ASSERT_TRUE(
+            palx::importRecipes(list(), read.content, all(read.content), RecipeClash::Discard, progress));
         ASSERT_EQ(list()->node(), before);
         for (int i = 0; i < kRecipes; ++i)
             ASSERT_EQ(list()->node().at(i)->name(), before.at(i)->name());
