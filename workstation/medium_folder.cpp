@@ -23,11 +23,9 @@ bool isInside(const QString &path, const QString &root)
     return path == root || path.startsWith(root + QLatin1Char('/'));
 }
 
-bool isShown(const QFileInfo &entry, const QString &root, const FileFilter &filter)
+bool leadsOut(const QFileInfo &entry, const QString &root)
 {
-    if (entry.isSymLink() && !isInside(entry.canonicalFilePath(), root))
-        return false;
-    return entry.isDir() || (entry.isFile() && filter.matches(entry.fileName()));
+    return entry.isSymLink() && !isInside(entry.canonicalFilePath(), root);
 }
 
 /// -1, 0, 1
@@ -44,11 +42,11 @@ FolderContents readFolder(const QString &root, const QString &folder, const File
     FolderContents contents;
     if (!QFileInfo(folder).isReadable())
         contents.problem = Text::tr("The folder cannot be read.");
-    QDirIterator entries(folder, QDir::Dirs | QDir::Files | QDir::NoDotAndDotDot);
+    QDirIterator entries(folder, filter.patterns, QDir::AllDirs | QDir::Files | QDir::NoDotAndDotDot);
     while (entries.hasNext()) {
         entries.next();
         const QFileInfo entry = entries.fileInfo();
-        if (!isShown(entry, root, filter))
+        if (leadsOut(entry, root))
             continue;
         if (contents.entries.size() == kMost) {
             contents.problem = Text::tr("Only %1 entries of the folder are shown.").arg(kMost);
