@@ -6,8 +6,6 @@ namespace controller::cell {
 
 namespace {
 
-constexpr double kLiftOff =
-    0.020; // [m] a product that was raised so far does not lie in front of the sensor any more
 constexpr double kLoseAfter = 0.5; // [s] carried for so long, a product may fall off
 constexpr double kUpright = radians(0.5);
 constexpr double kOntoPallet = 0.1; // [m] what falls further lands on the floor
@@ -84,7 +82,7 @@ void World::moveRobot()
         if (from.pose.matrix() != to.pose.matrix())
             watchWay(from, to.pose);
         carriedFor_ += kTick;
-        if (!liftedOff_ && to.bottom() > waitingBottom_ + kLiftOff) {
+        if (!liftedOff_ && hasLeftStop(to)) {
             liftedOff_ = true;
             conveyor_.take(2 * to.half.x());
         }
@@ -95,6 +93,13 @@ void World::moveRobot()
     wasReached_ = way_.isReached();
     hadRoom_ = way_.hasRoom();
     wasMoving_ = way_.isMoving();
+}
+
+/// A product that is gripped blocks the stop and its sensor until the next one has room there, below it or beside it.
+bool World::hasLeftStop(const Block &carried) const
+{
+    const Vector way = carried.pose.translation() - waiting_.pose.translation();
+    return way.z() > 2 * carried.half.z() || way.head<2>().norm() > 2 * carried.reach();
 }
 
 Body World::column() const
@@ -185,7 +190,7 @@ void World::grip()
     if (way_.isMoving() || !waitingBox(&box) || !Gripper::reaches(tool_, box.block))
         return;
     box = {Body::Kind::Box, plan_->side(), layer_, piece_, box.block};
-    waitingBottom_ = box.block.bottom();
+    waiting_ = box.block;
     gripper_.grip(box, tool_);
     carriedPlan_ = plan_;
     carriedFor_ = 0;

@@ -120,6 +120,7 @@ private:
     void restoreRest(const orba::Node &kept);
     Pose raised(const Pose &inBase) const;
     void moveRobot();
+    bool hasLeftStop(const Block &carried) const;
     void watchWay(const Block &from, const Pose &to);
     void hit(const Body &body);
     void moveGripper();
@@ -149,7 +150,7 @@ private:
     std::shared_ptr<const RecipePlan> carriedPlan_; ///< of the product in the gripper
     double carriedFor_ = 0;                         ///< [s]
     bool liftedOff_ = true;                         ///< the product in the gripper has left the stop
-    double waitingBottom_ = 0;                      ///< of that product, while it lay there [m]
+    Block waiting_;                                 ///< that product while it lay there
     Pose tool_ = Pose::Identity();                  ///< of the tool's point in the cell
     std::bitset<kFaults> faults_;
     int pulledSide_ = 0;

@@ -14,6 +14,8 @@ namespace {
 
 const QString kSheetPattern = QStringLiteral("clapboard");
 const QString kSuction = QStringLiteral("DO2_6");
+constexpr int kColumnUsed = 1; // "use_rise"
+constexpr int kColumnStopped = 2;
 
 QString say(const char *text)
 {
@@ -113,6 +115,8 @@ void readCell(const Node &cell, const Node &variables, RunRecovery *run)
     if (const Node *all = cell.child(u"signals"))
         if (const Node *suction = recordOf(*all, kSuction))
             run->isSuctionOn = suction->getBool(u"on");
+    run->columnUse = numberOf(variables, QStringLiteral("use_rise"), 0);
+    run->hasColumnPower = cell.getString(u"column.state") == QLatin1String("operation enabled");
     const double lift = numberOf(variables, QStringLiteral("liftHeight"), 0);
     if (lift > 0)
         run->isColumnUp = cell.getDouble(u"column.height") > lift / 2;
@@ -211,17 +215,42 @@ QString whyNotEnable(const RunRecovery &run, int side)
     return {};
 }
 
-QString whyNotGoOn(const RunRecovery &run)
+bool isMiscounted(const RunRecovery &run)
 {
-    if (!run.isPaused || run.served < 0 || run.served > 1)
-        return {};
-    if (run.isSuctionOn && !run.holdsProduct)
-        return say("The product was lost; stop the program and confirm the piece!");
+    if (!(run.isRunning || run.isPaused) || run.served < 0 || run.served > 1)
+        return false;
     const SideRun &at = run.sides[static_cast<std::size_t>(run.served)];
     const PalletPiece next =
         firstFrom(at.pieces, {at.counted.layer, at.counted.piece + 1}); // put down, not counted yet
-    if (!at.foreign.isEmpty() || (at.isKnown && at.lying != at.counted && at.lying != next))
-        return say("Another pallet stands there; stop the program and confirm the piece!");
+    return !at.foreign.isEmpty() || (at.isKnown && at.lying != at.counted && at.lying != next);
+}
+
+GoOn howToGoOn(const RunRecovery &run)
+{
+    const bool isLost = run.isSuctionOn && !run.holdsProduct && run.served >= 0;
+    if (!run.isPaused)
+        return GoOn::AsItIs;
+    if (isLost || isMiscounted(run))
+        return GoOn::NotAtAll;
+    if (run.columnUse == kColumnStopped)
+        return GoOn::ByStartButton;
+    return run.columnUse == kColumnUsed && !run.hasColumnPower ? GoOn::ByStopAndStart : GoOn::AsItIs;
+}
+
+QString whyNotGoOn(const RunRecovery &run)
+{
+    switch (howToGoOn(run)) {
+    case GoOn::AsItIs:
+        break;
+    case GoOn::ByStartButton:
+        return say("The lift column was stopped; go on with the start button of the cell!");
+    case GoOn::ByStopAndStart:
+        return say("The lift column has no power; press the stop and then the start button of the cell!");
+    case GoOn::NotAtAll:
+        return isMiscounted(run)
+                   ? say("The pallet is not as counted; stop the program and confirm the piece!")
+                   : say("The product was lost; stop the program and confirm the piece!");
+    }
     return {};
 }
 

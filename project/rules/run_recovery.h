@@ -44,6 +44,8 @@ struct RunRecovery
     bool isPaused = false;
     bool holdsProduct = false; ///< something hangs at the gripper
     bool isSuctionOn = false;
+    int columnUse = 0; ///< "use_rise": 1 the lift column is moved, 2 it was stopped by the stop button
+    bool hasColumnPower = true;
     int served = -1; ///< side that the programs stack, or stacked when they broke off; -1 neither
     std::optional<bool>
         isColumnUp; ///< the lift column stands nearer to its upper position; unknown without one
@@ -70,9 +72,20 @@ PALX_API orba::Node confirmedVariables(const RunRecovery &run, int side, PalletP
 
 /// Why the side may not be enabled, for the operator; empty when it may. While a program runs or is paused it may.
 PALX_API QString whyNotEnable(const RunRecovery &run, int side);
-/// Why a paused program must not go on, for the operator; empty when it may. A product that was lost would be counted, and
-/// on another pallet than it counted it would stack into the air.
+/// How a paused program goes on.
+enum class GoOn {
+    AsItIs,
+    ByStartButton, ///< of the cell: the lift column was stopped on its way, and that button gives it power again
+    ByStopAndStart, ///< the same after the column lost its power: the stop button first
+    NotAtAll,       ///< its product or its pallet is gone: stop it and confirm the piece
+};
+PALX_API GoOn howToGoOn(const RunRecovery &run);
+/// What the operator is to do instead of just going on; empty when that is all.
 PALX_API QString whyNotGoOn(const RunRecovery &run);
+
+/// Whether the program that runs counts on what does not lie on its pallet: a product got lost that nobody noticed. It is
+/// to be stopped before it sets down the next one.
+PALX_API bool isMiscounted(const RunRecovery &run);
 
 /// Pieces that come before that one.
 PALX_API int piecesBefore(const SideRun &side, PalletPiece piece);

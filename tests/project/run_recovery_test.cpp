@@ -22,6 +22,8 @@ struct Cell
     bool carries = false, suction = false;
     bool isKnown = true;
     double column = 0;
+    int columnUse = 0;
+    const char *columnState = "switch on disabled";
 };
 
 Node variable(const char *name, int value)
@@ -43,6 +45,7 @@ Node variablesOf(const Cell &cell)
                                                    {"currentLayerR", 1},
                                                    {"layerCountR", 1},
                                                    {"palletIndexR", 3},
+                                                   {"use_rise", cell.columnUse},
                                                    {"liftHeight", 500}};
     for (const auto &[name, value] : values)
         list.add()->assign(variable(name, value));
@@ -69,6 +72,7 @@ Node cellNode(const Cell &cell)
     node.find(u"gripper")->ensure(u"carries")->setBool(cell.carries);
     node.find(u"signals.#0")->ensure(u"on")->setBool(cell.suction);
     node.find(u"column")->ensure(u"height")->setDouble(cell.column);
+    node.find(u"column")->ensure(u"state")->setString(QLatin1String(cell.columnState));
     Node *left = node.find(u"pallets.#0");
     left->ensure(u"recipe")->setString(QLatin1String(cell.recipe));
     left->ensure(u"count")->setInt(cell.lies);
@@ -197,23 +201,42 @@ TEST(RunRecovery, AConfirmationSetsEverythingThatCounts)
               palx::confirmedVariables(read(cell), 0, {2, 2}));
 }
 
-TEST(RunRecovery, APausedProgramGoesOnOnlyWithItsProductAndItsPallet)
+TEST(RunRecovery, APausedProgramGoesOnWithItsProductItsPalletAndTheColumn)
 {
+    const char *lost = "The product was lost; stop the program and confirm the piece!";
+    const char *miscounted = "The pallet is not as counted; stop the program and confirm the piece!";
+    Cell stopped{"paused", 1, {1, 2}, 1, {1, 2}};
+    stopped.columnUse = 2;
+    Cell powerless = stopped;
+    powerless.columnUse = 1;
+    Cell moving = powerless;
+    moving.columnState = "operation enabled";
     const std::pair<Cell, const char *> cases[] = {
         {{"paused", 1, {1, 2}, 1, {1, 2}}, ""},
         {{"paused", 1, {1, 2}, 2, {2, 1}}, ""}, // put down, not counted
         {{"paused", 1, {1, 2}, 1, {1, 2}, "Left", true, true}, ""},
-        {{"paused", 1, {1, 2}, 1, {1, 2}, "Left", false, true},
-         "The product was lost; stop the program and confirm the piece!"},
-        {{"paused", 1, {1, 2}, 0, {1, 1}},
-         "Another pallet stands there; stop the program and confirm the piece!"},
-        {{"paused", 1, {1, 2}, 1, {1, 2}, "Other"},
-         "Another pallet stands there; stop the program and confirm the piece!"},
+        {{"paused", 1, {1, 2}, 1, {1, 2}, "Left", false, true}, lost},
+        {{"paused", 1, {1, 2}, 0, {1, 1}}, miscounted},
+        {{"paused", 1, {1, 2}, 1, {1, 2}, "Other"}, miscounted},
         {{"paused", 0, {1, 2}, 0, {1, 1}}, ""},
         {{"running", 1, {1, 2}, 0, {1, 1}, "Left", false, true}, ""},
+        {stopped, "The lift column was stopped; go on with the start button of the cell!"},
+        {powerless, "The lift column has no power; press the stop and then the start button of the cell!"},
+        {moving, ""},
     };
     for (const auto &[cell, why] : cases)
         EXPECT_EQ(QLatin1String(why), palx::whyNotGoOn(read(cell)));
+}
+
+TEST(RunRecovery, AProgramThatRunsIsWatched)
+{
+    const std::pair<Cell, bool> cases[] = {
+        {{"running", 1, {1, 2}, 1, {1, 2}}, false}, {{"running", 1, {1, 2}, 2, {2, 1}}, false},
+        {{"running", 1, {2, 1}, 1, {1, 2}}, true},  {{"running", 0, {2, 1}, 1, {1, 2}}, false},
+        {{"stopped", 1, {2, 1}, 1, {1, 2}}, false},
+    };
+    for (const auto &[cell, isMiscounted] : cases)
+        EXPECT_EQ(isMiscounted, palx::isMiscounted(read(cell)));
 }
 
 TEST(RunRecovery, ATreeWithoutAnythingAsksNothing)
