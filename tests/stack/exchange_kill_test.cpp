@@ -1,0 +1,117 @@
+// A process that exports is killed at a hundred moments of its writing. The file of that name must be the old one, and after
+// an export that ended the new one, but never a part of either.
+
+#include "stack/exchange_fixture.h"
+#include "stack/recipe_exchange.h"
+
+#include <QDir>
+
+#include <csignal>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using orba::Node;
+
+/// Kills its process at a step.
+class DeadlyProgress : public palx::Progress
+{
+public:
+    explicit DeadlyProgress(int killAt) : left_(killAt) {}
+    void step(int, int, const QString &) override
+    {
+        if (--left_ <= 0)
+            ::raise(SIGKILL);
+    }
+    bool isCancelled() override { return false; }
+    bool enterLastPart() override { return true; }
+
+private:
+    int left_;
+};
+
+class ExchangeKillTest : public RecipeExchangeTest
+{
+protected:
+    static Node recipes(int seed)
+    {
+        Node list;
+        list.reset(Node::Kind::List);
+        for (int i = 0; i < 110; ++i) {
+            Node *recipe = list.add();
+            recipe->ensure(u"name")->setString(QStringLiteral("%1 of %2").arg(i).arg(seed));
+            recipe->ensure(u"note")->setString(
+                QString(64 * 1024, QLatin1Char('x'))); // a piece of writing each
+        }
+        return list;
+    }
+    QByteArray content() const
+    {
+        QFile file(path());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+    /// In a process of its own; the signal that ended it, or 0.
+    int exportKilledAt(int step, const Node &list)
+    {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+            DeadlyProgress deadly(step);
+            _exit(palx::writeExchangeFile(list, path(), deadly).isDone() ? 0 : 1);
+        }
+        int status = 0;
+        EXPECT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_FALSE(WIFEXITED(status) && WEXITSTATUS(status) != 0) << "the export failed by itself";
+        return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+    }
+};
+
+TEST_F(ExchangeKillTest, NoHalfFileStandsUnderTheNameAndTheOldOneStays)
+{
+    ASSERT_EQ(QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1)
+        << "only a process of one thread may be forked and go on";
+    const Node newer = recipes(2);
+    int killed = 0;
+    for (int moment = 1; moment <= 50; ++moment) // there is no file yet
+        killed += exportKilledAt(2 * moment, newer) == SIGKILL ? 1 : 0;
+    EXPECT_FALSE(QFile::exists(path()));
+    write(recipes(1));
+    const QByteArray before = content();
+    for (int moment = 0; moment < 50; ++moment) {
+        killed += exportKilledAt(2 * moment + 1, newer) == SIGKILL ? 1 : 0;
+        ASSERT_EQ(content(), before) << moment;
+    }
+    EXPECT_EQ(killed, 100);
+    EXPECT_EQ(exportKilledAt(1000000, newer), 0);
+    Node back;
+    ASSERT_TRUE(orba::ModuleManager::readFromXmlFile(path(), &back));
+    EXPECT_EQ(back, newer);
+}
+
+TEST_F(ExchangeKillTest, CancellingAtAnyMomentLeavesNothingBehind)
+{
+    const Node list = recipes(1);
+    int cancelled = 0;
+    for (int moment = 1; moment <= 100; moment += 9) {
+        ScriptedProgress stopped(moment);
+        const palx::WrittenFile written = palx::writeExchangeFile(list, path(), stopped);
+        cancelled += written.isCancelled ? 1 : 0;
+        EXPECT_EQ(written.error, QString());
+        EXPECT_TRUE(stopped.grows);
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                  QStringList());
+    }
+    EXPECT_EQ(cancelled, 12);
+    write(list);
+    for (int moment = 1; moment <= 40; moment += 3) {
+        ScriptedProgress stopped(moment);
+        const palx::ExchangeFile read = palx::readExchangeFile(path(), Node(), stopped);
+        EXPECT_TRUE(read.isCancelled);
+        EXPECT_TRUE(read.content.isNull() && read.error.isEmpty());
+    }
+}
+
+} // namespace
