@@ -117,8 +117,10 @@ QVariant ImExportModel::data(const QModelIndex &index, int role) const
 
 QVariant ImExportModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (role != Qt::DisplayRole)
         return QVariant();
+    if (orientation == Qt::Vertical)
+        return section + 1;
     return QStringList({QString(), tr("Recipe"), tr("Description"), tr("What happens")}).value(section);
 }
 
@@ -126,8 +128,6 @@ QString ImExportModel::text(int row, int column) const
 {
     const Row &shown = rows_[static_cast<std::size_t>(row)];
     switch (column) {
-    case Tick:
-        return QString::number(row + 1);
     case Name:
         return shown.name.trimmed().isEmpty() ? tr("(no name)") : shown.name;
     case Description:

@@ -54,6 +54,8 @@ void ImExportDialog::setUp()
     setupTable(ui_->tblRecipes, -1, false);
     setFieldMargins(this);
     ui_->tblRecipes->verticalHeader()->setDefaultSectionSize(kTwoLines);
+    ui_->tblRecipes->verticalHeader()->setSectionsClickable(false);
+    ui_->tblRecipes->verticalHeader()->show(); // rows speak of each other by their numbers
     ui_->tblRecipes->setWordWrap(true);
     ui_->tblRecipes->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     ui_->tblRecipes->setColumnHidden(ImExportModel::Outcome, !import_);
@@ -352,7 +354,7 @@ void ImExportDialog::importNode(ModuleObject *stack)
 /// Names and descriptions share half of the width, what happens gets the rest.
 void ImExportDialog::fitColumns()
 {
-    constexpr int kTickWidth = 80;
+    constexpr int kTickWidth = 56;
     QTableView *table = ui_->tblRecipes;
     const int width = table->viewport()->width() - kTickWidth;
     table->setColumnWidth(ImExportModel::Tick, kTickWidth);
