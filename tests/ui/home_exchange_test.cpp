@@ -54,9 +54,10 @@ protected:
             names << model->index(row, 0).data().toString();
         return names;
     }
+    /// That of the list; the page has others.
     MessageBar *message() const
     {
-        return pages.home->wgt()->findChild<MessageBar *>(QStringLiteral("message"));
+        return pages.field<QListView>("lstRecipes")->parentWidget()->findChild<MessageBar *>();
     }
     /// The product's length of the recipe that the set-up page shows; -1 when it shows none.
     double openLength() const
