@@ -84,6 +84,229 @@
     </message>
 </context>
 <context>
+    <name>PanelCellPage</name>
+    <message>
+        <source>State of the programs</source>
+        <translation>程序状态</translation>
+    </message>
+    <message>
+        <source>Why, and which project</source>
+        <translation>原因及工程</translation>
+    </message>
+    <message>
+        <source>Time in the cell</source>
+        <translation>工作站时间</translation>
+    </message>
+    <message>
+        <source>The cell</source>
+        <translation>工作站</translation>
+    </message>
+    <message>
+        <source>Turn left</source>
+        <translation>左转</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <translation>右转</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>1 x</source>
+        <translation>1 x</translation>
+    </message>
+    <message>
+        <source>Real time</source>
+        <translation>实时</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>运行</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>单步</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Desk</source>
+        <translation>操作台</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>信号</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>故障</translation>
+    </message>
+    <message>
+        <source>Buttons of the cell</source>
+        <translation>工作站按钮</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>启动</translation>
+    </message>
+    <message>
+        <source>Start button of the cell</source>
+        <translation>工作站启动按钮</translation>
+    </message>
+    <message>
+        <source>Stop button of the cell</source>
+        <translation>工作站停止按钮</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>复位</translation>
+    </message>
+    <message>
+        <source>Reset button of the cell</source>
+        <translation>工作站复位按钮</translation>
+    </message>
+    <message>
+        <source>Clear gripper</source>
+        <translation>清空抓手</translation>
+    </message>
+    <message>
+        <source>Left arrow</source>
+        <translation>左箭头</translation>
+    </message>
+    <message>
+        <source>Left arrow button of the cell</source>
+        <translation>工作站左箭头按钮</translation>
+    </message>
+    <message>
+        <source>Right arrow</source>
+        <translation>右箭头</translation>
+    </message>
+    <message>
+        <source>Right arrow button of the cell</source>
+        <translation>工作站右箭头按钮</translation>
+    </message>
+    <message>
+        <source>Pallets</source>
+        <translation>托盘</translation>
+    </message>
+    <message>
+        <source>Left pallet</source>
+        <translation>左托盘</translation>
+    </message>
+    <message>
+        <source>Take away</source>
+        <translation>取走</translation>
+    </message>
+    <message>
+        <source>Left pallet away</source>
+        <translation>取走左托盘</translation>
+    </message>
+    <message>
+        <source>Bring empty</source>
+        <translation>放空托盘</translation>
+    </message>
+    <message>
+        <source>Left pallet: bring an empty one</source>
+        <translation>左托盘：放上空托盘</translation>
+    </message>
+    <message>
+        <source>Right pallet</source>
+        <translation>右托盘</translation>
+    </message>
+    <message>
+        <source>Right pallet away</source>
+        <translation>取走右托盘</translation>
+    </message>
+    <message>
+        <source>Right pallet: bring an empty one</source>
+        <translation>右托盘：放上空托盘</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Input on</source>
+        <translation>输入开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Input off</source>
+        <translation>输入关</translation>
+    </message>
+    <message>
+        <source>Press</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>Press for half a second</source>
+        <translation>按下半秒</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search variables</source>
+        <translation>搜索变量</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>新值</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Set the variable</source>
+        <translation>设置变量</translation>
+    </message>
+    <message>
+        <source>Number of violations</source>
+        <translation>违规数量</translation>
+    </message>
+    <message>
+        <source>Violations</source>
+        <translation>违规</translation>
+    </message>
+    <message>
+        <source>The chosen violation</source>
+        <translation>所选违规</translation>
+    </message>
+    <message>
+        <source>What was asked and answered</source>
+        <translation>请求与应答</translation>
+    </message>
+</context>
+<context>
     <name>PanelControllerPage</name>
     <message>
         <source>Controller</source>
@@ -767,6 +990,10 @@
         <source>the robot is braking</source>
         <translation>机器人正在制动</translation>
     </message>
+    <message>
+        <source>&quot;action&quot; is &quot;%1&quot;, not &quot;clear&quot;</source>
+        <translation>“action”为“%1”，而不是“clear”</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>
@@ -1398,6 +1625,200 @@
         <source>the text is not UTF-8</source>
         <translation>文本不是 UTF-8</translation>
     </message>
+    <message>
+        <source>was stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>the encoding &quot;%1&quot; is not accepted</source>
+        <translation>不接受编码“%1”</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>元素的属性超过 %1 个</translation>
+    </message>
+</context>
+<context>
+    <name>panel::CellPage</name>
+    <message>
+        <source>No project is in use.</source>
+        <translation>未使用工程。</translation>
+    </message>
+    <message>
+        <source>Project %1</source>
+        <translation>工程 %1</translation>
+    </message>
+    <message>
+        <source>No controller</source>
+        <translation>无控制器</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>运行中</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>故障</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>no pallet</source>
+        <translation>无托盘</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>%1 of %2 boxes</source>
+        <translation>%1 / %2 箱</translation>
+    </message>
+    <message>
+        <source>No vacuum</source>
+        <translation>无真空</translation>
+    </message>
+    <message>
+        <source>Lost box</source>
+        <translation>箱掉落</translation>
+    </message>
+    <message>
+        <source>Conveyor jam</source>
+        <translation>输送线堵塞</translation>
+    </message>
+    <message>
+        <source>Pallet pulled</source>
+        <translation>托盘被拉走</translation>
+    </message>
+    <message>
+        <source>Emergency stop</source>
+        <translation>急停</translation>
+    </message>
+    <message>
+        <source>Collision</source>
+        <translation>碰撞</translation>
+    </message>
+    <message>
+        <source>Power cut</source>
+        <translation>断电</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>信号</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>含义</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Procedure</source>
+        <translation>过程</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Layer / piece</source>
+        <translation>层 / 件</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>物体</translation>
+    </message>
+    <message>
+        <source>Met</source>
+        <translation>相碰物</translation>
+    </message>
+    <message>
+        <source>%1 x</source>
+        <translation>%1 x</translation>
+    </message>
+    <message>
+        <source>%1: on</source>
+        <translation>%1：开</translation>
+    </message>
+    <message>
+        <source>Violations: %1, lost boxes: %2</source>
+        <translation>违规：%1，掉落箱数：%2</translation>
+    </message>
+    <message>
+        <source>%1: waiting for the controller</source>
+        <translation>%1：等待控制器</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+</context>
+<context>
+    <name>panel::CellTable</name>
+    <message>
+        <source>runs</source>
+        <translation>运行</translation>
+    </message>
+    <message>
+        <source>waits</source>
+        <translation>等待</translation>
+    </message>
+    <message>
+        <source>moves</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>结束</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>开</translation>
+    </message>
 </context>
 <context>
     <name>panel::ControllerPage</name>
@@ -1613,6 +2034,10 @@
     <message>
         <source>Controller</source>
         <translation>控制器</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>工作站</translation>
     </message>
 </context>
 <context>

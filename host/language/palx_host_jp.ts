@@ -84,6 +84,229 @@
     </message>
 </context>
 <context>
+    <name>PanelCellPage</name>
+    <message>
+        <source>State of the programs</source>
+        <translation>プログラムの状態</translation>
+    </message>
+    <message>
+        <source>Why, and which project</source>
+        <translation>理由とプロジェクト</translation>
+    </message>
+    <message>
+        <source>Time in the cell</source>
+        <translation>セルの時間</translation>
+    </message>
+    <message>
+        <source>The cell</source>
+        <translation>セル</translation>
+    </message>
+    <message>
+        <source>Turn left</source>
+        <translation>左へ回す</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <translation>右へ回す</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>拡大</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>1 x</source>
+        <translation>1 x</translation>
+    </message>
+    <message>
+        <source>Real time</source>
+        <translation>実時間</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>実行</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>ステップ</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Desk</source>
+        <translation>操作盤</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>信号</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>タスク</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>変数</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>故障</translation>
+    </message>
+    <message>
+        <source>Buttons of the cell</source>
+        <translation>セルのボタン</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>スタート</translation>
+    </message>
+    <message>
+        <source>Start button of the cell</source>
+        <translation>セルのスタートボタン</translation>
+    </message>
+    <message>
+        <source>Stop button of the cell</source>
+        <translation>セルの停止ボタン</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Reset button of the cell</source>
+        <translation>セルのリセットボタン</translation>
+    </message>
+    <message>
+        <source>Clear gripper</source>
+        <translation>グリッパを空にする</translation>
+    </message>
+    <message>
+        <source>Left arrow</source>
+        <translation>左矢印</translation>
+    </message>
+    <message>
+        <source>Left arrow button of the cell</source>
+        <translation>セルの左矢印ボタン</translation>
+    </message>
+    <message>
+        <source>Right arrow</source>
+        <translation>右矢印</translation>
+    </message>
+    <message>
+        <source>Right arrow button of the cell</source>
+        <translation>セルの右矢印ボタン</translation>
+    </message>
+    <message>
+        <source>Pallets</source>
+        <translation>パレット</translation>
+    </message>
+    <message>
+        <source>Left pallet</source>
+        <translation>左パレット</translation>
+    </message>
+    <message>
+        <source>Take away</source>
+        <translation>取り去る</translation>
+    </message>
+    <message>
+        <source>Left pallet away</source>
+        <translation>左パレットを取り去る</translation>
+    </message>
+    <message>
+        <source>Bring empty</source>
+        <translation>空を置く</translation>
+    </message>
+    <message>
+        <source>Left pallet: bring an empty one</source>
+        <translation>左パレット: 空を置く</translation>
+    </message>
+    <message>
+        <source>Right pallet</source>
+        <translation>右パレット</translation>
+    </message>
+    <message>
+        <source>Right pallet away</source>
+        <translation>右パレットを取り去る</translation>
+    </message>
+    <message>
+        <source>Right pallet: bring an empty one</source>
+        <translation>右パレット: 空を置く</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Input on</source>
+        <translation>入力オン</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Input off</source>
+        <translation>入力オフ</translation>
+    </message>
+    <message>
+        <source>Press</source>
+        <translation>押す</translation>
+    </message>
+    <message>
+        <source>Press for half a second</source>
+        <translation>0.5 秒押す</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search variables</source>
+        <translation>変数を検索</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>新しい値</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Set the variable</source>
+        <translation>変数を設定</translation>
+    </message>
+    <message>
+        <source>Number of violations</source>
+        <translation>違反の数</translation>
+    </message>
+    <message>
+        <source>Violations</source>
+        <translation>違反</translation>
+    </message>
+    <message>
+        <source>The chosen violation</source>
+        <translation>選択した違反</translation>
+    </message>
+    <message>
+        <source>What was asked and answered</source>
+        <translation>要求と応答</translation>
+    </message>
+</context>
+<context>
     <name>PanelControllerPage</name>
     <message>
         <source>Controller</source>
@@ -767,6 +990,10 @@
         <source>the robot is braking</source>
         <translation>ロボットが減速しています</translation>
     </message>
+    <message>
+        <source>&quot;action&quot; is &quot;%1&quot;, not &quot;clear&quot;</source>
+        <translation>「action」は「%1」で、「clear」ではありません</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>
@@ -1398,6 +1625,200 @@
         <source>the text is not UTF-8</source>
         <translation>テキストが UTF-8 ではありません</translation>
     </message>
+    <message>
+        <source>was stopped</source>
+        <translation>停止されました</translation>
+    </message>
+    <message>
+        <source>the encoding &quot;%1&quot; is not accepted</source>
+        <translation>文字コード「%1」は使えません</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>要素の属性が %1 個を超えています</translation>
+    </message>
+</context>
+<context>
+    <name>panel::CellPage</name>
+    <message>
+        <source>No project is in use.</source>
+        <translation>使用中のプロジェクトはありません。</translation>
+    </message>
+    <message>
+        <source>Project %1</source>
+        <translation>プロジェクト %1</translation>
+    </message>
+    <message>
+        <source>No controller</source>
+        <translation>コントローラなし</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>運転中</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>故障</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>no pallet</source>
+        <translation>パレットなし</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>%1 of %2 boxes</source>
+        <translation>%1 / %2 箱</translation>
+    </message>
+    <message>
+        <source>No vacuum</source>
+        <translation>真空なし</translation>
+    </message>
+    <message>
+        <source>Lost box</source>
+        <translation>箱の落下</translation>
+    </message>
+    <message>
+        <source>Conveyor jam</source>
+        <translation>コンベヤ詰まり</translation>
+    </message>
+    <message>
+        <source>Pallet pulled</source>
+        <translation>パレット引き抜き</translation>
+    </message>
+    <message>
+        <source>Emergency stop</source>
+        <translation>非常停止</translation>
+    </message>
+    <message>
+        <source>Collision</source>
+        <translation>衝突</translation>
+    </message>
+    <message>
+        <source>Power cut</source>
+        <translation>停電</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>信号</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>意味</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>タスク</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Procedure</source>
+        <translation>プロシージャ</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>型</translation>
+    </message>
+    <message>
+        <source>Layer / piece</source>
+        <translation>段 / 個</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>物体</translation>
+    </message>
+    <message>
+        <source>Met</source>
+        <translation>相手</translation>
+    </message>
+    <message>
+        <source>%1 x</source>
+        <translation>%1 x</translation>
+    </message>
+    <message>
+        <source>%1: on</source>
+        <translation>%1: オン</translation>
+    </message>
+    <message>
+        <source>Violations: %1, lost boxes: %2</source>
+        <translation>違反: %1、落下した箱: %2</translation>
+    </message>
+    <message>
+        <source>%1: waiting for the controller</source>
+        <translation>%1: コントローラを待っています</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+</context>
+<context>
+    <name>panel::CellTable</name>
+    <message>
+        <source>runs</source>
+        <translation>実行</translation>
+    </message>
+    <message>
+        <source>waits</source>
+        <translation>待ち</translation>
+    </message>
+    <message>
+        <source>moves</source>
+        <translation>移動</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>オン</translation>
+    </message>
 </context>
 <context>
     <name>panel::ControllerPage</name>
@@ -1613,6 +2034,10 @@
     <message>
         <source>Controller</source>
         <translation>コントローラ</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>セル</translation>
     </message>
 </context>
 <context>

@@ -84,6 +84,229 @@
     </message>
 </context>
 <context>
+    <name>PanelCellPage</name>
+    <message>
+        <source>State of the programs</source>
+        <translation>프로그램 상태</translation>
+    </message>
+    <message>
+        <source>Why, and which project</source>
+        <translation>이유와 프로젝트</translation>
+    </message>
+    <message>
+        <source>Time in the cell</source>
+        <translation>셀의 시간</translation>
+    </message>
+    <message>
+        <source>The cell</source>
+        <translation>셀</translation>
+    </message>
+    <message>
+        <source>Turn left</source>
+        <translation>왼쪽으로 돌리기</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <translation>오른쪽으로 돌리기</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>축소</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>확대</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>속도</translation>
+    </message>
+    <message>
+        <source>1 x</source>
+        <translation>1 x</translation>
+    </message>
+    <message>
+        <source>Real time</source>
+        <translation>실시간</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>실행</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>일시 정지</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>한 단계</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>정지</translation>
+    </message>
+    <message>
+        <source>Desk</source>
+        <translation>조작반</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>신호</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>변수</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>고장</translation>
+    </message>
+    <message>
+        <source>Buttons of the cell</source>
+        <translation>셀 버튼</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Start button of the cell</source>
+        <translation>셀 시작 버튼</translation>
+    </message>
+    <message>
+        <source>Stop button of the cell</source>
+        <translation>셀 정지 버튼</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>리셋</translation>
+    </message>
+    <message>
+        <source>Reset button of the cell</source>
+        <translation>셀 리셋 버튼</translation>
+    </message>
+    <message>
+        <source>Clear gripper</source>
+        <translation>그리퍼 비우기</translation>
+    </message>
+    <message>
+        <source>Left arrow</source>
+        <translation>왼쪽 화살표</translation>
+    </message>
+    <message>
+        <source>Left arrow button of the cell</source>
+        <translation>셀 왼쪽 화살표 버튼</translation>
+    </message>
+    <message>
+        <source>Right arrow</source>
+        <translation>오른쪽 화살표</translation>
+    </message>
+    <message>
+        <source>Right arrow button of the cell</source>
+        <translation>셀 오른쪽 화살표 버튼</translation>
+    </message>
+    <message>
+        <source>Pallets</source>
+        <translation>팔레트</translation>
+    </message>
+    <message>
+        <source>Left pallet</source>
+        <translation>왼쪽 팔레트</translation>
+    </message>
+    <message>
+        <source>Take away</source>
+        <translation>치우기</translation>
+    </message>
+    <message>
+        <source>Left pallet away</source>
+        <translation>왼쪽 팔레트 치우기</translation>
+    </message>
+    <message>
+        <source>Bring empty</source>
+        <translation>빈 것 놓기</translation>
+    </message>
+    <message>
+        <source>Left pallet: bring an empty one</source>
+        <translation>왼쪽 팔레트: 빈 것 놓기</translation>
+    </message>
+    <message>
+        <source>Right pallet</source>
+        <translation>오른쪽 팔레트</translation>
+    </message>
+    <message>
+        <source>Right pallet away</source>
+        <translation>오른쪽 팔레트 치우기</translation>
+    </message>
+    <message>
+        <source>Right pallet: bring an empty one</source>
+        <translation>오른쪽 팔레트: 빈 것 놓기</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>켬</translation>
+    </message>
+    <message>
+        <source>Input on</source>
+        <translation>입력 켬</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>끔</translation>
+    </message>
+    <message>
+        <source>Input off</source>
+        <translation>입력 끔</translation>
+    </message>
+    <message>
+        <source>Press</source>
+        <translation>누르기</translation>
+    </message>
+    <message>
+        <source>Press for half a second</source>
+        <translation>0.5초 누르기</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>검색</translation>
+    </message>
+    <message>
+        <source>Search variables</source>
+        <translation>변수 검색</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>새 값</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Set the variable</source>
+        <translation>변수 설정</translation>
+    </message>
+    <message>
+        <source>Number of violations</source>
+        <translation>위반 수</translation>
+    </message>
+    <message>
+        <source>Violations</source>
+        <translation>위반</translation>
+    </message>
+    <message>
+        <source>The chosen violation</source>
+        <translation>선택한 위반</translation>
+    </message>
+    <message>
+        <source>What was asked and answered</source>
+        <translation>요청과 응답</translation>
+    </message>
+</context>
+<context>
     <name>PanelControllerPage</name>
     <message>
         <source>Controller</source>
@@ -767,6 +990,10 @@
         <source>the robot is braking</source>
         <translation>로봇이 감속 중입니다</translation>
     </message>
+    <message>
+        <source>&quot;action&quot; is &quot;%1&quot;, not &quot;clear&quot;</source>
+        <translation>&quot;action&quot;이 &quot;clear&quot;가 아니라 &quot;%1&quot;입니다</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>
@@ -1398,6 +1625,200 @@
         <source>the text is not UTF-8</source>
         <translation>텍스트가 UTF-8이 아닙니다</translation>
     </message>
+    <message>
+        <source>was stopped</source>
+        <translation>중지되었습니다</translation>
+    </message>
+    <message>
+        <source>the encoding &quot;%1&quot; is not accepted</source>
+        <translation>인코딩 &quot;%1&quot;은(는) 받아들이지 않습니다</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>요소의 속성이 %1개를 넘습니다</translation>
+    </message>
+</context>
+<context>
+    <name>panel::CellPage</name>
+    <message>
+        <source>No project is in use.</source>
+        <translation>사용 중인 프로젝트가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Project %1</source>
+        <translation>프로젝트 %1</translation>
+    </message>
+    <message>
+        <source>No controller</source>
+        <translation>컨트롤러 없음</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>실행 중</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>고장</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>일시 정지</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>정지됨</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>no pallet</source>
+        <translation>팔레트 없음</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>비어 있음</translation>
+    </message>
+    <message>
+        <source>%1 of %2 boxes</source>
+        <translation>%2개 중 %1개</translation>
+    </message>
+    <message>
+        <source>No vacuum</source>
+        <translation>진공 없음</translation>
+    </message>
+    <message>
+        <source>Lost box</source>
+        <translation>박스 놓침</translation>
+    </message>
+    <message>
+        <source>Conveyor jam</source>
+        <translation>컨베이어 막힘</translation>
+    </message>
+    <message>
+        <source>Pallet pulled</source>
+        <translation>팔레트 빠짐</translation>
+    </message>
+    <message>
+        <source>Emergency stop</source>
+        <translation>비상 정지</translation>
+    </message>
+    <message>
+        <source>Collision</source>
+        <translation>충돌</translation>
+    </message>
+    <message>
+        <source>Power cut</source>
+        <translation>정전</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>신호</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>의미</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>상태</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>줄</translation>
+    </message>
+    <message>
+        <source>Procedure</source>
+        <translation>프로시저</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>값</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>유형</translation>
+    </message>
+    <message>
+        <source>Layer / piece</source>
+        <translation>단 / 개</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>물체</translation>
+    </message>
+    <message>
+        <source>Met</source>
+        <translation>만난 것</translation>
+    </message>
+    <message>
+        <source>%1 x</source>
+        <translation>%1 x</translation>
+    </message>
+    <message>
+        <source>%1: on</source>
+        <translation>%1: 켬</translation>
+    </message>
+    <message>
+        <source>Violations: %1, lost boxes: %2</source>
+        <translation>위반: %1, 놓친 박스: %2</translation>
+    </message>
+    <message>
+        <source>%1: waiting for the controller</source>
+        <translation>%1: 컨트롤러 대기 중</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>속도</translation>
+    </message>
+</context>
+<context>
+    <name>panel::CellTable</name>
+    <message>
+        <source>runs</source>
+        <translation>실행</translation>
+    </message>
+    <message>
+        <source>waits</source>
+        <translation>대기</translation>
+    </message>
+    <message>
+        <source>moves</source>
+        <translation>이동</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>일시 정지</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>종료</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>켬</translation>
+    </message>
 </context>
 <context>
     <name>panel::ControllerPage</name>
@@ -1613,6 +2034,10 @@
     <message>
         <source>Controller</source>
         <translation>컨트롤러</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>셀</translation>
     </message>
 </context>
 <context>

@@ -84,6 +84,229 @@
     </message>
 </context>
 <context>
+    <name>PanelCellPage</name>
+    <message>
+        <source>State of the programs</source>
+        <translation>Состояние программ</translation>
+    </message>
+    <message>
+        <source>Why, and which project</source>
+        <translation>Почему и какой проект</translation>
+    </message>
+    <message>
+        <source>Time in the cell</source>
+        <translation>Время в ячейке</translation>
+    </message>
+    <message>
+        <source>The cell</source>
+        <translation>Ячейка</translation>
+    </message>
+    <message>
+        <source>Turn left</source>
+        <translation>Повернуть влево</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <translation>Повернуть вправо</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Мельче</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Крупнее</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>1 x</source>
+        <translation>1 x</translation>
+    </message>
+    <message>
+        <source>Real time</source>
+        <translation>Реальное время</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Пуск</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Шаг</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Стоп</translation>
+    </message>
+    <message>
+        <source>Desk</source>
+        <translation>Пульт</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>Сигналы</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Задачи</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Переменные</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>Аварии</translation>
+    </message>
+    <message>
+        <source>Buttons of the cell</source>
+        <translation>Кнопки ячейки</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Старт</translation>
+    </message>
+    <message>
+        <source>Start button of the cell</source>
+        <translation>Кнопка «Старт» ячейки</translation>
+    </message>
+    <message>
+        <source>Stop button of the cell</source>
+        <translation>Кнопка «Стоп» ячейки</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Сброс</translation>
+    </message>
+    <message>
+        <source>Reset button of the cell</source>
+        <translation>Кнопка «Сброс» ячейки</translation>
+    </message>
+    <message>
+        <source>Clear gripper</source>
+        <translation>Очистить захват</translation>
+    </message>
+    <message>
+        <source>Left arrow</source>
+        <translation>Стрелка влево</translation>
+    </message>
+    <message>
+        <source>Left arrow button of the cell</source>
+        <translation>Кнопка «Влево» ячейки</translation>
+    </message>
+    <message>
+        <source>Right arrow</source>
+        <translation>Стрелка вправо</translation>
+    </message>
+    <message>
+        <source>Right arrow button of the cell</source>
+        <translation>Кнопка «Вправо» ячейки</translation>
+    </message>
+    <message>
+        <source>Pallets</source>
+        <translation>Паллеты</translation>
+    </message>
+    <message>
+        <source>Left pallet</source>
+        <translation>Левая паллета</translation>
+    </message>
+    <message>
+        <source>Take away</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Left pallet away</source>
+        <translation>Убрать левую паллету</translation>
+    </message>
+    <message>
+        <source>Bring empty</source>
+        <translation>Пустую сюда</translation>
+    </message>
+    <message>
+        <source>Left pallet: bring an empty one</source>
+        <translation>Левая паллета: поставить пустую</translation>
+    </message>
+    <message>
+        <source>Right pallet</source>
+        <translation>Правая паллета</translation>
+    </message>
+    <message>
+        <source>Right pallet away</source>
+        <translation>Убрать правую паллету</translation>
+    </message>
+    <message>
+        <source>Right pallet: bring an empty one</source>
+        <translation>Правая паллета: поставить пустую</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Вкл.</translation>
+    </message>
+    <message>
+        <source>Input on</source>
+        <translation>Вход вкл.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Выкл.</translation>
+    </message>
+    <message>
+        <source>Input off</source>
+        <translation>Вход выкл.</translation>
+    </message>
+    <message>
+        <source>Press</source>
+        <translation>Нажать</translation>
+    </message>
+    <message>
+        <source>Press for half a second</source>
+        <translation>Нажать на полсекунды</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Search variables</source>
+        <translation>Поиск переменных</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation>Новое значение</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Задать</translation>
+    </message>
+    <message>
+        <source>Set the variable</source>
+        <translation>Задать переменную</translation>
+    </message>
+    <message>
+        <source>Number of violations</source>
+        <translation>Число нарушений</translation>
+    </message>
+    <message>
+        <source>Violations</source>
+        <translation>Нарушения</translation>
+    </message>
+    <message>
+        <source>The chosen violation</source>
+        <translation>Выбранное нарушение</translation>
+    </message>
+    <message>
+        <source>What was asked and answered</source>
+        <translation>Запрос и ответ</translation>
+    </message>
+</context>
+<context>
     <name>PanelControllerPage</name>
     <message>
         <source>Controller</source>
@@ -767,6 +990,10 @@
         <source>the robot is braking</source>
         <translation>робот тормозит</translation>
     </message>
+    <message>
+        <source>&quot;action&quot; is &quot;%1&quot;, not &quot;clear&quot;</source>
+        <translation>«action» — «%1», а не «clear»</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>
@@ -1398,6 +1625,200 @@
         <source>the text is not UTF-8</source>
         <translation>текст не в UTF-8</translation>
     </message>
+    <message>
+        <source>was stopped</source>
+        <translation>остановлено</translation>
+    </message>
+    <message>
+        <source>the encoding &quot;%1&quot; is not accepted</source>
+        <translation>кодировка «%1» не принимается</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>у элемента больше %1 атрибутов</translation>
+    </message>
+</context>
+<context>
+    <name>panel::CellPage</name>
+    <message>
+        <source>No project is in use.</source>
+        <translation>Проект не загружен.</translation>
+    </message>
+    <message>
+        <source>Project %1</source>
+        <translation>Проект %1</translation>
+    </message>
+    <message>
+        <source>No controller</source>
+        <translation>Нет контроллера</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Работает</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Авария</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Остановлено</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Лево</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Право</translation>
+    </message>
+    <message>
+        <source>no pallet</source>
+        <translation>нет паллеты</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>пусто</translation>
+    </message>
+    <message>
+        <source>%1 of %2 boxes</source>
+        <translation>%1 из %2 коробок</translation>
+    </message>
+    <message>
+        <source>No vacuum</source>
+        <translation>Нет вакуума</translation>
+    </message>
+    <message>
+        <source>Lost box</source>
+        <translation>Потеря коробки</translation>
+    </message>
+    <message>
+        <source>Conveyor jam</source>
+        <translation>Затор конвейера</translation>
+    </message>
+    <message>
+        <source>Pallet pulled</source>
+        <translation>Паллета убрана</translation>
+    </message>
+    <message>
+        <source>Emergency stop</source>
+        <translation>Аварийный стоп</translation>
+    </message>
+    <message>
+        <source>Collision</source>
+        <translation>Столкновение</translation>
+    </message>
+    <message>
+        <source>Power cut</source>
+        <translation>Сбой питания</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>Сигнал</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Задача</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <source>Procedure</source>
+        <translation>Процедура</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Тип</translation>
+    </message>
+    <message>
+        <source>Layer / piece</source>
+        <translation>Слой / изделие</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Тело</translation>
+    </message>
+    <message>
+        <source>Met</source>
+        <translation>Встретило</translation>
+    </message>
+    <message>
+        <source>%1 x</source>
+        <translation>%1 x</translation>
+    </message>
+    <message>
+        <source>%1: on</source>
+        <translation>%1: вкл.</translation>
+    </message>
+    <message>
+        <source>Violations: %1, lost boxes: %2</source>
+        <translation>Нарушений: %1, потеряно коробок: %2</translation>
+    </message>
+    <message>
+        <source>%1: waiting for the controller</source>
+        <translation>%1: ожидание контроллера</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Скорость</translation>
+    </message>
+</context>
+<context>
+    <name>panel::CellTable</name>
+    <message>
+        <source>runs</source>
+        <translation>идёт</translation>
+    </message>
+    <message>
+        <source>waits</source>
+        <translation>ждёт</translation>
+    </message>
+    <message>
+        <source>moves</source>
+        <translation>движется</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>пауза</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>завершена</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>сбой</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>вкл.</translation>
+    </message>
 </context>
 <context>
     <name>panel::ControllerPage</name>
@@ -1613,6 +2034,10 @@
     <message>
         <source>Controller</source>
         <translation>Контроллер</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>Ячейка</translation>
     </message>
 </context>
 <context>

@@ -440,6 +440,40 @@
     </message>
 </context>
 <context>
+    <name>ExchangeTableModel</name>
+    <message>
+        <source>chosen</source>
+        <translation>已选</translation>
+    </message>
+    <message>
+        <source>not chosen</source>
+        <translation>未选</translation>
+    </message>
+</context>
+<context>
+    <name>ExchangeText</name>
+    <message>
+        <source>recipe %1</source>
+        <translation>配方 %1</translation>
+    </message>
+    <message>
+        <source>recipe %1 &quot;%2&quot;</source>
+        <translation>配方 %1“%2”</translation>
+    </message>
+    <message>
+        <source>holds no list of recipes</source>
+        <translation>不含配方列表</translation>
+    </message>
+    <message>
+        <source>Writing the file</source>
+        <translation>正在写入文件</translation>
+    </message>
+    <message>
+        <source>Reading the file</source>
+        <translation>正在读取文件</translation>
+    </message>
+</context>
+<context>
     <name>FeedingDirectionWizard</name>
     <message>
         <source>Feeding directions</source>
@@ -475,6 +509,458 @@
     <message>
         <source>The product is larger than the pallet; it will reach over the edge.</source>
         <translation>产品大于托盘，将伸出托盘边缘。</translation>
+    </message>
+</context>
+<context>
+    <name>ImExportDialog</name>
+    <message>
+        <source>How many are ticked</source>
+        <translation>已勾选的数量</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>浏览</translation>
+    </message>
+    <message>
+        <source>Choose the file</source>
+        <translation>选择文件</translation>
+    </message>
+    <message>
+        <source>When a name is taken</source>
+        <translation>名称已存在时</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Tick all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Tick none</source>
+        <translation>全不选</translation>
+    </message>
+    <message>
+        <source>Recipes</source>
+        <translation>配方</translation>
+    </message>
+    <message>
+        <source>Undo the last import</source>
+        <translation>撤销上次导入</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Import recipes</source>
+        <translation>导入配方</translation>
+    </message>
+    <message>
+        <source>Export recipes</source>
+        <translation>导出配方</translation>
+    </message>
+    <message>
+        <source>No file chosen</source>
+        <translation>未选择文件</translation>
+    </message>
+    <message>
+        <source>No place chosen</source>
+        <translation>未选择位置</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>These recipes are here already. Choose a file.</source>
+        <translation>这些配方已存在。请选择文件。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 ticked</source>
+        <translation>已勾选 %1 / %2</translation>
+    </message>
+    <message>
+        <source>Open XML file</source>
+        <translation>打开 XML 文件</translation>
+    </message>
+    <message>
+        <source>XML (*.xml)</source>
+        <translation>XML (*.xml)</translation>
+    </message>
+    <message>
+        <source>Save XML file</source>
+        <translation>保存 XML 文件</translation>
+    </message>
+    <message>
+        <source>Choose a file to import from.</source>
+        <translation>请选择要导入的文件。</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>已取消。未作任何更改。</translation>
+    </message>
+    <message>
+        <source>Imported: %1 new recipes, %2 of them replace others.</source>
+        <translation>已导入 %1 个配方，其中 %2 个替换了原有配方。</translation>
+    </message>
+    <message>
+        <source>Export path can not be empty!</source>
+        <translation>导出路径不能为空！</translation>
+    </message>
+    <message>
+        <source>Cancelled. No file was written.</source>
+        <translation>已取消。未写入文件。</translation>
+    </message>
+    <message>
+        <source>%1 recipes were written to %2.</source>
+        <translation>已将 %1 个配方写入 %2。</translation>
+    </message>
+    <message>
+        <source>%1 imported recipes are removed, with what was changed in them since, and %2 replaced ones come back.</source>
+        <translation>将删除导入的 %1 个配方及其后的更改，并恢复被替换的 %2 个。</translation>
+    </message>
+    <message>
+        <source>The last import was taken back.</source>
+        <translation>已撤销上次导入。</translation>
+    </message>
+</context>
+<context>
+    <name>ImExportModel</name>
+    <message>
+        <source>pick points</source>
+        <translation>抓取点</translation>
+    </message>
+    <message>
+        <source>corner posts</source>
+        <translation>角柱</translation>
+    </message>
+    <message>
+        <source>pallet side</source>
+        <translation>托盘侧</translation>
+    </message>
+    <message>
+        <source>choice of tool</source>
+        <translation>工具选择</translation>
+    </message>
+    <message>
+        <source>choice of work object</source>
+        <translation>工件选择</translation>
+    </message>
+    <message>
+        <source>automatic layout</source>
+        <translation>自动排样</translation>
+    </message>
+    <message>
+        <source>margins</source>
+        <translation>边距</translation>
+    </message>
+    <message>
+        <source>ticked</source>
+        <translation>已勾选</translation>
+    </message>
+    <message>
+        <source>not ticked</source>
+        <translation>未勾选</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>配方</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>将发生什么</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>（无名称）</translation>
+    </message>
+    <message>
+        <source>Is left out</source>
+        <translation>不导入</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 has the name</source>
+        <translation>跳过：第 %1 行已用此名</translation>
+    </message>
+    <message>
+        <source>Skipped: the name is taken</source>
+        <translation>跳过：名称已存在</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 replaces it</source>
+        <translation>跳过：由第 %1 行替换</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新建</translation>
+    </message>
+    <message>
+        <source>Row %1 has the name: becomes &quot;%2&quot;</source>
+        <translation>第 %1 行已用此名：改为“%2”</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>改名为“%1”</translation>
+    </message>
+    <message>
+        <source>Has no name: becomes &quot;%1&quot;</source>
+        <translation>无名称：改为“%1”</translation>
+    </message>
+    <message>
+        <source>Replaces no. %1 and stands at no. %2</source>
+        <translation>替换第 %1 个，位于第 %2 个</translation>
+    </message>
+    <message>
+        <source>Usual values for: %1</source>
+        <translation>采用默认值：%1</translation>
+    </message>
+</context>
+<context>
+    <name>ImExportProjectDialog</name>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Select Project</source>
+        <translation>选择工程</translation>
+    </message>
+    <message>
+        <source>Choose files</source>
+        <translation>选择文件</translation>
+    </message>
+    <message>
+        <source>Please select a project and ensure that the imported project file is complete, otherwise the import will fail!</source>
+        <translation>请选择工程并确保导入的工程文件完整，否则导入将失败！</translation>
+    </message>
+    <message>
+        <source>Folder for the archives</source>
+        <translation>压缩包文件夹</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the archives</source>
+        <translation>选择压缩包文件夹</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Choose all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Choose none</source>
+        <translation>全不选</translation>
+    </message>
+    <message>
+        <source>You can select the following actions to handle projects with the same name in the imported content. Rename the project by default, or you can choose to replace an existing project.</source>
+        <translation>可选择以下方式处理同名工程。默认重命名，也可替换现有工程。</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Rename the imported project</source>
+        <translation>重命名导入的工程</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Replace the existing project</source>
+        <translation>替换现有工程</translation>
+    </message>
+    <message>
+        <source>Project templates</source>
+        <translation>工程模板</translation>
+    </message>
+    <message>
+        <source>Leave the templates</source>
+        <translation>保留模板</translation>
+    </message>
+    <message>
+        <source>Reset template</source>
+        <translation>重置模板</translation>
+    </message>
+    <message>
+        <source>Custom template</source>
+        <translation>自定义模板</translation>
+    </message>
+    <message>
+        <source>Archive of templates</source>
+        <translation>模板压缩包</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Choose the archive of templates</source>
+        <translation>选择模板压缩包</translation>
+    </message>
+    <message>
+        <source>Export the program templates</source>
+        <translation>导出程序模板</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>执行结果</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Project archives</source>
+        <translation>工程压缩包</translation>
+    </message>
+    <message>
+        <source>Import projects</source>
+        <translation>导入工程</translation>
+    </message>
+    <message>
+        <source>Export projects</source>
+        <translation>导出工程</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>No folder is chosen</source>
+        <translation>未选择文件夹</translation>
+    </message>
+    <message>
+        <source>No file is chosen</source>
+        <translation>未选择文件</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>压缩包</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>工程</translation>
+    </message>
+    <message>
+        <source>What will happen</source>
+        <translation>将发生什么</translation>
+    </message>
+    <message>
+        <source>Choose project archives</source>
+        <translation>选择工程压缩包</translation>
+    </message>
+    <message>
+        <source>Checking the archives</source>
+        <translation>正在检查压缩包</translation>
+    </message>
+    <message>
+        <source>Choose a folder for the archives</source>
+        <translation>请选择压缩包文件夹</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>不导入</translation>
+    </message>
+    <message>
+        <source>Replaces the project %1</source>
+        <translation>替换工程 %1</translation>
+    </message>
+    <message>
+        <source>Renamed to %1</source>
+        <translation>改名为 %1</translation>
+    </message>
+    <message>
+        <source>New project %1</source>
+        <translation>新工程 %1</translation>
+    </message>
+    <message>
+        <source>New file %1</source>
+        <translation>新文件 %1</translation>
+    </message>
+    <message>
+        <source>Not exported</source>
+        <translation>不导出</translation>
+    </message>
+    <message>
+        <source>Replaces %1 of %2</source>
+        <translation>替换 %2 的 %1</translation>
+    </message>
+    <message>
+        <source>Imported: %1</source>
+        <translation>已导入：%1</translation>
+    </message>
+    <message>
+        <source>Exported.</source>
+        <translation>已导出。</translation>
+    </message>
+    <message>
+        <source>Cancelled: the folder is as it was before.</source>
+        <translation>已取消：文件夹保持原样。</translation>
+    </message>
+    <message>
+        <source>Not everything was exported; the log says why.</source>
+        <translation>未全部导出；原因见日志。</translation>
+    </message>
+    <message>
+        <source>Cancelled: everything is as it was before.</source>
+        <translation>已取消：一切保持原样。</translation>
+    </message>
+    <message>
+        <source>Nothing was imported; the log says why.</source>
+        <translation>未导入任何内容；原因见日志。</translation>
+    </message>
+    <message>
+        <source>Take the last import back? What was changed in it since is lost: %1</source>
+        <translation>撤销上次导入？其后的更改将丢失：%1</translation>
+    </message>
+    <message>
+        <source>The last import was taken back.</source>
+        <translation>已撤销上次导入。</translation>
+    </message>
+</context>
+<context>
+    <name>ImportText</name>
+    <message>
+        <source>Merging the recipes</source>
+        <translation>正在合并配方</translation>
     </message>
 </context>
 <context>
@@ -2268,6 +2754,22 @@ mm</translation>
         <source>: empty</source>
         <translation>：空</translation>
     </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Import projects</source>
+        <translation>导入工程</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Export projects</source>
+        <translation>导出工程</translation>
+    </message>
 </context>
 <context>
     <name>ProjectParamSetupPage</name>
@@ -2680,6 +3182,224 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>RunFrame</name>
+    <message>
+        <source>Why no side is shown</source>
+        <translation>为何不显示任何侧</translation>
+    </message>
+    <message>
+        <source>Make a project for these recipes</source>
+        <translation>为这些配方创建工程</translation>
+    </message>
+    <message>
+        <source>There is no connection to the controller.</source>
+        <translation>未连接控制器。</translation>
+    </message>
+    <message>
+        <source>There are no recipes yet. Make one on the page &quot;Recipes&quot;.</source>
+        <translation>还没有配方。请在“配方”页创建。</translation>
+    </message>
+    <message>
+        <source>No robot project is in use. Make one here, or choose one on the page &quot;Projects&quot;.</source>
+        <translation>未使用任何机器人工程。请在此创建，或在“工程”页选择。</translation>
+    </message>
+    <message>
+        <source>Waiting for the controller.</source>
+        <translation>正在等待控制器。</translation>
+    </message>
+    <message>
+        <source>The controller did not take it: %1</source>
+        <translation>控制器未接受：%1</translation>
+    </message>
+    <message>
+        <source>The controller holds the recipe &quot;%1&quot; otherwise. Send the recipes first.</source>
+        <translation>控制器中的配方“%1”不同。请先发送配方。</translation>
+    </message>
+    <message>
+        <source>Start the left side at</source>
+        <translation>左侧开始于</translation>
+    </message>
+    <message>
+        <source>Start the right side at</source>
+        <translation>右侧开始于</translation>
+    </message>
+    <message>
+        <source>Recipe &quot;%1&quot;</source>
+        <translation>配方“%1”</translation>
+    </message>
+    <message>
+        <source>The left side broke off</source>
+        <translation>左侧中断</translation>
+    </message>
+    <message>
+        <source>The right side broke off</source>
+        <translation>右侧中断</translation>
+    </message>
+    <message>
+        <source>Clear the gripper, look at the pallet, and confirm the box to go on with. It is proposed by the counters and by what lies there.</source>
+        <translation>请清空抓手，查看托盘，并确认从哪一箱继续。建议值来自计数和托盘上的实际情况。</translation>
+    </message>
+    <message>
+        <source>Set pallets and cycle time of the left side to 0? Layer and piece stay as they are.</source>
+        <translation>将左侧的托盘数和节拍清零？层和件保持不变。</translation>
+    </message>
+    <message>
+        <source>Set pallets and cycle time of the right side to 0? Layer and piece stay as they are.</source>
+        <translation>将右侧的托盘数和节拍清零？层和件保持不变。</translation>
+    </message>
+    <message>
+        <source>Reset counters</source>
+        <translation>计数清零</translation>
+    </message>
+</context>
+<context>
+    <name>RunSideCard</name>
+    <message>
+        <source>State of the side</source>
+        <translation>该侧状态</translation>
+    </message>
+    <message>
+        <source>Recipe of the side</source>
+        <translation>该侧配方</translation>
+    </message>
+    <message>
+        <source>What lies on the pallet</source>
+        <translation>托盘上的货物</translation>
+    </message>
+    <message>
+        <source>Boxes</source>
+        <translation>箱数</translation>
+    </message>
+    <message>
+        <source>Boxes on the pallet</source>
+        <translation>托盘上的箱数</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Piece</source>
+        <translation>件</translation>
+    </message>
+    <message>
+        <source>Piece of the layer</source>
+        <translation>层内件号</translation>
+    </message>
+    <message>
+        <source>Pallets</source>
+        <translation>托盘</translation>
+    </message>
+    <message>
+        <source>Finished pallets</source>
+        <translation>完成托盘</translation>
+    </message>
+    <message>
+        <source>Cycle time</source>
+        <translation>节拍</translation>
+    </message>
+    <message>
+        <source>Per hour</source>
+        <translation>每小时</translation>
+    </message>
+    <message>
+        <source>Boxes per hour</source>
+        <translation>每小时箱数</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>启用</translation>
+    </message>
+    <message>
+        <source>Enable or disable the side</source>
+        <translation>启用或停用该侧</translation>
+    </message>
+    <message>
+        <source>Start at</source>
+        <translation>开始于</translation>
+    </message>
+    <message>
+        <source>Start at a layer and piece</source>
+        <translation>从某层某件开始</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>复位</translation>
+    </message>
+    <message>
+        <source>Reset the counters</source>
+        <translation>计数清零</translation>
+    </message>
+    <message>
+        <source>No controller</source>
+        <translation>无控制器</translation>
+    </message>
+    <message>
+        <source>Not in this project</source>
+        <translation>不在此工程中</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>故障</translation>
+    </message>
+    <message>
+        <source>Broken off: confirm layer and piece</source>
+        <translation>已中断：请确认层和件</translation>
+    </message>
+    <message>
+        <source>Pallet full: exchange and confirm it</source>
+        <translation>托盘已满：请更换并确认</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>Enabled, no program runs</source>
+        <translation>已启用，程序未运行</translation>
+    </message>
+    <message>
+        <source>Robot is moved by hand</source>
+        <translation>机器人手动移动中</translation>
+    </message>
+    <message>
+        <source>Stacking</source>
+        <translation>码垛中</translation>
+    </message>
+    <message>
+        <source>Enabled, waits for its turn</source>
+        <translation>已启用，等待轮到</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>已停用</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation>停用</translation>
+    </message>
+</context>
+<context>
     <name>SeriesText</name>
     <message>
         <source>There is nothing to lay.</source>
@@ -2826,6 +3546,26 @@ Pallet: %4</source>
     <message>
         <source>Recipes on the controller</source>
         <translation>控制器中的配方</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Import recipes</source>
+        <translation>导入配方</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Export recipes</source>
+        <translation>导出配方</translation>
+    </message>
+    <message>
+        <source>Production</source>
+        <translation>生产</translation>
     </message>
 </context>
 <context>
@@ -2998,6 +3738,69 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>StartDialog</name>
+    <message>
+        <source>What is asked</source>
+        <translation>询问内容</translation>
+    </message>
+    <message>
+        <source>What lies on the pallet then</source>
+        <translation>此时托盘上的货物</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Layer down</source>
+        <translation>下一层</translation>
+    </message>
+    <message>
+        <source>Layer up</source>
+        <translation>上一层</translation>
+    </message>
+    <message>
+        <source>Piece</source>
+        <translation>件</translation>
+    </message>
+    <message>
+        <source>Piece down</source>
+        <translation>件减</translation>
+    </message>
+    <message>
+        <source>Piece up</source>
+        <translation>件加</translation>
+    </message>
+    <message>
+        <source>Products that lie there</source>
+        <translation>已放置的产品</translation>
+    </message>
+    <message>
+        <source>The gripper is empty</source>
+        <translation>抓手为空</translation>
+    </message>
+    <message>
+        <source>Why it cannot begin there</source>
+        <translation>为何不能从此处开始</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Start here</source>
+        <translation>从此处开始</translation>
+    </message>
+    <message>
+        <source>Take the product out of the gripper and confirm that it is empty.</source>
+        <translation>请取下抓手上的产品并确认其为空。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 boxes lie on the pallet.</source>
+        <translation>托盘上有 %1 / %2 箱。</translation>
+    </message>
+</context>
+<context>
     <name>StatusText</name>
     <message>
         <source>Moved by x %1, y %2 mm</source>
@@ -3072,6 +3875,25 @@ Pallet: %4</source>
     <message>
         <source>layer below</source>
         <translation>下层</translation>
+    </message>
+</context>
+<context>
+    <name>TransferText</name>
+    <message>
+        <source>Import success!</source>
+        <translation>导入成功！</translation>
+    </message>
+    <message>
+        <source>%1: the disk did not take everything. Do not pull it out; export again.</source>
+        <translation>%1：磁盘未写完。请勿拔出，并重新导出。</translation>
+    </message>
+    <message>
+        <source>Export success to %1!</source>
+        <translation>已成功导出到 %1！</translation>
+    </message>
+    <message>
+        <source>The last import was taken back.</source>
+        <translation>已撤销上次导入。</translation>
     </message>
 </context>
 <context>
@@ -3221,6 +4043,25 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>XFileModel</name>
+    <message>
+        <source>Folder %1</source>
+        <translation>文件夹 %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>修改时间</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+</context>
+<context>
     <name>palx</name>
     <message>
         <source>The way points have regenerated!</source>
@@ -3273,6 +4114,10 @@ Pallet: %4</source>
     <message>
         <source>Pallet&apos;width is less than product&apos;width</source>
         <translation>托盘宽度小于产品宽度</translation>
+    </message>
+    <message>
+        <source>The project has no such variable: %1</source>
+        <translation>工程中没有此变量：%1</translation>
     </message>
 </context>
 <context>
@@ -3334,6 +4179,79 @@ Pallet: %4</source>
     <message>
         <source>C(%1)</source>
         <translation>C(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>palx::MediumChoice</name>
+    <message>
+        <source>The folder is not there any more.</source>
+        <translation>该文件夹已不存在。</translation>
+    </message>
+    <message>
+        <source>The disk is write-protected. Nothing can be saved on it.</source>
+        <translation>磁盘写保护，无法保存。</translation>
+    </message>
+    <message>
+        <source>This folder is write-protected.</source>
+        <translation>该文件夹写保护。</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>磁盘已满。</translation>
+    </message>
+    <message>
+        <source>There is a folder of that name.</source>
+        <translation>已有同名文件夹。</translation>
+    </message>
+    <message>
+        <source>There is a file of that name.</source>
+        <translation>已有同名文件。</translation>
+    </message>
+</context>
+<context>
+    <name>palx::MediumFolder</name>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>无法读取文件夹。</translation>
+    </message>
+    <message>
+        <source>Only %1 entries of the folder are shown.</source>
+        <translation>只显示文件夹中的 %1 项。</translation>
+    </message>
+</context>
+<context>
+    <name>palx::MediumNames</name>
+    <message>
+        <source>This disk cannot keep a name with %1.</source>
+        <translation>此磁盘不支持含 %1 的名称。</translation>
+    </message>
+    <message>
+        <source>This disk cannot keep a name that ends with a dot or a blank.</source>
+        <translation>此磁盘不支持以点或空格结尾的名称。</translation>
+    </message>
+    <message>
+        <source>A PC cannot open a file named %1.</source>
+        <translation>电脑无法打开名为 %1 的文件。</translation>
+    </message>
+    <message>
+        <source>The name is too long: %1 of %2 characters.</source>
+        <translation>名称过长：%1 / %2 个字符。</translation>
+    </message>
+    <message>
+        <source>The name is too long: %1 of %2 bytes.</source>
+        <translation>名称过长：%1 / %2 字节。</translation>
+    </message>
+    <message>
+        <source>The file needs a name.</source>
+        <translation>文件需要名称。</translation>
+    </message>
+    <message>
+        <source>A name does not begin with a dot: the file would be hidden.</source>
+        <translation>名称不能以点开头：文件会被隐藏。</translation>
+    </message>
+    <message>
+        <source>The name holds a character that cannot be seen.</source>
+        <translation>名称中含有不可见字符。</translation>
     </message>
 </context>
 <context>
@@ -3620,6 +4538,396 @@ Pallet: %4</source>
     <message>
         <source>current pos</source>
         <translation>当前位置</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; %2</source>
+        <translation>条目“%1”%2</translation>
+    </message>
+    <message>
+        <source>is encrypted</source>
+        <translation>已加密</translation>
+    </message>
+    <message>
+        <source>is a link</source>
+        <translation>是链接</translation>
+    </message>
+    <message>
+        <source>is neither a file nor a folder</source>
+        <translation>既不是文件也不是文件夹</translation>
+    </message>
+    <message>
+        <source>is called a file and a folder</source>
+        <translation>既被称为文件又被称为文件夹</translation>
+    </message>
+    <message>
+        <source>is a folder with a content of its own</source>
+        <translation>是带有自身内容的文件夹</translation>
+    </message>
+    <message>
+        <source>is packed in a way that is not known here</source>
+        <translation>的压缩方式未知</translation>
+    </message>
+    <message>
+        <source>it has %1 entries; no project has more than %2</source>
+        <translation>它有 %1 个条目；工程不会超过 %2 个</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>它是空的</translation>
+    </message>
+    <message>
+        <source>its list of entries is damaged</source>
+        <translation>其条目列表已损坏</translation>
+    </message>
+    <message>
+        <source>has a name that is read in two ways</source>
+        <translation>的名称有两种读法</translation>
+    </message>
+    <message>
+        <source>makes it larger than %1 MB, which no project is</source>
+        <translation>使其超过 %1 MB，工程不会这么大</translation>
+    </message>
+    <message>
+        <source>is damaged</source>
+        <translation>已损坏</translation>
+    </message>
+    <message>
+        <source>Checking %1</source>
+        <translation>正在检查 %1</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>it is no whole zip archive</source>
+        <translation>它不是完整的 zip 压缩包</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>没有此文件</translation>
+    </message>
+    <message>
+        <source>has an absolute name</source>
+        <translation>使用绝对路径</translation>
+    </message>
+    <message>
+        <source>leads out of the folder</source>
+        <translation>指向文件夹之外</translation>
+    </message>
+    <message>
+        <source>has a backslash in its name</source>
+        <translation>的名称含有反斜杠</translation>
+    </message>
+    <message>
+        <source>has a name that is no path</source>
+        <translation>的名称不是路径</translation>
+    </message>
+    <message>
+        <source>has a name that is no text in UTF-8</source>
+        <translation>的名称不是 UTF-8 文本</translation>
+    </message>
+    <message>
+        <source>has a control character in its name</source>
+        <translation>的名称含有控制字符</translation>
+    </message>
+    <message>
+        <source>has too long a name</source>
+        <translation>的名称过长</translation>
+    </message>
+    <message>
+        <source>needs a folder where there is another entry</source>
+        <translation>需要文件夹，但该处已有其他条目</translation>
+    </message>
+    <message>
+        <source>is there twice</source>
+        <translation>出现两次</translation>
+    </message>
+    <message>
+        <source>makes the project too large for an archive</source>
+        <translation>使工程过大，无法压缩</translation>
+    </message>
+    <message>
+        <source>there is no folder %1</source>
+        <translation>没有文件夹 %1</translation>
+    </message>
+    <message>
+        <source>Packing %1</source>
+        <translation>正在打包 %1</translation>
+    </message>
+    <message>
+        <source>the archive cannot be written: %1</source>
+        <translation>无法写入压缩包：%1</translation>
+    </message>
+    <message>
+        <source>Unpacking</source>
+        <translation>正在解压</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; was not unpacked as it is listed</source>
+        <translation>条目“%1”的解压结果与列表不符</translation>
+    </message>
+    <message>
+        <source>more was unpacked than it lists</source>
+        <translation>解压内容多于列表</translation>
+    </message>
+    <message>
+        <source>there is no room for %1 MB</source>
+        <translation>没有 %1 MB 的空间</translation>
+    </message>
+    <message>
+        <source>it cannot be unpacked to %1</source>
+        <translation>无法解压到 %1</translation>
+    </message>
+    <message>
+        <source>The recipes were not taken: %1</source>
+        <translation>配方未被接受：%1</translation>
+    </message>
+    <message>
+        <source>The templates cannot be put back</source>
+        <translation>无法恢复模板</translation>
+    </message>
+    <message>
+        <source>Writing to the disk</source>
+        <translation>正在写入磁盘</translation>
+    </message>
+    <message>
+        <source>there is no such project</source>
+        <translation>没有这个工程</translation>
+    </message>
+    <message>
+        <source>there is no room for a copy beside the robot&apos;s folder</source>
+        <translation>机器人文件夹旁没有空间存放副本</translation>
+    </message>
+    <message>
+        <source>Export %1 failed!</source>
+        <translation>导出 %1 失败！</translation>
+    </message>
+    <message>
+        <source>Export Project templates failed!</source>
+        <translation>导出工程模板失败！</translation>
+    </message>
+    <message>
+        <source>Export path can not be empty!</source>
+        <translation>导出路径不能为空！</translation>
+    </message>
+    <message>
+        <source>please select item!</source>
+        <translation>请选择项目！</translation>
+    </message>
+    <message>
+        <source>Export the project &quot;mod&quot; and the templates one after the other: both become &quot;mod.zip&quot;</source>
+        <translation>请分别导出工程“mod”和模板：两者都会成为“mod.zip”</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <translation>无法写入 %1</translation>
+    </message>
+    <message>
+        <source>Export to %1 success!</source>
+        <translation>已成功导出到 %1！</translation>
+    </message>
+    <message>
+        <source>the permissions of its files cannot be set</source>
+        <translation>无法设置其文件的权限</translation>
+    </message>
+    <message>
+        <source>there is no room beside the robot&apos;s folder</source>
+        <translation>机器人文件夹旁没有空间</translation>
+    </message>
+    <message>
+        <source>Delete temp file failed!</source>
+        <translation>删除临时文件失败！</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made</source>
+        <translation>无法创建 %1</translation>
+    </message>
+    <message>
+        <source>%1 import success!</source>
+        <translation>%1 导入成功！</translation>
+    </message>
+    <message>
+        <source>Import %1 failed!</source>
+        <translation>导入 %1 失败！</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name for a project</source>
+        <translation>“%1”不能用作工程名</translation>
+    </message>
+    <message>
+        <source>What was imported may be lost when the power fails: %1</source>
+        <translation>断电时导入的内容可能丢失：%1</translation>
+    </message>
+    <message>
+        <source>%1 holds no list of variables</source>
+        <translation>%1 不含变量列表</translation>
+    </message>
+    <message>
+        <source>&quot;var.xml&quot;: the value of %1 is none that a project can have</source>
+        <translation>“var.xml”：%1 的值不是工程可用的值</translation>
+    </message>
+    <message>
+        <source>Import project templates failed!</source>
+        <translation>导入工程模板失败！</translation>
+    </message>
+    <message>
+        <source>Reset project templates success!</source>
+        <translation>工程模板重置成功！</translation>
+    </message>
+    <message>
+        <source>%1 cannot be replaced</source>
+        <translation>无法替换 %1</translation>
+    </message>
+    <message>
+        <source>Import project templates success!</source>
+        <translation>工程模板导入成功！</translation>
+    </message>
+    <message>
+        <source>Project templates import success!</source>
+        <translation>工程模板导入完成！</translation>
+    </message>
+</context>
+<context>
+    <name>palx::RunText</name>
+    <message>
+        <source>The recipe has no points yet. Generate them on the page &quot;Points&quot;.</source>
+        <translation>配方还没有点。请在“点”页生成。</translation>
+    </message>
+    <message>
+        <source>The side is in use. Disable it and let the robot end its pallet, or stop the program.</source>
+        <translation>该侧正在使用。请停用并等机器人完成托盘，或停止程序。</translation>
+    </message>
+    <message>
+        <source>There is no recipe for this side.</source>
+        <translation>该侧没有配方。</translation>
+    </message>
+    <message>
+        <source>The controller names a recipe that is not here.</source>
+        <translation>控制器指定的配方在此不存在。</translation>
+    </message>
+</context>
+<context>
+    <name>xFileDialog</name>
+    <message>
+        <source>Disk</source>
+        <translation>磁盘</translation>
+    </message>
+    <message>
+        <source>Used space</source>
+        <translation>已用空间</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上一级</translation>
+    </message>
+    <message>
+        <source>One folder up</source>
+        <translation>上一级文件夹</translation>
+    </message>
+    <message>
+        <source>Shown folder</source>
+        <translation>当前文件夹</translation>
+    </message>
+    <message>
+        <source>Kind of the files</source>
+        <translation>文件类型</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>新建文件夹</translation>
+    </message>
+    <message>
+        <source>Files and folders</source>
+        <translation>文件和文件夹</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>文件名</translation>
+    </message>
+    <message>
+        <source>Plug in a USB disk.</source>
+        <translation>请插入 U 盘。</translation>
+    </message>
+    <message>
+        <source>What is chosen, or why nothing can be</source>
+        <translation>所选内容，或不能选择的原因</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Use what is chosen</source>
+        <translation>使用所选项</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Use this folder</source>
+        <translation>使用此文件夹</translation>
+    </message>
+    <message>
+        <source>The disk %1 was pulled out.</source>
+        <translation>磁盘 %1 已拔出。</translation>
+    </message>
+    <message>
+        <source>%1 free of %2</source>
+        <translation>可用 %1，共 %2</translation>
+    </message>
+    <message>
+        <source>Its files are shown as soon as it is ready.</source>
+        <translation>准备好后即显示其文件。</translation>
+    </message>
+    <message>
+        <source>The disk %1 is plugged in, but cannot be read. Format it on a PC (FAT32).</source>
+        <translation>磁盘 %1 已插入但无法读取。请在电脑上格式化（FAT32）。</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>无法创建文件夹。</translation>
+    </message>
+    <message>
+        <source>Replaces %1</source>
+        <translation>将替换 %1</translation>
+    </message>
+    <message>
+        <source>Touch a file.</source>
+        <translation>请触摸一个文件。</translation>
+    </message>
+    <message>
+        <source>There is no such file in this folder.</source>
+        <translation>此文件夹中没有这个文件。</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>替换该文件？</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>无法读取 %1。</translation>
+    </message>
+    <message>
+        <source>It is safe to pull out the disk %1 now.</source>
+        <translation>现在可以安全拔出磁盘 %1。</translation>
+    </message>
+    <message>
+        <source>Do not pull out the disk %1 yet: it has not taken everything.</source>
+        <translation>请勿拔出磁盘 %1：尚未写完。</translation>
     </message>
 </context>
 </TS>

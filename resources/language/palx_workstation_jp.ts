@@ -440,6 +440,40 @@
     </message>
 </context>
 <context>
+    <name>ExchangeTableModel</name>
+    <message>
+        <source>chosen</source>
+        <translation>選択済み</translation>
+    </message>
+    <message>
+        <source>not chosen</source>
+        <translation>未選択</translation>
+    </message>
+</context>
+<context>
+    <name>ExchangeText</name>
+    <message>
+        <source>recipe %1</source>
+        <translation>レシピ %1</translation>
+    </message>
+    <message>
+        <source>recipe %1 &quot;%2&quot;</source>
+        <translation>レシピ %1「%2」</translation>
+    </message>
+    <message>
+        <source>holds no list of recipes</source>
+        <translation>レシピの一覧がありません</translation>
+    </message>
+    <message>
+        <source>Writing the file</source>
+        <translation>ファイルを書き込み中</translation>
+    </message>
+    <message>
+        <source>Reading the file</source>
+        <translation>ファイルを読み込み中</translation>
+    </message>
+</context>
+<context>
     <name>FeedingDirectionWizard</name>
     <message>
         <source>Feeding directions</source>
@@ -475,6 +509,458 @@
     <message>
         <source>The product is larger than the pallet; it will reach over the edge.</source>
         <translation>製品がパレットより大きいため、端からはみ出します。</translation>
+    </message>
+</context>
+<context>
+    <name>ImExportDialog</name>
+    <message>
+        <source>How many are ticked</source>
+        <translation>チェックした数</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>参照</translation>
+    </message>
+    <message>
+        <source>Choose the file</source>
+        <translation>ファイルを選ぶ</translation>
+    </message>
+    <message>
+        <source>When a name is taken</source>
+        <translation>名前が重なるとき</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前の変更</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換え</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>Tick all</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Tick none</source>
+        <translation>選択解除</translation>
+    </message>
+    <message>
+        <source>Recipes</source>
+        <translation>レシピ</translation>
+    </message>
+    <message>
+        <source>Undo the last import</source>
+        <translation>直前のインポートを取り消す</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Import recipes</source>
+        <translation>レシピのインポート</translation>
+    </message>
+    <message>
+        <source>Export recipes</source>
+        <translation>レシピのエクスポート</translation>
+    </message>
+    <message>
+        <source>No file chosen</source>
+        <translation>ファイル未選択</translation>
+    </message>
+    <message>
+        <source>No place chosen</source>
+        <translation>保存先未選択</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>書き出し</translation>
+    </message>
+    <message>
+        <source>These recipes are here already. Choose a file.</source>
+        <translation>これらのレシピは既にあります。ファイルを選んでください。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 ticked</source>
+        <translation>%1 / %2 を選択</translation>
+    </message>
+    <message>
+        <source>Open XML file</source>
+        <translation>XML ファイルを開く</translation>
+    </message>
+    <message>
+        <source>XML (*.xml)</source>
+        <translation>XML (*.xml)</translation>
+    </message>
+    <message>
+        <source>Save XML file</source>
+        <translation>XML ファイルを保存</translation>
+    </message>
+    <message>
+        <source>Choose a file to import from.</source>
+        <translation>インポートするファイルを選んでください。</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>中止しました。何も変更していません。</translation>
+    </message>
+    <message>
+        <source>Imported: %1 new recipes, %2 of them replace others.</source>
+        <translation>%1 件のレシピをインポートし、うち %2 件は置き換えです。</translation>
+    </message>
+    <message>
+        <source>Export path can not be empty!</source>
+        <translation>エクスポート先を指定してください！</translation>
+    </message>
+    <message>
+        <source>Cancelled. No file was written.</source>
+        <translation>中止しました。ファイルは書いていません。</translation>
+    </message>
+    <message>
+        <source>%1 recipes were written to %2.</source>
+        <translation>%1 件のレシピを %2 に書き込みました。</translation>
+    </message>
+    <message>
+        <source>%1 imported recipes are removed, with what was changed in them since, and %2 replaced ones come back.</source>
+        <translation>インポートした %1 件は以後の変更とともに削除され、置き換えた %2 件が戻ります。</translation>
+    </message>
+    <message>
+        <source>The last import was taken back.</source>
+        <translation>直前のインポートを取り消しました。</translation>
+    </message>
+</context>
+<context>
+    <name>ImExportModel</name>
+    <message>
+        <source>pick points</source>
+        <translation>取り点</translation>
+    </message>
+    <message>
+        <source>corner posts</source>
+        <translation>コーナーポスト</translation>
+    </message>
+    <message>
+        <source>pallet side</source>
+        <translation>パレットの側</translation>
+    </message>
+    <message>
+        <source>choice of tool</source>
+        <translation>ツールの選択</translation>
+    </message>
+    <message>
+        <source>choice of work object</source>
+        <translation>ワークオブジェクトの選択</translation>
+    </message>
+    <message>
+        <source>automatic layout</source>
+        <translation>自動配置</translation>
+    </message>
+    <message>
+        <source>margins</source>
+        <translation>余白</translation>
+    </message>
+    <message>
+        <source>ticked</source>
+        <translation>選択あり</translation>
+    </message>
+    <message>
+        <source>not ticked</source>
+        <translation>選択なし</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>レシピ</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>処理の内容</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(名前なし)</translation>
+    </message>
+    <message>
+        <source>Is left out</source>
+        <translation>対象外</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 has the name</source>
+        <translation>スキップ: 行 %1 と同名</translation>
+    </message>
+    <message>
+        <source>Skipped: the name is taken</source>
+        <translation>スキップ: 同名あり</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 replaces it</source>
+        <translation>スキップ: 行 %1 が置き換え</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新規</translation>
+    </message>
+    <message>
+        <source>Row %1 has the name: becomes &quot;%2&quot;</source>
+        <translation>行 %1 と同名: 「%2」になります</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>「%1」に改名</translation>
+    </message>
+    <message>
+        <source>Has no name: becomes &quot;%1&quot;</source>
+        <translation>名前なし: 「%1」になります</translation>
+    </message>
+    <message>
+        <source>Replaces no. %1 and stands at no. %2</source>
+        <translation>%1 番を置き換え、%2 番になります</translation>
+    </message>
+    <message>
+        <source>Usual values for: %1</source>
+        <translation>既定値: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImExportProjectDialog</name>
+    <message>
+        <source>Title</source>
+        <translation>題名</translation>
+    </message>
+    <message>
+        <source>Select Project</source>
+        <translation>プロジェクトの選択</translation>
+    </message>
+    <message>
+        <source>Choose files</source>
+        <translation>ファイルを選ぶ</translation>
+    </message>
+    <message>
+        <source>Please select a project and ensure that the imported project file is complete, otherwise the import will fail!</source>
+        <translation>プロジェクトを選び、ファイルが完全か確認してください。不完全だとインポートに失敗します！</translation>
+    </message>
+    <message>
+        <source>Folder for the archives</source>
+        <translation>アーカイブの保存先</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダ</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the archives</source>
+        <translation>アーカイブの保存先を選ぶ</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Choose all</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Choose none</source>
+        <translation>選択解除</translation>
+    </message>
+    <message>
+        <source>You can select the following actions to handle projects with the same name in the imported content. Rename the project by default, or you can choose to replace an existing project.</source>
+        <translation>同名のプロジェクトの扱いを選べます。既定では改名し、既存のものを置き換えることもできます。</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前の変更</translation>
+    </message>
+    <message>
+        <source>Rename the imported project</source>
+        <translation>インポートする側を改名</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換え</translation>
+    </message>
+    <message>
+        <source>Replace the existing project</source>
+        <translation>既存のプロジェクトを置き換え</translation>
+    </message>
+    <message>
+        <source>Project templates</source>
+        <translation>プロジェクトテンプレート</translation>
+    </message>
+    <message>
+        <source>Leave the templates</source>
+        <translation>テンプレートはそのまま</translation>
+    </message>
+    <message>
+        <source>Reset template</source>
+        <translation>テンプレートを初期化</translation>
+    </message>
+    <message>
+        <source>Custom template</source>
+        <translation>独自のテンプレート</translation>
+    </message>
+    <message>
+        <source>Archive of templates</source>
+        <translation>テンプレートのアーカイブ</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Choose the archive of templates</source>
+        <translation>テンプレートのアーカイブを選ぶ</translation>
+    </message>
+    <message>
+        <source>Export the program templates</source>
+        <translation>プログラムテンプレートをエクスポート</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>実行した内容</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>Project archives</source>
+        <translation>プロジェクトのアーカイブ</translation>
+    </message>
+    <message>
+        <source>Import projects</source>
+        <translation>プロジェクトのインポート</translation>
+    </message>
+    <message>
+        <source>Export projects</source>
+        <translation>プロジェクトのエクスポート</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>書き出し</translation>
+    </message>
+    <message>
+        <source>No folder is chosen</source>
+        <translation>フォルダ未選択</translation>
+    </message>
+    <message>
+        <source>No file is chosen</source>
+        <translation>ファイル未選択</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>アーカイブ</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>プロジェクト</translation>
+    </message>
+    <message>
+        <source>What will happen</source>
+        <translation>処理の内容</translation>
+    </message>
+    <message>
+        <source>Choose project archives</source>
+        <translation>プロジェクトのアーカイブを選ぶ</translation>
+    </message>
+    <message>
+        <source>Checking the archives</source>
+        <translation>アーカイブを確認中</translation>
+    </message>
+    <message>
+        <source>Choose a folder for the archives</source>
+        <translation>アーカイブの保存先を選んでください</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>インポートしない</translation>
+    </message>
+    <message>
+        <source>Replaces the project %1</source>
+        <translation>プロジェクト %1 を置き換え</translation>
+    </message>
+    <message>
+        <source>Renamed to %1</source>
+        <translation>%1 に改名</translation>
+    </message>
+    <message>
+        <source>New project %1</source>
+        <translation>新しいプロジェクト %1</translation>
+    </message>
+    <message>
+        <source>New file %1</source>
+        <translation>新しいファイル %1</translation>
+    </message>
+    <message>
+        <source>Not exported</source>
+        <translation>エクスポートしない</translation>
+    </message>
+    <message>
+        <source>Replaces %1 of %2</source>
+        <translation>%2 の %1 を置き換え</translation>
+    </message>
+    <message>
+        <source>Imported: %1</source>
+        <translation>インポート済み: %1</translation>
+    </message>
+    <message>
+        <source>Exported.</source>
+        <translation>エクスポートしました。</translation>
+    </message>
+    <message>
+        <source>Cancelled: the folder is as it was before.</source>
+        <translation>中止しました: フォルダは元のままです。</translation>
+    </message>
+    <message>
+        <source>Not everything was exported; the log says why.</source>
+        <translation>一部エクスポートできませんでした。理由はログにあります。</translation>
+    </message>
+    <message>
+        <source>Cancelled: everything is as it was before.</source>
+        <translation>中止しました: すべて元のままです。</translation>
+    </message>
+    <message>
+        <source>Nothing was imported; the log says why.</source>
+        <translation>何もインポートしていません。理由はログにあります。</translation>
+    </message>
+    <message>
+        <source>Take the last import back? What was changed in it since is lost: %1</source>
+        <translation>直前のインポートを取り消しますか? 以後の変更は失われます: %1</translation>
+    </message>
+    <message>
+        <source>The last import was taken back.</source>
+        <translation>直前のインポートを取り消しました。</translation>
+    </message>
+</context>
+<context>
+    <name>ImportText</name>
+    <message>
+        <source>Merging the recipes</source>
+        <translation>レシピを統合中</translation>
     </message>
 </context>
 <context>
@@ -2268,6 +2754,22 @@ mm</translation>
         <source>: empty</source>
         <translation>: 空</translation>
     </message>
+    <message>
+        <source>Import</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>Import projects</source>
+        <translation>プロジェクトのインポート</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>書き出し</translation>
+    </message>
+    <message>
+        <source>Export projects</source>
+        <translation>プロジェクトのエクスポート</translation>
+    </message>
 </context>
 <context>
     <name>ProjectParamSetupPage</name>
@@ -2680,6 +3182,224 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>RunFrame</name>
+    <message>
+        <source>Why no side is shown</source>
+        <translation>側が表示されない理由</translation>
+    </message>
+    <message>
+        <source>Make a project for these recipes</source>
+        <translation>このレシピでプロジェクトを作る</translation>
+    </message>
+    <message>
+        <source>There is no connection to the controller.</source>
+        <translation>コントローラに接続していません。</translation>
+    </message>
+    <message>
+        <source>There are no recipes yet. Make one on the page &quot;Recipes&quot;.</source>
+        <translation>レシピがまだありません。「レシピ」ページで作成してください。</translation>
+    </message>
+    <message>
+        <source>No robot project is in use. Make one here, or choose one on the page &quot;Projects&quot;.</source>
+        <translation>使用中のプロジェクトがありません。ここで作るか「プロジェクト」ページで選んでください。</translation>
+    </message>
+    <message>
+        <source>Waiting for the controller.</source>
+        <translation>コントローラを待っています。</translation>
+    </message>
+    <message>
+        <source>The controller did not take it: %1</source>
+        <translation>コントローラが受け付けませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The controller holds the recipe &quot;%1&quot; otherwise. Send the recipes first.</source>
+        <translation>コントローラのレシピ「%1」は内容が違います。先に送ってください。</translation>
+    </message>
+    <message>
+        <source>Start the left side at</source>
+        <translation>左側の開始位置</translation>
+    </message>
+    <message>
+        <source>Start the right side at</source>
+        <translation>右側の開始位置</translation>
+    </message>
+    <message>
+        <source>Recipe &quot;%1&quot;</source>
+        <translation>レシピ「%1」</translation>
+    </message>
+    <message>
+        <source>The left side broke off</source>
+        <translation>左側が中断しました</translation>
+    </message>
+    <message>
+        <source>The right side broke off</source>
+        <translation>右側が中断しました</translation>
+    </message>
+    <message>
+        <source>Clear the gripper, look at the pallet, and confirm the box to go on with. It is proposed by the counters and by what lies there.</source>
+        <translation>グリッパを空にし、パレットを見て、続ける箱を確認してください。カウンタと実際の積み付けから提案しています。</translation>
+    </message>
+    <message>
+        <source>Set pallets and cycle time of the left side to 0? Layer and piece stay as they are.</source>
+        <translation>左側のパレット数とサイクル時間を 0 にしますか? 段と個数はそのままです。</translation>
+    </message>
+    <message>
+        <source>Set pallets and cycle time of the right side to 0? Layer and piece stay as they are.</source>
+        <translation>右側のパレット数とサイクル時間を 0 にしますか? 段と個数はそのままです。</translation>
+    </message>
+    <message>
+        <source>Reset counters</source>
+        <translation>カウンタを初期化</translation>
+    </message>
+</context>
+<context>
+    <name>RunSideCard</name>
+    <message>
+        <source>State of the side</source>
+        <translation>側の状態</translation>
+    </message>
+    <message>
+        <source>Recipe of the side</source>
+        <translation>側のレシピ</translation>
+    </message>
+    <message>
+        <source>What lies on the pallet</source>
+        <translation>パレット上の荷</translation>
+    </message>
+    <message>
+        <source>Boxes</source>
+        <translation>箱数</translation>
+    </message>
+    <message>
+        <source>Boxes on the pallet</source>
+        <translation>パレット上の箱数</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>段</translation>
+    </message>
+    <message>
+        <source>Piece</source>
+        <translation>個</translation>
+    </message>
+    <message>
+        <source>Piece of the layer</source>
+        <translation>段内の番号</translation>
+    </message>
+    <message>
+        <source>Pallets</source>
+        <translation>パレット</translation>
+    </message>
+    <message>
+        <source>Finished pallets</source>
+        <translation>完成パレット</translation>
+    </message>
+    <message>
+        <source>Cycle time</source>
+        <translation>サイクル時間</translation>
+    </message>
+    <message>
+        <source>Per hour</source>
+        <translation>毎時</translation>
+    </message>
+    <message>
+        <source>Boxes per hour</source>
+        <translation>毎時の箱数</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>有効にする</translation>
+    </message>
+    <message>
+        <source>Enable or disable the side</source>
+        <translation>側の有効・無効</translation>
+    </message>
+    <message>
+        <source>Start at</source>
+        <translation>開始位置</translation>
+    </message>
+    <message>
+        <source>Start at a layer and piece</source>
+        <translation>段と個数を指定して開始</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Reset the counters</source>
+        <translation>カウンタを初期化</translation>
+    </message>
+    <message>
+        <source>No controller</source>
+        <translation>コントローラなし</translation>
+    </message>
+    <message>
+        <source>Not in this project</source>
+        <translation>このプロジェクトにはありません</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>故障</translation>
+    </message>
+    <message>
+        <source>Broken off: confirm layer and piece</source>
+        <translation>中断: 段と個数を確認</translation>
+    </message>
+    <message>
+        <source>Pallet full: exchange and confirm it</source>
+        <translation>満載: 交換して確認</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Enabled, no program runs</source>
+        <translation>有効、プログラム停止中</translation>
+    </message>
+    <message>
+        <source>Robot is moved by hand</source>
+        <translation>ロボットは手動操作中</translation>
+    </message>
+    <message>
+        <source>Stacking</source>
+        <translation>積み付け中</translation>
+    </message>
+    <message>
+        <source>Enabled, waits for its turn</source>
+        <translation>有効、順番待ち</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>無効</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1／%2</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation>無効にする</translation>
+    </message>
+</context>
+<context>
     <name>SeriesText</name>
     <message>
         <source>There is nothing to lay.</source>
@@ -2826,6 +3546,26 @@ Pallet: %4</source>
     <message>
         <source>Recipes on the controller</source>
         <translation>コントローラのレシピ</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>Import recipes</source>
+        <translation>レシピのインポート</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>書き出し</translation>
+    </message>
+    <message>
+        <source>Export recipes</source>
+        <translation>レシピのエクスポート</translation>
+    </message>
+    <message>
+        <source>Production</source>
+        <translation>生産</translation>
     </message>
 </context>
 <context>
@@ -2998,6 +3738,69 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>StartDialog</name>
+    <message>
+        <source>What is asked</source>
+        <translation>確認内容</translation>
+    </message>
+    <message>
+        <source>What lies on the pallet then</source>
+        <translation>そのときのパレット上の荷</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>段</translation>
+    </message>
+    <message>
+        <source>Layer down</source>
+        <translation>段を下げる</translation>
+    </message>
+    <message>
+        <source>Layer up</source>
+        <translation>段を上げる</translation>
+    </message>
+    <message>
+        <source>Piece</source>
+        <translation>個</translation>
+    </message>
+    <message>
+        <source>Piece down</source>
+        <translation>個数を減らす</translation>
+    </message>
+    <message>
+        <source>Piece up</source>
+        <translation>個数を増やす</translation>
+    </message>
+    <message>
+        <source>Products that lie there</source>
+        <translation>置かれている製品</translation>
+    </message>
+    <message>
+        <source>The gripper is empty</source>
+        <translation>グリッパは空</translation>
+    </message>
+    <message>
+        <source>Why it cannot begin there</source>
+        <translation>そこから始められない理由</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Start here</source>
+        <translation>ここから開始</translation>
+    </message>
+    <message>
+        <source>Take the product out of the gripper and confirm that it is empty.</source>
+        <translation>グリッパから製品を外し、空であることを確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 boxes lie on the pallet.</source>
+        <translation>パレット上に %1 / %2 箱。</translation>
+    </message>
+</context>
+<context>
     <name>StatusText</name>
     <message>
         <source>Moved by x %1, y %2 mm</source>
@@ -3072,6 +3875,25 @@ Pallet: %4</source>
     <message>
         <source>layer below</source>
         <translation>下の段</translation>
+    </message>
+</context>
+<context>
+    <name>TransferText</name>
+    <message>
+        <source>Import success!</source>
+        <translation>インポートしました！</translation>
+    </message>
+    <message>
+        <source>%1: the disk did not take everything. Do not pull it out; export again.</source>
+        <translation>%1: ディスクに書き込みきれませんでした。抜かずに再度エクスポートしてください。</translation>
+    </message>
+    <message>
+        <source>Export success to %1!</source>
+        <translation>%1 へエクスポートしました！</translation>
+    </message>
+    <message>
+        <source>The last import was taken back.</source>
+        <translation>直前のインポートを取り消しました。</translation>
     </message>
 </context>
 <context>
@@ -3221,6 +4043,25 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>XFileModel</name>
+    <message>
+        <source>Folder %1</source>
+        <translation>フォルダ %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>更新日時</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+</context>
+<context>
     <name>palx</name>
     <message>
         <source>The way points have regenerated!</source>
@@ -3273,6 +4114,10 @@ Pallet: %4</source>
     <message>
         <source>Pallet&apos;width is less than product&apos;width</source>
         <translation>パレットの幅が製品の幅より小さいです</translation>
+    </message>
+    <message>
+        <source>The project has no such variable: %1</source>
+        <translation>プロジェクトにその変数はありません: %1</translation>
     </message>
 </context>
 <context>
@@ -3334,6 +4179,79 @@ Pallet: %4</source>
     <message>
         <source>C(%1)</source>
         <translation>C(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>palx::MediumChoice</name>
+    <message>
+        <source>The folder is not there any more.</source>
+        <translation>フォルダはもうありません。</translation>
+    </message>
+    <message>
+        <source>The disk is write-protected. Nothing can be saved on it.</source>
+        <translation>ディスクは書き込み禁止です。保存できません。</translation>
+    </message>
+    <message>
+        <source>This folder is write-protected.</source>
+        <translation>このフォルダは書き込み禁止です。</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>ディスクがいっぱいです。</translation>
+    </message>
+    <message>
+        <source>There is a folder of that name.</source>
+        <translation>同じ名前のフォルダがあります。</translation>
+    </message>
+    <message>
+        <source>There is a file of that name.</source>
+        <translation>同じ名前のファイルがあります。</translation>
+    </message>
+</context>
+<context>
+    <name>palx::MediumFolder</name>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>フォルダを読めません。</translation>
+    </message>
+    <message>
+        <source>Only %1 entries of the folder are shown.</source>
+        <translation>フォルダの %1 件だけを表示しています。</translation>
+    </message>
+</context>
+<context>
+    <name>palx::MediumNames</name>
+    <message>
+        <source>This disk cannot keep a name with %1.</source>
+        <translation>このディスクでは %1 を含む名前は使えません。</translation>
+    </message>
+    <message>
+        <source>This disk cannot keep a name that ends with a dot or a blank.</source>
+        <translation>このディスクでは末尾が点や空白の名前は使えません。</translation>
+    </message>
+    <message>
+        <source>A PC cannot open a file named %1.</source>
+        <translation>PC では %1 という名前のファイルを開けません。</translation>
+    </message>
+    <message>
+        <source>The name is too long: %1 of %2 characters.</source>
+        <translation>名前が長すぎます: %1 / %2 文字。</translation>
+    </message>
+    <message>
+        <source>The name is too long: %1 of %2 bytes.</source>
+        <translation>名前が長すぎます: %1 / %2 バイト。</translation>
+    </message>
+    <message>
+        <source>The file needs a name.</source>
+        <translation>ファイルに名前が必要です。</translation>
+    </message>
+    <message>
+        <source>A name does not begin with a dot: the file would be hidden.</source>
+        <translation>名前の先頭に点は使えません: 隠しファイルになります。</translation>
+    </message>
+    <message>
+        <source>The name holds a character that cannot be seen.</source>
+        <translation>名前に見えない文字があります。</translation>
     </message>
 </context>
 <context>
@@ -3620,6 +4538,396 @@ Pallet: %4</source>
     <message>
         <source>current pos</source>
         <translation>現在位置</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; %2</source>
+        <translation>項目「%1」%2</translation>
+    </message>
+    <message>
+        <source>is encrypted</source>
+        <translation>は暗号化されています</translation>
+    </message>
+    <message>
+        <source>is a link</source>
+        <translation>はリンクです</translation>
+    </message>
+    <message>
+        <source>is neither a file nor a folder</source>
+        <translation>はファイルでもフォルダでもありません</translation>
+    </message>
+    <message>
+        <source>is called a file and a folder</source>
+        <translation>はファイルともフォルダともされています</translation>
+    </message>
+    <message>
+        <source>is a folder with a content of its own</source>
+        <translation>は自身の内容を持つフォルダです</translation>
+    </message>
+    <message>
+        <source>is packed in a way that is not known here</source>
+        <translation>は未知の方式で圧縮されています</translation>
+    </message>
+    <message>
+        <source>it has %1 entries; no project has more than %2</source>
+        <translation>項目が %1 件あります。プロジェクトは %2 件までです</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>空です</translation>
+    </message>
+    <message>
+        <source>its list of entries is damaged</source>
+        <translation>項目の一覧が壊れています</translation>
+    </message>
+    <message>
+        <source>has a name that is read in two ways</source>
+        <translation>の名前は二通りに読めます</translation>
+    </message>
+    <message>
+        <source>makes it larger than %1 MB, which no project is</source>
+        <translation>で %1 MB を超えます。そのようなプロジェクトはありません</translation>
+    </message>
+    <message>
+        <source>is damaged</source>
+        <translation>は壊れています</translation>
+    </message>
+    <message>
+        <source>Checking %1</source>
+        <translation>%1 を確認中</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>it is no whole zip archive</source>
+        <translation>完全な zip アーカイブではありません</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>そのファイルはありません</translation>
+    </message>
+    <message>
+        <source>has an absolute name</source>
+        <translation>は絶対パスです</translation>
+    </message>
+    <message>
+        <source>leads out of the folder</source>
+        <translation>はフォルダの外を指します</translation>
+    </message>
+    <message>
+        <source>has a backslash in its name</source>
+        <translation>の名前に逆斜線があります</translation>
+    </message>
+    <message>
+        <source>has a name that is no path</source>
+        <translation>の名前はパスではありません</translation>
+    </message>
+    <message>
+        <source>has a name that is no text in UTF-8</source>
+        <translation>の名前は UTF-8 ではありません</translation>
+    </message>
+    <message>
+        <source>has a control character in its name</source>
+        <translation>の名前に制御文字があります</translation>
+    </message>
+    <message>
+        <source>has too long a name</source>
+        <translation>の名前が長すぎます</translation>
+    </message>
+    <message>
+        <source>needs a folder where there is another entry</source>
+        <translation>に必要なフォルダの場所に別の項目があります</translation>
+    </message>
+    <message>
+        <source>is there twice</source>
+        <translation>が二つあります</translation>
+    </message>
+    <message>
+        <source>makes the project too large for an archive</source>
+        <translation>でプロジェクトが大きくなりすぎます</translation>
+    </message>
+    <message>
+        <source>there is no folder %1</source>
+        <translation>フォルダ %1 がありません</translation>
+    </message>
+    <message>
+        <source>Packing %1</source>
+        <translation>%1 を圧縮中</translation>
+    </message>
+    <message>
+        <source>the archive cannot be written: %1</source>
+        <translation>アーカイブを書けません: %1</translation>
+    </message>
+    <message>
+        <source>Unpacking</source>
+        <translation>展開中</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; was not unpacked as it is listed</source>
+        <translation>項目「%1」の展開結果が一覧と違います</translation>
+    </message>
+    <message>
+        <source>more was unpacked than it lists</source>
+        <translation>一覧より多く展開されました</translation>
+    </message>
+    <message>
+        <source>there is no room for %1 MB</source>
+        <translation>%1 MB の空きがありません</translation>
+    </message>
+    <message>
+        <source>it cannot be unpacked to %1</source>
+        <translation>%1 に展開できません</translation>
+    </message>
+    <message>
+        <source>The recipes were not taken: %1</source>
+        <translation>レシピは受け取られませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The templates cannot be put back</source>
+        <translation>テンプレートを元に戻せません</translation>
+    </message>
+    <message>
+        <source>Writing to the disk</source>
+        <translation>ディスクに書き込み中</translation>
+    </message>
+    <message>
+        <source>there is no such project</source>
+        <translation>そのプロジェクトはありません</translation>
+    </message>
+    <message>
+        <source>there is no room for a copy beside the robot&apos;s folder</source>
+        <translation>ロボットのフォルダの横に複製の空きがありません</translation>
+    </message>
+    <message>
+        <source>Export %1 failed!</source>
+        <translation>%1 のエクスポートに失敗しました！</translation>
+    </message>
+    <message>
+        <source>Export Project templates failed!</source>
+        <translation>プロジェクトテンプレートのエクスポートに失敗しました！</translation>
+    </message>
+    <message>
+        <source>Export path can not be empty!</source>
+        <translation>エクスポート先を指定してください！</translation>
+    </message>
+    <message>
+        <source>please select item!</source>
+        <translation>項目を選択してください！</translation>
+    </message>
+    <message>
+        <source>Export the project &quot;mod&quot; and the templates one after the other: both become &quot;mod.zip&quot;</source>
+        <translation>プロジェクト「mod」とテンプレートは別々にエクスポートしてください: どちらも「mod.zip」になります</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <translation>%1 に書き込めません</translation>
+    </message>
+    <message>
+        <source>Export to %1 success!</source>
+        <translation>%1 へエクスポートしました！</translation>
+    </message>
+    <message>
+        <source>the permissions of its files cannot be set</source>
+        <translation>ファイルの権限を設定できません</translation>
+    </message>
+    <message>
+        <source>there is no room beside the robot&apos;s folder</source>
+        <translation>ロボットのフォルダの横に空きがありません</translation>
+    </message>
+    <message>
+        <source>Delete temp file failed!</source>
+        <translation>一時ファイルの削除に失敗しました！</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made</source>
+        <translation>%1 を作成できません</translation>
+    </message>
+    <message>
+        <source>%1 import success!</source>
+        <translation>%1 をインポートしました！</translation>
+    </message>
+    <message>
+        <source>Import %1 failed!</source>
+        <translation>%1 のインポートに失敗しました！</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name for a project</source>
+        <translation>「%1」はプロジェクト名に使えません</translation>
+    </message>
+    <message>
+        <source>What was imported may be lost when the power fails: %1</source>
+        <translation>停電するとインポートした内容が失われることがあります: %1</translation>
+    </message>
+    <message>
+        <source>%1 holds no list of variables</source>
+        <translation>%1 に変数の一覧がありません</translation>
+    </message>
+    <message>
+        <source>&quot;var.xml&quot;: the value of %1 is none that a project can have</source>
+        <translation>「var.xml」: %1 の値はプロジェクトでは使えません</translation>
+    </message>
+    <message>
+        <source>Import project templates failed!</source>
+        <translation>プロジェクトテンプレートのインポートに失敗しました！</translation>
+    </message>
+    <message>
+        <source>Reset project templates success!</source>
+        <translation>プロジェクトテンプレートを初期化しました！</translation>
+    </message>
+    <message>
+        <source>%1 cannot be replaced</source>
+        <translation>%1 を置き換えられません</translation>
+    </message>
+    <message>
+        <source>Import project templates success!</source>
+        <translation>プロジェクトテンプレートをインポートしました！</translation>
+    </message>
+    <message>
+        <source>Project templates import success!</source>
+        <translation>プロジェクトテンプレートのインポートが完了しました！</translation>
+    </message>
+</context>
+<context>
+    <name>palx::RunText</name>
+    <message>
+        <source>The recipe has no points yet. Generate them on the page &quot;Points&quot;.</source>
+        <translation>レシピに点がまだありません。「点」ページで生成してください。</translation>
+    </message>
+    <message>
+        <source>The side is in use. Disable it and let the robot end its pallet, or stop the program.</source>
+        <translation>側は使用中です。無効にしてパレットの完了を待つか、プログラムを停止してください。</translation>
+    </message>
+    <message>
+        <source>There is no recipe for this side.</source>
+        <translation>この側のレシピがありません。</translation>
+    </message>
+    <message>
+        <source>The controller names a recipe that is not here.</source>
+        <translation>コントローラが示すレシピはここにありません。</translation>
+    </message>
+</context>
+<context>
+    <name>xFileDialog</name>
+    <message>
+        <source>Disk</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>Used space</source>
+        <translation>使用領域</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上へ</translation>
+    </message>
+    <message>
+        <source>One folder up</source>
+        <translation>一つ上のフォルダ</translation>
+    </message>
+    <message>
+        <source>Shown folder</source>
+        <translation>表示中のフォルダ</translation>
+    </message>
+    <message>
+        <source>Kind of the files</source>
+        <translation>ファイルの種類</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>新しいフォルダ</translation>
+    </message>
+    <message>
+        <source>Files and folders</source>
+        <translation>ファイルとフォルダ</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>ファイル名</translation>
+    </message>
+    <message>
+        <source>Plug in a USB disk.</source>
+        <translation>USB ディスクを差し込んでください。</translation>
+    </message>
+    <message>
+        <source>What is chosen, or why nothing can be</source>
+        <translation>選択中のもの、または選べない理由</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Use what is chosen</source>
+        <translation>選択したものを使う</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Use this folder</source>
+        <translation>このフォルダを使う</translation>
+    </message>
+    <message>
+        <source>The disk %1 was pulled out.</source>
+        <translation>ディスク %1 が抜かれました。</translation>
+    </message>
+    <message>
+        <source>%1 free of %2</source>
+        <translation>空き %1 / %2</translation>
+    </message>
+    <message>
+        <source>Its files are shown as soon as it is ready.</source>
+        <translation>準備ができ次第、ファイルを表示します。</translation>
+    </message>
+    <message>
+        <source>The disk %1 is plugged in, but cannot be read. Format it on a PC (FAT32).</source>
+        <translation>ディスク %1 は差し込まれていますが読めません。PC でフォーマットしてください (FAT32)。</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>フォルダを作成できません。</translation>
+    </message>
+    <message>
+        <source>Replaces %1</source>
+        <translation>%1 を置き換えます</translation>
+    </message>
+    <message>
+        <source>Touch a file.</source>
+        <translation>ファイルをタッチしてください。</translation>
+    </message>
+    <message>
+        <source>There is no such file in this folder.</source>
+        <translation>このフォルダにそのファイルはありません。</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>ファイルを置き換えますか？</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 はすでにあります。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 を読めません。</translation>
+    </message>
+    <message>
+        <source>It is safe to pull out the disk %1 now.</source>
+        <translation>ディスク %1 を安全に抜けます。</translation>
+    </message>
+    <message>
+        <source>Do not pull out the disk %1 yet: it has not taken everything.</source>
+        <translation>ディスク %1 はまだ抜かないでください: 書き込みが終わっていません。</translation>
     </message>
 </context>
 </TS>

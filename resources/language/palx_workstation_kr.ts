@@ -440,6 +440,40 @@
     </message>
 </context>
 <context>
+    <name>ExchangeTableModel</name>
+    <message>
+        <source>chosen</source>
+        <translation>선택됨</translation>
+    </message>
+    <message>
+        <source>not chosen</source>
+        <translation>선택 안 됨</translation>
+    </message>
+</context>
+<context>
+    <name>ExchangeText</name>
+    <message>
+        <source>recipe %1</source>
+        <translation>레시피 %1</translation>
+    </message>
+    <message>
+        <source>recipe %1 &quot;%2&quot;</source>
+        <translation>레시피 %1 &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>holds no list of recipes</source>
+        <translation>레시피 목록이 없습니다</translation>
+    </message>
+    <message>
+        <source>Writing the file</source>
+        <translation>파일 쓰는 중</translation>
+    </message>
+    <message>
+        <source>Reading the file</source>
+        <translation>파일 읽는 중</translation>
+    </message>
+</context>
+<context>
     <name>FeedingDirectionWizard</name>
     <message>
         <source>Feeding directions</source>
@@ -475,6 +509,458 @@
     <message>
         <source>The product is larger than the pallet; it will reach over the edge.</source>
         <translation>제품이 팔레트보다 커서 가장자리 밖으로 나옵니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ImExportDialog</name>
+    <message>
+        <source>How many are ticked</source>
+        <translation>선택한 개수</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>찾아보기</translation>
+    </message>
+    <message>
+        <source>Choose the file</source>
+        <translation>파일 선택</translation>
+    </message>
+    <message>
+        <source>When a name is taken</source>
+        <translation>이름이 이미 있으면</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>이름 변경</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>바꾸기</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>버리기</translation>
+    </message>
+    <message>
+        <source>Tick all</source>
+        <translation>모두 선택</translation>
+    </message>
+    <message>
+        <source>Tick none</source>
+        <translation>모두 해제</translation>
+    </message>
+    <message>
+        <source>Recipes</source>
+        <translation>레시피</translation>
+    </message>
+    <message>
+        <source>Undo the last import</source>
+        <translation>마지막 가져오기 취소</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Import recipes</source>
+        <translation>레시피 가져오기</translation>
+    </message>
+    <message>
+        <source>Export recipes</source>
+        <translation>레시피 내보내기</translation>
+    </message>
+    <message>
+        <source>No file chosen</source>
+        <translation>파일 선택 안 됨</translation>
+    </message>
+    <message>
+        <source>No place chosen</source>
+        <translation>위치 선택 안 됨</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>내보내기</translation>
+    </message>
+    <message>
+        <source>These recipes are here already. Choose a file.</source>
+        <translation>이 레시피들은 이미 있습니다. 파일을 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 ticked</source>
+        <translation>%2개 중 %1개 선택</translation>
+    </message>
+    <message>
+        <source>Open XML file</source>
+        <translation>XML 파일 열기</translation>
+    </message>
+    <message>
+        <source>XML (*.xml)</source>
+        <translation>XML (*.xml)</translation>
+    </message>
+    <message>
+        <source>Save XML file</source>
+        <translation>XML 파일 저장</translation>
+    </message>
+    <message>
+        <source>Choose a file to import from.</source>
+        <translation>가져올 파일을 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>취소했습니다. 바뀐 것이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Imported: %1 new recipes, %2 of them replace others.</source>
+        <translation>레시피 %1개를 가져왔고 그중 %2개는 기존 것을 바꾸었습니다.</translation>
+    </message>
+    <message>
+        <source>Export path can not be empty!</source>
+        <translation>내보내기 경로는 비워 둘 수 없습니다!</translation>
+    </message>
+    <message>
+        <source>Cancelled. No file was written.</source>
+        <translation>취소했습니다. 파일을 쓰지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>%1 recipes were written to %2.</source>
+        <translation>레시피 %1개를 %2에 썼습니다.</translation>
+    </message>
+    <message>
+        <source>%1 imported recipes are removed, with what was changed in them since, and %2 replaced ones come back.</source>
+        <translation>가져온 레시피 %1개는 그 뒤의 변경과 함께 삭제되고, 바뀌었던 %2개가 돌아옵니다.</translation>
+    </message>
+    <message>
+        <source>The last import was taken back.</source>
+        <translation>마지막 가져오기를 취소했습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ImExportModel</name>
+    <message>
+        <source>pick points</source>
+        <translation>집기 포인트</translation>
+    </message>
+    <message>
+        <source>corner posts</source>
+        <translation>코너 포스트</translation>
+    </message>
+    <message>
+        <source>pallet side</source>
+        <translation>팔레트 쪽</translation>
+    </message>
+    <message>
+        <source>choice of tool</source>
+        <translation>툴 선택</translation>
+    </message>
+    <message>
+        <source>choice of work object</source>
+        <translation>작업 객체 선택</translation>
+    </message>
+    <message>
+        <source>automatic layout</source>
+        <translation>자동 배치</translation>
+    </message>
+    <message>
+        <source>margins</source>
+        <translation>여백</translation>
+    </message>
+    <message>
+        <source>ticked</source>
+        <translation>선택됨</translation>
+    </message>
+    <message>
+        <source>not ticked</source>
+        <translation>선택 안 됨</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>레시피</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>설명</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>처리 내용</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(이름 없음)</translation>
+    </message>
+    <message>
+        <source>Is left out</source>
+        <translation>제외</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 has the name</source>
+        <translation>건너뜀: %1행과 이름 같음</translation>
+    </message>
+    <message>
+        <source>Skipped: the name is taken</source>
+        <translation>건너뜀: 이름 있음</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 replaces it</source>
+        <translation>건너뜀: %1행이 대신함</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>새로 만들기</translation>
+    </message>
+    <message>
+        <source>Row %1 has the name: becomes &quot;%2&quot;</source>
+        <translation>%1행과 이름 같음: &quot;%2&quot;(으)로</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>&quot;%1&quot;(으)로 바뀜</translation>
+    </message>
+    <message>
+        <source>Has no name: becomes &quot;%1&quot;</source>
+        <translation>이름 없음: &quot;%1&quot;(으)로</translation>
+    </message>
+    <message>
+        <source>Replaces no. %1 and stands at no. %2</source>
+        <translation>%1번을 바꾸고 %2번이 됨</translation>
+    </message>
+    <message>
+        <source>Usual values for: %1</source>
+        <translation>기본값 사용: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImExportProjectDialog</name>
+    <message>
+        <source>Title</source>
+        <translation>제목</translation>
+    </message>
+    <message>
+        <source>Select Project</source>
+        <translation>프로젝트 선택</translation>
+    </message>
+    <message>
+        <source>Choose files</source>
+        <translation>파일 선택</translation>
+    </message>
+    <message>
+        <source>Please select a project and ensure that the imported project file is complete, otherwise the import will fail!</source>
+        <translation>프로젝트를 선택하고 파일이 온전한지 확인하십시오. 아니면 가져오기가 실패합니다!</translation>
+    </message>
+    <message>
+        <source>Folder for the archives</source>
+        <translation>압축 파일 폴더</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>폴더</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the archives</source>
+        <translation>압축 파일 폴더 선택</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>모두</translation>
+    </message>
+    <message>
+        <source>Choose all</source>
+        <translation>모두 선택</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>Choose none</source>
+        <translation>선택 해제</translation>
+    </message>
+    <message>
+        <source>You can select the following actions to handle projects with the same name in the imported content. Rename the project by default, or you can choose to replace an existing project.</source>
+        <translation>이름이 같은 프로젝트의 처리 방법을 고를 수 있습니다. 기본은 이름 바꾸기이며 기존 것을 바꿀 수도 있습니다.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>이름 변경</translation>
+    </message>
+    <message>
+        <source>Rename the imported project</source>
+        <translation>가져온 프로젝트 이름 바꾸기</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>바꾸기</translation>
+    </message>
+    <message>
+        <source>Replace the existing project</source>
+        <translation>기존 프로젝트 바꾸기</translation>
+    </message>
+    <message>
+        <source>Project templates</source>
+        <translation>프로젝트 템플릿</translation>
+    </message>
+    <message>
+        <source>Leave the templates</source>
+        <translation>템플릿 그대로</translation>
+    </message>
+    <message>
+        <source>Reset template</source>
+        <translation>템플릿 초기화</translation>
+    </message>
+    <message>
+        <source>Custom template</source>
+        <translation>사용자 템플릿</translation>
+    </message>
+    <message>
+        <source>Archive of templates</source>
+        <translation>템플릿 압축 파일</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Choose the archive of templates</source>
+        <translation>템플릿 압축 파일 선택</translation>
+    </message>
+    <message>
+        <source>Export the program templates</source>
+        <translation>프로그램 템플릿 내보내기</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>처리 결과</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>Project archives</source>
+        <translation>프로젝트 압축 파일</translation>
+    </message>
+    <message>
+        <source>Import projects</source>
+        <translation>프로젝트 가져오기</translation>
+    </message>
+    <message>
+        <source>Export projects</source>
+        <translation>프로젝트 내보내기</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>내보내기</translation>
+    </message>
+    <message>
+        <source>No folder is chosen</source>
+        <translation>폴더 선택 안 됨</translation>
+    </message>
+    <message>
+        <source>No file is chosen</source>
+        <translation>파일 선택 안 됨</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>압축 파일</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>프로젝트</translation>
+    </message>
+    <message>
+        <source>What will happen</source>
+        <translation>처리 내용</translation>
+    </message>
+    <message>
+        <source>Choose project archives</source>
+        <translation>프로젝트 압축 파일 선택</translation>
+    </message>
+    <message>
+        <source>Checking the archives</source>
+        <translation>압축 파일 검사 중</translation>
+    </message>
+    <message>
+        <source>Choose a folder for the archives</source>
+        <translation>압축 파일 폴더를 선택하십시오</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>가져오지 않음</translation>
+    </message>
+    <message>
+        <source>Replaces the project %1</source>
+        <translation>프로젝트 %1을(를) 바꿈</translation>
+    </message>
+    <message>
+        <source>Renamed to %1</source>
+        <translation>%1(으)로 바뀜</translation>
+    </message>
+    <message>
+        <source>New project %1</source>
+        <translation>새 프로젝트 %1</translation>
+    </message>
+    <message>
+        <source>New file %1</source>
+        <translation>새 파일 %1</translation>
+    </message>
+    <message>
+        <source>Not exported</source>
+        <translation>내보내지 않음</translation>
+    </message>
+    <message>
+        <source>Replaces %1 of %2</source>
+        <translation>%2의 %1을(를) 바꿈</translation>
+    </message>
+    <message>
+        <source>Imported: %1</source>
+        <translation>가져옴: %1</translation>
+    </message>
+    <message>
+        <source>Exported.</source>
+        <translation>내보냈습니다.</translation>
+    </message>
+    <message>
+        <source>Cancelled: the folder is as it was before.</source>
+        <translation>취소했습니다: 폴더는 그대로입니다.</translation>
+    </message>
+    <message>
+        <source>Not everything was exported; the log says why.</source>
+        <translation>모두 내보내지 못했습니다. 이유는 로그에 있습니다.</translation>
+    </message>
+    <message>
+        <source>Cancelled: everything is as it was before.</source>
+        <translation>취소했습니다: 모두 그대로입니다.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported; the log says why.</source>
+        <translation>가져온 것이 없습니다. 이유는 로그에 있습니다.</translation>
+    </message>
+    <message>
+        <source>Take the last import back? What was changed in it since is lost: %1</source>
+        <translation>마지막 가져오기를 취소할까요? 그 뒤의 변경은 사라집니다: %1</translation>
+    </message>
+    <message>
+        <source>The last import was taken back.</source>
+        <translation>마지막 가져오기를 취소했습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportText</name>
+    <message>
+        <source>Merging the recipes</source>
+        <translation>레시피 병합 중</translation>
     </message>
 </context>
 <context>
@@ -2268,6 +2754,22 @@ mm</translation>
         <source>: empty</source>
         <translation>: 비어 있음</translation>
     </message>
+    <message>
+        <source>Import</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>Import projects</source>
+        <translation>프로젝트 가져오기</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>내보내기</translation>
+    </message>
+    <message>
+        <source>Export projects</source>
+        <translation>프로젝트 내보내기</translation>
+    </message>
 </context>
 <context>
     <name>ProjectParamSetupPage</name>
@@ -2680,6 +3182,224 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>RunFrame</name>
+    <message>
+        <source>Why no side is shown</source>
+        <translation>쪽이 표시되지 않는 이유</translation>
+    </message>
+    <message>
+        <source>Make a project for these recipes</source>
+        <translation>이 레시피로 프로젝트 만들기</translation>
+    </message>
+    <message>
+        <source>There is no connection to the controller.</source>
+        <translation>컨트롤러에 연결되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>There are no recipes yet. Make one on the page &quot;Recipes&quot;.</source>
+        <translation>레시피가 아직 없습니다. &quot;레시피&quot; 페이지에서 만드십시오.</translation>
+    </message>
+    <message>
+        <source>No robot project is in use. Make one here, or choose one on the page &quot;Projects&quot;.</source>
+        <translation>사용 중인 프로젝트가 없습니다. 여기서 만들거나 &quot;프로젝트&quot; 페이지에서 고르십시오.</translation>
+    </message>
+    <message>
+        <source>Waiting for the controller.</source>
+        <translation>컨트롤러를 기다리는 중입니다.</translation>
+    </message>
+    <message>
+        <source>The controller did not take it: %1</source>
+        <translation>컨트롤러가 받지 않았습니다: %1</translation>
+    </message>
+    <message>
+        <source>The controller holds the recipe &quot;%1&quot; otherwise. Send the recipes first.</source>
+        <translation>컨트롤러의 레시피 &quot;%1&quot;이(가) 다릅니다. 먼저 레시피를 보내십시오.</translation>
+    </message>
+    <message>
+        <source>Start the left side at</source>
+        <translation>왼쪽 시작 위치</translation>
+    </message>
+    <message>
+        <source>Start the right side at</source>
+        <translation>오른쪽 시작 위치</translation>
+    </message>
+    <message>
+        <source>Recipe &quot;%1&quot;</source>
+        <translation>레시피 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The left side broke off</source>
+        <translation>왼쪽이 중단되었습니다</translation>
+    </message>
+    <message>
+        <source>The right side broke off</source>
+        <translation>오른쪽이 중단되었습니다</translation>
+    </message>
+    <message>
+        <source>Clear the gripper, look at the pallet, and confirm the box to go on with. It is proposed by the counters and by what lies there.</source>
+        <translation>그리퍼를 비우고 팔레트를 확인한 뒤 이어 갈 박스를 확인하십시오. 카운터와 실제 적재에 따라 제안합니다.</translation>
+    </message>
+    <message>
+        <source>Set pallets and cycle time of the left side to 0? Layer and piece stay as they are.</source>
+        <translation>왼쪽의 팔레트 수와 사이클 시간을 0으로 할까요? 단과 개수는 그대로입니다.</translation>
+    </message>
+    <message>
+        <source>Set pallets and cycle time of the right side to 0? Layer and piece stay as they are.</source>
+        <translation>오른쪽의 팔레트 수와 사이클 시간을 0으로 할까요? 단과 개수는 그대로입니다.</translation>
+    </message>
+    <message>
+        <source>Reset counters</source>
+        <translation>카운터 초기화</translation>
+    </message>
+</context>
+<context>
+    <name>RunSideCard</name>
+    <message>
+        <source>State of the side</source>
+        <translation>쪽의 상태</translation>
+    </message>
+    <message>
+        <source>Recipe of the side</source>
+        <translation>쪽의 레시피</translation>
+    </message>
+    <message>
+        <source>What lies on the pallet</source>
+        <translation>팔레트 위의 적재물</translation>
+    </message>
+    <message>
+        <source>Boxes</source>
+        <translation>박스</translation>
+    </message>
+    <message>
+        <source>Boxes on the pallet</source>
+        <translation>팔레트 위 박스 수</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>단</translation>
+    </message>
+    <message>
+        <source>Piece</source>
+        <translation>개</translation>
+    </message>
+    <message>
+        <source>Piece of the layer</source>
+        <translation>단 안의 번호</translation>
+    </message>
+    <message>
+        <source>Pallets</source>
+        <translation>팔레트</translation>
+    </message>
+    <message>
+        <source>Finished pallets</source>
+        <translation>완성 팔레트</translation>
+    </message>
+    <message>
+        <source>Cycle time</source>
+        <translation>사이클 시간</translation>
+    </message>
+    <message>
+        <source>Per hour</source>
+        <translation>시간당</translation>
+    </message>
+    <message>
+        <source>Boxes per hour</source>
+        <translation>시간당 박스 수</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>켜기</translation>
+    </message>
+    <message>
+        <source>Enable or disable the side</source>
+        <translation>쪽 켜기 또는 끄기</translation>
+    </message>
+    <message>
+        <source>Start at</source>
+        <translation>시작 위치</translation>
+    </message>
+    <message>
+        <source>Start at a layer and piece</source>
+        <translation>단과 개수에서 시작</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>리셋</translation>
+    </message>
+    <message>
+        <source>Reset the counters</source>
+        <translation>카운터 초기화</translation>
+    </message>
+    <message>
+        <source>No controller</source>
+        <translation>컨트롤러 없음</translation>
+    </message>
+    <message>
+        <source>Not in this project</source>
+        <translation>이 프로젝트에 없음</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>고장</translation>
+    </message>
+    <message>
+        <source>Broken off: confirm layer and piece</source>
+        <translation>중단됨: 단과 개수 확인</translation>
+    </message>
+    <message>
+        <source>Pallet full: exchange and confirm it</source>
+        <translation>가득 참: 교체 후 확인</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>일시 정지</translation>
+    </message>
+    <message>
+        <source>Enabled, no program runs</source>
+        <translation>켜짐, 프로그램 정지</translation>
+    </message>
+    <message>
+        <source>Robot is moved by hand</source>
+        <translation>로봇 수동 이동 중</translation>
+    </message>
+    <message>
+        <source>Stacking</source>
+        <translation>적재 중</translation>
+    </message>
+    <message>
+        <source>Enabled, waits for its turn</source>
+        <translation>켜짐, 차례 대기</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>꺼짐</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>비어 있음</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation>끄기</translation>
+    </message>
+</context>
+<context>
     <name>SeriesText</name>
     <message>
         <source>There is nothing to lay.</source>
@@ -2826,6 +3546,26 @@ Pallet: %4</source>
     <message>
         <source>Recipes on the controller</source>
         <translation>컨트롤러의 레시피</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>Import recipes</source>
+        <translation>레시피 가져오기</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>내보내기</translation>
+    </message>
+    <message>
+        <source>Export recipes</source>
+        <translation>레시피 내보내기</translation>
+    </message>
+    <message>
+        <source>Production</source>
+        <translation>생산</translation>
     </message>
 </context>
 <context>
@@ -2998,6 +3738,69 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>StartDialog</name>
+    <message>
+        <source>What is asked</source>
+        <translation>묻는 내용</translation>
+    </message>
+    <message>
+        <source>What lies on the pallet then</source>
+        <translation>그때 팔레트 위의 적재물</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>단</translation>
+    </message>
+    <message>
+        <source>Layer down</source>
+        <translation>단 내리기</translation>
+    </message>
+    <message>
+        <source>Layer up</source>
+        <translation>단 올리기</translation>
+    </message>
+    <message>
+        <source>Piece</source>
+        <translation>개</translation>
+    </message>
+    <message>
+        <source>Piece down</source>
+        <translation>개수 줄이기</translation>
+    </message>
+    <message>
+        <source>Piece up</source>
+        <translation>개수 늘리기</translation>
+    </message>
+    <message>
+        <source>Products that lie there</source>
+        <translation>놓여 있는 제품</translation>
+    </message>
+    <message>
+        <source>The gripper is empty</source>
+        <translation>그리퍼가 비어 있음</translation>
+    </message>
+    <message>
+        <source>Why it cannot begin there</source>
+        <translation>거기서 시작할 수 없는 이유</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Start here</source>
+        <translation>여기서 시작</translation>
+    </message>
+    <message>
+        <source>Take the product out of the gripper and confirm that it is empty.</source>
+        <translation>그리퍼에서 제품을 빼고 비었음을 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 boxes lie on the pallet.</source>
+        <translation>팔레트에 %2개 중 %1개가 놓여 있습니다.</translation>
+    </message>
+</context>
+<context>
     <name>StatusText</name>
     <message>
         <source>Moved by x %1, y %2 mm</source>
@@ -3072,6 +3875,25 @@ Pallet: %4</source>
     <message>
         <source>layer below</source>
         <translation>아래 단</translation>
+    </message>
+</context>
+<context>
+    <name>TransferText</name>
+    <message>
+        <source>Import success!</source>
+        <translation>가져오기 성공!</translation>
+    </message>
+    <message>
+        <source>%1: the disk did not take everything. Do not pull it out; export again.</source>
+        <translation>%1: 디스크에 다 쓰지 못했습니다. 뽑지 말고 다시 내보내십시오.</translation>
+    </message>
+    <message>
+        <source>Export success to %1!</source>
+        <translation>%1(으)로 내보내기 성공!</translation>
+    </message>
+    <message>
+        <source>The last import was taken back.</source>
+        <translation>마지막 가져오기를 취소했습니다.</translation>
     </message>
 </context>
 <context>
@@ -3221,6 +4043,25 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>XFileModel</name>
+    <message>
+        <source>Folder %1</source>
+        <translation>폴더 %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>변경</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>크기</translation>
+    </message>
+</context>
+<context>
     <name>palx</name>
     <message>
         <source>The way points have regenerated!</source>
@@ -3273,6 +4114,10 @@ Pallet: %4</source>
     <message>
         <source>Pallet&apos;width is less than product&apos;width</source>
         <translation>팔레트 너비가 제품 너비보다 작습니다</translation>
+    </message>
+    <message>
+        <source>The project has no such variable: %1</source>
+        <translation>프로젝트에 그런 변수가 없습니다: %1</translation>
     </message>
 </context>
 <context>
@@ -3334,6 +4179,79 @@ Pallet: %4</source>
     <message>
         <source>C(%1)</source>
         <translation>C(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>palx::MediumChoice</name>
+    <message>
+        <source>The folder is not there any more.</source>
+        <translation>폴더가 더 이상 없습니다.</translation>
+    </message>
+    <message>
+        <source>The disk is write-protected. Nothing can be saved on it.</source>
+        <translation>디스크가 쓰기 금지되어 있어 저장할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This folder is write-protected.</source>
+        <translation>이 폴더는 쓰기 금지되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>디스크가 가득 찼습니다.</translation>
+    </message>
+    <message>
+        <source>There is a folder of that name.</source>
+        <translation>같은 이름의 폴더가 있습니다.</translation>
+    </message>
+    <message>
+        <source>There is a file of that name.</source>
+        <translation>같은 이름의 파일이 있습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>palx::MediumFolder</name>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>폴더를 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Only %1 entries of the folder are shown.</source>
+        <translation>폴더의 항목 %1개만 표시합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>palx::MediumNames</name>
+    <message>
+        <source>This disk cannot keep a name with %1.</source>
+        <translation>이 디스크에는 %1이(가) 든 이름을 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This disk cannot keep a name that ends with a dot or a blank.</source>
+        <translation>이 디스크에는 점이나 공백으로 끝나는 이름을 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>A PC cannot open a file named %1.</source>
+        <translation>PC에서 이름이 %1인 파일을 열 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The name is too long: %1 of %2 characters.</source>
+        <translation>이름이 너무 깁니다: %1 / %2자.</translation>
+    </message>
+    <message>
+        <source>The name is too long: %1 of %2 bytes.</source>
+        <translation>이름이 너무 깁니다: %1 / %2바이트.</translation>
+    </message>
+    <message>
+        <source>The file needs a name.</source>
+        <translation>파일 이름이 필요합니다.</translation>
+    </message>
+    <message>
+        <source>A name does not begin with a dot: the file would be hidden.</source>
+        <translation>이름은 점으로 시작할 수 없습니다: 파일이 숨겨집니다.</translation>
+    </message>
+    <message>
+        <source>The name holds a character that cannot be seen.</source>
+        <translation>이름에 보이지 않는 문자가 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -3620,6 +4538,396 @@ Pallet: %4</source>
     <message>
         <source>current pos</source>
         <translation>현재 위치</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; %2</source>
+        <translation>항목 &quot;%1&quot; %2</translation>
+    </message>
+    <message>
+        <source>is encrypted</source>
+        <translation>은(는) 암호화되어 있습니다</translation>
+    </message>
+    <message>
+        <source>is a link</source>
+        <translation>은(는) 링크입니다</translation>
+    </message>
+    <message>
+        <source>is neither a file nor a folder</source>
+        <translation>은(는) 파일도 폴더도 아닙니다</translation>
+    </message>
+    <message>
+        <source>is called a file and a folder</source>
+        <translation>은(는) 파일이자 폴더로 되어 있습니다</translation>
+    </message>
+    <message>
+        <source>is a folder with a content of its own</source>
+        <translation>은(는) 자체 내용이 있는 폴더입니다</translation>
+    </message>
+    <message>
+        <source>is packed in a way that is not known here</source>
+        <translation>은(는) 알 수 없는 방식으로 압축되어 있습니다</translation>
+    </message>
+    <message>
+        <source>it has %1 entries; no project has more than %2</source>
+        <translation>항목이 %1개입니다. 프로젝트는 %2개까지입니다</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>비어 있습니다</translation>
+    </message>
+    <message>
+        <source>its list of entries is damaged</source>
+        <translation>항목 목록이 손상되었습니다</translation>
+    </message>
+    <message>
+        <source>has a name that is read in two ways</source>
+        <translation>의 이름이 두 가지로 읽힙니다</translation>
+    </message>
+    <message>
+        <source>makes it larger than %1 MB, which no project is</source>
+        <translation>때문에 %1 MB를 넘습니다. 그런 프로젝트는 없습니다</translation>
+    </message>
+    <message>
+        <source>is damaged</source>
+        <translation>이(가) 손상되었습니다</translation>
+    </message>
+    <message>
+        <source>Checking %1</source>
+        <translation>%1 검사 중</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>it is no whole zip archive</source>
+        <translation>온전한 zip 압축 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>그런 파일이 없습니다</translation>
+    </message>
+    <message>
+        <source>has an absolute name</source>
+        <translation>은(는) 절대 경로입니다</translation>
+    </message>
+    <message>
+        <source>leads out of the folder</source>
+        <translation>은(는) 폴더 밖을 가리킵니다</translation>
+    </message>
+    <message>
+        <source>has a backslash in its name</source>
+        <translation>의 이름에 역슬래시가 있습니다</translation>
+    </message>
+    <message>
+        <source>has a name that is no path</source>
+        <translation>의 이름은 경로가 아닙니다</translation>
+    </message>
+    <message>
+        <source>has a name that is no text in UTF-8</source>
+        <translation>의 이름이 UTF-8이 아닙니다</translation>
+    </message>
+    <message>
+        <source>has a control character in its name</source>
+        <translation>의 이름에 제어 문자가 있습니다</translation>
+    </message>
+    <message>
+        <source>has too long a name</source>
+        <translation>의 이름이 너무 깁니다</translation>
+    </message>
+    <message>
+        <source>needs a folder where there is another entry</source>
+        <translation>에 필요한 폴더 자리에 다른 항목이 있습니다</translation>
+    </message>
+    <message>
+        <source>is there twice</source>
+        <translation>이(가) 두 번 있습니다</translation>
+    </message>
+    <message>
+        <source>makes the project too large for an archive</source>
+        <translation>때문에 프로젝트가 너무 커집니다</translation>
+    </message>
+    <message>
+        <source>there is no folder %1</source>
+        <translation>폴더 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>Packing %1</source>
+        <translation>%1 압축 중</translation>
+    </message>
+    <message>
+        <source>the archive cannot be written: %1</source>
+        <translation>압축 파일을 쓸 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Unpacking</source>
+        <translation>압축 푸는 중</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; was not unpacked as it is listed</source>
+        <translation>항목 &quot;%1&quot;이(가) 목록과 다르게 풀렸습니다</translation>
+    </message>
+    <message>
+        <source>more was unpacked than it lists</source>
+        <translation>목록보다 많이 풀렸습니다</translation>
+    </message>
+    <message>
+        <source>there is no room for %1 MB</source>
+        <translation>%1 MB의 공간이 없습니다</translation>
+    </message>
+    <message>
+        <source>it cannot be unpacked to %1</source>
+        <translation>%1에 압축을 풀 수 없습니다</translation>
+    </message>
+    <message>
+        <source>The recipes were not taken: %1</source>
+        <translation>레시피를 받지 않았습니다: %1</translation>
+    </message>
+    <message>
+        <source>The templates cannot be put back</source>
+        <translation>템플릿을 되돌릴 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Writing to the disk</source>
+        <translation>디스크에 쓰는 중</translation>
+    </message>
+    <message>
+        <source>there is no such project</source>
+        <translation>그런 프로젝트가 없습니다</translation>
+    </message>
+    <message>
+        <source>there is no room for a copy beside the robot&apos;s folder</source>
+        <translation>로봇 폴더 옆에 사본을 둘 공간이 없습니다</translation>
+    </message>
+    <message>
+        <source>Export %1 failed!</source>
+        <translation>%1 내보내기 실패!</translation>
+    </message>
+    <message>
+        <source>Export Project templates failed!</source>
+        <translation>프로젝트 템플릿 내보내기 실패!</translation>
+    </message>
+    <message>
+        <source>Export path can not be empty!</source>
+        <translation>내보내기 경로는 비워 둘 수 없습니다!</translation>
+    </message>
+    <message>
+        <source>please select item!</source>
+        <translation>항목을 선택하십시오!</translation>
+    </message>
+    <message>
+        <source>Export the project &quot;mod&quot; and the templates one after the other: both become &quot;mod.zip&quot;</source>
+        <translation>프로젝트 &quot;mod&quot;와 템플릿은 따로 내보내십시오: 둘 다 &quot;mod.zip&quot;이 됩니다</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <translation>%1에 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Export to %1 success!</source>
+        <translation>%1(으)로 내보내기 성공!</translation>
+    </message>
+    <message>
+        <source>the permissions of its files cannot be set</source>
+        <translation>파일 권한을 설정할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>there is no room beside the robot&apos;s folder</source>
+        <translation>로봇 폴더 옆에 공간이 없습니다</translation>
+    </message>
+    <message>
+        <source>Delete temp file failed!</source>
+        <translation>임시 파일 삭제 실패!</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made</source>
+        <translation>%1을(를) 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 import success!</source>
+        <translation>%1 가져오기 성공!</translation>
+    </message>
+    <message>
+        <source>Import %1 failed!</source>
+        <translation>%1 가져오기 실패!</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name for a project</source>
+        <translation>&quot;%1&quot;은(는) 프로젝트 이름이 될 수 없습니다</translation>
+    </message>
+    <message>
+        <source>What was imported may be lost when the power fails: %1</source>
+        <translation>정전되면 가져온 내용이 사라질 수 있습니다: %1</translation>
+    </message>
+    <message>
+        <source>%1 holds no list of variables</source>
+        <translation>%1에 변수 목록이 없습니다</translation>
+    </message>
+    <message>
+        <source>&quot;var.xml&quot;: the value of %1 is none that a project can have</source>
+        <translation>&quot;var.xml&quot;: %1의 값은 프로젝트에 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Import project templates failed!</source>
+        <translation>프로젝트 템플릿 가져오기 실패!</translation>
+    </message>
+    <message>
+        <source>Reset project templates success!</source>
+        <translation>프로젝트 템플릿 초기화 성공!</translation>
+    </message>
+    <message>
+        <source>%1 cannot be replaced</source>
+        <translation>%1을(를) 바꿀 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Import project templates success!</source>
+        <translation>프로젝트 템플릿 가져오기 성공!</translation>
+    </message>
+    <message>
+        <source>Project templates import success!</source>
+        <translation>프로젝트 템플릿 가져오기 완료!</translation>
+    </message>
+</context>
+<context>
+    <name>palx::RunText</name>
+    <message>
+        <source>The recipe has no points yet. Generate them on the page &quot;Points&quot;.</source>
+        <translation>레시피에 아직 포인트가 없습니다. &quot;포인트&quot; 페이지에서 만드십시오.</translation>
+    </message>
+    <message>
+        <source>The side is in use. Disable it and let the robot end its pallet, or stop the program.</source>
+        <translation>쪽이 사용 중입니다. 끄고 로봇이 팔레트를 마치게 하거나 프로그램을 멈추십시오.</translation>
+    </message>
+    <message>
+        <source>There is no recipe for this side.</source>
+        <translation>이 쪽의 레시피가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The controller names a recipe that is not here.</source>
+        <translation>컨트롤러가 가리키는 레시피가 여기에 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>xFileDialog</name>
+    <message>
+        <source>Disk</source>
+        <translation>디스크</translation>
+    </message>
+    <message>
+        <source>Used space</source>
+        <translation>사용 공간</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>위로</translation>
+    </message>
+    <message>
+        <source>One folder up</source>
+        <translation>상위 폴더</translation>
+    </message>
+    <message>
+        <source>Shown folder</source>
+        <translation>표시된 폴더</translation>
+    </message>
+    <message>
+        <source>Kind of the files</source>
+        <translation>파일 종류</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>새 폴더</translation>
+    </message>
+    <message>
+        <source>Files and folders</source>
+        <translation>파일과 폴더</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>파일 이름</translation>
+    </message>
+    <message>
+        <source>Plug in a USB disk.</source>
+        <translation>USB 디스크를 꽂으십시오.</translation>
+    </message>
+    <message>
+        <source>What is chosen, or why nothing can be</source>
+        <translation>선택한 것 또는 선택할 수 없는 이유</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Use what is chosen</source>
+        <translation>선택한 것 사용</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>열기</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Use this folder</source>
+        <translation>이 폴더 사용</translation>
+    </message>
+    <message>
+        <source>The disk %1 was pulled out.</source>
+        <translation>디스크 %1이(가) 뽑혔습니다.</translation>
+    </message>
+    <message>
+        <source>%1 free of %2</source>
+        <translation>%2 중 %1 남음</translation>
+    </message>
+    <message>
+        <source>Its files are shown as soon as it is ready.</source>
+        <translation>준비되는 대로 파일을 표시합니다.</translation>
+    </message>
+    <message>
+        <source>The disk %1 is plugged in, but cannot be read. Format it on a PC (FAT32).</source>
+        <translation>디스크 %1이(가) 꽂혀 있으나 읽을 수 없습니다. PC에서 포맷하십시오(FAT32).</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>폴더를 만들 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Replaces %1</source>
+        <translation>%1을(를) 바꿉니다</translation>
+    </message>
+    <message>
+        <source>Touch a file.</source>
+        <translation>파일을 터치하십시오.</translation>
+    </message>
+    <message>
+        <source>There is no such file in this folder.</source>
+        <translation>이 폴더에 그런 파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>파일을 바꾸시겠습니까?</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1이(가) 이미 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1을(를) 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>It is safe to pull out the disk %1 now.</source>
+        <translation>이제 디스크 %1을(를) 안전하게 뽑을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Do not pull out the disk %1 yet: it has not taken everything.</source>
+        <translation>아직 디스크 %1을(를) 뽑지 마십시오: 쓰기가 끝나지 않았습니다.</translation>
     </message>
 </context>
 </TS>

@@ -440,6 +440,40 @@
     </message>
 </context>
 <context>
+    <name>ExchangeTableModel</name>
+    <message>
+        <source>chosen</source>
+        <translation>выбрано</translation>
+    </message>
+    <message>
+        <source>not chosen</source>
+        <translation>не выбрано</translation>
+    </message>
+</context>
+<context>
+    <name>ExchangeText</name>
+    <message>
+        <source>recipe %1</source>
+        <translation>рецепт %1</translation>
+    </message>
+    <message>
+        <source>recipe %1 &quot;%2&quot;</source>
+        <translation>рецепт %1 «%2»</translation>
+    </message>
+    <message>
+        <source>holds no list of recipes</source>
+        <translation>не содержит списка рецептов</translation>
+    </message>
+    <message>
+        <source>Writing the file</source>
+        <translation>Запись файла</translation>
+    </message>
+    <message>
+        <source>Reading the file</source>
+        <translation>Чтение файла</translation>
+    </message>
+</context>
+<context>
     <name>FeedingDirectionWizard</name>
     <message>
         <source>Feeding directions</source>
@@ -475,6 +509,458 @@
     <message>
         <source>The product is larger than the pallet; it will reach over the edge.</source>
         <translation>Изделие больше паллеты и будет выступать за её край.</translation>
+    </message>
+</context>
+<context>
+    <name>ImExportDialog</name>
+    <message>
+        <source>How many are ticked</source>
+        <translation>Сколько отмечено</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Обзор</translation>
+    </message>
+    <message>
+        <source>Choose the file</source>
+        <translation>Выбрать файл</translation>
+    </message>
+    <message>
+        <source>When a name is taken</source>
+        <translation>Если имя занято</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Переименовать</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Заменить</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Пропустить</translation>
+    </message>
+    <message>
+        <source>Tick all</source>
+        <translation>Отметить все</translation>
+    </message>
+    <message>
+        <source>Tick none</source>
+        <translation>Снять все</translation>
+    </message>
+    <message>
+        <source>Recipes</source>
+        <translation>Рецепты</translation>
+    </message>
+    <message>
+        <source>Undo the last import</source>
+        <translation>Отменить последний импорт</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Import recipes</source>
+        <translation>Импорт рецептов</translation>
+    </message>
+    <message>
+        <source>Export recipes</source>
+        <translation>Экспорт рецептов</translation>
+    </message>
+    <message>
+        <source>No file chosen</source>
+        <translation>Файл не выбран</translation>
+    </message>
+    <message>
+        <source>No place chosen</source>
+        <translation>Место не выбрано</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Экспорт</translation>
+    </message>
+    <message>
+        <source>These recipes are here already. Choose a file.</source>
+        <translation>Эти рецепты уже есть. Выберите файл.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 ticked</source>
+        <translation>Отмечено %1 из %2</translation>
+    </message>
+    <message>
+        <source>Open XML file</source>
+        <translation>Открыть файл XML</translation>
+    </message>
+    <message>
+        <source>XML (*.xml)</source>
+        <translation>XML (*.xml)</translation>
+    </message>
+    <message>
+        <source>Save XML file</source>
+        <translation>Сохранить файл XML</translation>
+    </message>
+    <message>
+        <source>Choose a file to import from.</source>
+        <translation>Выберите файл для импорта.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>Отменено. Ничего не изменено.</translation>
+    </message>
+    <message>
+        <source>Imported: %1 new recipes, %2 of them replace others.</source>
+        <translation>Импортировано рецептов: %1, из них заменили другие: %2.</translation>
+    </message>
+    <message>
+        <source>Export path can not be empty!</source>
+        <translation>Путь экспорта не может быть пустым!</translation>
+    </message>
+    <message>
+        <source>Cancelled. No file was written.</source>
+        <translation>Отменено. Файл не записан.</translation>
+    </message>
+    <message>
+        <source>%1 recipes were written to %2.</source>
+        <translation>Рецептов записано: %1, в %2.</translation>
+    </message>
+    <message>
+        <source>%1 imported recipes are removed, with what was changed in them since, and %2 replaced ones come back.</source>
+        <translation>Импортированные рецепты (%1) удаляются вместе с их изменениями, заменённые (%2) возвращаются.</translation>
+    </message>
+    <message>
+        <source>The last import was taken back.</source>
+        <translation>Последний импорт отменён.</translation>
+    </message>
+</context>
+<context>
+    <name>ImExportModel</name>
+    <message>
+        <source>pick points</source>
+        <translation>точки захвата</translation>
+    </message>
+    <message>
+        <source>corner posts</source>
+        <translation>угловые стойки</translation>
+    </message>
+    <message>
+        <source>pallet side</source>
+        <translation>сторона паллеты</translation>
+    </message>
+    <message>
+        <source>choice of tool</source>
+        <translation>выбор инструмента</translation>
+    </message>
+    <message>
+        <source>choice of work object</source>
+        <translation>выбор рабочего объекта</translation>
+    </message>
+    <message>
+        <source>automatic layout</source>
+        <translation>автоукладка</translation>
+    </message>
+    <message>
+        <source>margins</source>
+        <translation>отступы</translation>
+    </message>
+    <message>
+        <source>ticked</source>
+        <translation>отмечено</translation>
+    </message>
+    <message>
+        <source>not ticked</source>
+        <translation>не отмечено</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>Рецепт</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>Что произойдёт</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(без имени)</translation>
+    </message>
+    <message>
+        <source>Is left out</source>
+        <translation>Не берётся</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 has the name</source>
+        <translation>Пропуск: имя занято строкой %1</translation>
+    </message>
+    <message>
+        <source>Skipped: the name is taken</source>
+        <translation>Пропуск: имя занято</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 replaces it</source>
+        <translation>Пропуск: заменит строка %1</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Создать</translation>
+    </message>
+    <message>
+        <source>Row %1 has the name: becomes &quot;%2&quot;</source>
+        <translation>Имя занято строкой %1: станет «%2»</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>Переименован в «%1»</translation>
+    </message>
+    <message>
+        <source>Has no name: becomes &quot;%1&quot;</source>
+        <translation>Без имени: станет «%1»</translation>
+    </message>
+    <message>
+        <source>Replaces no. %1 and stands at no. %2</source>
+        <translation>Заменит № %1, станет № %2</translation>
+    </message>
+    <message>
+        <source>Usual values for: %1</source>
+        <translation>Обычные значения: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImExportProjectDialog</name>
+    <message>
+        <source>Title</source>
+        <translation>Заголовок</translation>
+    </message>
+    <message>
+        <source>Select Project</source>
+        <translation>Выбор проекта</translation>
+    </message>
+    <message>
+        <source>Choose files</source>
+        <translation>Выбрать файлы</translation>
+    </message>
+    <message>
+        <source>Please select a project and ensure that the imported project file is complete, otherwise the import will fail!</source>
+        <translation>Выберите проект и убедитесь, что файл проекта полон, иначе импорт не удастся!</translation>
+    </message>
+    <message>
+        <source>Folder for the archives</source>
+        <translation>Папка для архивов</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the archives</source>
+        <translation>Выбрать папку для архивов</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Все</translation>
+    </message>
+    <message>
+        <source>Choose all</source>
+        <translation>Выбрать все</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>Choose none</source>
+        <translation>Снять выбор</translation>
+    </message>
+    <message>
+        <source>You can select the following actions to handle projects with the same name in the imported content. Rename the project by default, or you can choose to replace an existing project.</source>
+        <translation>Выберите, что делать с проектами, имя которых занято. Обычно проект переименовывается; можно заменить имеющийся.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Переименовать</translation>
+    </message>
+    <message>
+        <source>Rename the imported project</source>
+        <translation>Переименовать импортируемый проект</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Заменить</translation>
+    </message>
+    <message>
+        <source>Replace the existing project</source>
+        <translation>Заменить имеющийся проект</translation>
+    </message>
+    <message>
+        <source>Project templates</source>
+        <translation>Шаблоны проекта</translation>
+    </message>
+    <message>
+        <source>Leave the templates</source>
+        <translation>Оставить шаблоны</translation>
+    </message>
+    <message>
+        <source>Reset template</source>
+        <translation>Сбросить шаблоны</translation>
+    </message>
+    <message>
+        <source>Custom template</source>
+        <translation>Свои шаблоны</translation>
+    </message>
+    <message>
+        <source>Archive of templates</source>
+        <translation>Архив шаблонов</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>Choose the archive of templates</source>
+        <translation>Выбрать архив шаблонов</translation>
+    </message>
+    <message>
+        <source>Export the program templates</source>
+        <translation>Экспортировать шаблоны программ</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Что сделано</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>Project archives</source>
+        <translation>Архивы проектов</translation>
+    </message>
+    <message>
+        <source>Import projects</source>
+        <translation>Импорт проектов</translation>
+    </message>
+    <message>
+        <source>Export projects</source>
+        <translation>Экспорт проектов</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Экспорт</translation>
+    </message>
+    <message>
+        <source>No folder is chosen</source>
+        <translation>Папка не выбрана</translation>
+    </message>
+    <message>
+        <source>No file is chosen</source>
+        <translation>Файл не выбран</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Архив</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Проект</translation>
+    </message>
+    <message>
+        <source>What will happen</source>
+        <translation>Что произойдёт</translation>
+    </message>
+    <message>
+        <source>Choose project archives</source>
+        <translation>Выбрать архивы проектов</translation>
+    </message>
+    <message>
+        <source>Checking the archives</source>
+        <translation>Проверка архивов</translation>
+    </message>
+    <message>
+        <source>Choose a folder for the archives</source>
+        <translation>Выберите папку для архивов</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>Не импортируется</translation>
+    </message>
+    <message>
+        <source>Replaces the project %1</source>
+        <translation>Заменит проект %1</translation>
+    </message>
+    <message>
+        <source>Renamed to %1</source>
+        <translation>Станет %1</translation>
+    </message>
+    <message>
+        <source>New project %1</source>
+        <translation>Новый проект %1</translation>
+    </message>
+    <message>
+        <source>New file %1</source>
+        <translation>Новый файл %1</translation>
+    </message>
+    <message>
+        <source>Not exported</source>
+        <translation>Не экспортируется</translation>
+    </message>
+    <message>
+        <source>Replaces %1 of %2</source>
+        <translation>Заменит %1 от %2</translation>
+    </message>
+    <message>
+        <source>Imported: %1</source>
+        <translation>Импортировано: %1</translation>
+    </message>
+    <message>
+        <source>Exported.</source>
+        <translation>Экспортировано.</translation>
+    </message>
+    <message>
+        <source>Cancelled: the folder is as it was before.</source>
+        <translation>Отменено: папка не изменилась.</translation>
+    </message>
+    <message>
+        <source>Not everything was exported; the log says why.</source>
+        <translation>Экспортировано не всё; причина в журнале.</translation>
+    </message>
+    <message>
+        <source>Cancelled: everything is as it was before.</source>
+        <translation>Отменено: всё осталось как было.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported; the log says why.</source>
+        <translation>Ничего не импортировано; причина в журнале.</translation>
+    </message>
+    <message>
+        <source>Take the last import back? What was changed in it since is lost: %1</source>
+        <translation>Отменить последний импорт? Изменения после него пропадут: %1</translation>
+    </message>
+    <message>
+        <source>The last import was taken back.</source>
+        <translation>Последний импорт отменён.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportText</name>
+    <message>
+        <source>Merging the recipes</source>
+        <translation>Объединение рецептов</translation>
     </message>
 </context>
 <context>
@@ -2268,6 +2754,22 @@ mm</translation>
         <source>: empty</source>
         <translation>: пуст</translation>
     </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>Import projects</source>
+        <translation>Импорт проектов</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Экспорт</translation>
+    </message>
+    <message>
+        <source>Export projects</source>
+        <translation>Экспорт проектов</translation>
+    </message>
 </context>
 <context>
     <name>ProjectParamSetupPage</name>
@@ -2682,6 +3184,224 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>RunFrame</name>
+    <message>
+        <source>Why no side is shown</source>
+        <translation>Почему стороны не показаны</translation>
+    </message>
+    <message>
+        <source>Make a project for these recipes</source>
+        <translation>Создать проект для этих рецептов</translation>
+    </message>
+    <message>
+        <source>There is no connection to the controller.</source>
+        <translation>Нет связи с контроллером.</translation>
+    </message>
+    <message>
+        <source>There are no recipes yet. Make one on the page &quot;Recipes&quot;.</source>
+        <translation>Рецептов ещё нет. Создайте рецепт на странице «Рецепты».</translation>
+    </message>
+    <message>
+        <source>No robot project is in use. Make one here, or choose one on the page &quot;Projects&quot;.</source>
+        <translation>Проект не загружен. Создайте его здесь или выберите на странице «Проекты».</translation>
+    </message>
+    <message>
+        <source>Waiting for the controller.</source>
+        <translation>Ожидание контроллера.</translation>
+    </message>
+    <message>
+        <source>The controller did not take it: %1</source>
+        <translation>Контроллер не принял: %1</translation>
+    </message>
+    <message>
+        <source>The controller holds the recipe &quot;%1&quot; otherwise. Send the recipes first.</source>
+        <translation>В контроллере другой рецепт «%1». Сначала отправьте рецепты.</translation>
+    </message>
+    <message>
+        <source>Start the left side at</source>
+        <translation>Начать левую сторону с</translation>
+    </message>
+    <message>
+        <source>Start the right side at</source>
+        <translation>Начать правую сторону с</translation>
+    </message>
+    <message>
+        <source>Recipe &quot;%1&quot;</source>
+        <translation>Рецепт «%1»</translation>
+    </message>
+    <message>
+        <source>The left side broke off</source>
+        <translation>Левая сторона прервана</translation>
+    </message>
+    <message>
+        <source>The right side broke off</source>
+        <translation>Правая сторона прервана</translation>
+    </message>
+    <message>
+        <source>Clear the gripper, look at the pallet, and confirm the box to go on with. It is proposed by the counters and by what lies there.</source>
+        <translation>Освободите захват, осмотрите паллету и подтвердите, с какой коробки продолжить. Она предложена по счётчикам и по уложенному.</translation>
+    </message>
+    <message>
+        <source>Set pallets and cycle time of the left side to 0? Layer and piece stay as they are.</source>
+        <translation>Обнулить паллеты и время цикла левой стороны? Слой и изделие не изменятся.</translation>
+    </message>
+    <message>
+        <source>Set pallets and cycle time of the right side to 0? Layer and piece stay as they are.</source>
+        <translation>Обнулить паллеты и время цикла правой стороны? Слой и изделие не изменятся.</translation>
+    </message>
+    <message>
+        <source>Reset counters</source>
+        <translation>Сброс счётчиков</translation>
+    </message>
+</context>
+<context>
+    <name>RunSideCard</name>
+    <message>
+        <source>State of the side</source>
+        <translation>Состояние стороны</translation>
+    </message>
+    <message>
+        <source>Recipe of the side</source>
+        <translation>Рецепт стороны</translation>
+    </message>
+    <message>
+        <source>What lies on the pallet</source>
+        <translation>Что лежит на паллете</translation>
+    </message>
+    <message>
+        <source>Boxes</source>
+        <translation>Шт.</translation>
+    </message>
+    <message>
+        <source>Boxes on the pallet</source>
+        <translation>Коробок на паллете</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Слой</translation>
+    </message>
+    <message>
+        <source>Piece</source>
+        <translation>Изделие</translation>
+    </message>
+    <message>
+        <source>Piece of the layer</source>
+        <translation>Изделие слоя</translation>
+    </message>
+    <message>
+        <source>Pallets</source>
+        <translation>Паллеты</translation>
+    </message>
+    <message>
+        <source>Finished pallets</source>
+        <translation>Готовые паллеты</translation>
+    </message>
+    <message>
+        <source>Cycle time</source>
+        <translation>Время цикла</translation>
+    </message>
+    <message>
+        <source>Per hour</source>
+        <translation>В час</translation>
+    </message>
+    <message>
+        <source>Boxes per hour</source>
+        <translation>Коробок в час</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Включить</translation>
+    </message>
+    <message>
+        <source>Enable or disable the side</source>
+        <translation>Включить или выключить сторону</translation>
+    </message>
+    <message>
+        <source>Start at</source>
+        <translation>Начать с</translation>
+    </message>
+    <message>
+        <source>Start at a layer and piece</source>
+        <translation>Начать со слоя и изделия</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Сброс</translation>
+    </message>
+    <message>
+        <source>Reset the counters</source>
+        <translation>Сбросить счётчики</translation>
+    </message>
+    <message>
+        <source>No controller</source>
+        <translation>Нет контроллера</translation>
+    </message>
+    <message>
+        <source>Not in this project</source>
+        <translation>Не в этом проекте</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Авария</translation>
+    </message>
+    <message>
+        <source>Broken off: confirm layer and piece</source>
+        <translation>Прервано: подтвердите слой и изделие</translation>
+    </message>
+    <message>
+        <source>Pallet full: exchange and confirm it</source>
+        <translation>Паллета полна: замените и подтвердите</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>Enabled, no program runs</source>
+        <translation>Включена, программа не идёт</translation>
+    </message>
+    <message>
+        <source>Robot is moved by hand</source>
+        <translation>Робот ведётся вручную</translation>
+    </message>
+    <message>
+        <source>Stacking</source>
+        <translation>Укладка</translation>
+    </message>
+    <message>
+        <source>Enabled, waits for its turn</source>
+        <translation>Включена, ждёт очереди</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Выключена</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Лево</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Право</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>пусто</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation>Выключить</translation>
+    </message>
+</context>
+<context>
     <name>SeriesText</name>
     <message>
         <source>There is nothing to lay.</source>
@@ -2828,6 +3548,26 @@ Pallet: %4</source>
     <message>
         <source>Recipes on the controller</source>
         <translation>Рецепты в контроллере</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>Import recipes</source>
+        <translation>Импорт рецептов</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Экспорт</translation>
+    </message>
+    <message>
+        <source>Export recipes</source>
+        <translation>Экспорт рецептов</translation>
+    </message>
+    <message>
+        <source>Production</source>
+        <translation>Производство</translation>
     </message>
 </context>
 <context>
@@ -3000,6 +3740,69 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>StartDialog</name>
+    <message>
+        <source>What is asked</source>
+        <translation>Что спрашивается</translation>
+    </message>
+    <message>
+        <source>What lies on the pallet then</source>
+        <translation>Что тогда лежит на паллете</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Слой</translation>
+    </message>
+    <message>
+        <source>Layer down</source>
+        <translation>Слой вниз</translation>
+    </message>
+    <message>
+        <source>Layer up</source>
+        <translation>Слой вверх</translation>
+    </message>
+    <message>
+        <source>Piece</source>
+        <translation>Изделие</translation>
+    </message>
+    <message>
+        <source>Piece down</source>
+        <translation>Изделие назад</translation>
+    </message>
+    <message>
+        <source>Piece up</source>
+        <translation>Изделие вперёд</translation>
+    </message>
+    <message>
+        <source>Products that lie there</source>
+        <translation>Уложенные изделия</translation>
+    </message>
+    <message>
+        <source>The gripper is empty</source>
+        <translation>Захват пуст</translation>
+    </message>
+    <message>
+        <source>Why it cannot begin there</source>
+        <translation>Почему нельзя начать отсюда</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Start here</source>
+        <translation>Начать здесь</translation>
+    </message>
+    <message>
+        <source>Take the product out of the gripper and confirm that it is empty.</source>
+        <translation>Снимите изделие с захвата и подтвердите, что он пуст.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 boxes lie on the pallet.</source>
+        <translation>На паллете %1 из %2 коробок.</translation>
+    </message>
+</context>
+<context>
     <name>StatusText</name>
     <message>
         <source>Moved by x %1, y %2 mm</source>
@@ -3074,6 +3877,25 @@ Pallet: %4</source>
     <message>
         <source>layer below</source>
         <translation>слой ниже</translation>
+    </message>
+</context>
+<context>
+    <name>TransferText</name>
+    <message>
+        <source>Import success!</source>
+        <translation>Импорт выполнен!</translation>
+    </message>
+    <message>
+        <source>%1: the disk did not take everything. Do not pull it out; export again.</source>
+        <translation>%1: диск записал не всё. Не извлекайте его; повторите экспорт.</translation>
+    </message>
+    <message>
+        <source>Export success to %1!</source>
+        <translation>Экспортировано в %1!</translation>
+    </message>
+    <message>
+        <source>The last import was taken back.</source>
+        <translation>Последний импорт отменён.</translation>
     </message>
 </context>
 <context>
@@ -3223,6 +4045,25 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>XFileModel</name>
+    <message>
+        <source>Folder %1</source>
+        <translation>Папка %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Изменён</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Размер</translation>
+    </message>
+</context>
+<context>
     <name>palx</name>
     <message>
         <source>The way points have regenerated!</source>
@@ -3275,6 +4116,10 @@ Pallet: %4</source>
     <message>
         <source>Pallet&apos;width is less than product&apos;width</source>
         <translation>Ширина паллеты меньше ширины изделия</translation>
+    </message>
+    <message>
+        <source>The project has no such variable: %1</source>
+        <translation>В проекте нет такой переменной: %1</translation>
     </message>
 </context>
 <context>
@@ -3336,6 +4181,79 @@ Pallet: %4</source>
     <message>
         <source>C(%1)</source>
         <translation>C(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>palx::MediumChoice</name>
+    <message>
+        <source>The folder is not there any more.</source>
+        <translation>Этой папки больше нет.</translation>
+    </message>
+    <message>
+        <source>The disk is write-protected. Nothing can be saved on it.</source>
+        <translation>Диск защищён от записи. Сохранить на него нельзя.</translation>
+    </message>
+    <message>
+        <source>This folder is write-protected.</source>
+        <translation>Эта папка защищена от записи.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>Диск заполнен.</translation>
+    </message>
+    <message>
+        <source>There is a folder of that name.</source>
+        <translation>Папка с таким именем уже есть.</translation>
+    </message>
+    <message>
+        <source>There is a file of that name.</source>
+        <translation>Файл с таким именем уже есть.</translation>
+    </message>
+</context>
+<context>
+    <name>palx::MediumFolder</name>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>Папку нельзя прочитать.</translation>
+    </message>
+    <message>
+        <source>Only %1 entries of the folder are shown.</source>
+        <translation>Показаны только первые %1 записей папки.</translation>
+    </message>
+</context>
+<context>
+    <name>palx::MediumNames</name>
+    <message>
+        <source>This disk cannot keep a name with %1.</source>
+        <translation>Этот диск не допускает имён с %1.</translation>
+    </message>
+    <message>
+        <source>This disk cannot keep a name that ends with a dot or a blank.</source>
+        <translation>Этот диск не допускает имён с точкой или пробелом в конце.</translation>
+    </message>
+    <message>
+        <source>A PC cannot open a file named %1.</source>
+        <translation>ПК не откроет файл с именем %1.</translation>
+    </message>
+    <message>
+        <source>The name is too long: %1 of %2 characters.</source>
+        <translation>Слишком длинное имя: %1 из %2 знаков.</translation>
+    </message>
+    <message>
+        <source>The name is too long: %1 of %2 bytes.</source>
+        <translation>Слишком длинное имя: %1 из %2 байт.</translation>
+    </message>
+    <message>
+        <source>The file needs a name.</source>
+        <translation>Файлу нужно имя.</translation>
+    </message>
+    <message>
+        <source>A name does not begin with a dot: the file would be hidden.</source>
+        <translation>Имя не начинается с точки: файл был бы скрыт.</translation>
+    </message>
+    <message>
+        <source>The name holds a character that cannot be seen.</source>
+        <translation>В имени есть невидимый знак.</translation>
     </message>
 </context>
 <context>
@@ -3622,6 +4540,396 @@ Pallet: %4</source>
     <message>
         <source>current pos</source>
         <translation>текущее положение</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; %2</source>
+        <translation>запись «%1» %2</translation>
+    </message>
+    <message>
+        <source>is encrypted</source>
+        <translation>зашифрована</translation>
+    </message>
+    <message>
+        <source>is a link</source>
+        <translation>является ссылкой</translation>
+    </message>
+    <message>
+        <source>is neither a file nor a folder</source>
+        <translation>не файл и не папка</translation>
+    </message>
+    <message>
+        <source>is called a file and a folder</source>
+        <translation>названа и файлом, и папкой</translation>
+    </message>
+    <message>
+        <source>is a folder with a content of its own</source>
+        <translation>это папка с собственным содержимым</translation>
+    </message>
+    <message>
+        <source>is packed in a way that is not known here</source>
+        <translation>упакована неизвестным способом</translation>
+    </message>
+    <message>
+        <source>it has %1 entries; no project has more than %2</source>
+        <translation>в нём записей: %1; в проекте бывает не больше %2</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>он пуст</translation>
+    </message>
+    <message>
+        <source>its list of entries is damaged</source>
+        <translation>его список записей повреждён</translation>
+    </message>
+    <message>
+        <source>has a name that is read in two ways</source>
+        <translation>имеет имя, которое читается двояко</translation>
+    </message>
+    <message>
+        <source>makes it larger than %1 MB, which no project is</source>
+        <translation>делает его больше %1 MB, таких проектов не бывает</translation>
+    </message>
+    <message>
+        <source>is damaged</source>
+        <translation>повреждена</translation>
+    </message>
+    <message>
+        <source>Checking %1</source>
+        <translation>Проверка %1</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>его нельзя прочитать: %1</translation>
+    </message>
+    <message>
+        <source>it is no whole zip archive</source>
+        <translation>это не целый архив zip</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>такого файла нет</translation>
+    </message>
+    <message>
+        <source>has an absolute name</source>
+        <translation>имеет абсолютный путь</translation>
+    </message>
+    <message>
+        <source>leads out of the folder</source>
+        <translation>ведёт за пределы папки</translation>
+    </message>
+    <message>
+        <source>has a backslash in its name</source>
+        <translation>имеет обратную косую черту в имени</translation>
+    </message>
+    <message>
+        <source>has a name that is no path</source>
+        <translation>имеет имя, которое не является путём</translation>
+    </message>
+    <message>
+        <source>has a name that is no text in UTF-8</source>
+        <translation>имеет имя не в UTF-8</translation>
+    </message>
+    <message>
+        <source>has a control character in its name</source>
+        <translation>имеет управляющий знак в имени</translation>
+    </message>
+    <message>
+        <source>has too long a name</source>
+        <translation>имеет слишком длинное имя</translation>
+    </message>
+    <message>
+        <source>needs a folder where there is another entry</source>
+        <translation>требует папку там, где стоит другая запись</translation>
+    </message>
+    <message>
+        <source>is there twice</source>
+        <translation>встречается дважды</translation>
+    </message>
+    <message>
+        <source>makes the project too large for an archive</source>
+        <translation>делает проект слишком большим для архива</translation>
+    </message>
+    <message>
+        <source>there is no folder %1</source>
+        <translation>папки %1 нет</translation>
+    </message>
+    <message>
+        <source>Packing %1</source>
+        <translation>Упаковка %1</translation>
+    </message>
+    <message>
+        <source>the archive cannot be written: %1</source>
+        <translation>архив нельзя записать: %1</translation>
+    </message>
+    <message>
+        <source>Unpacking</source>
+        <translation>Распаковка</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; was not unpacked as it is listed</source>
+        <translation>запись «%1» распакована не так, как указана</translation>
+    </message>
+    <message>
+        <source>more was unpacked than it lists</source>
+        <translation>распаковано больше, чем указано</translation>
+    </message>
+    <message>
+        <source>there is no room for %1 MB</source>
+        <translation>нет места для %1 MB</translation>
+    </message>
+    <message>
+        <source>it cannot be unpacked to %1</source>
+        <translation>его нельзя распаковать в %1</translation>
+    </message>
+    <message>
+        <source>The recipes were not taken: %1</source>
+        <translation>Рецепты не приняты: %1</translation>
+    </message>
+    <message>
+        <source>The templates cannot be put back</source>
+        <translation>Шаблоны нельзя вернуть</translation>
+    </message>
+    <message>
+        <source>Writing to the disk</source>
+        <translation>Запись на диск</translation>
+    </message>
+    <message>
+        <source>there is no such project</source>
+        <translation>такого проекта нет</translation>
+    </message>
+    <message>
+        <source>there is no room for a copy beside the robot&apos;s folder</source>
+        <translation>рядом с папкой робота нет места для копии</translation>
+    </message>
+    <message>
+        <source>Export %1 failed!</source>
+        <translation>Экспорт %1 не выполнен!</translation>
+    </message>
+    <message>
+        <source>Export Project templates failed!</source>
+        <translation>Экспорт шаблонов проекта не выполнен!</translation>
+    </message>
+    <message>
+        <source>Export path can not be empty!</source>
+        <translation>Путь экспорта не может быть пустым!</translation>
+    </message>
+    <message>
+        <source>please select item!</source>
+        <translation>выберите запись!</translation>
+    </message>
+    <message>
+        <source>Export the project &quot;mod&quot; and the templates one after the other: both become &quot;mod.zip&quot;</source>
+        <translation>Экспортируйте проект «mod» и шаблоны по очереди: оба становятся «mod.zip»</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <translation>в %1 нельзя записать</translation>
+    </message>
+    <message>
+        <source>Export to %1 success!</source>
+        <translation>Экспортировано в %1!</translation>
+    </message>
+    <message>
+        <source>the permissions of its files cannot be set</source>
+        <translation>права его файлов нельзя задать</translation>
+    </message>
+    <message>
+        <source>there is no room beside the robot&apos;s folder</source>
+        <translation>рядом с папкой робота нет места</translation>
+    </message>
+    <message>
+        <source>Delete temp file failed!</source>
+        <translation>Не удалось удалить временный файл!</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made</source>
+        <translation>%1 нельзя создать</translation>
+    </message>
+    <message>
+        <source>%1 import success!</source>
+        <translation>%1: импорт выполнен!</translation>
+    </message>
+    <message>
+        <source>Import %1 failed!</source>
+        <translation>Импорт %1 не выполнен!</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name for a project</source>
+        <translation>«%1» не годится как имя проекта</translation>
+    </message>
+    <message>
+        <source>What was imported may be lost when the power fails: %1</source>
+        <translation>При сбое питания импорт может быть потерян: %1</translation>
+    </message>
+    <message>
+        <source>%1 holds no list of variables</source>
+        <translation>%1 не содержит списка переменных</translation>
+    </message>
+    <message>
+        <source>&quot;var.xml&quot;: the value of %1 is none that a project can have</source>
+        <translation>«var.xml»: значение %1 недопустимо для проекта</translation>
+    </message>
+    <message>
+        <source>Import project templates failed!</source>
+        <translation>Импорт шаблонов проекта не выполнен!</translation>
+    </message>
+    <message>
+        <source>Reset project templates success!</source>
+        <translation>Шаблоны проекта сброшены!</translation>
+    </message>
+    <message>
+        <source>%1 cannot be replaced</source>
+        <translation>%1 нельзя заменить</translation>
+    </message>
+    <message>
+        <source>Import project templates success!</source>
+        <translation>Шаблоны проекта импортированы!</translation>
+    </message>
+    <message>
+        <source>Project templates import success!</source>
+        <translation>Шаблоны проекта импортированы!</translation>
+    </message>
+</context>
+<context>
+    <name>palx::RunText</name>
+    <message>
+        <source>The recipe has no points yet. Generate them on the page &quot;Points&quot;.</source>
+        <translation>У рецепта ещё нет точек. Создайте их на странице «Точки».</translation>
+    </message>
+    <message>
+        <source>The side is in use. Disable it and let the robot end its pallet, or stop the program.</source>
+        <translation>Сторона занята. Выключите её и дайте роботу закончить паллету или остановите программу.</translation>
+    </message>
+    <message>
+        <source>There is no recipe for this side.</source>
+        <translation>Для этой стороны нет рецепта.</translation>
+    </message>
+    <message>
+        <source>The controller names a recipe that is not here.</source>
+        <translation>Контроллер называет рецепт, которого здесь нет.</translation>
+    </message>
+</context>
+<context>
+    <name>xFileDialog</name>
+    <message>
+        <source>Disk</source>
+        <translation>Диск</translation>
+    </message>
+    <message>
+        <source>Used space</source>
+        <translation>Занято</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Вверх</translation>
+    </message>
+    <message>
+        <source>One folder up</source>
+        <translation>На папку выше</translation>
+    </message>
+    <message>
+        <source>Shown folder</source>
+        <translation>Показанная папка</translation>
+    </message>
+    <message>
+        <source>Kind of the files</source>
+        <translation>Вид файлов</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Новая папка</translation>
+    </message>
+    <message>
+        <source>Files and folders</source>
+        <translation>Файлы и папки</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Имя файла</translation>
+    </message>
+    <message>
+        <source>Plug in a USB disk.</source>
+        <translation>Вставьте USB-диск.</translation>
+    </message>
+    <message>
+        <source>What is chosen, or why nothing can be</source>
+        <translation>Что выбрано или почему нельзя выбрать</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Use what is chosen</source>
+        <translation>Использовать выбранное</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Use this folder</source>
+        <translation>Выбрать эту папку</translation>
+    </message>
+    <message>
+        <source>The disk %1 was pulled out.</source>
+        <translation>Диск %1 извлечён.</translation>
+    </message>
+    <message>
+        <source>%1 free of %2</source>
+        <translation>свободно %1 из %2</translation>
+    </message>
+    <message>
+        <source>Its files are shown as soon as it is ready.</source>
+        <translation>Файлы появятся, как только он будет готов.</translation>
+    </message>
+    <message>
+        <source>The disk %1 is plugged in, but cannot be read. Format it on a PC (FAT32).</source>
+        <translation>Диск %1 вставлен, но не читается. Отформатируйте его на ПК (FAT32).</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>Папку нельзя создать.</translation>
+    </message>
+    <message>
+        <source>Replaces %1</source>
+        <translation>Заменит %1</translation>
+    </message>
+    <message>
+        <source>Touch a file.</source>
+        <translation>Коснитесь файла.</translation>
+    </message>
+    <message>
+        <source>There is no such file in this folder.</source>
+        <translation>В этой папке нет такого файла.</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>Заменить файл?</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 уже существует.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 нельзя прочитать.</translation>
+    </message>
+    <message>
+        <source>It is safe to pull out the disk %1 now.</source>
+        <translation>Диск %1 можно извлечь.</translation>
+    </message>
+    <message>
+        <source>Do not pull out the disk %1 yet: it has not taken everything.</source>
+        <translation>Не извлекайте диск %1: записано ещё не всё.</translation>
     </message>
 </context>
 </TS>
