@@ -42,14 +42,20 @@ CONF
     find "$sysroot.part" -type l -lname '/*' ! -lname /dev/null | while read -r link; do
         ln -snf "$(realpath -m --relative-to="$(dirname "$link")" "$sysroot.part$(readlink "$link")")" "$link"
     done
-    # This one names its headers by an absolute path, which would be this machine's.
-    find "$sysroot.part" -name RapidJSONConfig.cmake \
-        -exec sed -i "s|\"/usr/include\"|\"$sysroot/usr/include\"|" {} +
     mv "$sysroot.part" "$sysroot"
     rm -rf "$apt"
 }
 
+# Two packages name headers and a library by absolute paths, which would be this machine's.
+lead_into_sysroot() {
+    find "$sysroot/usr" -name RapidJSONConfig.cmake \
+        -exec sed -i "s|\"/usr/include\"|\"$sysroot/usr/include\"|" {} +
+    find "$sysroot/usr" -name QuaZip-Qt5_SharedTargets.cmake \
+        -exec sed -i "s|;/usr/lib/|;$sysroot/usr/lib/|" {} +
+}
+
 [ -d "$sysroot" ] || fetch_sysroot
+lead_into_sysroot
 
 cmake --preset arm64 -DPALX_TESTS=OFF
 cmake --build --preset arm64 -j "$jobs" --target palx_workstation palx_panel palx
