@@ -3,6 +3,7 @@
 #include "ui/long_work_dialog.h"
 #include "ui/xfile_dialog.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QLineEdit>
@@ -15,6 +16,12 @@ namespace {
 using Take = std::function<void(QWidget *dialog, const QString &name)>;
 
 const QString kFilter = QStringLiteral("XML (*.xml)");
+
+/// In the language of the pictures, as the dialogs that ask say it.
+QString caption(const char *text, const char *asker = "ImExportDialog")
+{
+    return QCoreApplication::translate(asker, text);
+}
 
 /// A file of so many bytes, changed so many days into the year.
 bool addFile(const QString &path, int bytes, int day)
@@ -72,8 +79,8 @@ void takeDialog(QWidget *window, const FileRequest &request, const QString &disk
 
 void takeLongWork(QWidget *window, const Take &take)
 {
-    LongWorkDialog dialog(QStringLiteral("Export"), window);
-    dialog.showStep(3, 8, QStringLiteral("Palletizing_2026_0930_1015.zip"));
+    LongWorkDialog dialog(caption("Export recipes"), window);
+    dialog.showStep(3, 8, QStringLiteral("Interlocked 1200x800"));
     dialog.open();
     take(&dialog, QStringLiteral("long-work"));
     dialog.close();
@@ -87,8 +94,8 @@ bool showFileDialogs(QWidget *window, const Take &take)
     const QString disk = folder.filePath(QStringLiteral("RECIPES"));
     if (!fillDisk(disk))
         return false;
-    const FileRequest opening{FileRequest::Open, QStringLiteral("Open XML file"), QString(), kFilter};
-    const FileRequest saving{FileRequest::Save, QStringLiteral("Save XML file"), QStringLiteral("pallet.xml"),
+    const FileRequest opening{FileRequest::Open, caption("Open XML file"), QString(), kFilter};
+    const FileRequest saving{FileRequest::Save, caption("Save XML file"), QStringLiteral("pallet.xml"),
                              kFilter};
     const auto choose = [](xFileDialog *dialog) {
         dialog->findChild<QTableView *>(QStringLiteral("tblFiles"))->selectRow(2);
@@ -99,8 +106,10 @@ bool showFileDialogs(QWidget *window, const Take &take)
     takeDialog(window, opening, disk, take, QStringLiteral("file-open"), choose);
     takeDialog(window, saving, disk, take, QStringLiteral("file-save"));
     takeDialog(window, saving, disk, take, QStringLiteral("file-save-refused"), misname);
-    takeDialog(window, {FileRequest::Folder, QStringLiteral("Export"), QString(), QString()}, disk, take,
-               QStringLiteral("file-folder"));
+    takeDialog(window,
+               {FileRequest::Folder, caption("Choose a folder for the archives", "ImExportProjectDialog"),
+                QString(), QString()},
+               disk, take, QStringLiteral("file-folder"));
     takeDialog(window, opening, QString(), take, QStringLiteral("file-no-disk"));
     takeLongWork(window, take);
     return true;
