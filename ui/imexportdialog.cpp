@@ -18,6 +18,8 @@
 #include <QHeaderView>
 #include <QShortcut>
 
+#include <algorithm>
+
 using ix::xtheme::Glyph;
 using ix::xtheme::State;
 using orba::ModuleObject;
@@ -105,7 +107,8 @@ void ImExportDialog::loadList(ModuleObject *list)
         model_->tickAll(false);
     constexpr int kMorePartsThanFit = 2;
     constexpr int kThreeLines = 76;
-    for (int row = 0; hasFile_ && row < model_->rowCount(); ++row)
+    constexpr int kMostHighRows = 1000; // nobody looks at more, and each costs the table a layout
+    for (int row = 0; hasFile_ && row < std::min(model_->rowCount(), kMostHighRows); ++row)
         if (added_[static_cast<std::size_t>(row)].size() > kMorePartsThanFit)
             ui_->tblRecipes->setRowHeight(row, kThreeLines);
 }

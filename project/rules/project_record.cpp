@@ -30,7 +30,7 @@ ModuleObject *projectRecord(const QString &name)
 
 const Node &currentProjectRecord()
 {
-    static const Node none;
+    static const Node none{};
     const Node *found = std::as_const(projectsNode()->node()).child(QStringView(currentProject()));
     return found ? *found : none;
 }
