@@ -236,6 +236,8 @@ void ImExportDialog::importTicked()
     const std::shared_ptr<ModuleObject> content = read_; // lives on when the dialog ends meanwhile
     const std::vector<bool> ticked = model_->ticked();
     const palx::RecipeClash clash = onClash();
+    const std::vector<palx::ImportStep> steps =
+        palx::planImport(list->node(), content->node(), ticked, clash);
     bool isDone = false;
     palx::runInSlices(this, tr("Import recipes"), [&](palx::Progress &progress) {
         isDone = list && palx::importRecipes(list, content->node(), ticked, clash, progress);
@@ -246,10 +248,11 @@ void ImExportDialog::importTicked()
         return;
     if (!isDone)
         return ui_->message->showMessage(tr("Cancelled. Nothing was changed."), State::Stopped);
-    const palx::LastImport *import = list ? palx::LastImport::of(list) : nullptr;
-    Q_EMIT worked(tr("Imported: %1 new recipes, %2 of them replace others.")
-                      .arg(import ? import->addedCount() : 0)
-                      .arg(import ? import->removedCount() : 0));
+    const auto count = [&steps](auto isMeant) { return std::count_if(steps.begin(), steps.end(), isMeant); };
+    const auto added = count([](const palx::ImportStep &step) { return step.arrives(); });
+    const auto replacing = count([](const palx::ImportStep &step) { return step.replaced >= 0; });
+    Q_EMIT worked(tr("Imported: %1 new recipes, %2 of them replace others.").arg(added).arg(replacing),
+                  added > 0);
     accept();
 }
 
@@ -279,7 +282,8 @@ void ImExportDialog::exportTicked()
     if (!isSynced)
         return ui_->message->showMessage(removal, State::Fault);
     Q_EMIT worked(tr("%1 recipes were written to %2.").arg(model_->tickedCount()).arg(file) +
-                  QLatin1Char(' ') + removal);
+                      QLatin1Char(' ') + removal,
+                  false);
     accept();
 }
 

@@ -46,8 +46,8 @@ public:
     static bool takeBackLastImport(orba::ModuleObject *list);
 
 Q_SIGNALS:
-    /// The work succeeded; a sentence for the operator. An import can be taken back.
-    void worked(const QString &text);
+    /// The work succeeded; a sentence for the operator, and whether it can be taken back.
+    void worked(const QString &text, bool isUndoable);
     /// The last import was taken back.
     void takenBack();
 

@@ -380,10 +380,11 @@ void StackHomePage::undoDelete()
 void StackHomePage::openImport()
 {
     auto *dialog = new ImExportDialog(true, palx::stacksNode(), wgt_->window());
-    connect(dialog, &ImExportDialog::worked, wgt_, [this](const QString &text) {
+    connect(dialog, &ImExportDialog::worked, wgt_, [this](const QString &text, bool isUndoable) {
         importChanged();
         undo_ = &StackHomePage::undoImport;
-        ui_->message->showUndo(text, State::Stopped);
+        isUndoable ? ui_->message->showUndo(text, State::Stopped)
+                   : ui_->message->showMessage(text, State::Stopped);
     });
     connect(dialog, &ImExportDialog::takenBack, wgt_, [this] { importChanged(); });
     dialog->open();

@@ -224,12 +224,22 @@ TEST_F(ImExportDialogTest, MergesWhatIsTickedRecordsItAndSendsEverything)
     EXPECT_EQ(records, QStringList("warning: Import success!"));
     EXPECT_EQ(takeCount("pallet.data"), 1);
     EXPECT_EQ(table.count(), 1);
-    EXPECT_EQ(worked.count(), 1);
+    ASSERT_EQ(worked.count(), 1);
+    EXPECT_EQ(worked[0][0].toString(), QStringLiteral("Imported: 2 new recipes, 0 of them replace others."));
+    EXPECT_TRUE(worked[0][1].toBool());
     EXPECT_FALSE(dialog->isVisible());
     open(true);
     choose(file({"A", "B", "C"}));
     press("btnOk");
     EXPECT_EQ(names(), (QStringList{"A", "A1", "C", "A2", "B", "C1"}));
+    open(true);
+    choose(file({"A", "B"}));
+    press("optDiscard");
+    QSignalSpy nothing(dialog, &ImExportDialog::worked);
+    press("btnOk");
+    ASSERT_EQ(nothing.count(), 1);
+    EXPECT_EQ(nothing[0][0].toString(), QStringLiteral("Imported: 0 new recipes, 0 of them replace others."));
+    EXPECT_FALSE(nothing[0][1].toBool()); // the import before is not what was just done
 }
 
 TEST_F(ImExportDialogTest, TheLastImportIsTakenBackAfterAQuestionAndSentAgain)
