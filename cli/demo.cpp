@@ -4,6 +4,7 @@
 #include "recipe_commands.h"
 #include "recipe_review.h"
 #include "screenshots.h"
+#include "simulation_run.h"
 #include "stack/recipe_layers.h"
 #include "stack/stack_check.h"
 #include "stack/way_points.h"
@@ -148,13 +149,41 @@ bool throughTheStore(const QString &examples, const QDir &folder)
     return readBack(data.path(), kept);
 }
 
+/// Fills both pallets of a cell with a lift column, as `palx simulate` does.
+bool inTheCell(const QString &examples)
+{
+    SimulateRequest request;
+    request.recipes.file = QDir(examples).filePath(QStringLiteral("lift-pair.xml"));
+    request.withLift = true;
+    SimulationProject project;
+    SimulationResult result;
+    if (!project.make(request))
+        return false;
+    tell(QStringLiteral("cell   a project for both pallets of %1, with tasks, programs and variables")
+             .arg(QFileInfo(request.recipes.file).fileName()));
+    const bool isRun = runSimulation(project, request, &result);
+    for (const auto &violation : std::as_const(result.violations))
+        say(QString::fromStdString(violation.what));
+    return tell(QStringLiteral(
+                    "cell   %1 of %2 products on %3 full pallets, %4 violations, at most %5 mm from their "
+                    "put points; %6 s of the cell in %7 s")
+                    .arg(result.boxes)
+                    .arg(result.expected)
+                    .arg(result.pallets)
+                    .arg(result.violations.size())
+                    .arg(result.maxErrorMm, 0, 'f', 3)
+                    .arg(result.seconds, 0, 'f', 0)
+                    .arg(result.wallSeconds, 0, 'f', 2)) &&
+           isRun && result.isGood();
+}
+
 } // namespace
 
 int runDemo(const QString &folder, const QString &examples)
 {
     if (!QDir().mkpath(folder))
         return refuse(folder + QStringLiteral(": the folder cannot be made"));
-    if (!throughTheStore(examples, QDir(folder)))
+    if (!throughTheStore(examples, QDir(folder)) || !inTheCell(examples))
         return kRefused;
     const int code = runScreenshots({folder, QStringLiteral("en"), kPicture, examples});
     if (code == kDone)

@@ -4,6 +4,8 @@
 #include "orba/module_manager.h"
 #include "simulation_run.h"
 
+#include <QFile>
+
 namespace cli {
 
 using controller::cell::Violation;
@@ -92,6 +94,10 @@ int runSimulate(const SimulateRequest &request)
 {
     SimulationProject project;
     SimulationResult result;
+    QFile trace(request.traceFile);
+    if (!request.traceFile.isEmpty() && !trace.open(QIODevice::WriteOnly))
+        return refuse(request.traceFile + QStringLiteral(": ") + trace.errorString());
+    trace.close();
     if (!project.make(request))
         return kRefused;
     const bool isRun = runSimulation(project, request, &result);

@@ -29,7 +29,7 @@ SimulationOperator::SimulationOperator(controller::Station *station, const QVect
 
 void SimulationOperator::bring(const PlannedFault &fault)
 {
-    hasFault_ = true;
+    hasFault_ = hadFault_ = true;
     Node payload;
     payload.ensure(u"name")->setString(fault.name);
     payload.ensure(u"on")->setBool(true);
@@ -47,13 +47,12 @@ bool SimulationOperator::look(QString *why)
         *why = runner.why();
         return false;
     }
-    if ((stands || hasFault_) && mendAt_ < 0)
-        mendAt_ = now + kReaction;
-    if (hasFault_ && person_.seesMiscount())
-        mendAt_ = now;
-    if (mendAt_ < 0 || now < mendAt_)
+    if ((stands || hasFault_) && looksLeft_ < 0)
+        looksLeft_ = kReaction;
+    if (hadFault_ && runner.state() == Runner::State::Running && person_.seesMiscount())
+        looksLeft_ = 0;
+    if (looksLeft_ < 0 || looksLeft_-- > 0)
         return true;
-    mendAt_ = -1;
     hasFault_ = false;
     *why = person_.recover();
     return why->isEmpty();

@@ -12,13 +12,15 @@ public:
     SimulationOperator(controller::Station *station, const QVector<StackedSide> &sides,
                        QVector<PlannedFault> faults);
 
-    /// Called every now and then. False when the program does not run any more and cannot be started again; why.
+    static constexpr double kLook = 0.5; ///< between two looks [s]
+
+    /// Called every kLook. False when the program does not run any more and cannot be started again; why.
     bool look(QString *why);
-    /// Faults are still to come, or to be mended.
-    bool isBusy() const { return !faults_.isEmpty() || mendAt_ >= 0; }
 
 private:
-    static constexpr double kReaction = 5; ///< from a fault, or a program that stands, to the repair [s]
+    /// Looks from a fault, or a program that stands, to the repair: 5 s. Simulated time is no measure, it stands while nothing
+    /// in the cell moves.
+    static constexpr int kReaction = 10;
 
     void bring(const PlannedFault &fault);
 
@@ -26,7 +28,8 @@ private:
     CellOperator person_;
     QVector<PlannedFault> faults_; ///< still to come
     bool hasFault_ = false;        ///< one that was asked for is to be mended
-    double mendAt_ = -1;           ///< [s]; negative: nothing is to be mended
+    bool hadFault_ = false;        ///< something may be lost: the count is watched
+    int looksLeft_ = -1;           ///< until it is mended; negative: nothing is to be mended
 };
 
 } // namespace cli

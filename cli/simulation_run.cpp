@@ -13,8 +13,7 @@ using controller::cell::Violation;
 
 namespace {
 
-constexpr double kLook = 0.5;          ///< between two looks of the operator [s]
-constexpr double kHold = 0.1;           ///< between two signs of the held button [s]
+constexpr double kHold = 0.1;          ///< between two signs of the held button [s]
 constexpr double kLongestPerBox = 120; ///< a cell that is slower than this will not get ready [s]
 constexpr double kLongestApart = 600;  ///< column, faults, start [s]
 
@@ -99,6 +98,13 @@ bool areFull(const controller::cell::World &world, const QVector<StackedSide> &s
                        [&world](const StackedSide &side) { return world.pallet(side.side).isFull(); });
 }
 
+/// Whether a program stacks a side, or counts its last product.
+bool isAnySideServed(Runner &runner)
+{
+    const int id = runner.variables() ? runner.variables()->idOf("palletStatus") : -1;
+    return id >= 0 && std::get<std::int64_t>(runner.variables()->value(id)) != 0;
+}
+
 int expectedBoxes(controller::Station *station, const QVector<StackedSide> &sides)
 {
     int count = 0;
@@ -144,8 +150,12 @@ bool runUntilFull(controller::Station *station, const SimulationProject &project
     if (why->isEmpty())
         *why = station->request(QStringLiteral("program.run"), nothing).refusal;
     bool goesOn = why->isEmpty();
-    while (goesOn && world.now() < longest && (!areFull(world, project.sides()) || world.way().isMoving())) {
-        station->simulate(kLook);
+    const auto isDone = [&] {
+        return areFull(world, project.sides()) && !world.way().isMoving() &&
+               !isAnySideServed(station->desk().runner());
+    };
+    while (goesOn && world.now() < longest && !isDone()) {
+        station->simulate(SimulationOperator::kLook);
         goesOn = person.look(why);
         const auto count = world.pallet(0).boxes().size() + world.pallet(1).boxes().size();
         progress.show(QStringLiteral("boxes"), static_cast<int>(count), expected);
