@@ -154,7 +154,7 @@ QString ImExportModel::outcome(int row) const
     case ImportStep::Overtaken:
         return tr("Skipped: row %1 replaces it").arg(other);
     case ImportStep::New:
-        text = tr("New");
+        text = tr("New recipe");
         break;
     case ImportStep::Renamed:
         text = other > 0 ? tr("Row %1 has the name: becomes \"%2\"").arg(other).arg(what->name)

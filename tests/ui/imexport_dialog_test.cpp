@@ -132,7 +132,7 @@ TEST_F(ImExportDialogTest, ShowsTheListUntilAFileIsRead)
     EXPECT_EQ(message(), QStringLiteral("Choose a file to import from."));
     EXPECT_EQ(names(), (QStringList{"A", "", "B"}));
     choose(file({"C"}));
-    EXPECT_EQ(rows(), QStringList("[x] C: New"));
+    EXPECT_EQ(rows(), QStringList("[x] C: New recipe"));
     EXPECT_EQ(child<QLineEdit>("edtPath")->text(), QDir::current().relativeFilePath(path("pallet.xml")));
 }
 
@@ -167,18 +167,18 @@ TEST_F(ImExportDialogTest, EveryRowFollowsTheOptionAndTheTicks)
     addRecipe("B");
     open(true);
     choose(file({"C", "B", "A", "C", ""}));
-    EXPECT_EQ(rows(), (QStringList{"[x] C: New", "[x] B: Renamed to \"B1\"", "[x] A: Renamed to \"A1\"",
+    EXPECT_EQ(rows(), (QStringList{"[x] C: New recipe", "[x] B: Renamed to \"B1\"", "[x] A: Renamed to \"A1\"",
                                    "[x] C: Row 1 has the name: becomes \"C1\"",
                                    "[x] (no name): Has no name: becomes \"1\""}));
     press("optReplace");
     EXPECT_EQ(rows(),
               (QStringList{"[x] C: Skipped: row 4 replaces it", "[x] B: Replaces no. 2 and stands at no. 1",
-                           "[x] A: Replaces no. 1 and stands at no. 2", "[x] C: New",
+                           "[x] A: Replaces no. 1 and stands at no. 2", "[x] C: New recipe",
                            "[x] (no name): Has no name: becomes \"1\""}));
     press("optDiscard");
     touchRow(0);
     EXPECT_EQ(rows().mid(0, 4), (QStringList{"[] C: Is left out", "[x] B: Skipped: the name is taken",
-                                             "[x] A: Skipped: the name is taken", "[x] C: New"}));
+                                             "[x] A: Skipped: the name is taken", "[x] C: New recipe"}));
     EXPECT_EQ(child<QLabel>("lblCount")->text(), QStringLiteral("4 of 5 ticked"));
     press("btnNone");
     EXPECT_EQ(rows().filter(QStringLiteral("[] ")).size(), 5);
@@ -202,7 +202,7 @@ TEST_F(ImExportDialogTest, OlderRecipesSayWhatTheyGetFromTheTemplate)
     old.close();
     open(true);
     choose(path("old.xml"));
-    EXPECT_EQ(rows(), QStringList("[x] Old: New. Usual values for: choice of work object, margins"));
+    EXPECT_EQ(rows(), QStringList("[x] Old: New recipe. Usual values for: choice of work object, margins"));
     press("btnOk");
     EXPECT_EQ(palx::stacksNode()->getInt("#0.wobj_margin.left"), 12);
     EXPECT_EQ(palx::stacksNode()->getInt("#0.pallet_position"), 1);
