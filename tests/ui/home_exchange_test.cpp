@@ -7,6 +7,7 @@
 #include "support/scripted_files.h"
 #include "support/test_support.h"
 #include "ui/current_recipe.h"
+#include "ui/form_checks.h"
 #include "ui/imexportdialog.h"
 #include "ui/message_bar.h"
 #include "ui/page_fixture.h"
@@ -14,7 +15,7 @@
 #include "ui/stacksetuppage.h"
 #include "workstation/plugin_node.h"
 
-#include <QDoubleSpinBox>
+#include <QCoreApplication>
 #include <QFile>
 #include <QListView>
 #include <QPushButton>
@@ -114,6 +115,18 @@ TEST_F(HomeExchange, TheSetUpPageIsEmptyWhenItsRecipeGoesWithTheImport)
     press(open("btnImport"), "btnUndo");
     EXPECT_EQ(pages.setup->stack(), nullptr);
     EXPECT_EQ(shown(), (QStringList{"A", "B"}));
+}
+
+TEST(HomePageForm, FitsASmallPanelInLongerLanguages)
+{
+    const Looks looks;
+    const LongLanguage language;
+    Pages pages;
+    pages.tree.addRecipe("Box");
+    QCoreApplication::processEvents();
+    const QSize smallest = pages.home->wgt()->minimumSizeHint();
+    EXPECT_LE(smallest.width(), 836); // of 1024 x 640, beside the navigator and above the line of messages
+    EXPECT_LE(smallest.height(), 566);
 }
 
 } // namespace
