@@ -83,6 +83,7 @@ TEST(QuitSignals, ThePanelSavesAndEndsWithoutFault)
         QFile store(folder.filePath(QStringLiteral("store.sqlite")));
         ASSERT_TRUE(store.open(QIODevice::ReadOnly));
         EXPECT_TRUE(store.readAll().contains("Line left"));
-        EXPECT_FALSE(QFile::exists(store.fileName() + QStringLiteral("-wal"))); // closed, not abandoned
+        EXPECT_FALSE(QFile::exists(store.fileName() + QStringLiteral("-wal")));       // closed, not abandoned
+        EXPECT_TRUE(QFileInfo(folder.filePath(QStringLiteral("removable"))).isDir()); // in place of a disk
     }
 }
