@@ -21,7 +21,7 @@ QStringList xFileDialog::ask(QWidget *parent, const FileRequest &request)
     // May end with its parent while it waits.
     const QPointer<xFileDialog> dialog(new xFileDialog(request, palx::MediaPlaces::ofMachine(), parent));
     const bool isAccepted = dialog->exec() == Accepted && dialog;
-    const QStringList chosen = isAccepted ? dialog->chosen() : QStringList();
+    QStringList chosen = isAccepted ? dialog->chosen() : QStringList();
     delete dialog;
     return chosen;
 }

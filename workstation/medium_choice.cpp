@@ -34,10 +34,10 @@ QString folderRefusal(const Medium &medium, const QString &folder)
 
 QString fileRefusal(const Medium &medium, const QString &folder, const QString &name)
 {
-    const QString inFolder = folderRefusal(medium, folder);
+    QString inFolder = folderRefusal(medium, folder);
     if (!inFolder.isEmpty())
         return inFolder;
-    const QString ofName = nameRefusal(name, medium.fileSystem);
+    QString ofName = nameRefusal(name, medium.fileSystem);
     if (ofName.isEmpty() && QFileInfo(QDir(folder).filePath(name)).isDir())
         return Text::tr("There is a folder of that name.");
     return ofName;
@@ -45,7 +45,7 @@ QString fileRefusal(const Medium &medium, const QString &folder, const QString &
 
 QString newFolderRefusal(const Medium &medium, const QString &folder, const QString &name)
 {
-    const QString refusal = fileRefusal(medium, folder, name);
+    QString refusal = fileRefusal(medium, folder, name);
     if (refusal.isEmpty() && QFileInfo::exists(QDir(folder).filePath(name)))
         return Text::tr("There is a file of that name.");
     return refusal;

@@ -59,7 +59,7 @@ FolderContents readFolder(const QString &root, const QString &folder, const File
 
 void sortEntries(QVector<FolderEntry> *entries, EntryOrder order, Qt::SortOrder direction)
 {
-    QCollator collator(QLocale(QLocale::English)); // the locale of a bare system knows no numbers in names
+    QCollator collator{QLocale(QLocale::English)}; // the locale of a bare system knows no numbers in names
     collator.setNumericMode(true);
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     const auto byName = [&](const FolderEntry &a, const FolderEntry &b) {

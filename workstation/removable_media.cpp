@@ -74,7 +74,7 @@ public:
     /// device number of a disk, but name their source.
     QString folderOf(const Mount &mount) const
     {
-        const QString byNumber =
+        QString byNumber =
             QFileInfo(sys_ + QStringLiteral("/dev/block/") + mount.device).canonicalFilePath();
         if (!byNumber.isEmpty() || !mount.source.startsWith(QLatin1String("/dev/")))
             return byNumber;
