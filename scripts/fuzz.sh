@@ -1,7 +1,7 @@
 #!/bin/sh
 # Builds a fuzzer with clang and the sanitizers and lets it run.
 #
-#   scripts/fuzz.sh NAME SECONDS     NAME: exchange, frame, script, script_run (fuzz/NAME_fuzz.cpp)
+#   scripts/fuzz.sh NAME SECONDS     NAME: archive, exchange, frame, script, script_run (fuzz/NAME_fuzz.cpp)
 #
 # Starts from fuzz/corpus/NAME and keeps what it finds in build/fuzz/corpus/NAME. A finding is written to build/fuzz and
 # ends the run with an error.
