@@ -1,9 +1,9 @@
 // Archives from outside: whatever bytes come, the judge refuses them with a reason, or they are unpacked to exactly what it
 // listed and to nowhere else.
 
+#include "project/raw_zip.h"
 #include "project/rules/archive_check.h"
 #include "project/rules/archive_unpack.h"
-#include "project/raw_zip.h"
 
 #include <QBuffer>
 #include <QDir>

@@ -65,20 +65,22 @@ QString kindProblem(const QuaZipFileInfo64 &info)
     const struct
     {
         bool holds;
-        QString text;
+        const char *text;
     } problems[] = {
-        {info.isEncrypted() || (info.flags & kStrongEncryption) != 0, ProjectText::tr("is encrypted")},
-        {info.isSymbolicLink(), ProjectText::tr("is a link")},
-        {isOther, ProjectText::tr("is neither a file nor a folder")},
+        {info.isEncrypted() || (info.flags & kStrongEncryption) != 0,
+         QT_TRANSLATE_NOOP("palx::ProjectText", "is encrypted")},
+        {info.isSymbolicLink(), QT_TRANSLATE_NOOP("palx::ProjectText", "is a link")},
+        {isOther, QT_TRANSLATE_NOOP("palx::ProjectText", "is neither a file nor a folder")},
         {isFolder != isCalledFolder && (isCalledFolder || kind == S_IFREG),
-         ProjectText::tr("is called a file and a folder")},
-        {isFolder && info.uncompressedSize != 0, ProjectText::tr("is a folder with a content of its own")},
+         QT_TRANSLATE_NOOP("palx::ProjectText", "is called a file and a folder")},
+        {isFolder && info.uncompressedSize != 0,
+         QT_TRANSLATE_NOOP("palx::ProjectText", "is a folder with a content of its own")},
         {info.method != kStored && info.method != kDeflated,
-         ProjectText::tr("is packed in a way that is not known here")},
+         QT_TRANSLATE_NOOP("palx::ProjectText", "is packed in a way that is not known here")},
     };
     for (const auto &problem : problems)
         if (problem.holds)
-            return problem.text;
+            return ProjectText::tr(problem.text);
     return QString();
 }
 
@@ -153,10 +155,9 @@ private:
     bool readEntry(const ArchiveEntry &entry, qint64 *done, Progress *progress)
     {
         constexpr int kPiece = 64 * 1024;
-        const QString damaged = ProjectText::tr("is damaged");
         QuaZipFile file(zip_);
         if (!file.open(QIODevice::ReadOnly))
-            return refuseEntry(why_, entry.name, damaged);
+            return refuseDamaged(entry);
         QByteArray piece(kPiece, Qt::Uninitialized);
         qint64 size = 0;
         for (qint64 got = 1; got > 0; size += got) {
@@ -166,13 +167,18 @@ private:
                 return false;
             got = file.read(piece.data(), kPiece);
             if (got < 0)
-                return refuseEntry(why_, entry.name, damaged);
+                return refuseDamaged(entry);
         }
         file.close(); // compares the checksum
         if (size != entry.size || file.getZipError() != UNZ_OK)
-            return refuseEntry(why_, entry.name, damaged);
+            return refuseDamaged(entry);
         *done += size;
         return true;
+    }
+
+    bool refuseDamaged(const ArchiveEntry &entry)
+    {
+        return refuseEntry(why_, entry.name, ProjectText::tr("is damaged"));
     }
 
     QuaZip *zip_;
@@ -182,10 +188,9 @@ private:
     EntryNames names_;
 };
 
-} // namespace
-
-bool checkArchive(QIODevice *device, ArchiveContent *content, QString *why, Progress *progress,
-                  const ArchiveLimits &limits)
+/// Without somebody to tell, the contents are not read.
+bool judge(QIODevice *device, ArchiveContent *content, QString *why, Progress *progress,
+           const ArchiveLimits &limits)
 {
     *content = ArchiveContent();
     why->clear();
@@ -198,17 +203,35 @@ bool checkArchive(QIODevice *device, ArchiveContent *content, QString *why, Prog
     zip.setFileNameCodec(QTextCodec::codecForName("UTF-8"));
     if (!zip.open(QuaZip::mdUnzip))
         return refuse(why, ProjectText::tr("it is no whole zip archive"));
-    Judge judge(&zip, limits, content, why);
-    return judge.list() && judge.readAll(progress);
+    Judge entries(&zip, limits, content, why);
+    return entries.list() && (!progress || entries.readAll(progress));
+}
+
+/// A pipe would be waited for.
+bool isFile(const QString &name, QString *why)
+{
+    return QFileInfo(name).isFile() || refuse(why, ProjectText::tr("there is no such file"));
+}
+
+} // namespace
+
+bool checkArchive(QIODevice *device, ArchiveContent *content, QString *why, Progress *progress,
+                  const ArchiveLimits &limits)
+{
+    return judge(device, content, why, progress, limits);
 }
 
 bool checkArchive(const QString &name, ArchiveContent *content, QString *why, Progress *progress,
                   const ArchiveLimits &limits)
 {
-    if (!QFileInfo(name).isFile()) // a pipe would be waited for
-        return refuse(why, ProjectText::tr("there is no such file"));
     QFile file(name);
-    return checkArchive(&file, content, why, progress, limits);
+    return isFile(name, why) && judge(&file, content, why, progress, limits);
+}
+
+bool listArchive(const QString &name, ArchiveContent *content, QString *why, const ArchiveLimits &limits)
+{
+    QFile file(name);
+    return isFile(name, why) && judge(&file, content, why, nullptr, limits);
 }
 
 } // namespace palx

@@ -41,20 +41,24 @@ QString entryNameProblem(const QString &name, const ArchiveLimits &limits)
     const struct
     {
         bool holds;
-        QString text;
+        const char *text;
     } problems[] = {
-        {QDir::isAbsolutePath(name) || startsWithDrive(name), ProjectText::tr("has an absolute name")},
-        {parts.contains(QStringLiteral("..")), ProjectText::tr("leads out of the folder")},
-        {name.contains(QLatin1Char('\\')), ProjectText::tr("has a backslash in its name")},
-        {hasEmptyPart, ProjectText::tr("has a name that is no path")},
-        {!isUtf8(name), ProjectText::tr("has a name that is no text in UTF-8")},
+        {QDir::isAbsolutePath(name) || startsWithDrive(name),
+         QT_TRANSLATE_NOOP("palx::ProjectText", "has an absolute name")},
+        {parts.contains(QStringLiteral("..")),
+         QT_TRANSLATE_NOOP("palx::ProjectText", "leads out of the folder")},
+        {name.contains(QLatin1Char('\\')),
+         QT_TRANSLATE_NOOP("palx::ProjectText", "has a backslash in its name")},
+        {hasEmptyPart, QT_TRANSLATE_NOOP("palx::ProjectText", "has a name that is no path")},
+        {!isUtf8(name), QT_TRANSLATE_NOOP("palx::ProjectText", "has a name that is no text in UTF-8")},
         {std::any_of(name.begin(), name.end(), isControl),
-         ProjectText::tr("has a control character in its name")},
-        {name.toUtf8().size() > limits.nameBytes, ProjectText::tr("has too long a name")},
+         QT_TRANSLATE_NOOP("palx::ProjectText", "has a control character in its name")},
+        {name.toUtf8().size() > limits.nameBytes,
+         QT_TRANSLATE_NOOP("palx::ProjectText", "has too long a name")},
     };
     for (const auto &problem : problems)
         if (problem.holds)
-            return problem.text;
+            return ProjectText::tr(problem.text);
     return QString();
 }
 

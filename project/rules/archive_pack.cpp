@@ -34,6 +34,7 @@ public:
     {
     }
 
+    qint64 bytes() const { return bytes_; }
     bool copyAll() { return makeFolder(QString()) && copyFolder(QString()); }
 
 private:
@@ -102,27 +103,34 @@ void useUtf8Names()
 
 } // namespace
 
-bool copyForArchive(const QString &source, const QString &copy, QString *why)
+bool copyForArchive(const QString &source, const QString &copy, qint64 *bytes, QString *why)
 {
     why->clear();
-    return QFileInfo(source).isDir() ? TreeCopy(source, copy, why).copyAll()
-                                     : refuse(why, ProjectText::tr("there is no folder %1").arg(source));
+    if (!QFileInfo(source).isDir())
+        return refuse(why, ProjectText::tr("there is no folder %1").arg(source));
+    TreeCopy tree(source, copy, why);
+    const bool isDone = tree.copyAll();
+    *bytes = tree.bytes();
+    return isDone;
 }
 
-bool packFolder(const QString &folder, const QString &archive, QString *why, Progress *progress)
+bool packFolder(const QString &folder, qint64 bytes, const QString &archive, QString *why, Progress *progress)
 {
+    constexpr qint64 kSoonDone = 2 * 1024 * 1024; // a few hundredths of a second, less than a thread is worth
     why->clear();
     useUtf8Names();
     bool isPacked = false;
-    BesideTold told;
-    told.text = ProjectText::tr("Packing %1").arg(QFileInfo(archive).fileName());
-    told.prevent = [&folder] { removeFolder(folder); };
-    runBeside(progress, told,
-              [&] { isPacked = JlCompress::compressDir(archive, folder, true, QDir::Hidden); });
+    const auto pack = [&] { isPacked = JlCompress::compressDir(archive, folder, true, QDir::Hidden); };
+    const QString text = ProjectText::tr("Packing %1").arg(QFileInfo(archive).fileName());
+    progress->step(0, 0, text);
+    if (bytes > kSoonDone)
+        runBeside(progress, {text, [&folder] { removeFolder(folder); }}, pack);
+    else
+        pack();
     ArchiveContent content;
     if (!progress->isCancelled() && !isPacked)
         *why = ProjectText::tr("the archive cannot be written: %1").arg(archive);
-    if (!progress->isCancelled() && isPacked && checkArchive(archive, &content, why, progress))
+    if (!progress->isCancelled() && isPacked && listArchive(archive, &content, why))
         return true;
     QFile::remove(archive);
     return false;

@@ -17,9 +17,11 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <unistd.h>
 
 namespace palx {
 
@@ -56,26 +58,38 @@ public:
     /// The archives so far get their names.
     bool finish(QString *why, Progress *progress)
     {
-        if (whole_.isEmpty())
-            return true;
-        if (!sync(why, progress))
-            return false;
-        for (const QString &name : std::as_const(whole_))
-            if (std::rename(QFile::encodeName(begin(name)).constData(),
-                            QFile::encodeName(archivePath(target_, name)).constData()) != 0) {
-                *why = QStringLiteral("%1: %2").arg(archivePath(target_, name), qt_error_string());
-                return false;
-            }
-        return sync(why, progress);
+        bool isDone = whole_.isEmpty();
+        if (!isDone)
+            runBeside(progress, {ProjectText::tr("Writing to the disk"), {}},
+                      [&] { isDone = writeThrough(why) && nameAll(why) && syncFileSystem(target_, why); });
+        return isDone;
     }
 
 private:
-    bool sync(QString *why, Progress *progress) const
+    /// Before they get their names: a name must not reach the disk before what it names.
+    bool writeThrough(QString *why) const
     {
-        bool isDone = false;
-        runBeside(progress, {ProjectText::tr("Writing to the disk"), {}, 0, {}},
-                  [&] { isDone = syncFileSystem(target_, why); });
-        return isDone;
+        for (const QString &name : whole_) {
+            QFile file(begin(name));
+            if (!file.open(QIODevice::ReadOnly) || ::fsync(file.handle()) != 0)
+                return explain(name, why);
+        }
+        return true;
+    }
+
+    bool nameAll(QString *why) const
+    {
+        for (const QString &name : whole_)
+            if (std::rename(QFile::encodeName(begin(name)).constData(),
+                            QFile::encodeName(archivePath(target_, name)).constData()) != 0)
+                return explain(name, why);
+        return true;
+    }
+
+    bool explain(const QString &name, QString *why) const
+    {
+        *why = QStringLiteral("%1: %2").arg(archivePath(target_, name), qt_error_string());
+        return false;
     }
 
     QString target_;
@@ -90,6 +104,17 @@ bool warn(const QString &text, const QString &why)
     return reportProject("warning", text);
 }
 
+/// Replaces a name in the copy; the project's file, which may share its content with the copy's, stays. Nothing is flushed,
+/// because the copy goes when it is packed.
+bool writeBeside(const QString &name, const QByteArray &text, QString *why)
+{
+    QSaveFile file(name);
+    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() && file.commit())
+        return true;
+    *why = QStringLiteral("%1: %2").arg(name, file.errorString());
+    return false;
+}
+
 /// The copy that is packed gets a "var.xml" of its own, so that the project's stays whatever happens.
 bool addParametersTo(const QString &copy, const QString &project, QString *why)
 {
@@ -101,10 +126,9 @@ bool addParametersTo(const QString &copy, const QString &project, QString *why)
     temporary.assign(fixed);
     addParameterVariables(projectRecord(project)->node(), &temporary);
     orba::FormatError error;
-    if (orba::ModuleManager::writeToXmlFile(temporary, file, &error)) // a new file: the project's stays
-        return true;
+    const QByteArray text = orba::ModuleManager::toXml(temporary, &error);
     *why = error.text();
-    return false;
+    return !error.isSet() && writeBeside(file, text, why);
 }
 
 bool exportProject(const QString &name, const QString &archive, QString *why, Progress *progress)
@@ -120,8 +144,9 @@ bool exportProject(const QString &name, const QString &archive, QString *why, Pr
         return false;
     }
     const QString copy = work.filePath(QStringLiteral("copy"));
-    return copyForArchive(folder, copy, why) && addParametersTo(copy, name, why) &&
-           packFolder(copy, archive, why, progress);
+    qint64 bytes = 0;
+    return copyForArchive(folder, copy, &bytes, why) && addParametersTo(copy, name, why) &&
+           packFolder(copy, bytes, archive, why, progress);
 }
 
 /// Built-in templates are copied to files first: a folder in the archive would else be one that cannot be written to.
@@ -129,8 +154,9 @@ bool exportTemplates(const QString &programFolder, const QString &archive, QStri
 {
     const QTemporaryDir work;
     const QString copy = work.filePath(kTemplates);
-    return copyForArchive(programTemplateRoot(programFolder), copy, why) &&
-           packFolder(copy, archive, why, progress);
+    qint64 bytes = 0;
+    return copyForArchive(programTemplateRoot(programFolder), copy, &bytes, why) &&
+           packFolder(copy, bytes, archive, why, progress);
 }
 
 bool exportAll(const ExportRequest &request, ArchiveDesk *desk, Progress *progress)

@@ -48,7 +48,7 @@ struct Unpacked
 bool flush(const QString &folder, QString *why, Progress *progress)
 {
     bool isDone = false;
-    runBeside(progress, {ProjectText::tr("Writing to the disk"), {}, 0, {}},
+    runBeside(progress, {ProjectText::tr("Writing to the disk"), {}},
               [&] { isDone = syncFileSystem(folder, why); });
     return isDone;
 }

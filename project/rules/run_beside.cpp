@@ -11,7 +11,7 @@ void runBeside(Progress *progress, const BesideTold &told, const std::function<v
     const std::future<void> running = std::async(std::launch::async, work);
     bool isPrevented = false;
     while (running.wait_for(kTellEvery) != std::future_status::ready) {
-        progress->step(told.done ? told.done() : 0, told.total, told.text);
+        progress->step(0, 0, told.text);
         if (!isPrevented && told.prevent && progress->isCancelled()) {
             isPrevented = true;
             told.prevent();

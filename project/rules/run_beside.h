@@ -6,12 +6,10 @@
 
 namespace palx {
 
-/// How far work that runs beside has come, and what stops it.
+/// What is told of work that runs beside, and what stops it.
 struct BesideTold
 {
     QString text;
-    std::function<int()> done; ///< asked on the calling thread; none: unknown
-    int total = 0;             ///< 0: unknown
     std::function<void()>
         prevent; ///< called once when the work is cancelled, so that it fails soon; none: it is waited for
 };

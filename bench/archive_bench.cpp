@@ -1,0 +1,207 @@
+// Projects as archives: out and in, with parameters, judging, flushing and renaming. The floor is what the archive library
+// takes to pack the same folder, or to unpack the same archive, and the disk to take it.
+
+#include "project/rules/project_export.h"
+#include "project/rules/project_import.h"
+#include "shell/host_session.h"
+#include "workstation/file_sync.h"
+#include "workstation/plugin_node.h"
+
+#include "nexo/manager_helper.h"
+#include "orba/module_manager.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <JlCompress.h>
+
+#include <benchmark/benchmark.h>
+
+#include <ctime>
+#include <functional>
+#include <memory>
+#include <unistd.h>
+
+namespace {
+
+const QString kName = QStringLiteral("Line 1");
+
+class Quiet : public nexo::MessagePresenter
+{
+public:
+    Quiet() { nexo::ManagerHelper::instance()->setPresenter(this); }
+    ~Quiet() override { nexo::ManagerHelper::instance()->setPresenter(nullptr); }
+    bool ask(const nexo::Message &) override { return true; }
+    void notify(const QString &level, const QString &text) override
+    {
+        if (level != QLatin1String("info"))
+            qFatal("%s", qPrintable(text));
+    }
+};
+
+/// A project of so many program files in the folder of a robot that needs no controller.
+class Cell
+{
+public:
+    explicit Cell(int files)
+    {
+        host::SessionOptions options;
+        options.workspaceFolder = folder_.filePath(QStringLiteral("workspace"));
+        options.linkedPlugins = QStringList(palx::getPluginName());
+        options.pages = false;
+        session_ = std::make_unique<host::HostSession>(options);
+        if (!session_->start())
+            qFatal("the session does not start");
+        m("nexo.r.id")->set(nullptr, "", QStringLiteral("SIM-0001"), true);
+        QDir().mkpath(disk());
+        for (int i = 0; i < files; ++i)
+            putProgram(QStringLiteral("%1/task%2/program%3.mod").arg(project()).arg(i % 6).arg(i), i);
+        orba::Node variables; // as the controller writes them
+        for (int i = 0; i < 40; ++i)
+            variables.ensure(QStringLiteral("#%1.name").arg(i))
+                ->setString(QStringLiteral("variable%1").arg(i));
+        orba::ModuleManager::writeToXmlFile(variables, project() + QStringLiteral("/var.xml"));
+    }
+    ~Cell() { palx::forgetLastImport(); }
+
+    QString project() const { return folder_.filePath(QStringLiteral("workspace/SIM-0001/%1").arg(kName)); }
+    QString disk() const { return folder_.filePath(QStringLiteral("disk")); }
+    QString archive() const { return palx::archivePath(disk(), kName); }
+    QString other() const { return folder_.filePath(QStringLiteral("workspace/other")); }
+    void sendOut()
+    {
+        palx::NoProgress nobody;
+        if (!palx::exportProjects({{kName}, false, disk(), QString()}, &nobody))
+            qFatal("no archive was made");
+    }
+    void bringIn()
+    {
+        palx::NoProgress nobody;
+        palx::ImportRequest request;
+        request.archives = QStringList(archive());
+        request.onClash = palx::OnClash::Replace;
+        request.programFolder = folder_.filePath(QStringLiteral("program"));
+        if (!palx::importProjects(request, &nobody))
+            qFatal("no project was made");
+    }
+
+private:
+    /// Packs about as well as programs do.
+    static void putProgram(const QString &name, int seed)
+    {
+        QDir().mkpath(QFileInfo(name).path());
+        QFile file(name);
+        file.open(QIODevice::WriteOnly);
+        for (int line = 0; line < 250; ++line)
+            file.write(QStringLiteral("  MoveL(Offs(place%1, 0, 0, %2), v%3, z%4, tool%5)\n")
+                           .arg(qHash(line * 31 + seed) % 1000)
+                           .arg(qHash(line + seed * 17) % 900)
+                           .arg(100 + seed % 50)
+                           .arg(line % 7)
+                           .arg(seed % 3)
+                           .toUtf8());
+    }
+
+    Quiet presenter_;
+    QTemporaryDir folder_;
+    std::unique_ptr<host::HostSession> session_;
+};
+
+/// The file, and then what leads to it.
+void flush(const QString &name)
+{
+    QFile file(name);
+    file.open(QIODevice::ReadOnly);
+    ::fsync(file.handle());
+    palx::syncFileSystem(name);
+}
+
+double now(clockid_t clock)
+{
+    timespec time{};
+    ::clock_gettime(clock, &time);
+    return double(time.tv_sec) + double(time.tv_nsec) / 1e9;
+}
+
+struct Took
+{
+    double wall = 0; ///< [s]
+    double work = 0; ///< of all threads [s]
+};
+
+Took took(const std::function<void()> &work)
+{
+    const Took start{now(CLOCK_MONOTONIC), now(CLOCK_PROCESS_CPUTIME_ID)};
+    work();
+    return {now(CLOCK_MONOTONIC) - start.wall, now(CLOCK_PROCESS_CPUTIME_ID) - start.work};
+}
+
+/// Both in turn in one run, so that the machine is the same. "ratio" compares the work of the processor, which others on the
+/// machine and the disk do not disturb; "wall_ratio" the time that went by.
+void compare(benchmark::State &state, const std::function<void()> &ours, const std::function<void()> &floor)
+{
+    Took all, floors;
+    for (auto _ : state) {
+        const Took bare = took(floor);
+        const Took mine = took(ours);
+        floors = {floors.wall + bare.wall, floors.work + bare.work};
+        all = {all.wall + mine.wall, all.work + mine.work};
+        state.SetIterationTime(mine.wall);
+    }
+    const double rounds = double(state.iterations()) / 1000;
+    state.counters["work_ms"] = all.work / rounds;
+    state.counters["floor_work_ms"] = floors.work / rounds;
+    state.counters["ratio"] = all.work / floors.work;
+    state.counters["wall_ratio"] = all.wall / floors.wall;
+}
+
+void exportProject(benchmark::State &state)
+{
+    Cell cell(int(state.range(0)));
+    compare(
+        state, [&] { cell.sendOut(); },
+        [&] {
+            const QString bare = cell.disk() + QStringLiteral("/bare.zip");
+            JlCompress::compressDir(bare, cell.project(), true, QDir::Hidden);
+            flush(bare);
+        });
+}
+BENCHMARK(exportProject)
+    ->Arg(20)
+    ->Arg(200)
+    ->Arg(2000)
+    ->Iterations(25)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+void importProject(benchmark::State &state)
+{
+    Cell cell(int(state.range(0)));
+    cell.sendOut();
+    compare(
+        state, [&] { cell.bringIn(); },
+        [&] {
+            QDir(cell.other()).removeRecursively();
+            JlCompress::extractDir(cell.archive(), cell.other());
+            palx::syncFileSystem(cell.other());
+        });
+}
+BENCHMARK(importProject)
+    ->Arg(20)
+    ->Arg(200)
+    ->Arg(2000)
+    ->Iterations(25)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
