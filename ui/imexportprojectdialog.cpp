@@ -26,6 +26,7 @@ using palx::TemplateAction;
 
 namespace {
 
+constexpr QSize kSize(960, 620); // fits a panel of 1024 x 640
 const char *const kImportFolder = "project_import";
 const char *const kExportFolder = "project_export";
 
@@ -76,6 +77,7 @@ ImExportProjectDialog::ImExportProjectDialog(bool import, QWidget *parent, const
     }
     showState();
     showUndo();
+    resize(kSize);
 }
 
 ImExportProjectDialog::~ImExportProjectDialog() = default;
