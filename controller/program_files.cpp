@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -30,6 +31,8 @@ QString readSource(const QDir &folder, const QString &name, script::Source *sour
     QFile file(folder.filePath(name));
     if (name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\')))
         return Texts::tr("this is no name of a file");
+    if (file.exists() && !QFileInfo(file).isFile())
+        return Texts::tr("this is no file"); // a pipe would be waited for
     if (!file.open(QIODevice::ReadOnly))
         return Texts::tr("the file cannot be read: %1").arg(file.errorString());
     if (file.size() > kMaxFile)
