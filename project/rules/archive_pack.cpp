@@ -29,8 +29,8 @@ bool refuse(QString *why, const QString &reason)
 class TreeCopy
 {
 public:
-    TreeCopy(const QString &source, const QString &copy, QString *why)
-        : source_(source), copy_(copy), why_(why)
+    TreeCopy(const QString &source, const QString &copy, QString *why, Progress *progress)
+        : source_(source), copy_(copy), why_(why), progress_(progress)
     {
     }
 
@@ -43,7 +43,8 @@ private:
     {
         for (const QFileInfo &entry : QDir(source_ + QLatin1Char('/') + inside).entryInfoList(kEverything)) {
             const QString name = inside + entry.fileName();
-            if (!isAllowed(entry, name))
+            progress_->step(0, 0, ProjectText::tr("Packing %1").arg(name));
+            if (progress_->isCancelled() || !isAllowed(entry, name))
                 return false;
             const bool isDone = entry.isDir() ? makeFolder(name) && copyFolder(name + QLatin1Char('/'))
                                               : copyFile(entry.filePath(), name);
@@ -89,6 +90,7 @@ private:
     QString source_;
     QString copy_;
     QString *why_;
+    Progress *progress_;
     ArchiveLimits limits_;
     EntryNames names_;
     int entries_ = 0;
@@ -103,12 +105,13 @@ void useUtf8Names()
 
 } // namespace
 
-bool copyForArchive(const QString &source, const QString &copy, qint64 *bytes, QString *why)
+bool copyForArchive(const QString &source, const QString &copy, qint64 *bytes, QString *why,
+                    Progress *progress)
 {
     why->clear();
     if (!QFileInfo(source).isDir())
         return refuse(why, ProjectText::tr("there is no folder %1").arg(source));
-    TreeCopy tree(source, copy, why);
+    TreeCopy tree(source, copy, why, progress);
     const bool isDone = tree.copyAll();
     *bytes = tree.bytes();
     return isDone;

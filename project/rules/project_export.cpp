@@ -145,7 +145,7 @@ bool exportProject(const QString &name, const QString &archive, QString *why, Pr
     }
     const QString copy = work.filePath(QStringLiteral("copy"));
     qint64 bytes = 0;
-    return copyForArchive(folder, copy, &bytes, why) && addParametersTo(copy, name, why) &&
+    return copyForArchive(folder, copy, &bytes, why, progress) && addParametersTo(copy, name, why) &&
            packFolder(copy, bytes, archive, why, progress);
 }
 
@@ -155,7 +155,7 @@ bool exportTemplates(const QString &programFolder, const QString &archive, QStri
     const QTemporaryDir work;
     const QString copy = work.filePath(kTemplates);
     qint64 bytes = 0;
-    return copyForArchive(programTemplateRoot(programFolder), copy, &bytes, why) &&
+    return copyForArchive(programTemplateRoot(programFolder), copy, &bytes, why, progress) &&
            packFolder(copy, bytes, archive, why, progress);
 }
 
