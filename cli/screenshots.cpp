@@ -13,6 +13,7 @@
 #include "plan_pictures.h"
 #include "project_pictures.h"
 #include "recipe_commands.h"
+#include "run_pictures.h"
 #include "stack/way_points.h"
 #include "ui/pattern_view.h"
 #include "ui/recipe_frame.h"
@@ -312,6 +313,14 @@ void takeProjects(Camera &camera)
         camera.fail(QStringLiteral("no project was made"));
 }
 
+/// The line and its cell while they work, with a controller of their own.
+void takeRun(Camera &camera)
+{
+    const auto take = [&camera](QWidget *widget, const QString &name) { camera.takeWindow(widget, name); };
+    if (!showRun(camera.window(), take))
+        camera.fail(QStringLiteral("the line did not come to run"));
+}
+
 /// The file dialog, and what is shown while files are written.
 void takeFiles(Camera &camera)
 {
@@ -364,6 +373,7 @@ QString takeAll(Session &session, const ScreenshotRequest &request, int *count)
     }
     camera.takePage(QStringLiteral("panel.controller"), QStringLiteral("panel-controller-gone"));
     takeMoves(camera);
+    takeRun(camera);
     takeProjects(camera);
     takeFiles(camera);
     *count = camera.count();

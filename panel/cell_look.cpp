@@ -68,6 +68,22 @@ const QVector<DeskButton> &deskButtons()
     return buttons;
 }
 
+QStringList machineTexts(const Node &cell)
+{
+    const double ahead = cell.getDouble(u"conveyor.ahead");
+    QString conveyor = cell.getBool(u"conveyor.product") ? Text::tr("product at the stop")
+                                                         : Text::tr("product in %1 mm").arg(qRound(ahead));
+    if (cell.getBool(u"conveyor.jammed"))
+        conveyor = Text::tr("jammed");
+    QString gripper = cell.getBool(u"gripper.vacuum") ? Text::tr("vacuum") : Text::tr("no vacuum");
+    if (cell.getBool(u"gripper.carries"))
+        gripper = Text::tr("carries a product");
+    return {Text::tr("Conveyor: %1").arg(conveyor), Text::tr("Gripper: %1").arg(gripper),
+            Text::tr("Lift column: %1 mm, %2")
+                .arg(qRound(cell.getDouble(u"column.height")))
+                .arg(cell.getString(u"column.state"))};
+}
+
 QString faultText(const QString &name)
 {
     const struct

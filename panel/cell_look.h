@@ -3,6 +3,7 @@
 #include "ix/xtheme.h"
 #include "orba/node.h"
 
+#include <QStringList>
 #include <QVector>
 
 namespace panel {
@@ -35,6 +36,8 @@ struct DeskButton
 };
 const QVector<DeskButton> &deskButtons();
 
+/// Conveyor, gripper and lift column, a line each.
+QStringList machineTexts(const orba::Node &cell);
 /// "no-vacuum" in the operator's language.
 QString faultText(const QString &name);
 /// Simulated seconds as "0:12:05".

@@ -143,7 +143,8 @@ void CellPage::setupTables()
     signals_ = setupTable(ui_->tblSignals, 1);
     tasks_ = setupTable(ui_->tblTasks, 2);
     variables_ = setupTable(ui_->tblVariables, 0);
-    violations_ = setupTable(ui_->tblViolations, 4);
+    violations_ = setupTable(ui_->tblViolations, 2);
+    ui_->tblViolations->verticalHeader()->setDefaultSectionSize(56); // two lines
     const QList<QPushButton *> tabs{ui_->tabDesk, ui_->tabInputs, ui_->tabTasks, ui_->tabVariables,
                                     ui_->tabFaults};
     for (int i = 0; i < tabs.size(); ++i)
@@ -172,7 +173,7 @@ void CellPage::nameTitles()
     signals_->setTitles({tr("Signal"), tr("Meaning"), tr("State")});
     tasks_->setTitles({tr("Task"), tr("State"), tr("Line"), tr("Procedure")});
     variables_->setTitles({tr("Name"), tr("Value"), tr("Type")});
-    violations_->setTitles({tr("Task"), tr("Line"), tr("Layer / piece"), tr("Body"), tr("Met")});
+    violations_->setTitles({tr("Task, line"), tr("Layer / piece"), tr("Bodies")});
 }
 
 // ---------------------------------------------------------------- following the controller
@@ -265,6 +266,7 @@ void CellPage::showDesk()
         ix::xtheme::setState(labels[side], look.state);
     }
     ui_->btnClear->setEnabled(cell().getBool(u"gripper.carries"));
+    ui_->lblFacts->setText(machineTexts(cell()).join(QLatin1Char('\n')));
 }
 
 void CellPage::showSpeed()

@@ -142,8 +142,11 @@ QVector<CellRow> violationRows(const Node &cell)
     QVector<CellRow> rows = rowsOf(cell.find(u"violations"), [](const Node &violation) {
         const QString at =
             QStringLiteral("%1 / %2").arg(violation.getInt(u"layer")).arg(violation.getInt(u"piece"));
-        return CellRow{{violation.getString(u"task"), fileAndLine(violation), at,
-                        violation.getString(u"first"), violation.getString(u"second")},
+        const auto twoLines = [](const QString &upper, const QString &lower) {
+            return lower.isEmpty() ? upper : upper + QLatin1Char('\n') + lower;
+        };
+        return CellRow{{twoLines(violation.getString(u"task"), fileAndLine(violation)), at,
+                        twoLines(violation.getString(u"first"), violation.getString(u"second"))},
                        violation.getString(u"what"),
                        State::None};
     });

@@ -49,7 +49,8 @@ private:
 QVector<CellRow> taskRows(const orba::Node &cell);
 /// "DI2_0", "start button", "on"; known by the name of the signal.
 QVector<CellRow> signalRows(const orba::Node &cell);
-/// The latest first: "task0", "main.mod:12", "2 / 5", "box 3 of layer 1 on the left pallet", "column".
+/// The latest first, in two lines: task, and file with line; "2 / 5" for layer and piece; the two bodies. Known by what
+/// happened.
 QVector<CellRow> violationRows(const orba::Node &cell);
 /// The variables whose name or description holds a text: "currentLayerL", "3", "int"; known by the name. Those that cannot
 /// be set, because they are not persistent, have their type in brackets.

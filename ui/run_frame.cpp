@@ -250,6 +250,7 @@ void RunFrame::startAt(RunSideCard *card)
         return refuse(problem);
     StartRequest request;
     request.title = numberOf(card) == 0 ? tr("Start the left side at") : tr("Start the right side at");
+    request.accept = tr("Start here");
     request.text = tr("Recipe \"%1\"").arg(card->shown().recipeName());
     request.piece = run.sides[static_cast<std::size_t>(numberOf(card))].counted;
     askForPiece(card, request, {});
@@ -264,6 +265,7 @@ void RunFrame::recover(RunSideCard *card, bool thenEnable)
         tr("Clear the gripper, look at the pallet, and confirm the box to go on with. It is proposed by the "
            "counters and by what lies there.");
     request.piece = palx::currentRunRecovery().sides[static_cast<std::size_t>(numberOf(card))].proposed;
+    request.accept = tr("Confirm");
     request.mustClear = true;
     askForPiece(card, request,
                 thenEnable ? palx::enableChanges(card->side(), true) : palx::VariableChanges());

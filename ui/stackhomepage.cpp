@@ -61,6 +61,8 @@ StackHomePage::StackHomePage(QWidget *parent, bwaf::BModule *module)
       onController_(new palx::ControllerRecipes(wgt_))
 {
     ui_->setupUi(setupParts());
+    for (QPushButton *button : {ui_->btnProjects, ui_->btnController}) // of both parts
+        partsRow_->addWidget(button);
     subPages()->registSubPage(kProjectManager,
                               [](QWidget *page, QWidget *owner) { return new ProjectManager(page, owner); });
     wgt_->installEventFilter(this);
@@ -103,11 +105,11 @@ QWidget *StackHomePage::setupParts()
     QWidget *content = subPages()->content();
     auto *column = new QVBoxLayout(content);
     column->setContentsMargins(12, 12, 12, 0);
-    auto *row = new QHBoxLayout;
-    column->addLayout(row);
-    btnRun_ = partButton(QStringLiteral("btnRun"), row);
-    btnRecipes_ = partButton(QStringLiteral("btnRecipes"), row);
-    row->addStretch();
+    partsRow_ = new QHBoxLayout;
+    column->addLayout(partsRow_);
+    btnRun_ = partButton(QStringLiteral("btnRun"), partsRow_);
+    btnRecipes_ = partButton(QStringLiteral("btnRecipes"), partsRow_);
+    partsRow_->addStretch();
     parts_ = new QStackedWidget;
     column->addWidget(parts_, 1);
     auto *recipes = new QWidget;

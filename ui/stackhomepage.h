@@ -9,6 +9,7 @@
 #include <memory>
 
 class LayerTableModel;
+class QHBoxLayout;
 class QModelIndex;
 class QPushButton;
 class QSortFilterProxyModel;
@@ -90,6 +91,7 @@ private:
     QSortFilterProxyModel *found_;
     LayerTableModel *layers_;
     palx::ControllerRecipes *onController_;
+    QHBoxLayout *partsRow_ = nullptr;
     QPushButton *btnRun_ = nullptr;
     QPushButton *btnRecipes_ = nullptr;
     QStackedWidget *parts_ = nullptr;

@@ -29,6 +29,8 @@ StartDialog::StartDialog(StartRequest request, QWidget *parent)
     setWindowTitle(request_.title);
     ui_->lblTitle->setText(request_.title);
     ui_->lblText->setText(request_.text);
+    ui_->btnOk->setText(request_.accept);
+    ui_->btnOk->setAccessibleName(request_.accept);
     request_.mustClear = request_.mustClear || holdsSomething();
     ui_->chkClear->setVisible(request_.mustClear);
     ui_->view->showStack(&request_.stack);
@@ -113,6 +115,7 @@ void StartDialog::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui_->retranslateUi(this);
+        ui_->btnOk->setText(request_.accept);
         showChoice();
     }
     QDialog::changeEvent(event);

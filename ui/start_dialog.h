@@ -14,11 +14,11 @@ class StartDialog;
 /// What an operator is asked for before a side goes on at a layer and piece.
 struct PALX_API StartRequest
 {
-    QString title, text;
-    int side = 0;            ///< 0 left, 1 right
-    orba::Node stack;        ///< the recipe with its points
-    palx::PalletPiece piece; ///< proposed
-    bool mustClear = false;  ///< the operator has to confirm that the gripper is empty
+    QString title, text, accept; ///< `accept` stands on the button
+    int side = 0;                ///< 0 left, 1 right
+    orba::Node stack;            ///< the recipe with its points
+    palx::PalletPiece piece;     ///< proposed
+    bool mustClear = false;      ///< the operator has to confirm that the gripper is empty
 };
 
 /// Asks for layer and piece to go on with, and shows what would lie on the pallet then. Only what the recipe has can be

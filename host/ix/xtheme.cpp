@@ -69,7 +69,8 @@ QString stateRules()
         if (state.state != State::None)
             rules +=
                 QStringLiteral("*[state=\"%1\"] { background-color: %2; color: %3; border: 1px solid %2; "
-                               "border-radius: 6px; }\n")
+                               "border-radius: 6px; }\n"
+                               "QFrame[state=\"%1\"] > QLabel { color: %3; }\n")
                     .arg(QLatin1String(state.name), hex(state.ground), hex(state.text));
     return rules;
 }

@@ -110,8 +110,11 @@ RunSide readRunSide(const RunSource &source, LineSide which)
     side.cycleSeconds = values.value("cycleTime").toDouble();
     if (const Node *stack = recipeOfSide(source.stacks, which, side.recipe)) {
         side.layers = pointLayers(*stack);
+        if (side.isFull) // the counters stand before the next pallet
+            side.piece = layerPieces(*stack, side.layer = side.layers);
         side.pieces = layerPieces(*stack, side.layer);
         side.expected = piecesBefore(*stack, side.layers + 1, 1, false);
+        side.piled = side.isFull ? side.expected : side.piled;
     }
     return side;
 }

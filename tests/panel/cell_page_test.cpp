@@ -279,8 +279,8 @@ TEST_F(CellPageTest, ListsViolations)
          "first":"box 5 of layer 2 on the left pallet","second":"column"}])"));
     press("tabFaults");
     EXPECT_EQ(row("tblViolations", 0),
-              QStringList({QStringLiteral("task0"), QStringLiteral("Left.mod:9"), QStringLiteral("2 / 5"),
-                           QStringLiteral("box 5 of layer 2 on the left pallet"), QStringLiteral("column")}));
+              QStringList({QStringLiteral("task0\nLeft.mod:9"), QStringLiteral("2 / 5"),
+                           QStringLiteral("box 5 of layer 2 on the left pallet\ncolumn")}));
     child<QTableView>("tblViolations")->selectRow(0);
     EXPECT_EQ(text("lblViolation"), QStringLiteral("the box met the column"));
 }
@@ -324,6 +324,20 @@ TEST_F(CellPageTest, PaintsOnlyWhatIsAnotherPicture)
     carrier->pass(5);
     settle();
     EXPECT_EQ(text("lblTime"), time) << "not followed while it is not seen";
+}
+
+TEST_F(CellPageTest, FitsASmallPanel)
+{
+    openPage();
+    const QSize room(820, 560); // of 1024 x 640 beside navigator and strip
+    for (const char *tab : {"tabDesk", "tabInputs", "tabTasks", "tabVariables", "tabFaults"}) {
+        press(tab);
+        page->resize(room);
+        settle();
+        EXPECT_EQ(page->size(), room) << tab;
+    }
+    for (const char *button : {"btnRun", "btnPause", "btnStep", "btnStop"})
+        EXPECT_EQ(child<QPushButton>(button)->property("role").toString(), QStringLiteral("run")) << button;
 }
 
 TEST(CellPicture, ShowsWhatIsThereAtEveryTurn)

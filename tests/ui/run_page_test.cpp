@@ -8,6 +8,7 @@
 #include "project/rules/run_recovery.h"
 #include "stack/recipe_edit.h"
 #include "stack/recipe_file.h"
+#include "ui/form_checks.h"
 #include "ui/message_bar.h"
 #include "ui/page_fixture.h"
 #include "ui/robot_cell.h"
@@ -317,4 +318,28 @@ TEST_F(RunPageTest, DoesNothingWhileItIsNotSeen)
     EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("7 of 45"));
     ask("monitor.pers.modify", R"({"palletCountL":8})");
     EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("8 of 45"));
+}
+
+TEST_F(RunPageTest, FitsASmallPanelAndAFingerInLongLanguages)
+{
+    const Looks looks;
+    const LongLanguage language;
+    makeProject();
+    openPage();
+    const QSize room(820, 500); // of 1024 x 640 beside navigator, strip and tabs
+    page->resize(room);
+    settle();
+    EXPECT_EQ(page->size(), room);
+    expectReadable(page.get(), QStringLiteral("run "));
+    expectTouchable(page.get(), QStringLiteral("run "));
+    expectNamed(page.get(), QStringLiteral("run "));
+    for (const char *button : {"btnEnable", "btnStartAt", "btnReset"})
+        EXPECT_GE(child<QPushButton>(LineSide::Left, button)->height(), 96) << button;
+    press(LineSide::Left, "btnStartAt");
+    ASSERT_NE(dialog(), nullptr);
+    expectReadable(dialog(), QStringLiteral("start "));
+    expectTouchable(dialog(), QStringLiteral("start "));
+    expectNamed(dialog(), QStringLiteral("start "));
+    EXPECT_LE(dialog()->width(), 1024);
+    EXPECT_LE(dialog()->height(), 640);
 }
