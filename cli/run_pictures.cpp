@@ -185,9 +185,12 @@ bool showRun(panel::PanelWindow *window, const Take &take)
     click(window, "tabFaults");
     line.confuse();
     line.fault("collision", true);
+    line.work(1);
     window->findChild<panel::CellPage *>()->refresh(); // it waits for the time of a picture
-    window->findChild<QTableView *>(QStringLiteral("tblViolations"))->selectRow(0);
     take(window, QStringLiteral("cell-faulted"));
+    click(window, "tabViolations");
+    window->findChild<QTableView *>(QStringLiteral("tblViolations"))->selectRow(0);
+    take(window, QStringLiteral("cell-violations"));
     line.fault("collision", false);
     line.fault("power-cut", true);
     line.fault("power-cut", false);

@@ -49,6 +49,7 @@ CellPage::CellPage(QWidget *parent) : QWidget(parent), ui_(std::make_unique<Ui::
     setupDesk();
     setupTables();
     nameTitles();
+    showMessage(QString(), State::None);
     frame_.setSingleShot(true);
     frame_.setInterval(kFrameMs);
     connect(&frame_, &QTimer::timeout, this, &CellPage::refresh);
@@ -56,8 +57,6 @@ CellPage::CellPage(QWidget *parent) : QWidget(parent), ui_(std::make_unique<Ui::
 }
 
 CellPage::~CellPage() = default;
-
-// ---------------------------------------------------------------- making the page
 
 void CellPage::setupPicture()
 {
@@ -70,6 +69,8 @@ void CellPage::setupPicture()
     button(ui_->btnTurnRight, Glyph::TurnRight, [view] { view->turnBy(CellView::kTurnStep); });
     button(ui_->btnLarger, Glyph::Add, [view] { view->zoomBy(1.25); });
     button(ui_->btnSmaller, Glyph::Remove, [view] { view->zoomBy(1 / 1.25); });
+    ui_->btnArrowLeft->setIcon(ix::xtheme::icon(Glyph::Back));
+    ui_->btnArrowRight->setIcon(ix::xtheme::icon(Glyph::Forward));
 }
 
 void CellPage::setupRun()
@@ -142,11 +143,11 @@ void CellPage::setupTables()
 {
     signals_ = setupTable(ui_->tblSignals, 1);
     tasks_ = setupTable(ui_->tblTasks, 2);
-    variables_ = setupTable(ui_->tblVariables, 0);
+    variables_ = setupTable(ui_->tblVariables, 1);
     violations_ = setupTable(ui_->tblViolations, 2);
     ui_->tblViolations->verticalHeader()->setDefaultSectionSize(56); // two lines
-    const QList<QPushButton *> tabs{ui_->tabDesk, ui_->tabInputs, ui_->tabTasks, ui_->tabVariables,
-                                    ui_->tabFaults};
+    const QList<QPushButton *> tabs{ui_->tabDesk,      ui_->tabInputs, ui_->tabTasks,
+                                    ui_->tabVariables, ui_->tabFaults, ui_->tabViolations};
     for (int i = 0; i < tabs.size(); ++i)
         connect(tabs[i], &QPushButton::clicked, this, [this, i] {
             ui_->stkParts->setCurrentIndex(i);
@@ -248,8 +249,10 @@ void CellPage::showPart()
         tasks_->setRows(taskRows(cell()));
     else if (part == ui_->pagVariables)
         variables_->setRows(variableRows(m("quill.project.var._list")->node(), ui_->edtFind->text()));
-    else
+    else if (part == ui_->pagFaults)
         showFaults();
+    else
+        showViolations();
     showForce();
 }
 
@@ -265,7 +268,6 @@ void CellPage::showDesk()
         labels[side]->setText(look.text);
         ix::xtheme::setState(labels[side], look.state);
     }
-    ui_->btnClear->setEnabled(cell().getBool(u"gripper.carries"));
     ui_->lblFacts->setText(machineTexts(cell()).join(QLatin1Char('\n')));
 }
 
@@ -303,6 +305,11 @@ void CellPage::showFaults()
         faults_[i]->setProperty("isOn", on);
         ix::xtheme::setState(faults_[i], on ? State::Fault : State::None);
     }
+    ui_->btnClear->setEnabled(cell().getBool(u"gripper.carries"));
+}
+
+void CellPage::showViolations()
+{
     violations_->setRows(violationRows(cell()));
     ui_->lblViolations->setText(tr("Violations: %1, lost boxes: %2")
                                     .arg(cell().getInt(u"violation_count"))
@@ -325,22 +332,27 @@ void CellPage::showForce()
                                    : QString());
 }
 
-// ---------------------------------------------------------------- asking it
-
 void CellPage::ask(const QString &request, const Node &payload, const QString &what)
 {
     const int number = ++asked_;
-    ui_->lblMessage->setText(tr("%1: waiting for the controller").arg(what));
-    ix::xtheme::setState(ui_->lblMessage, State::Manual);
+    showMessage(tr("%1: waiting for the controller").arg(what), State::Manual);
     orba::ModuleObject record(QStringLiteral("payload"));
     record.copyFrom(payload);
     xservice()->command(this, request, &record, [this, number, what](const XReply &reply) {
         refresh();
         if (number != asked_)
             return; // something else was asked for meanwhile
-        ui_->lblMessage->setText(reply.isOk() ? QString() : tr("%1: %2").arg(what, reply.error));
-        ix::xtheme::setState(ui_->lblMessage, reply.isOk() ? State::None : State::Fault);
+        showMessage(reply.isOk() ? QString() : tr("%1: %2").arg(what, reply.error), State::Fault);
     });
+}
+
+/// In the place of the program's reason; an empty one gives it back.
+void CellPage::showMessage(const QString &text, State state)
+{
+    ui_->lblMessage->setText(text);
+    ix::xtheme::setState(ui_->lblMessage, state);
+    ui_->lblMessage->setVisible(!text.isEmpty());
+    ui_->lblWhy->setVisible(text.isEmpty());
 }
 
 void CellPage::press(const QString &signal, double seconds, const QString &what)

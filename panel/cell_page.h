@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ix/xtheme.h"
 #include "orba/module_object.h"
 
 #include <QTimer>
@@ -54,10 +55,12 @@ private:
     void showDesk();
     void showSpeed();
     void showFaults();
+    void showViolations();
     void showForce();
 
     /// Sends a request and says how it went; `what` is what was asked for.
     void ask(const QString &request, const orba::Node &payload, const QString &what);
+    void showMessage(const QString &text, ix::xtheme::State state);
     void press(const QString &signal, double seconds, const QString &what);
     void force(bool on);
     void setVariable();

@@ -50,7 +50,7 @@ Look lookOf(RunState state)
 
 QString ofAll(int number, int all)
 {
-    return all > 0 ? RunSideCard::tr("%1 of %2").arg(number).arg(all) : QString(QChar(0x2013));
+    return all > 0 ? QStringLiteral("%1 / %2").arg(number).arg(all) : QString(QChar(0x2013));
 }
 
 } // namespace
@@ -60,6 +60,8 @@ RunSideCard::RunSideCard(LineSide side, QWidget *parent)
 {
     ui_->setupUi(this);
     setObjectName(side == LineSide::Left ? QStringLiteral("crdLeft") : QStringLiteral("crdRight"));
+    ui_->btnReset->setIcon(ix::xtheme::icon(ix::xtheme::Glyph::TurnLeft));
+    ui_->btnReset->setIconSize(QSize(32, 32));
     connect(ui_->cmbRecipe, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
         showRecipes(); // what the controller says, until it says otherwise
         if (index != shown_.recipe)

@@ -6,6 +6,7 @@
 #include "ui/controller_dialog.h"
 #include "ui/current_recipe.h"
 #include "ui/form_style.h"
+#include "ui/home_parts.h"
 #include "ui/imexportdialog.h"
 #include "ui/name_dialog.h"
 #include "ui/projectmanager.h"
@@ -19,9 +20,8 @@
 #include "workstation/unique_widget.h"
 
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QSortFilterProxyModel>
-#include <QStackedWidget>
+#include <QVBoxLayout>
 
 using ix::xtheme::Glyph;
 using ix::xtheme::State;
@@ -34,17 +34,6 @@ const QString kProjectManager = QStringLiteral("project_manager");
 QString pageKey(const char *page)
 {
     return mName(palx::getPluginName(), QLatin1String(page));
-}
-
-QPushButton *partButton(const QString &name, QHBoxLayout *row)
-{
-    auto *button = new QPushButton;
-    button->setObjectName(name);
-    button->setCheckable(true);
-    button->setAutoExclusive(true);
-    ix::xtheme::setRole(button, QStringLiteral("tab"));
-    row->addWidget(button);
-    return button;
 }
 
 void raise(const char *trigger)
@@ -62,7 +51,7 @@ StackHomePage::StackHomePage(QWidget *parent, bwaf::BModule *module)
 {
     ui_->setupUi(setupParts());
     for (QPushButton *button : {ui_->btnProjects, ui_->btnController}) // of both parts
-        partsRow_->addWidget(button);
+        parts_->addButton(button);
     subPages()->registSubPage(kProjectManager,
                               [](QWidget *page, QWidget *owner) { return new ProjectManager(page, owner); });
     wgt_->installEventFilter(this);
@@ -99,50 +88,18 @@ void StackHomePage::openProjects()
     subPages()->openSubPage(kProjectManager);
 }
 
-/// The row that chooses a part, and the parts; returns where the recipes go.
+/// Returns where the recipes go.
 QWidget *StackHomePage::setupParts()
 {
-    QWidget *content = subPages()->content();
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(12, 12, 12, 0);
-    partsRow_ = new QHBoxLayout;
-    column->addLayout(partsRow_);
-    btnRun_ = partButton(QStringLiteral("btnRun"), partsRow_);
-    btnRecipes_ = partButton(QStringLiteral("btnRecipes"), partsRow_);
-    partsRow_->addStretch();
-    parts_ = new QStackedWidget;
-    column->addWidget(parts_, 1);
-    auto *recipes = new QWidget;
-    parts_->addWidget(recipes);
+    auto *column = new QVBoxLayout(subPages()->content());
+    column->setContentsMargins(0, 0, 0, 0);
+    parts_ = new HomeParts;
+    column->addWidget(parts_);
     run_ = new RunFrame(onController_);
-    parts_->addWidget(run_);
-    for (QPushButton *button : {btnRun_, btnRecipes_})
-        connect(button, &QPushButton::clicked, wgt_, [this, button] {
-            isPartChosen_ = true;
-            showPart(button == btnRun_);
-        });
-    const auto lineCame = [this](bool hasLine) {
-        if (!isPartChosen_)
-            showPart(hasLine);
-    };
-    connect(run_, &RunFrame::hasLineChanged, wgt_, lineCame);
-    showPart(run_->hasLine());
-    nameParts();
-    return recipes;
-}
-
-void StackHomePage::showPart(bool run)
-{
-    (run ? btnRun_ : btnRecipes_)->setChecked(true);
-    parts_->setCurrentIndex(run ? 1 : 0);
-}
-
-void StackHomePage::nameParts()
-{
-    btnRun_->setText(tr("Production"));
-    btnRecipes_->setText(tr("Recipes"));
-    for (QPushButton *button : {btnRun_, btnRecipes_})
-        button->setAccessibleName(button->text());
+    parts_->setRun(run_);
+    connect(run_, &RunFrame::hasLineChanged, parts_, &HomeParts::propose);
+    parts_->propose(run_->hasLine());
+    return parts_->recipes();
 }
 
 void StackHomePage::setupList()
@@ -443,8 +400,7 @@ bool StackHomePage::eventFilter(QObject *watched, QEvent *event)
 
 void StackHomePage::retranslate()
 {
-    ui_->retranslateUi(parts_->widget(0));
-    nameParts();
+    ui_->retranslateUi(parts_->recipes());
     reload();
     showController();
 }

@@ -8,12 +8,10 @@
 
 #include <memory>
 
+class HomeParts;
 class LayerTableModel;
-class QHBoxLayout;
 class QModelIndex;
-class QPushButton;
 class QSortFilterProxyModel;
-class QStackedWidget;
 class RecipeListModel;
 class RunFrame;
 class SubPageStack;
@@ -59,8 +57,6 @@ protected:
 
 private:
     QWidget *setupParts();
-    void showPart(bool run);
-    void nameParts();
     void setupList();
     void connectActions();
     void followTriggers();
@@ -91,13 +87,9 @@ private:
     QSortFilterProxyModel *found_;
     LayerTableModel *layers_;
     palx::ControllerRecipes *onController_;
-    QHBoxLayout *partsRow_ = nullptr;
-    QPushButton *btnRun_ = nullptr;
-    QPushButton *btnRecipes_ = nullptr;
-    QStackedWidget *parts_ = nullptr;
+    HomeParts *parts_ = nullptr;
     RunFrame *run_ = nullptr;
-    bool isPartChosen_ = false; ///< by the operator
-    QStringList names_;         ///< as last announced by "refresh_cmb"
+    QStringList names_; ///< as last announced by "refresh_cmb"
     palx::RemovedStack removed_;
     void (StackHomePage::*undo_)() = nullptr; ///< what the message at the foot takes back
 };

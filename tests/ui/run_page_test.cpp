@@ -138,7 +138,7 @@ TEST_F(RunPageTest, MakesAProjectOfTheRecipesWithOneButton)
     for (const LineSide side : palx::kLineSides) {
         EXPECT_TRUE(page->card(side)->isVisible());
         EXPECT_EQ(text(side, "lblState"), QStringLiteral("Disabled"));
-        EXPECT_EQ(text(side, "lblBoxes"), QStringLiteral("0 of 45"));
+        EXPECT_EQ(text(side, "lblBoxes"), QStringLiteral("0 / 45"));
     }
     EXPECT_EQ(variable(QStringLiteral("boxHeightL")), 180);
 }
@@ -158,7 +158,7 @@ TEST_F(RunPageTest, EnablesASideAndShowsItsStackGrow)
     EXPECT_EQ(look(LineSide::Left), QStringLiteral("running"));
     const qint64 piled = variable(QStringLiteral("palletCountL"));
     EXPECT_GT(piled, 3);
-    EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("%1 of 45").arg(piled));
+    EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("%1 / 45").arg(piled));
     EXPECT_EQ(child<StackView>(LineSide::Left, "view")->drawing().pieces(), piled);
     EXPECT_NE(text(LineSide::Left, "lblRate"), QString(QChar(0x2013)));
     EXPECT_EQ(text(LineSide::Right, "lblState"), QStringLiteral("Disabled"));
@@ -205,9 +205,9 @@ TEST_F(RunPageTest, StartsAtAnyPieceThatTheRecipeHas)
     EXPECT_EQ(start->findChild<StackView *>()->drawing().pieces(), 22);
     start->findChild<QPushButton *>(QStringLiteral("btnOk"))->click();
     settle();
-    EXPECT_EQ(text(LineSide::Right, "lblLayer"), QStringLiteral("3 of 5"));
-    EXPECT_EQ(text(LineSide::Right, "lblPiece"), QStringLiteral("5 of 9"));
-    EXPECT_EQ(text(LineSide::Right, "lblBoxes"), QStringLiteral("22 of 45"));
+    EXPECT_EQ(text(LineSide::Right, "lblLayer"), QStringLiteral("3 / 5"));
+    EXPECT_EQ(text(LineSide::Right, "lblPiece"), QStringLiteral("5 / 9"));
+    EXPECT_EQ(text(LineSide::Right, "lblBoxes"), QStringLiteral("22 / 45"));
     EXPECT_EQ(variable(QStringLiteral("currentLayerL")), 1);
 }
 
@@ -313,11 +313,11 @@ TEST_F(RunPageTest, DoesNothingWhileItIsNotSeen)
     openPage();
     page->hide();
     ask("monitor.pers.modify", R"({"palletCountL":7})");
-    EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("0 of 45"));
+    EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("0 / 45"));
     page->show();
-    EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("7 of 45"));
+    EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("7 / 45"));
     ask("monitor.pers.modify", R"({"palletCountL":8})");
-    EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("8 of 45"));
+    EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("8 / 45"));
 }
 
 TEST_F(RunPageTest, FitsASmallPanelAndAFingerInLongLanguages)
@@ -326,7 +326,7 @@ TEST_F(RunPageTest, FitsASmallPanelAndAFingerInLongLanguages)
     const LongLanguage language;
     makeProject();
     openPage();
-    const QSize room(820, 500); // of 1024 x 640 beside navigator, strip and tabs
+    const QSize room(812, 490); // of 1024 x 640 beside navigator, strip and tabs
     page->resize(room);
     settle();
     EXPECT_EQ(page->size(), room);
