@@ -53,12 +53,12 @@ void HomeParts::addButton(QPushButton *button)
     row_->addWidget(button);
 }
 
-void HomeParts::propose(bool run)
+void HomeParts::proposeRun()
 {
     if (isChosen_)
         return;
-    (run ? btnRun_ : btnRecipes_)->setChecked(true);
-    parts_->setCurrentIndex(run ? kRun : kRecipes);
+    btnRun_->setChecked(true);
+    parts_->setCurrentIndex(kRun);
 }
 
 void HomeParts::nameParts()

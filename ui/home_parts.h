@@ -22,8 +22,8 @@ public:
     void setRun(QWidget *run);
     /// A button at the end of the row, for both parts.
     void addButton(QPushButton *button);
-    /// Unless the operator has chosen a part.
-    void propose(bool run);
+    /// Shows the production, unless the operator has chosen a part. It stays also when the line is gone for a while.
+    void proposeRun();
 
 protected:
     void changeEvent(QEvent *event) override;

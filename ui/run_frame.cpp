@@ -71,7 +71,8 @@ RunFrame::RunFrame(const palx::ControllerRecipes *recipes, QWidget *parent)
     connect(ui_->btnMake, &QPushButton::clicked, this, &RunFrame::makeProject);
     refresh_.setSingleShot(true);
     connect(&refresh_, &QTimer::timeout, this, &RunFrame::refresh);
-    for (const char *path : {"quill.project.cur_project", "nexo.r.connected"}) // also while it is not seen
+    for (const char *path : {"quill.project.cur_project", "nexo.r.connected",
+                             "nexo.cell.program.state"}) // also while it is not seen
         connect(m(path), &ModuleObject::changed, &refresh_, [this] { refresh_.start(); });
     refresh();
 }
@@ -137,10 +138,11 @@ void RunFrame::refresh()
     }
     ui_->stkRun->setCurrentWidget(hasLine ? ui_->pagSides : ui_->pagNone);
     showNone();
-    if (hasLine != std::exchange(hasLine_, hasLine))
-        Q_EMIT hasLineChanged(hasLine);
+    if (!std::exchange(hasLine_, hasLine) && hasLine)
+        Q_EMIT lineCame();
+    holdBack(run);
     if (follower_)
-        askWhatBrokeOff();
+        askWhatBrokeOff(run);
 }
 
 /// What has to come before anything can be produced.
@@ -267,8 +269,9 @@ void RunFrame::recover(RunSideCard *card, bool thenEnable)
     request.piece = palx::currentRunRecovery().sides[static_cast<std::size_t>(numberOf(card))].proposed;
     request.accept = tr("Confirm");
     request.mustClear = true;
+    const bool isHeldBack = brokenOff_[static_cast<std::size_t>(numberOf(card))].isHeldBack;
     askForPiece(card, request,
-                thenEnable ? palx::enableChanges(card->side(), true) : palx::VariableChanges());
+                thenEnable || isHeldBack ? palx::enableChanges(card->side(), true) : palx::VariableChanges());
 }
 
 void RunFrame::askForPiece(RunSideCard *card, const StartRequest &request,
@@ -292,18 +295,31 @@ void RunFrame::askForPiece(RunSideCard *card, const StartRequest &request,
     dialog->open();
 }
 
-/// Once for each time that a side breaks off, one side after the other.
-void RunFrame::askWhatBrokeOff()
+/// Nothing is to start with counters that nobody compared with what lies there.
+void RunFrame::holdBack(const palx::RunRecovery &run)
 {
-    const palx::RunRecovery run = palx::currentRunRecovery();
     for (RunSideCard *card : cards_) {
-        bool &wasAsked = wasAsked_[static_cast<std::size_t>(numberOf(card))];
-        if (!card->shown().isPart || !palx::needsConfirmation(run, numberOf(card))) {
-            wasAsked = false;
-        } else if (!wasAsked && (!dialog_ || !dialog_->isVisible()) && !card->isWaiting()) {
-            wasAsked = true;
-            return recover(card, false);
+        BrokenOff &state = brokenOff_[static_cast<std::size_t>(numberOf(card))];
+        const palx::RunSide &side = card->shown();
+        if (!side.isPart || !palx::needsConfirmation(run, numberOf(card))) {
+            state = BrokenOff();
+        } else if (side.isEnabled && !state.isHeldBack && m("nexo.r")->getBool("connected")) {
+            state.isHeldBack = true;
+            ask(card, palx::enableChanges(card->side(), false));
         }
+    }
+}
+
+/// Once for each time that a side breaks off, one side after the other.
+void RunFrame::askWhatBrokeOff(const palx::RunRecovery &run)
+{
+    for (RunSideCard *card : cards_) {
+        bool &wasAsked = brokenOff_[static_cast<std::size_t>(numberOf(card))].wasAsked;
+        const bool isDue = card->shown().isPart && palx::needsConfirmation(run, numberOf(card)) && !wasAsked;
+        if (!isDue || card->isWaiting() || (dialog_ && dialog_->isVisible()))
+            continue;
+        wasAsked = true;
+        return recover(card, false);
     }
 }
 

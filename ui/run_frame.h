@@ -14,6 +14,7 @@
 class RunSideCard;
 struct StartRequest;
 namespace palx {
+struct RunRecovery;
 class ControllerRecipes;
 class NodeFollower;
 } // namespace palx
@@ -23,8 +24,8 @@ class RunFrame;
 
 /// The line while it produces: a card for each side that the current project has. Everything shown is what the controller
 /// says; what is pressed is asked of the controller, and shown when its variables say so. Follows the nodes only while it is
-/// seen. A side whose program broke off is asked about as soon as the page is seen: the gripper is to be cleared, layer and
-/// piece are to be confirmed, before the side is enabled.
+/// seen. A side whose program broke off is disabled, also unseen, and asked about as soon as the page is seen: the gripper is
+/// to be cleared, layer and piece are to be confirmed, before the side is enabled again.
 class PALX_API RunFrame : public QWidget
 {
     Q_OBJECT
@@ -39,7 +40,8 @@ public:
     bool hasLine() const { return hasLine_; }
 
 Q_SIGNALS:
-    void hasLineChanged(bool hasLine);
+    /// A project with a side is in use.
+    void lineCame();
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -57,7 +59,8 @@ private:
     void startAt(RunSideCard *card);
     void recover(RunSideCard *card, bool thenEnable);
     void askForPiece(RunSideCard *card, const StartRequest &request, const palx::VariableChanges &further);
-    void askWhatBrokeOff();
+    void holdBack(const palx::RunRecovery &run);
+    void askWhatBrokeOff(const palx::RunRecovery &run);
     void reset(RunSideCard *card);
     void ask(RunSideCard *card, const palx::VariableChanges &changes);
     void refuse(const QString &why);

@@ -97,8 +97,9 @@ QWidget *StackHomePage::setupParts()
     column->addWidget(parts_);
     run_ = new RunFrame(onController_);
     parts_->setRun(run_);
-    connect(run_, &RunFrame::hasLineChanged, parts_, &HomeParts::propose);
-    parts_->propose(run_->hasLine());
+    connect(run_, &RunFrame::lineCame, parts_, &HomeParts::proposeRun);
+    if (run_->hasLine())
+        parts_->proposeRun();
     return parts_->recipes();
 }
 

@@ -65,22 +65,24 @@ void putAmong(IsoGroup *group, const IsoPart &part, const QPointF &viewer)
 /// Single blocks that nothing parts from a stack become parts of it.
 QVector<IsoGroup> disentangled(const QVector<IsoGroup> &groups, const QPointF &viewer)
 {
-    QVector<IsoGroup> stacks;
-    QVector<IsoGroup> singles;
-    for (const IsoGroup &group : groups)
-        (group.size() > 1 ? stacks : singles).append(group);
-    QVector<IsoGroup> result = stacks;
-    for (const IsoGroup &single : singles) {
-        if (single.isEmpty())
+    QVector<IsoGroup> result;
+    QVector<IsoBlock> stacks;
+    for (const IsoGroup &group : groups) {
+        if (group.size() < 2)
             continue;
-        const auto inside =
-            std::find_if(result.begin(), result.begin() + stacks.size(), [&](const IsoGroup &stack) {
-                return placeOf(boundsOf(stack), single.first().block, viewer) == Place::Entangled;
-            });
-        if (inside == result.begin() + stacks.size())
+        result.append(group);
+        stacks.append(boundsOf(group));
+    }
+    for (const IsoGroup &single : groups) {
+        if (single.size() != 1)
+            continue;
+        const auto inside = std::find_if(stacks.begin(), stacks.end(), [&](const IsoBlock &stack) {
+            return placeOf(stack, single.first().block, viewer) == Place::Entangled;
+        });
+        if (inside == stacks.end())
             result.append(single);
         else
-            putAmong(&*inside, single.first(), viewer);
+            putAmong(&result[static_cast<int>(inside - stacks.begin())], single.first(), viewer);
     }
     return result;
 }

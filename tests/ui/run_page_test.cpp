@@ -228,9 +228,10 @@ TEST_F(RunPageTest, AfterAPowerCutAsksForAnEmptyGripperAndThePiece)
     asked->reject();
     settle();
     EXPECT_EQ(dialog(), nullptr) << "once";
-    EXPECT_EQ(look(LineSide::Left), QStringLiteral("fault"));
+    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0) << "held back";
+    EXPECT_TRUE(text(LineSide::Left, "lblState").startsWith(QStringLiteral("Broken off")));
+    EXPECT_EQ(look(LineSide::Left), QStringLiteral("attention"));
 
-    press(LineSide::Left, "btnEnable"); // disables: that is always possible
     press(LineSide::Left, "btnEnable");
     EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0) << "not before the piece is confirmed";
     asked = dialog();
@@ -250,6 +251,29 @@ TEST_F(RunPageTest, AfterAPowerCutAsksForAnEmptyGripperAndThePiece)
     run(400);
     EXPECT_EQ(m("nexo.cell.pallets.#0.count")->getInt(), 45);
     EXPECT_EQ(m("nexo.cell.violation_count")->getInt(), 0);
+}
+
+TEST_F(RunPageTest, ASideThatBreaksOffUnseenIsHeldBackAndComesBackWithTheConfirmation)
+{
+    makeProject();
+    openPage();
+    press(LineSide::Left, "btnEnable");
+    ASSERT_TRUE(ask("program.run"));
+    run(60);
+    page->hide();
+    ASSERT_TRUE(ask("program.stop"));
+    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0);
+    EXPECT_EQ(dialog(), nullptr);
+    ASSERT_TRUE(ask("cell.gripper", R"({"action":"clear"})"));
+    page->show();
+    settle();
+    StartDialog *asked = dialog();
+    ASSERT_NE(asked, nullptr);
+    asked->findChild<QCheckBox *>(QStringLiteral("chkClear"))->click();
+    asked->findChild<QPushButton *>(QStringLiteral("btnOk"))->click();
+    settle();
+    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 1) << "as before";
+    EXPECT_EQ(dialog(), nullptr);
 }
 
 TEST_F(RunPageTest, OnlySidesOfTheLayoutAreShown)
