@@ -49,6 +49,12 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    /// Of a side that broke off.
+    struct BrokenOff
+    {
+        bool isHeldBack = false; ///< it was disabled until its piece is confirmed
+        bool wasAsked = false;
+    };
     void addCard(palx::LineSide side);
     void follow();
     void refresh();
@@ -72,7 +78,7 @@ private:
     std::array<RunSideCard *, 2> cards_{};
     std::unique_ptr<palx::NodeFollower> follower_; ///< while the page is seen
     QTimer refresh_;                               ///< one for all changes of a turn of the loop
-    std::array<bool, 2> wasAsked_{};               ///< for the piece of a side that broke off
+    std::array<BrokenOff, 2> brokenOff_;
     QPointer<QDialog> dialog_;
     bool hasLine_ = false;
     bool isStale_ = true; ///< the nodes that are followed are others now

@@ -52,6 +52,7 @@ protected:
     {
         cell.settle();
         QCoreApplication::processEvents();
+        cell.settle(); // what the page asked for then
     }
     void makeProject()
     {
