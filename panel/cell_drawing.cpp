@@ -23,7 +23,7 @@ namespace {
 constexpr double kSameHeight = 5;    // [mm] products of one layer may rest at slightly different heights
 constexpr double kColumnEdge = 500;  // [mm] of the lift column and the robot's foot
 constexpr double kFoot = 400;        // [mm] above the robot's base
-constexpr double kArmTop = 1500;     // [mm] where the arm mostly is
+constexpr double kArmTop = 1850;     // [mm] where the arm mostly is
 constexpr double kBeltLength = 1600; // [mm]
 constexpr double kBeltHeight = 120;  // [mm]
 constexpr double kBeaconEdge = 90;   // [mm]
