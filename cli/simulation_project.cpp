@@ -1,17 +1,23 @@
 #include "simulation_project.h"
 
 #include "controller/in_process_carrier.h"
+#include "core/controller_link.h"
 #include "project/rules/project_commit.h"
 #include "project/rules/project_record.h"
 #include "project/rules/project_variables.h"
 #include "stack/way_points.h"
 #include "workstation/controller_sync.h"
 #include "workstation/plugin_node.h"
+#include "xservice.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
 
 namespace cli {
 namespace {
 
 const QString kProject = QStringLiteral("Simulation");
+constexpr int kSettleMs = 20000; // of a machine that is busy with other things
 
 /// The place of a recipe in the list of its side, as projects and programs name it.
 int indexOnSide(const StackedSide &side)
@@ -66,6 +72,23 @@ void enable(const StackedSide &side)
     palx::setValueOfPERSVar(QStringLiteral("palletIndex") + suffix, QString::number(indexOnSide(side)));
     palx::setValueOfPERSVar(QStringLiteral("boxHeight") + suffix, QString::number(height));
     palx::setValueOfPERSVar(QStringLiteral("enableStack") + suffix, QStringLiteral("1"));
+}
+
+/// Until the controller has everything: edits go out when the event loop rests, and what was sent without waiting is behind
+/// no answer yet.
+bool settle()
+{
+    const auto *link = host::ControllerLink::current();
+    QElapsedTimer clock;
+    clock.start();
+    while (link->unsettledEdits() > 0 || !link->isIdle()) {
+        if (clock.elapsed() > kSettleMs)
+            return false;
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    }
+    return xservice()
+        ->get(nullptr, QStringLiteral("pallet.get.list"))
+        .isOk(); // requests are worked off in order
 }
 
 } // namespace
@@ -128,7 +151,10 @@ bool SimulationProject::fill(Session &session, const SimulateRequest &request)
     }
     for (const StackedSide &side : std::as_const(sides_))
         enable(side);
-    return true;
+    if (settle())
+        return true;
+    say(QStringLiteral("the controller did not take the project in time"));
+    return false;
 }
 
 } // namespace cli
