@@ -310,6 +310,29 @@ TEST_F(RunPageTest, ShowsThatItWaitsAndWhyItWasRefused)
     EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0);
 }
 
+TEST_F(RunPageTest, ChangesAreTakenTogetherOrNotAtAll)
+{
+    makeProject();
+    QStringList answers;
+    QObject context;
+    const auto change = [&](const palx::VariableChanges &changes) {
+        palx::changePersVariables(changes, &context, [&answers](const XReply &reply) {
+            answers.append(reply.isOk() ? QStringLiteral("done") : reply.error);
+        });
+        settle();
+    };
+    change({{QStringLiteral("currentLayerL"), QStringLiteral("2")},
+            {QStringLiteral("cycleTimeL"), QStringLiteral("1.5")}});
+    change({{QStringLiteral("currentLayerL"), QStringLiteral("3")},
+            {QStringLiteral("noSuch"), QStringLiteral("1")}});
+    change({{QStringLiteral("currentLayerL"), QStringLiteral("4")},
+            {QStringLiteral("clock0"), QStringLiteral("1")}});
+    EXPECT_EQ(answers,
+              QStringList({QStringLiteral("done"), QStringLiteral("The project has no such variable: noSuch"),
+                           QStringLiteral("The project has no such variable: clock0")}));
+    EXPECT_EQ(variable(QStringLiteral("currentLayerL")), 2);
+}
+
 TEST_F(RunPageTest, AnotherRecipeIsTakenOnlyWhileTheSideIsDisabled)
 {
     palx::copyStack(palx::stacksNode()->cmobj(0), QStringLiteral("Second"));
