@@ -166,10 +166,6 @@
         <translation>故障</translation>
     </message>
     <message>
-        <source>Buttons of the cell</source>
-        <translation>工作站按钮</translation>
-    </message>
-    <message>
         <source>Start</source>
         <translation>启动</translation>
     </message>
@@ -194,24 +190,12 @@
         <translation>清空抓手</translation>
     </message>
     <message>
-        <source>Left arrow</source>
-        <translation>左箭头</translation>
-    </message>
-    <message>
         <source>Left arrow button of the cell</source>
         <translation>工作站左箭头按钮</translation>
     </message>
     <message>
-        <source>Right arrow</source>
-        <translation>右箭头</translation>
-    </message>
-    <message>
         <source>Right arrow button of the cell</source>
         <translation>工作站右箭头按钮</translation>
-    </message>
-    <message>
-        <source>Pallets</source>
-        <translation>托盘</translation>
     </message>
     <message>
         <source>Left pallet</source>
@@ -304,6 +288,22 @@
     <message>
         <source>What was asked and answered</source>
         <translation>请求与应答</translation>
+    </message>
+    <message>
+        <source>Speed that the controller tells</source>
+        <translation>控制器报告的速度</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Conveyor, gripper and lift column</source>
+        <translation>输送线、抓手和升降柱</translation>
     </message>
 </context>
 <context>
@@ -993,6 +993,10 @@
     <message>
         <source>&quot;action&quot; is &quot;%1&quot;, not &quot;clear&quot;</source>
         <translation>“action”为“%1”，而不是“clear”</translation>
+    </message>
+    <message>
+        <source>this is no file</source>
+        <translation>这不是文件</translation>
     </message>
 </context>
 <context>
@@ -1757,14 +1761,6 @@
         <translation>层 / 件</translation>
     </message>
     <message>
-        <source>Body</source>
-        <translation>物体</translation>
-    </message>
-    <message>
-        <source>Met</source>
-        <translation>相碰物</translation>
-    </message>
-    <message>
         <source>%1 x</source>
         <translation>%1 x</translation>
     </message>
@@ -1787,6 +1783,50 @@
     <message>
         <source>Speed</source>
         <translation>速度</translation>
+    </message>
+    <message>
+        <source>product at the stop</source>
+        <translation>产品已到挡块</translation>
+    </message>
+    <message>
+        <source>product in %1 mm</source>
+        <translation>产品还有 %1 mm</translation>
+    </message>
+    <message>
+        <source>jammed</source>
+        <translation>堵塞</translation>
+    </message>
+    <message>
+        <source>vacuum</source>
+        <translation>有真空</translation>
+    </message>
+    <message>
+        <source>no vacuum</source>
+        <translation>无真空</translation>
+    </message>
+    <message>
+        <source>carries a product</source>
+        <translation>抓着产品</translation>
+    </message>
+    <message>
+        <source>Conveyor: %1</source>
+        <translation>输送线：%1</translation>
+    </message>
+    <message>
+        <source>Gripper: %1</source>
+        <translation>抓手：%1</translation>
+    </message>
+    <message>
+        <source>Lift column: %1 mm, %2</source>
+        <translation>升降柱：%1 mm，%2</translation>
+    </message>
+    <message>
+        <source>Task, line</source>
+        <translation>任务，行</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>物体</translation>
     </message>
 </context>
 <context>

@@ -166,10 +166,6 @@
         <translation>故障</translation>
     </message>
     <message>
-        <source>Buttons of the cell</source>
-        <translation>セルのボタン</translation>
-    </message>
-    <message>
         <source>Start</source>
         <translation>スタート</translation>
     </message>
@@ -194,24 +190,12 @@
         <translation>グリッパを空にする</translation>
     </message>
     <message>
-        <source>Left arrow</source>
-        <translation>左矢印</translation>
-    </message>
-    <message>
         <source>Left arrow button of the cell</source>
         <translation>セルの左矢印ボタン</translation>
     </message>
     <message>
-        <source>Right arrow</source>
-        <translation>右矢印</translation>
-    </message>
-    <message>
         <source>Right arrow button of the cell</source>
         <translation>セルの右矢印ボタン</translation>
-    </message>
-    <message>
-        <source>Pallets</source>
-        <translation>パレット</translation>
     </message>
     <message>
         <source>Left pallet</source>
@@ -304,6 +288,22 @@
     <message>
         <source>What was asked and answered</source>
         <translation>要求と応答</translation>
+    </message>
+    <message>
+        <source>Speed that the controller tells</source>
+        <translation>コントローラが示す速度</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Conveyor, gripper and lift column</source>
+        <translation>コンベヤ、グリッパ、昇降柱</translation>
     </message>
 </context>
 <context>
@@ -993,6 +993,10 @@
     <message>
         <source>&quot;action&quot; is &quot;%1&quot;, not &quot;clear&quot;</source>
         <translation>「action」は「%1」で、「clear」ではありません</translation>
+    </message>
+    <message>
+        <source>this is no file</source>
+        <translation>ファイルではありません</translation>
     </message>
 </context>
 <context>
@@ -1757,14 +1761,6 @@
         <translation>段 / 個</translation>
     </message>
     <message>
-        <source>Body</source>
-        <translation>物体</translation>
-    </message>
-    <message>
-        <source>Met</source>
-        <translation>相手</translation>
-    </message>
-    <message>
         <source>%1 x</source>
         <translation>%1 x</translation>
     </message>
@@ -1787,6 +1783,50 @@
     <message>
         <source>Speed</source>
         <translation>速度</translation>
+    </message>
+    <message>
+        <source>product at the stop</source>
+        <translation>製品がストッパ位置</translation>
+    </message>
+    <message>
+        <source>product in %1 mm</source>
+        <translation>製品まで %1 mm</translation>
+    </message>
+    <message>
+        <source>jammed</source>
+        <translation>詰まり</translation>
+    </message>
+    <message>
+        <source>vacuum</source>
+        <translation>真空あり</translation>
+    </message>
+    <message>
+        <source>no vacuum</source>
+        <translation>真空なし</translation>
+    </message>
+    <message>
+        <source>carries a product</source>
+        <translation>製品を保持中</translation>
+    </message>
+    <message>
+        <source>Conveyor: %1</source>
+        <translation>コンベヤ: %1</translation>
+    </message>
+    <message>
+        <source>Gripper: %1</source>
+        <translation>グリッパ: %1</translation>
+    </message>
+    <message>
+        <source>Lift column: %1 mm, %2</source>
+        <translation>昇降柱: %1 mm、%2</translation>
+    </message>
+    <message>
+        <source>Task, line</source>
+        <translation>タスク、行</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>物体</translation>
     </message>
 </context>
 <context>

@@ -166,10 +166,6 @@
         <translation>고장</translation>
     </message>
     <message>
-        <source>Buttons of the cell</source>
-        <translation>셀 버튼</translation>
-    </message>
-    <message>
         <source>Start</source>
         <translation>시작</translation>
     </message>
@@ -194,24 +190,12 @@
         <translation>그리퍼 비우기</translation>
     </message>
     <message>
-        <source>Left arrow</source>
-        <translation>왼쪽 화살표</translation>
-    </message>
-    <message>
         <source>Left arrow button of the cell</source>
         <translation>셀 왼쪽 화살표 버튼</translation>
     </message>
     <message>
-        <source>Right arrow</source>
-        <translation>오른쪽 화살표</translation>
-    </message>
-    <message>
         <source>Right arrow button of the cell</source>
         <translation>셀 오른쪽 화살표 버튼</translation>
-    </message>
-    <message>
-        <source>Pallets</source>
-        <translation>팔레트</translation>
     </message>
     <message>
         <source>Left pallet</source>
@@ -304,6 +288,22 @@
     <message>
         <source>What was asked and answered</source>
         <translation>요청과 응답</translation>
+    </message>
+    <message>
+        <source>Speed that the controller tells</source>
+        <translation>컨트롤러가 알리는 속도</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>Conveyor, gripper and lift column</source>
+        <translation>컨베이어, 그리퍼, 승강 칼럼</translation>
     </message>
 </context>
 <context>
@@ -993,6 +993,10 @@
     <message>
         <source>&quot;action&quot; is &quot;%1&quot;, not &quot;clear&quot;</source>
         <translation>&quot;action&quot;이 &quot;clear&quot;가 아니라 &quot;%1&quot;입니다</translation>
+    </message>
+    <message>
+        <source>this is no file</source>
+        <translation>파일이 아닙니다</translation>
     </message>
 </context>
 <context>
@@ -1757,14 +1761,6 @@
         <translation>단 / 개</translation>
     </message>
     <message>
-        <source>Body</source>
-        <translation>물체</translation>
-    </message>
-    <message>
-        <source>Met</source>
-        <translation>만난 것</translation>
-    </message>
-    <message>
         <source>%1 x</source>
         <translation>%1 x</translation>
     </message>
@@ -1787,6 +1783,50 @@
     <message>
         <source>Speed</source>
         <translation>속도</translation>
+    </message>
+    <message>
+        <source>product at the stop</source>
+        <translation>제품이 스토퍼에 있음</translation>
+    </message>
+    <message>
+        <source>product in %1 mm</source>
+        <translation>제품까지 %1 mm</translation>
+    </message>
+    <message>
+        <source>jammed</source>
+        <translation>막힘</translation>
+    </message>
+    <message>
+        <source>vacuum</source>
+        <translation>진공</translation>
+    </message>
+    <message>
+        <source>no vacuum</source>
+        <translation>진공 없음</translation>
+    </message>
+    <message>
+        <source>carries a product</source>
+        <translation>제품을 들고 있음</translation>
+    </message>
+    <message>
+        <source>Conveyor: %1</source>
+        <translation>컨베이어: %1</translation>
+    </message>
+    <message>
+        <source>Gripper: %1</source>
+        <translation>그리퍼: %1</translation>
+    </message>
+    <message>
+        <source>Lift column: %1 mm, %2</source>
+        <translation>승강 칼럼: %1 mm, %2</translation>
+    </message>
+    <message>
+        <source>Task, line</source>
+        <translation>작업, 줄</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>물체</translation>
     </message>
 </context>
 <context>

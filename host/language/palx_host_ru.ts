@@ -166,10 +166,6 @@
         <translation>Аварии</translation>
     </message>
     <message>
-        <source>Buttons of the cell</source>
-        <translation>Кнопки ячейки</translation>
-    </message>
-    <message>
         <source>Start</source>
         <translation>Старт</translation>
     </message>
@@ -194,24 +190,12 @@
         <translation>Очистить захват</translation>
     </message>
     <message>
-        <source>Left arrow</source>
-        <translation>Стрелка влево</translation>
-    </message>
-    <message>
         <source>Left arrow button of the cell</source>
         <translation>Кнопка «Влево» ячейки</translation>
     </message>
     <message>
-        <source>Right arrow</source>
-        <translation>Стрелка вправо</translation>
-    </message>
-    <message>
         <source>Right arrow button of the cell</source>
         <translation>Кнопка «Вправо» ячейки</translation>
-    </message>
-    <message>
-        <source>Pallets</source>
-        <translation>Паллеты</translation>
     </message>
     <message>
         <source>Left pallet</source>
@@ -304,6 +288,22 @@
     <message>
         <source>What was asked and answered</source>
         <translation>Запрос и ответ</translation>
+    </message>
+    <message>
+        <source>Speed that the controller tells</source>
+        <translation>Скорость по данным контроллера</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Лево</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Право</translation>
+    </message>
+    <message>
+        <source>Conveyor, gripper and lift column</source>
+        <translation>Конвейер, захват и колонна</translation>
     </message>
 </context>
 <context>
@@ -993,6 +993,10 @@
     <message>
         <source>&quot;action&quot; is &quot;%1&quot;, not &quot;clear&quot;</source>
         <translation>«action» — «%1», а не «clear»</translation>
+    </message>
+    <message>
+        <source>this is no file</source>
+        <translation>это не файл</translation>
     </message>
 </context>
 <context>
@@ -1757,14 +1761,6 @@
         <translation>Слой / изделие</translation>
     </message>
     <message>
-        <source>Body</source>
-        <translation>Тело</translation>
-    </message>
-    <message>
-        <source>Met</source>
-        <translation>Встретило</translation>
-    </message>
-    <message>
         <source>%1 x</source>
         <translation>%1 x</translation>
     </message>
@@ -1787,6 +1783,50 @@
     <message>
         <source>Speed</source>
         <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>product at the stop</source>
+        <translation>изделие у упора</translation>
+    </message>
+    <message>
+        <source>product in %1 mm</source>
+        <translation>изделие через %1 mm</translation>
+    </message>
+    <message>
+        <source>jammed</source>
+        <translation>затор</translation>
+    </message>
+    <message>
+        <source>vacuum</source>
+        <translation>вакуум</translation>
+    </message>
+    <message>
+        <source>no vacuum</source>
+        <translation>нет вакуума</translation>
+    </message>
+    <message>
+        <source>carries a product</source>
+        <translation>несёт изделие</translation>
+    </message>
+    <message>
+        <source>Conveyor: %1</source>
+        <translation>Конвейер: %1</translation>
+    </message>
+    <message>
+        <source>Gripper: %1</source>
+        <translation>Захват: %1</translation>
+    </message>
+    <message>
+        <source>Lift column: %1 mm, %2</source>
+        <translation>Колонна: %1 mm, %2</translation>
+    </message>
+    <message>
+        <source>Task, line</source>
+        <translation>Задача, строка</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Тела</translation>
     </message>
 </context>
 <context>

@@ -512,6 +512,17 @@
     </message>
 </context>
 <context>
+    <name>HomeParts</name>
+    <message>
+        <source>Production</source>
+        <translation>生产</translation>
+    </message>
+    <message>
+        <source>Recipes</source>
+        <translation>配方</translation>
+    </message>
+</context>
+<context>
     <name>ImExportDialog</name>
     <message>
         <source>How many are ticked</source>
@@ -713,10 +724,6 @@
         <translation>跳过：由第 %1 行替换</translation>
     </message>
     <message>
-        <source>New</source>
-        <translation>新建</translation>
-    </message>
-    <message>
         <source>Row %1 has the name: becomes &quot;%2&quot;</source>
         <translation>第 %1 行已用此名：改为“%2”</translation>
     </message>
@@ -735,6 +742,10 @@
     <message>
         <source>Usual values for: %1</source>
         <translation>采用默认值：%1</translation>
+    </message>
+    <message>
+        <source>New recipe</source>
+        <translation>新建配方</translation>
     </message>
 </context>
 <context>
@@ -3251,6 +3262,14 @@ Pallet: %4</source>
         <source>Reset counters</source>
         <translation>计数清零</translation>
     </message>
+    <message>
+        <source>Start here</source>
+        <translation>从此处开始</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>确认</translation>
+    </message>
 </context>
 <context>
     <name>RunSideCard</name>
@@ -3323,10 +3342,6 @@ Pallet: %4</source>
         <translation>从某层某件开始</translation>
     </message>
     <message>
-        <source>Reset</source>
-        <translation>复位</translation>
-    </message>
-    <message>
         <source>Reset the counters</source>
         <translation>计数清零</translation>
     </message>
@@ -3373,10 +3388,6 @@ Pallet: %4</source>
     <message>
         <source>Disabled</source>
         <translation>已停用</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1/%2</translation>
     </message>
     <message>
         <source>Left</source>
@@ -3562,10 +3573,6 @@ Pallet: %4</source>
     <message>
         <source>Export recipes</source>
         <translation>导出配方</translation>
-    </message>
-    <message>
-        <source>Production</source>
-        <translation>生产</translation>
     </message>
 </context>
 <context>

@@ -512,6 +512,17 @@
     </message>
 </context>
 <context>
+    <name>HomeParts</name>
+    <message>
+        <source>Production</source>
+        <translation>生産</translation>
+    </message>
+    <message>
+        <source>Recipes</source>
+        <translation>レシピ</translation>
+    </message>
+</context>
+<context>
     <name>ImExportDialog</name>
     <message>
         <source>How many are ticked</source>
@@ -713,10 +724,6 @@
         <translation>スキップ: 行 %1 が置き換え</translation>
     </message>
     <message>
-        <source>New</source>
-        <translation>新規</translation>
-    </message>
-    <message>
         <source>Row %1 has the name: becomes &quot;%2&quot;</source>
         <translation>行 %1 と同名: 「%2」になります</translation>
     </message>
@@ -735,6 +742,10 @@
     <message>
         <source>Usual values for: %1</source>
         <translation>既定値: %1</translation>
+    </message>
+    <message>
+        <source>New recipe</source>
+        <translation>新しいレシピ</translation>
     </message>
 </context>
 <context>
@@ -3251,6 +3262,14 @@ Pallet: %4</source>
         <source>Reset counters</source>
         <translation>カウンタを初期化</translation>
     </message>
+    <message>
+        <source>Start here</source>
+        <translation>ここから開始</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>確定</translation>
+    </message>
 </context>
 <context>
     <name>RunSideCard</name>
@@ -3323,10 +3342,6 @@ Pallet: %4</source>
         <translation>段と個数を指定して開始</translation>
     </message>
     <message>
-        <source>Reset</source>
-        <translation>リセット</translation>
-    </message>
-    <message>
         <source>Reset the counters</source>
         <translation>カウンタを初期化</translation>
     </message>
@@ -3373,10 +3388,6 @@ Pallet: %4</source>
     <message>
         <source>Disabled</source>
         <translation>無効</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1／%2</translation>
     </message>
     <message>
         <source>Left</source>
@@ -3562,10 +3573,6 @@ Pallet: %4</source>
     <message>
         <source>Export recipes</source>
         <translation>レシピのエクスポート</translation>
-    </message>
-    <message>
-        <source>Production</source>
-        <translation>生産</translation>
     </message>
 </context>
 <context>

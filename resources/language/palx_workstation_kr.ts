@@ -512,6 +512,17 @@
     </message>
 </context>
 <context>
+    <name>HomeParts</name>
+    <message>
+        <source>Production</source>
+        <translation>생산</translation>
+    </message>
+    <message>
+        <source>Recipes</source>
+        <translation>레시피</translation>
+    </message>
+</context>
+<context>
     <name>ImExportDialog</name>
     <message>
         <source>How many are ticked</source>
@@ -713,10 +724,6 @@
         <translation>건너뜀: %1행이 대신함</translation>
     </message>
     <message>
-        <source>New</source>
-        <translation>새로 만들기</translation>
-    </message>
-    <message>
         <source>Row %1 has the name: becomes &quot;%2&quot;</source>
         <translation>%1행과 이름 같음: &quot;%2&quot;(으)로</translation>
     </message>
@@ -735,6 +742,10 @@
     <message>
         <source>Usual values for: %1</source>
         <translation>기본값 사용: %1</translation>
+    </message>
+    <message>
+        <source>New recipe</source>
+        <translation>새 레시피</translation>
     </message>
 </context>
 <context>
@@ -3251,6 +3262,14 @@ Pallet: %4</source>
         <source>Reset counters</source>
         <translation>카운터 초기화</translation>
     </message>
+    <message>
+        <source>Start here</source>
+        <translation>여기서 시작</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>확인</translation>
+    </message>
 </context>
 <context>
     <name>RunSideCard</name>
@@ -3323,10 +3342,6 @@ Pallet: %4</source>
         <translation>단과 개수에서 시작</translation>
     </message>
     <message>
-        <source>Reset</source>
-        <translation>리셋</translation>
-    </message>
-    <message>
         <source>Reset the counters</source>
         <translation>카운터 초기화</translation>
     </message>
@@ -3373,10 +3388,6 @@ Pallet: %4</source>
     <message>
         <source>Disabled</source>
         <translation>꺼짐</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1/%2</translation>
     </message>
     <message>
         <source>Left</source>
@@ -3562,10 +3573,6 @@ Pallet: %4</source>
     <message>
         <source>Export recipes</source>
         <translation>레시피 내보내기</translation>
-    </message>
-    <message>
-        <source>Production</source>
-        <translation>생산</translation>
     </message>
 </context>
 <context>

@@ -512,6 +512,17 @@
     </message>
 </context>
 <context>
+    <name>HomeParts</name>
+    <message>
+        <source>Production</source>
+        <translation>Производство</translation>
+    </message>
+    <message>
+        <source>Recipes</source>
+        <translation>Рецепты</translation>
+    </message>
+</context>
+<context>
     <name>ImExportDialog</name>
     <message>
         <source>How many are ticked</source>
@@ -713,10 +724,6 @@
         <translation>Пропуск: заменит строка %1</translation>
     </message>
     <message>
-        <source>New</source>
-        <translation>Создать</translation>
-    </message>
-    <message>
         <source>Row %1 has the name: becomes &quot;%2&quot;</source>
         <translation>Имя занято строкой %1: станет «%2»</translation>
     </message>
@@ -735,6 +742,10 @@
     <message>
         <source>Usual values for: %1</source>
         <translation>Обычные значения: %1</translation>
+    </message>
+    <message>
+        <source>New recipe</source>
+        <translation>Новый рецепт</translation>
     </message>
 </context>
 <context>
@@ -3253,6 +3264,14 @@ Pallet: %4</source>
         <source>Reset counters</source>
         <translation>Сброс счётчиков</translation>
     </message>
+    <message>
+        <source>Start here</source>
+        <translation>Начать здесь</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Подтвердить</translation>
+    </message>
 </context>
 <context>
     <name>RunSideCard</name>
@@ -3325,10 +3344,6 @@ Pallet: %4</source>
         <translation>Начать со слоя и изделия</translation>
     </message>
     <message>
-        <source>Reset</source>
-        <translation>Сброс</translation>
-    </message>
-    <message>
         <source>Reset the counters</source>
         <translation>Сбросить счётчики</translation>
     </message>
@@ -3375,10 +3390,6 @@ Pallet: %4</source>
     <message>
         <source>Disabled</source>
         <translation>Выключена</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 из %2</translation>
     </message>
     <message>
         <source>Left</source>
@@ -3564,10 +3575,6 @@ Pallet: %4</source>
     <message>
         <source>Export recipes</source>
         <translation>Экспорт рецептов</translation>
-    </message>
-    <message>
-        <source>Production</source>
-        <translation>Производство</translation>
     </message>
 </context>
 <context>
