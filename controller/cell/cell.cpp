@@ -260,18 +260,25 @@ Refusal Cell::palletName(std::int64_t index, std::optional<std::int64_t> side, s
     return Texts::tr("there is no %1, there are %2").arg(which.arg(index)).arg(found + 1).toStdString();
 }
 
+Refusal Cell::usableLayer(const std::string &name, std::int64_t layer,
+                          std::shared_ptr<const RecipePlan> *plan) const
+{
+    Refusal why = usablePlan(name, plan);
+    if (why.empty() && (layer < 1 || layer > (*plan)->layers()))
+        why = Texts::tr("the recipe \"%1\" has no layer %2, it has %3")
+                  .arg((*plan)->name())
+                  .arg(layer)
+                  .arg((*plan)->layers())
+                  .toStdString();
+    return why;
+}
+
 Refusal Cell::palletUpdate(const std::string &name, std::int64_t layer, std::int64_t piece)
 {
     std::shared_ptr<const RecipePlan> plan;
-    Refusal why = usablePlan(name, &plan);
+    Refusal why = usableLayer(name, layer, &plan);
     if (!why.empty())
         return why;
-    if (layer < 1 || layer > plan->layers())
-        return Texts::tr("the recipe \"%1\" has no layer %2, it has %3")
-            .arg(plan->name())
-            .arg(layer)
-            .arg(plan->layers())
-            .toStdString();
     const int layerNumber = static_cast<int>(layer);
     const int pieces =
         plan->isSheet(layerNumber) ? 1 : plan->pieces(layerNumber); // a sheet has one place, its own
@@ -303,15 +310,9 @@ Refusal Cell::palletLayerCount(const std::string &name, std::int64_t *count) con
 Refusal Cell::palletPieceCount(const std::string &name, std::int64_t layer, std::int64_t *count) const
 {
     std::shared_ptr<const RecipePlan> plan;
-    Refusal why = usablePlan(name, &plan);
+    Refusal why = usableLayer(name, layer, &plan);
     if (!why.empty())
         return why;
-    if (layer < 1 || layer > plan->layers())
-        return Texts::tr("the recipe \"%1\" has no layer %2, it has %3")
-            .arg(plan->name())
-            .arg(layer)
-            .arg(plan->layers())
-            .toStdString();
     *count = plan->pieces(static_cast<int>(layer));
     return {};
 }

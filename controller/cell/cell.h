@@ -74,6 +74,9 @@ private:
     void happened(const std::string &what) override;
     Pose toolOf(const RecipePlan *plan) const;
     script::Refusal usablePlan(const std::string &name, std::shared_ptr<const RecipePlan> *plan) const;
+    /// The recipe, when it has the layer.
+    script::Refusal usableLayer(const std::string &name, std::int64_t layer,
+                                std::shared_ptr<const RecipePlan> *plan) const;
 
     const PalletStore *recipes_;
     World world_;
