@@ -149,7 +149,10 @@ void StackHomePage::connectActions()
         action.button->setIconSize(QSize(28, 28));
         connect(action.button, &QPushButton::clicked, wgt_, [this, act = action.act] { (this->*act)(); });
     }
-    connect(ui_->message, &MessageBar::undoWanted, wgt_, [this] { undo_ ? (this->*undo_)() : void(); });
+    connect(ui_->message, &MessageBar::undoWanted, wgt_, [this] {
+        if (undo_)
+            (this->*undo_)();
+    });
     ui_->btnController->setIconSize(QSize(28, 28));
     connect(ui_->btnController, &QPushButton::clicked, wgt_, [this] { openController(); });
     connect(onController_, &palx::ControllerRecipes::changed, wgt_, [this] { showController(); });
