@@ -3,6 +3,7 @@
 
 #include "exchange_fixture.h"
 
+#include "formats/obstacles.h"
 #include "orba/module_manager.h"
 #include "project/rules/archive_check.h"
 #include "project/rules/project_record.h"
@@ -17,7 +18,6 @@
 #include <ctime>
 #include <random>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -133,30 +133,6 @@ protected:
     QByteArray archive_;
     int old_ = 0;
     int new_ = 0;
-};
-
-/// No file of this process grows beyond a size, as on a disk that is full.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{bytes, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        handler_ = std::signal(SIGXFSZ, SIG_IGN);
-    }
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-
-private:
-    rlimit before_{};
-    void (*handler_)(int) = nullptr;
 };
 
 } // namespace
