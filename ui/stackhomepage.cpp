@@ -151,7 +151,7 @@ void StackHomePage::connectActions()
     }
     connect(ui_->message, &MessageBar::undoWanted, wgt_, [this] {
         if (undo_)
-            (this->*undo_)();
+            undo_();
     });
     ui_->btnController->setIconSize(QSize(28, 28));
     connect(ui_->btnController, &QPushButton::clicked, wgt_, [this] { openController(); });
@@ -324,7 +324,7 @@ void StackHomePage::deleteRecipe()
         Q_EMIT reFreshPageDate();
     }
     reload();
-    undo_ = &StackHomePage::undoDelete;
+    undo_ = [this] { undoDelete(); };
     ui_->message->showUndo(tr("The recipe \"%1\" was deleted.").arg(name), State::Stopped);
 }
 
@@ -345,7 +345,7 @@ void StackHomePage::openImport()
     auto *dialog = new ImExportDialog(true, palx::stacksNode(), wgt_->window());
     connect(dialog, &ImExportDialog::worked, wgt_, [this](const QString &text, bool isUndoable) {
         importChanged();
-        undo_ = &StackHomePage::undoImport;
+        undo_ = [this] { undoImport(); };
         isUndoable ? ui_->message->showUndo(text, State::Stopped)
                    : ui_->message->showMessage(text, State::Stopped);
     });

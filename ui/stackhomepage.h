@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class HomeParts;
@@ -91,5 +92,5 @@ private:
     RunFrame *run_ = nullptr;
     QStringList names_; ///< as last announced by "refresh_cmb"
     palx::RemovedStack removed_;
-    void (StackHomePage::*undo_)() = nullptr; ///< what the message at the foot takes back
+    std::function<void()> undo_; ///< what the message at the foot takes back
 };
