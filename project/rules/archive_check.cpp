@@ -204,7 +204,7 @@ bool judge(QIODevice *device, ArchiveContent *content, QString *why, Progress *p
     if (!zip.open(QuaZip::mdUnzip))
         return refuse(why, ProjectText::tr("it is no whole zip archive"));
     Judge entries(&zip, limits, content, why);
-    return entries.list() && (!progress || entries.readAll(progress));
+    return entries.list() && entries.readAll(progress);
 }
 
 /// A pipe would be waited for.
@@ -228,10 +228,10 @@ bool checkArchive(const QString &name, ArchiveContent *content, QString *why, Pr
     return isFile(name, why) && judge(&file, content, why, progress, limits);
 }
 
-bool listArchive(const QString &name, ArchiveContent *content, QString *why, const ArchiveLimits &limits)
+bool isWholeArchive(const QString &name)
 {
     QFile file(name);
-    return isFile(name, why) && judge(&file, content, why, nullptr, limits);
+    return file.open(QIODevice::ReadOnly) && hasWholeEnd(&file);
 }
 
 } // namespace palx

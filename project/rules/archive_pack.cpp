@@ -130,11 +130,11 @@ bool packFolder(const QString &folder, qint64 bytes, const QString &archive, QSt
         runBeside(progress, {text, [&folder] { removeFolder(folder); }}, pack);
     else
         pack();
-    ArchiveContent content;
-    if (!progress->isCancelled() && !isPacked)
-        *why = ProjectText::tr("the archive cannot be written: %1").arg(archive);
-    if (!progress->isCancelled() && isPacked && listArchive(archive, &content, why))
+    isPacked = isPacked && isWholeArchive(archive);
+    if (!progress->isCancelled() && isPacked)
         return true;
+    if (!progress->isCancelled())
+        *why = ProjectText::tr("the archive cannot be written: %1").arg(archive);
     QFile::remove(archive);
     return false;
 }

@@ -17,7 +17,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -108,8 +107,9 @@ bool warn(const QString &text, const QString &why)
 /// because the copy goes when it is packed.
 bool writeBeside(const QString &name, const QByteArray &text, QString *why)
 {
-    QSaveFile file(name);
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() && file.commit())
+    QFile::remove(name);
+    QFile file(name);
+    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush())
         return true;
     *why = QStringLiteral("%1: %2").arg(name, file.errorString());
     return false;
