@@ -76,21 +76,6 @@ TEST(EditPick, Selections)
     EXPECT_EQ(palx::itemsInFrame(square(), QRectF(0, 0, 10, 10)), Selection());
 }
 
-TEST(DragTool, TapsChoose)
-{
-    PlanEditor editor(square());
-    DragTool tool(&editor.editing);
-    tap(tool, QPointF(300, 400));
-    EXPECT_EQ(editor.editing.selection(), (Selection{0}));
-    tap(tool, QPointF(410, 510));
-    EXPECT_EQ(editor.editing.selection(), (Selection{3}));
-    tap(tool, QPointF(300, 400), true);
-    EXPECT_EQ(editor.editing.selection(), (Selection{0, 3}));
-    tap(tool, QPointF(410, 510), true);
-    EXPECT_EQ(editor.editing.selection(), (Selection{0}));
-    EXPECT_EQ(editor.told(), "");
-}
-
 TEST(DragTool, TapsGoThroughAHeap)
 {
     PlanEditor editor(
@@ -189,18 +174,6 @@ TEST(OrderTool, NumbersAsTapped)
     EXPECT_FALSE(tool.isActive());
 }
 
-TEST(OrderTool, TheLastButOneNumberIsTheLastToGive)
-{
-    PlanEditor editor(square());
-    OrderTool tool(&editor.editing);
-    tool.start();
-    for (const QPointF &at : {QPointF(410, 510), QPointF(410, 400), QPointF(300, 400)})
-        tap(tool, at);
-    EXPECT_FALSE(tool.isActive());
-    EXPECT_EQ(editor.places(), "410,510/0 410,400/0 300,400/0 300,510/0");
-    EXPECT_EQ(editor.told(), "edited");
-}
-
 TEST(OrderTool, GivesUpWhenThePatternChanges)
 {
     PlanEditor editor(square());
@@ -215,18 +188,5 @@ TEST(OrderTool, GivesUpWhenThePatternChanges)
     QCoreApplication::processEvents();
     EXPECT_FALSE(tool.isActive());
     EXPECT_EQ(editor.places(), "300,400/0 410,400/0");
-    EXPECT_EQ(editor.told(), "");
-}
-
-TEST(OrderTool, DroppedNumbersAreNotWritten)
-{
-    PlanEditor editor(square());
-    OrderTool tool(&editor.editing);
-    tool.start();
-    tap(tool, QPointF(410, 400));
-    tool.drop();
-    tool.finish();
-    EXPECT_EQ(editor.places(), placesOf(square()));
-    EXPECT_EQ(placesOf(editor.scene.shownItems()), placesOf(square()));
     EXPECT_EQ(editor.told(), "");
 }

@@ -31,29 +31,16 @@ TEST(EditTurn, TurnsAboutTheMiddleOfTheSelection)
     } const cases[] = {
         {"one", {0}, 90, "100,100/90 200,100/0"},
         {"one back", {1}, -90, "100,100/0 200,100/270"},
-        {"one by an angle", {0}, 37, "100,100/37 200,100/0"},
         {"two", {0, 1}, 90, "150,50/90 150,150/90"},
         {"two back", {0, 1}, -90, "150,150/270 150,50/270"},
-        {"two half round", {0, 1}, 180, "200,100/180 100,100/180"},
         {"two by an angle", {0, 1}, 30, "106.7,75/30 193.3,125/30"},
         {"more than round", {0}, 450, "100,100/90 200,100/0"},
-        {"not at all", {0, 1}, 0, "100,100/0 200,100/0"},
     };
     for (const auto &one : cases) {
         QVector<PatternItem> items = pair;
         palx::turnItems(&items, one.selection, one.degrees);
         EXPECT_EQ(placesOf(items), one.places) << one.what;
     }
-}
-
-TEST(EditTurn, FourQuarterTurnsChangeNothing)
-{
-    QVector<PatternItem> items{coming(planItem(100.25, 100, 100, 200), "TopLeft", 30, 40),
-                               coming(planItem(250, 333.33, 100, 200), "Middle", 10, -20)};
-    const QVector<PatternItem> before = items;
-    for (int i = 0; i < 4; ++i)
-        palx::turnItems(&items, {0, 1}, 90);
-    EXPECT_EQ(items, before);
 }
 
 TEST(EditTurn, SidesTurnAlongWithSeveralProducts)
@@ -122,18 +109,5 @@ TEST(EditTurn, LabelsAreMirroredToo)
                 EXPECT_EQ(labelSide(items[0]), expected) << orient << ' ' << turn;
             }
         }
-    }
-}
-
-TEST(EditTurn, MirroringTwiceChangesNothing)
-{
-    const QVector<PatternItem> before{coming(planItem(100.25, 200, 100, 200, 90), "TopLeft", 30, 40),
-                                      labelled(coming(planItem(300, 10, 100, 200, 12), "middle", -3, 4), 3)};
-    for (const PlanAxis axis : {PlanAxis::Across, PlanAxis::Along}) {
-        QVector<PatternItem> items = before;
-        palx::mirrorPattern(&items, axis, kPallet);
-        EXPECT_NE(items, before);
-        palx::mirrorPattern(&items, axis, kPallet);
-        EXPECT_EQ(items, before);
     }
 }

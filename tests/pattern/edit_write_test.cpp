@@ -54,19 +54,6 @@ TEST(EditWrite, NothingChangedWritesNothing)
     EXPECT_EQ(signals_, 0);
 }
 
-TEST(EditWrite, ElementsThatAreNoRecordsBecomeOnesWhenEdited)
-{
-    Pattern pattern("[null,17]");
-    const QVector<PatternItem> was = pattern.read();
-    QVector<PatternItem> is = was;
-    palx::moveItems(&is, {1}, QPointF(5, 6));
-    palx::writeItems(&pattern.root, was, is);
-    ASSERT_EQ(pattern.root.cmobjCount(), 2);
-    EXPECT_TRUE(pattern.root.cmobj(0)->isNull());
-    EXPECT_EQ(placesOf(pattern.read()), "0,0/0 5,6/0");
-    EXPECT_EQ(pattern.read()[1].w, 100);
-}
-
 TEST(EditWrite, ReordersRemovesAndAdds)
 {
     Pattern pattern(

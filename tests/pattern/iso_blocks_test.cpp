@@ -64,16 +64,6 @@ TEST(IsoBlocks, ThoseBeforeAndAboveArePaintedLater)
     EXPECT_EQ(turned, QVector<int>({0, 3, 1}));
 }
 
-TEST(IsoBlocks, WhatIsAboveAndBehindConstrainsNothing)
-{
-    // In plan before, but below: no plane puts one of them before the other.
-    const IsoBlock low = block(200, 200, 100, 100, 0, 100);
-    const IsoBlock high = block(0, 0, 100, 100, 400, 500);
-    EXPECT_EQ(order({single(low, 0), single(high, 1)}).size(), 2);
-    const IsoBlock post = block(120, 120, 60, 60, 0, 1000); // before the high one, behind the low one
-    EXPECT_EQ(order({single(low, 0), single(high, 1), single(post, 2)}), QVector<int>({1, 2, 0}));
-}
-
 TEST(IsoBlocks, ABoxThatIsSetDownStandsAmongTheBoxesOfItsLayer)
 {
     const IsoGroup group = palx::stackGroup(stack(1), 1, palx::IsoProjection());
@@ -90,17 +80,4 @@ TEST(IsoBlocks, ABoxThatIsSetDownStandsAmongTheBoxesOfItsLayer)
     const IsoGroup gap = palx::stackGroup({row}, 1, palx::IsoProjection());
     const IsoGroup between = single(block(150, 0, 100, 100, 10, 110), 9);
     EXPECT_EQ(order({between, gap}), QVector<int>({0, 9, 0}));
-}
-
-TEST(IsoBlocks, AStackKeepsWhatIsSeenOfItsBoxes)
-{
-    const QVector<palx::Course> courses = stack(2);
-    const IsoGroup group = palx::stackGroup(courses, 1, palx::IsoProjection());
-    int faces = 0;
-    for (const IsoPart &part : group) {
-        faces += part.faces.size();
-        EXPECT_EQ(part.block.topMm, courses[part.look].topMm);
-    }
-    EXPECT_EQ(faces, palx::visibleFaces(courses, 1).size());
-    EXPECT_TRUE(palx::arrangeGroups({}, palx::IsoProjection()).isEmpty());
 }

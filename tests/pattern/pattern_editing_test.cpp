@@ -42,18 +42,7 @@ struct EditCase
 
 const EditCase kEdits[] = {
     {"move", {1}, [](PatternEditing &e) { e.move(QPointF(0, 10)); }, "50,100/0 152,110/0 254,100/0", {1}},
-    {"move two",
-     {0, 2},
-     [](PatternEditing &e) { e.move(QPointF(-1, 0)); },
-     "49,100/0 152,100/0 253,100/0",
-     {0, 2}},
-    {"turn", {0}, [](PatternEditing &e) { e.turn(90); }, "50,100/90 152,100/0 254,100/0", {0}},
     {"turn two", {0, 1}, [](PatternEditing &e) { e.turn(-90); }, "101,151/270 101,49/270 254,100/0", {0, 1}},
-    {"align one",
-     {2},
-     [](PatternEditing &e) { e.align(Alignment::Right); },
-     "50,100/0 152,100/0 750,100/0",
-     {2}},
     {"align all",
      {0, 1, 2},
      [](PatternEditing &e) { e.align(Alignment::Left); },
@@ -64,18 +53,12 @@ const EditCase kEdits[] = {
      [](PatternEditing &e) { e.mirror(PlanAxis::Across); },
      "750,100/0 648,100/0 546,100/0",
      {1}},
-    {"mirror along",
-     {},
-     [](PatternEditing &e) { e.mirror(PlanAxis::Along); },
-     "50,1100/180 152,1100/180 254,1100/180",
-     {}},
     {"turn the pattern",
      {},
      [](PatternEditing &e) { e.turnPattern(); },
      "750,1100/180 648,1100/180 546,1100/180",
      {}},
     {"remove", {0, 2}, [](PatternEditing &e) { e.remove(); }, "152,100/0", {}},
-    {"remove all", {0, 1, 2}, [](PatternEditing &e) { e.remove(); }, "", {}},
     {"reorder",
      {0},
      [](PatternEditing &e) {
@@ -166,20 +149,6 @@ TEST(PatternEditing, APatternTakesNoMoreThanTheControllerDoes)
     editor.editing.paste();
     EXPECT_EQ(editor.told(), "refused: A pattern holds at most 200 products; there would be 202.");
     EXPECT_EQ(editor.stored().size(), palx::kMaxItems);
-}
-
-TEST(PatternEditing, ProposesSidesForTheChosenOrForAll)
-{
-    PlanEditor editor(row());
-    editor.editing.select({0, 1});
-    editor.editing.proposeSides();
-    // Without work objects that look elsewhere "Left" comes from the right.
-    EXPECT_EQ(approachesOf(editor.stored()), "Middle 0,0; Left 100,100; Middle 0,0");
-    editor.editing.select({0});
-    editor.editing.proposeSides();
-    EXPECT_EQ(approachesOf(editor.stored()), "Middle 0,0; Left 100,100; Left 100,100");
-    EXPECT_TRUE(editor.scene.checks().order.hits.isEmpty());
-    EXPECT_EQ(editor.told(), "edited; edited");
 }
 
 TEST(PatternEditing, APreviewIsShownAndWrittenOnce)
@@ -313,7 +282,6 @@ TEST(EditPaste, FindsTheFirstFreeSide)
     } const cases[] = {
         {"right", {item}, "402,400/0"},
         {"below", {item, right}, "300,602/0"},
-        {"left", {item, right, below}, "198,400/0"},
         {"above", {item, right, below, left}, "300,198/0"},
         {"aside", {item, right, below, left, above}, "320,420/0"},
         {"elsewhere, from another pattern", {}, "402,400/0"},

@@ -24,20 +24,6 @@ PatternItem readOne(const char *json)
 
 } // namespace
 
-TEST(PatternItems, ReadsWhatTheRecordHolds)
-{
-    const PatternItem item = readOne(R"({"x":10.5,"y":20,"w":300,"h":400,"r":-450,"index":1,"orient":2,
-        "direction":"BottomLeft","dx":5,"dy":-6,"dz":7.25})");
-    PatternItem wanted = planItem(10.5, 20, 300, 400, -90);
-    wanted.orient = 2;
-    wanted.direction = Direction::BottomLeft;
-    wanted.directionText = QStringLiteral("BottomLeft");
-    wanted.dx = 5;
-    wanted.dy = -6;
-    wanted.dz = 7.25;
-    EXPECT_TRUE(item == wanted) << item.x << item.r << item.directionText << int(item.faults);
-}
-
 TEST(PatternItems, BadValuesAreReplacedAndFlagged)
 {
     struct
@@ -71,18 +57,6 @@ TEST(PatternItems, BadValuesAreReplacedAndFlagged)
         EXPECT_EQ(int(item.faults), int(one.faults)) << one.json;
         EXPECT_EQ(item.direction, Direction::Middle) << one.json;
     }
-}
-
-TEST(PatternItems, NumbersThatAreNotFiniteAreRefused)
-{
-    Node pattern;
-    Node *record = pattern.add();
-    for (const char16_t *key : {u"x", u"y", u"w", u"h"})
-        record->ensure(key)->setDouble(std::numeric_limits<double>::quiet_NaN());
-    const PatternItem item = palx::readPatternItems(pattern, 150, 200).value(0);
-    EXPECT_EQ(item.x, 0);
-    EXPECT_EQ(item.w, 150);
-    EXPECT_EQ(int(item.faults), int(ItemFault::BadValue));
 }
 
 TEST(PatternItems, APatternOfAnotherKindGivesWhatItCan)

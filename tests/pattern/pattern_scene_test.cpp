@@ -73,19 +73,6 @@ TEST(PatternScene, AddedItemIsWrittenAndShown)
     EXPECT_TRUE(scene.items().isEmpty());
 }
 
-TEST(PatternScene, WithoutAPatternItKeepsItemsOfItsOwn)
-{
-    PatternScene scene;
-    scene.setStack(planRecipe());
-    for (int i = 1; i <= 200; ++i)
-        scene.addWobjItem(i, 0, QPointF(i, i), QSize(10, 20), 0, {}, QStringLiteral("middle"));
-    EXPECT_EQ(scene.getWobjCount(), 200);
-    EXPECT_EQ(scene.shownItems().value(199).x, 200);
-    EXPECT_EQ(scene.shownItems().value(199).dx, 0); // offsets that were not given
-    scene.clearItems();
-    EXPECT_EQ(scene.getWobjCount(), 0);
-}
-
 TEST(PatternScene, FollowsValuesItemsAndThePallet)
 {
     const auto stack = stackObject();
@@ -105,48 +92,6 @@ TEST(PatternScene, FollowsValuesItemsAndThePallet)
     stack->set(nullptr, "patterns.A.#0.r", 90); // an item that was another's successor is followed, too
     EXPECT_EQ(scene.shownItems().value(0).r, 90);
     EXPECT_GE(shown.size(), 4);
-}
-
-TEST(PatternScene, EveryAttributeReachesItsView)
-{
-    const auto stack = stackObject();
-    PatternScene scene;
-    scene.setStack(stack.get());
-    scene.setPattern(stack->r("patterns.B"));
-    const auto bounds = [&scene] {
-        scene.plan();
-        return scene.items().value(0)->sceneBoundingRect();
-    };
-    EXPECT_EQ(bounds(), QRectF(0, 0, 400, 300));
-    stack->set(nullptr, "patterns.B.#0.x", 250);
-    EXPECT_EQ(bounds(), QRectF(50, 0, 400, 300));
-    stack->set(nullptr, "patterns.B.#0.r", 180);
-    EXPECT_EQ(bounds(), QRectF(100, -50, 300, 400));
-    stack->set(nullptr, "patterns.B.#0.h", 500);
-    EXPECT_EQ(bounds(), QRectF(100, -100, 300, 500));
-    const struct
-    {
-        const char *key;
-        QVariant value;
-    } marks[] = {{"index", 7}, {"orient", 2}, {"direction", QStringLiteral("Left")}, {"dx", "?"}};
-    for (const auto &mark : marks) {
-        const QImage before = draw(scene, QSize(400, 300));
-        stack->set(nullptr, QStringLiteral("patterns.B.#0.") + QLatin1String(mark.key), mark.value);
-        EXPECT_NE(draw(scene, QSize(400, 300)), before) << mark.key;
-    }
-}
-
-TEST(PatternScene, StandsInTheMiddleOfItsView)
-{
-    PatternScene scene;
-    scene.setStack(planRecipe());
-    for (const QSizeF &size : {QSizeF(1280, 800), QSizeF(500, 900)}) {
-        const QRectF view = scene.viewRect(size);
-        const double spare = 2 * scene.textPixels() / scene.planScale(size); // for the dimensions' side
-        EXPECT_NEAR(view.center().x(), 400, spare) << size.width();
-        EXPECT_NEAR(view.center().y(), 600, spare) << size.width();
-        EXPECT_NEAR(view.width() / view.height(), size.width() / size.height(), 1e-9);
-    }
 }
 
 TEST(PatternScene, ManyChangesMakeOnePicture)
@@ -184,7 +129,7 @@ TEST(PatternScene, OutlivesThePatternAndTheRecipe)
 
 TEST(PatternScene, DrawsToScale)
 {
-    const QSize sizes[] = {{1280, 800}, {400, 300}, {300, 500}, {60, 40}};
+    const QSize sizes[] = {{1280, 800}, {300, 500}, {60, 40}};
     for (const QSize &size : sizes) {
         PatternScene scene;
         scene.setTextPixels(9);

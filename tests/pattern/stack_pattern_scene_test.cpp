@@ -3,7 +3,6 @@
 #include "pattern/plan_recipe.h"
 #include "support/test_support.h"
 
-#include <QElapsedTimer>
 #include <QImage>
 #include <QPainter>
 
@@ -65,15 +64,6 @@ TEST(StackPatternScene, ShowsWhatTheLayerNames)
     }
 }
 
-TEST(StackPatternScene, SaysThatARecipeOrPatternIsEmpty)
-{
-    StackPatternScene scene;
-    scene.setStack(nodeFromJson("{}"));
-    EXPECT_EQ(scene.message(), QStringLiteral("This recipe has no layers"));
-    scene.setStack(oneLayerRecipe({}));
-    EXPECT_EQ(scene.message(), QStringLiteral("The pattern \"A\" is empty"));
-}
-
 TEST(StackPatternScene, WritesToThePatternOfItsLayer)
 {
     const auto stack = stackObject();
@@ -130,17 +120,4 @@ TEST(StackPatternScene, ShowsTheLayerBelow)
     const QImage lowest = draw(scene);
     scene.setGhostShown(true);
     EXPECT_EQ(draw(scene), lowest);
-}
-
-TEST(StackPatternScene, TwoHundredItemsAreShownAtOnce)
-{
-    const auto stack = std::make_unique<ModuleObject>(QStringLiteral("stack"));
-    stack->copyFrom(oneLayerRecipe(planGrid(10, 20, 80, 60)));
-    StackPatternScene scene;
-    scene.setStack(stack.get());
-    EXPECT_EQ(scene.shownItems().size(), 200);
-    EXPECT_EQ(scene.items().size(), 200);
-    EXPECT_TRUE(scene.findings().overlaps.isEmpty());
-    stack->set(nullptr, "patterns.A.#199.y", 1180);
-    EXPECT_EQ(scene.findings().worst.bottom, 10);
 }

@@ -32,17 +32,6 @@ TEST(StackPlan, LayersLieWhereThePointsPutThem)
     EXPECT_DOUBLE_EQ(plan.heightMm(), 810);
 }
 
-TEST(StackPlan, OnlyLayersOfProductsHaveItems)
-{
-    const orba::Node stack = planRecipe();
-    const StackPlan plan = palx::readStackPlan(stack);
-    const int counts[] = {2, 0, 1, 0, 2, 0, 0, 0};
-    for (int i = 0; i < 8; ++i)
-        EXPECT_EQ(palx::layerItems(stack, plan, i).size(), counts[i]) << i;
-    EXPECT_TRUE(palx::layerItems(stack, plan, -1).isEmpty());
-    EXPECT_TRUE(palx::layerItems(stack, plan, 8).isEmpty());
-}
-
 TEST(StackPlan, UnusableSizesAreReplacedAndSaid)
 {
     const char *const bad[] = {"0", "-3", "null", "\"wide\"", "1e300", "[]"};
@@ -83,10 +72,4 @@ TEST(StackPlan, NamesWithDotsAreFoundAsTheyStand)
     stack.find(u"layers.#0.pattern")->setString(QStringLiteral("#1.x"));
     EXPECT_EQ(palx::readStackPlan(stack).layers[0].kind, LayerKind::Products);
     EXPECT_EQ(palx::readStackPlan(stack).layers[4].kind, LayerKind::MissingPattern);
-}
-
-TEST(StackPlan, TheSheetLiesInTheMiddle)
-{
-    EXPECT_EQ(palx::sheetRect(QSizeF(780, 1180), QSizeF(800, 1200)), QRectF(10, 10, 780, 1180));
-    EXPECT_EQ(palx::sheetRect(QSizeF(820, 1200), QSizeF(800, 1200)), QRectF(-10, 0, 820, 1200));
 }
