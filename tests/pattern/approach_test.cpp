@@ -98,9 +98,5 @@ TEST(Approach, NamedSideIsWhereTheProductComesFrom)
         item.set(u"direction", QStringLiteral("TopLeft"));
         EXPECT_EQ(approachOf(stack).side, QPointF(-1, -1) * sign) << frame.what;
         EXPECT_EQ(approachOf(stack).shift, QPointF()) << frame.what;
-        item.set(u"direction", QStringLiteral("Right"));
-        EXPECT_EQ(approachOf(stack).side, QPointF(1, 0) * sign) << frame.what;
-        item.set(u"direction", QStringLiteral("Middle"));
-        EXPECT_EQ(approachOf(stack).side, QPointF()) << frame.what;
     }
 }

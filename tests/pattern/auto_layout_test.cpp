@@ -45,9 +45,11 @@ TEST(AutoLayout, MatrixAndRowsFollowTheirFormulas)
         QStringList expected;
     } cases[] = {
         {0, Placement::Plain, grid(5, 98, 151, 4, 198.5, 201, 0)},
+        {0, Placement::Left, grid(5, 98, 151, 4, 801.5, -201, 0)},
         {0, Placement::Right, grid(5, 702, -151, 4, 801.5, -201, 0)},
         {1, Placement::Plain, grid(3, 199, 201, 6, 122.5, 151, 90)},
         {1, Placement::Left, grid(3, 199, 201, 6, 877.5, -151, 90)},
+        {1, Placement::Right, grid(3, 601, -201, 6, 877.5, -151, 90)},
         // four rows as they are, counted 804; a turned one makes 954, so they begin at 23
         {2, Placement::Plain, grid(5, 98, 151, 4, 123, 201, 0) + grid(3, 199, 201, 1, 902, 0, 90, 20)},
         {2, Placement::Left, grid(5, 98, 151, 4, 877, -201, 0) + grid(3, 199, 201, 1, 98, 0, 90, 20)},
@@ -200,39 +202,29 @@ TEST(AutoLayout, ReadsTheRecipe)
         "product_cfg.product": {"length": 210, "width": 160, "orient": 2},
         "product_cfg.pallet": {"length": 1100, "width": 900}})");
     const LayoutInput input = palx::readLayoutInput(stack->node());
-    EXPECT_EQ(input.length, 210);
-    EXPECT_EQ(input.width, 160);
-    EXPECT_EQ(input.orient, 2);
-    EXPECT_EQ(input.palletLength, 1100);
-    EXPECT_EQ(input.palletWidth, 900);
-    EXPECT_EQ(input.topBottomMargin, 12);
-    EXPECT_EQ(input.leftRightMargin, 34);
-    EXPECT_EQ(input.spacing, 5.5);
-    EXPECT_EQ(input.placement, Placement::Plain);
+    EXPECT_EQ(layoutCase(input, input.orient), layoutCase(layoutInput(210, 160, 1100, 900, 5.5, 12, 34), 2));
 }
 
 TEST(AutoLayout, CalibrationAndPositionDecideThePlacement)
 {
     const struct
     {
-        const char *methods;
+        int method; ///< of the second work object; the first one has one point
         const char *stack;
         Placement expected;
     } cases[] = {
-        {"[{\"calibration_method\":1},{\"calibration_method\":1}]",
-         R"({"use_global_wobj":true,"pallet_position":0})", Placement::Left},
-        {"[{\"calibration_method\":1},{\"calibration_method\":1}]",
-         R"({"use_global_wobj":true,"pallet_position":1})", Placement::Right},
-        {"[{\"calibration_method\":1},{\"calibration_method\":1}]",
-         R"({"use_global_wobj":false,"pallet_position":1})", Placement::Plain},
-        {"[{\"calibration_method\":1},{\"calibration_method\":3}]",
-         R"({"use_global_wobj":true,"pallet_position":1})", Placement::Plain},
+        {1, R"({"use_global_wobj":true,"pallet_position":0})", Placement::Left},
+        {1, R"({"use_global_wobj":true,"pallet_position":1})", Placement::Right},
+        {1, R"({"use_global_wobj":false,"pallet_position":1})", Placement::Plain},
+        {3, R"({"use_global_wobj":true,"pallet_position":1})", Placement::Plain},
     };
     for (const auto &c : cases) {
         const auto plugin = makePluginTree();
-        plugin->node().find(u"global_wobj")->assign(nodeFromJson(c.methods));
+        orba::Node &objects = *plugin->node().find(u"global_wobj");
+        objects.assign(nodeFromJson(R"([{"calibration_method":1},{"calibration_method":1}])"));
+        objects.set(u"#1.calibration_method", c.method);
         EXPECT_EQ(palx::readLayoutInput(addTestStack(plugin.get(), c.stack)->node()).placement, c.expected)
-            << c.methods << c.stack;
+            << c.method << c.stack;
     }
 }
 
@@ -243,4 +235,5 @@ TEST(AutoLayout, OnlyWhatAPatternHoldsMayBecomeOne)
     EXPECT_EQ(palx::layoutProblem(layout), QString());
     layout.count = 201;
     EXPECT_EQ(palx::layoutProblem(layout), QStringLiteral("Wobj number is greater than 200"));
+    EXPECT_DOUBLE_EQ(palx::areaUsed(layoutInput(200, 150, 1000, 800), 20), 0.75);
 }

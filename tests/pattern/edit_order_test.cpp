@@ -29,9 +29,9 @@ TEST(EditOrder, ByTaps)
     {
         Order taps, order;
     } const cases[] = {
-        {{}, {0, 1, 2, 3}},           {{2}, {2, 0, 1, 3}},
-        {{3, 1}, {3, 1, 0, 2}},       {{1, 1, 9, -1, 0}, {1, 0, 2, 3}},
-        {{3, 2, 1, 0}, {3, 2, 1, 0}},
+        {{}, {0, 1, 2, 3}},
+        {{3, 1}, {3, 1, 0, 2}},
+        {{1, 1, 9, -1, 0}, {1, 0, 2, 3}},
     };
     for (const auto &one : cases)
         EXPECT_EQ(palx::orderByTaps(4, one.taps), one.order);
@@ -66,21 +66,15 @@ TEST(EditOrder, RowsOfDifferentProducts)
               (Order{6, 5, 4, 3, 2, 1, 0}));
     items[1].y += 60; // hangs back, its middle still beside the others of its row
     EXPECT_EQ(palx::orderByRows(items, PlanCorner::TopLeft, PlanAxis::Across), (Order{0, 1, 2, 3, 4, 5, 6}));
-    EXPECT_EQ(palx::orderByRows({}, PlanCorner::TopLeft, PlanAxis::Across), Order());
 }
 
 TEST(EditOrder, OutwardFromEachCorner)
 {
     const QVector<PatternItem> grid = planGrid(3, 2, 100, 200);
-    EXPECT_EQ(palx::orderFromCorner(grid, PlanCorner::TopLeft), (Order{0, 1, 2, 3, 4, 5}));
     EXPECT_EQ(palx::orderFromCorner(grid, PlanCorner::BottomRight), (Order{5, 4, 3, 2, 1, 0}));
     const QVector<PatternItem> square = planGrid(3, 3, 100, 100);
     EXPECT_EQ(palx::orderFromCorner(square, PlanCorner::TopLeft), (Order{0, 1, 3, 4, 2, 6, 5, 7, 8}));
     EXPECT_EQ(palx::orderFromCorner(square, PlanCorner::TopRight), (Order{2, 1, 5, 4, 0, 8, 3, 7, 6}));
-    // Where the pattern lies on the pallet does not matter.
-    QVector<PatternItem> shifted = square;
-    palx::moveItems(&shifted, {0, 1, 2, 3, 4, 5, 6, 7, 8}, QPointF(333.3, 77.7));
-    EXPECT_EQ(palx::orderFromCorner(shifted, PlanCorner::TopLeft), (Order{0, 1, 3, 4, 2, 6, 5, 7, 8}));
 }
 
 TEST(EditOrder, ReorderedItemsAreNumberedAnew)

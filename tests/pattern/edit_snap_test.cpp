@@ -65,10 +65,13 @@ TEST(EditSnap, DrawsToWhatIsNear)
     } const cases[] = {
         {"nothing near", {600, 900}, "-400,-1100"},
         {"beside the right of a neighbour", {517, 540}, "-488,-1460 x-gap@460[420..640]:2#1"},
+        {"beside its left", {283, 540}, "-712,-1460 x-gap@340[420..640]:2#1"},
+        {"below it", {430, 688}, "-570,-1318 y-gap@580[340..480]:2#1"},
         {"above it", {430, 325}, "-570,-1682 y-gap@420[340..480]:2#1"},
         {"beside it, its middle on the neighbour's",
          {517, 503},
          "-488,-1500 x-gap@460[400..600]:2#1 y-neighbour@500[340..562]:0#1"},
+        {"too far from it", {523, 540}, "-477,-1460"},
         {"the upper edges in line", {600, 517}, "-400,-1480 y-neighbour@420[340..650]:0#1"},
         {"the pallet's lower right corner",
          {746, 1105},
@@ -90,6 +93,14 @@ TEST(EditSnap, TheNearestWins)
               "-848,-1340 x-gap@100[500..760]:2#1");
     EXPECT_EQ(dragged({planItem(50, 600, 100, 200), planItem(258, 600, 100, 200)}, moved, {155, 660}, 2),
               "-844,-1340 x-gap@208[500..760]:2#2");
+}
+
+TEST(EditSnap, MarginsDrawLikeEdges)
+{
+    const PatternItem moved = planItem(1000, 2000, 100, 200);
+    const QRectF inside(30, 0, 770, 1200);
+    EXPECT_EQ(dragged({}, moved, {77, 900}, 2, inside), "-920,-1100 x-margin@30[0..1200]:0#-1");
+    EXPECT_EQ(dragged({}, moved, {52, 900}, 2, inside), "-950,-1100 x-edge@0[0..1200]:0#-1");
 }
 
 TEST(EditSnap, SeveralProductsSnapAsOneArea)

@@ -6,8 +6,6 @@
 #include "pattern/rules/edit_order.h"
 #include "support/test_support.h"
 
-#include <QPointer>
-
 #include <gtest/gtest.h>
 
 using orba::ModuleObject;
@@ -72,18 +70,6 @@ TEST(EditWrite, ReordersRemovesAndAdds)
     EXPECT_EQ(pattern.root.cmobjCount(), 0);
 }
 
-TEST(EditWrite, FieldsTiedToValuesFollow)
-{
-    Pattern pattern(R"([{"x":1,"y":1},{"x":2,"y":2}])");
-    const QPointer<ModuleObject> x = pattern.root.r("#1.x");
-    double heard = 0;
-    QObject::connect(x, &ModuleObject::changed, [&](const QVariant &value) { heard = value.toDouble(); });
-    const QVector<PatternItem> was = pattern.read();
-    palx::writeItems(&pattern.root, was, palx::reordered(was, {1, 0}), {1, 0});
-    EXPECT_EQ(heard, 1);
-    EXPECT_FALSE(x.isNull());
-}
-
 TEST(EditWrite, RecordsBeyondThoseThatWereReadStay)
 {
     Pattern pattern("[]");
@@ -95,16 +81,4 @@ TEST(EditWrite, RecordsBeyondThoseThatWereReadStay)
     ASSERT_EQ(pattern.root.cmobjCount(), 4);
     EXPECT_EQ(pattern.root.getInt("#0.x"), 1999);
     EXPECT_EQ(pattern.root.getInt("#3.x"), 2002);
-}
-
-TEST(EditWrite, AListOfBareNumbersIsNotTakenForRecords)
-{
-    Pattern pattern("[1,2,3]");
-    const QVector<PatternItem> was = pattern.read();
-    ASSERT_EQ(was.size(), 3);
-    QVector<PatternItem> is = was;
-    palx::moveItems(&is, {0}, QPointF(5, 6));
-    palx::writeItems(&pattern.root, was, is);
-    EXPECT_EQ(placesOf(pattern.read()), "5,6/0 0,0/0 0,0/0");
-    EXPECT_EQ(pattern.root.getInt("#2"), 3);
 }

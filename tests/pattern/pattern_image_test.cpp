@@ -37,20 +37,6 @@ TEST(PatternImage, AMirroredCopyIsMadeOnceAndFoundAgain)
     EXPECT_EQ(recipe.root.getInt("patterns.A_m.#1.index"), 2);
 }
 
-TEST(PatternImage, MirroredTwiceItIsTheFirstAgain)
-{
-    for (const PatternImage image :
-         {PatternImage::LeftRight, PatternImage::FrontBack, PatternImage::HalfTurn}) {
-        Recipe recipe;
-        for (const QString &name : {QStringLiteral("A"), QStringLiteral("B")}) {
-            const QString copy = palx::imageOfPattern(&recipe.root, name, image);
-            EXPECT_NE(copy, name);
-            EXPECT_EQ(palx::imageOfPattern(&recipe.root, copy, image), name);
-        }
-        EXPECT_EQ(recipe.patterns().size(), 4);
-    }
-}
-
 TEST(PatternImage, EachImageHasANameOfItsOwn)
 {
     Recipe recipe;

@@ -90,32 +90,18 @@ TEST(SpiralLayout, ARingOfFourGoesAroundTheGap)
     EXPECT_EQ(palx::generateSpiralPattern(input).count, 0);
 }
 
-TEST(SpiralLayout, KnownRings)
+TEST(SpiralLayout, ARingIsCentredInItsRoom)
 {
-    const struct
-    {
-        double length, width, palletLength, palletWidth;
-        int count;
-    } cases[] = {
-        {300, 200, 1200, 1000, 20}, // the whole area
-        {400, 300, 1200, 800, 6},   // one column of each turn: one and two, two and one
-        {330, 240, 1200, 1000, 13}, // four blocks of different sizes
-        {600, 400, 1000, 1000, 4},  // the plain pinwheel
-        {600, 400, 999, 1000, 0},   //
-        {127, 230, 653, 1068, 22},  // a block narrower than it could be keeps clear of the one it faces
-        {120, 251, 953, 848, 23},   //
-    };
-    for (const auto &c : cases) {
-        const LayoutInput input = layoutInput(c.length, c.width, c.palletLength, c.palletWidth);
-        EXPECT_EQ(palx::generateSpiralPattern(input).count, c.count) << layoutCase(input, 3);
-    }
+    const LayoutInput input = layoutInput(300, 200, 570, 590, 10);
+    const QRectF outline = palx::itemsBounds(palx::generateSpiralPattern(input).items);
+    EXPECT_EQ(outline, QRectF(40, 30, 510, 510));
 }
 
 TEST(SpiralLayout, NoRingHoldsMoreNorIsAnyTighter)
 {
     std::mt19937 random(20240611);
     int rings = 0;
-    for (int i = 0; i < 900; ++i) {
+    for (int i = 0; i < 600; ++i) {
         const LayoutInput input = randomInput(random);
         const QRectF room = roomOf(input);
         if (room.width() * room.height() > 28 * input.length * input.width)
@@ -130,5 +116,5 @@ TEST(SpiralLayout, NoRingHoldsMoreNorIsAnyTighter)
         const double slack = outline.width() + outline.height() + 1; // items are cut to whole millimetres
         EXPECT_NEAR(outline.width() * outline.height(), best.area, slack) << layoutCase(input, 3);
     }
-    EXPECT_GT(rings, 300);
+    EXPECT_GT(rings, 200);
 }

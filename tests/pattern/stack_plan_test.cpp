@@ -64,12 +64,3 @@ TEST(StackPlan, AnythingAtAllCanBeRead)
     stack.find(u"product_cfg.product.height")->setDouble(std::numeric_limits<double>::quiet_NaN());
     EXPECT_LE(palx::readStackPlan(stack).heightMm(), palx::kMaxStackMm);
 }
-
-TEST(StackPlan, NamesWithDotsAreFoundAsTheyStand)
-{
-    orba::Node stack = planRecipe();
-    stack.find(u"patterns.A")->setName(orba::Name(u"#1.x"));
-    stack.find(u"layers.#0.pattern")->setString(QStringLiteral("#1.x"));
-    EXPECT_EQ(palx::readStackPlan(stack).layers[0].kind, LayerKind::Products);
-    EXPECT_EQ(palx::readStackPlan(stack).layers[4].kind, LayerKind::MissingPattern);
-}
