@@ -46,17 +46,28 @@ QStringList exampleFiles()
     return folder.entryList({QStringLiteral("*.xml"), QStringLiteral("*.json")}, QDir::Files, QDir::Name);
 }
 
-orba::Node exampleContent(const QString &name)
+orba::Node exampleContent(const QString &name, int layers)
 {
     orba::Node content;
     orba::FormatError error;
-    const bool read = name.endsWith(QLatin1String(".xml"))
-                          ? orba::ModuleManager::readFromXmlFile(examplePath(name), &content, &error)
-                          : orba::ModuleManager::readFromJson(examplePath(name), &content, &error);
-    EXPECT_TRUE(read) << qPrintable(error.text());
-    if (name.endsWith(QLatin1String(".xml")))
+    const bool isXml = name.endsWith(QLatin1String(".xml"));
+    EXPECT_TRUE(isXml ? orba::ModuleManager::readFromXmlFile(examplePath(name), &content, &error)
+                      : orba::ModuleManager::readFromJson(examplePath(name), &content, &error))
+        << qPrintable(error.text());
+    if (isXml)
         content.remove(u"default");
-    return name.endsWith(QLatin1String(".xml")) ? content : *content.child(u"stacks");
+    orba::Node recipes = isXml ? content : *content.child(u"stacks");
+    for (int i = 0; layers >= 0 && i < recipes.size(); ++i) {
+        orba::Node *all = recipes.at(i)->find(u"layers");
+        while (all->size() > layers)
+            all->removeAt(all->size() - 1);
+    }
+    return recipes;
+}
+
+void writeRecipes(const QString &file, const orba::Node &recipes)
+{
+    EXPECT_TRUE(orba::ModuleManager::writeToXmlFile(recipes, file)) << qPrintable(file);
 }
 
 orba::Node parsed(const QByteArray &json)

@@ -20,8 +20,9 @@ PalxRun runPalx(const QStringList &arguments, const QString &folder = QString())
 QString examplePath(const QString &name);
 /// Every recipe file of the examples folder.
 QStringList exampleFiles();
-/// The recipes that an example holds, read without `palx`.
-orba::Node exampleContent(const QString &name);
+/// The recipes that an example holds, read without `palx`; of each only so many layers when a number is given.
+orba::Node exampleContent(const QString &name, int layers = -1);
+void writeRecipes(const QString &file, const orba::Node &recipes);
 
 /// What `palx` printed as JSON; a fault in it fails the test.
 orba::Node parsed(const QByteArray &json);

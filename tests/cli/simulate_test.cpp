@@ -1,6 +1,5 @@
-// `palx simulate`: whole pallets, faults, traces, refusals.
+// `palx simulate`: pallets of one layer, faults, traces, refusals. The cell itself is tested without the program.
 
-#include "orba/module_manager.h"
 #include "palx_run.h"
 
 #include <QTemporaryDir>
@@ -11,28 +10,19 @@ namespace {
 
 using orba::Node;
 
-/// A recipe of the examples with two layers.
 class Simulate : public ::testing::Test
 {
 protected:
-    Simulate() : recipe(exampleContent("line-left.xml"))
-    {
-        Node *layers = recipe.find(u"#0.layers");
-        while (layers->size() > 2)
-            layers->removeAt(layers->size() - 1);
-    }
-    /// Runs the recipe as it is now.
+    /// Runs recipes of an example that are one layer high.
     PalxRun run(const QStringList &options)
     {
         const QString file = folder.filePath(QStringLiteral("recipe.xml"));
-        Node list(orba::Name(u"temp_list"));
-        list.assign(recipe);
-        EXPECT_TRUE(orba::ModuleManager::writeToXmlFile(list, file));
+        writeRecipes(file, recipes);
         return runPalx(QStringList{QStringLiteral("simulate"), file} + options);
     }
 
     QTemporaryDir folder;
-    Node recipe;
+    Node recipes = exampleContent("line-left.xml", 1);
 };
 
 /// "14 of 14 boxes on 1 pallets, 0 violations" and the counters of the left side.
@@ -40,21 +30,19 @@ QString summary(const PalxRun &run)
 {
     const Node result = parsed(run.out);
     return QStringLiteral(
-               "%1 of %2 boxes on %3 pallets, %4 violations; layer %5, piece %6, count %7, total %8, "
-               "flag %9")
+               "%1 of %2 boxes on %3 pallets, %4 violations; layer %5, piece %6, total %7, flag %8")
         .arg(result.getInt(u"boxes"))
         .arg(result.getInt(u"expected"))
         .arg(result.getInt(u"pallets"))
         .arg(result.child(u"violations")->size())
         .arg(result.getInt(u"counters.currentLayerL"))
         .arg(result.getInt(u"counters.layerCountL"))
-        .arg(result.getInt(u"counters.palletCountL"))
         .arg(result.getInt(u"counters.totalPalletsL"))
         .arg(result.getInt(u"counters.flagL"));
 }
 
 const QString kFull =
-    QStringLiteral("28 of 28 boxes on 1 pallets, 0 violations; layer 3, piece 1, count 0, total 1, flag 1");
+    QStringLiteral("14 of 14 boxes on 1 pallets, 0 violations; layer 2, piece 1, total 1, flag 1");
 
 } // namespace
 
@@ -69,32 +57,27 @@ TEST_F(Simulate, FillsAPallet)
                            "seconds", "wall_seconds", "boxes_per_hour", "counters"}));
     EXPECT_LT(json.getDouble(u"max_error_mm"), 0.1);
     EXPECT_LT(json.getDouble(u"max_error_deg"), 0.01);
-    EXPECT_NEAR(json.getDouble(u"boxes_per_hour"), 28 * 3600 / json.getDouble(u"seconds"), 1e-6);
+    EXPECT_NEAR(json.getDouble(u"boxes_per_hour"), 14 * 3600 / json.getDouble(u"seconds"), 1e-6);
 }
 
-TEST_F(Simulate, EveryFaultIsMended)
-{
-    const char *const faults[] = {"no-vacuum@40.5", "lost-box@31",    "conveyor-jam@20", "pallet-pulled@35",
-                                  "e-stop@25.2",    "collision@61.4", "power-cut@44.4",  "power cut@50"};
-    for (const char *fault : faults) {
-        const PalxRun result = run({QStringLiteral("--fault"), QString::fromLatin1(fault)});
-        EXPECT_EQ(result.code, 0) << fault << result.err.constData();
-        EXPECT_EQ(summary(result), kFull) << fault;
-    }
-}
-
-TEST_F(Simulate, TheSameSeedGivesTheSameTrace)
+TEST_F(Simulate, FaultsAreMendedAndTheSameSeedGivesTheSameTrace)
 {
     const auto traceOf = [this](const char *name, const char *seed) {
         const QString trace = folder.filePath(QString::fromLatin1(name));
-        EXPECT_EQ(
-            run({"--trace", trace, "--seed", seed, "--fault", "e-stop@20", "--fault", "power-cut@70"}).code,
-            0);
+        QStringList options{"--trace", trace, "--seed", seed};
+        for (const char *fault : {"conveyor-jam@20", "e-stop@25.2", "lost-box@31", "pallet-pulled@40",
+                                  "no-vacuum@50.5", "collision@61.4", "power cut@75"})
+            options += {"--fault", fault};
+        const PalxRun result = run(options);
+        EXPECT_EQ(result.code, 0) << result.err.constData();
+        EXPECT_EQ(summary(result), kFull);
         return fileContent(trace);
     };
     const QByteArray trace = traceOf("a", "3");
-    EXPECT_GT(trace.count('\n'), 500);
-    EXPECT_TRUE(trace.contains(" e-stop on\n") && trace.contains(" power cut\n"));
+    for (const char *fault :
+         {"conveyor-jam", "e-stop", "lost-box", "pallet-pulled", "no-vacuum", "collision"})
+        EXPECT_TRUE(trace.contains(QByteArray(" ") + fault + " on\n")) << fault;
+    EXPECT_TRUE(trace.contains(" power cut\n"));
     EXPECT_EQ(trace, traceOf("b", "3"));
     EXPECT_NE(trace, traceOf("c", "4"));
 }
@@ -102,7 +85,7 @@ TEST_F(Simulate, TheSameSeedGivesTheSameTrace)
 TEST_F(Simulate, AViolationIsToldAndFails)
 {
     // The second box comes where the first one lies.
-    Node &pattern = *recipe.find(u"#0.patterns.A");
+    Node &pattern = *recipes.find(u"#0.patterns.A");
     for (const char16_t *key : {u"x", u"y"})
         pattern.at(1)->set(key, pattern.at(0)->getDouble(key));
     const PalxRun result = run({});
@@ -119,10 +102,10 @@ TEST_F(Simulate, AViolationIsToldAndFails)
 
 TEST_F(Simulate, BothSidesWithTheLiftColumn)
 {
-    const PalxRun result = runPalx(
-        {"simulate", examplePath("lift-pair.xml"), "--lift", "--scheme", "both", "--format", "table"});
+    recipes = exampleContent("lift-pair.xml", 1);
+    const PalxRun result = run({"--lift", "--scheme", "both", "--format", "table"});
     EXPECT_EQ(result.code, 0) << result.err.constData();
-    EXPECT_TRUE(result.out.startsWith("160 of 160 boxes on 2 full pallets\n")) << result.out.constData();
+    EXPECT_TRUE(result.out.startsWith("20 of 20 boxes on 2 full pallets\n")) << result.out.constData();
     EXPECT_TRUE(result.out.contains("\n0 violations\n"));
 }
 
@@ -139,12 +122,8 @@ TEST_F(Simulate, RefusesWhatItCannotDo)
          "no fault is called \"fire\"; there are: no-vacuum, lost-box, conveyor-jam, pallet-pulled, e-stop, "
          "collision, power-cut"},
         {{"--fault", "e-stop"}, 2, "\"e-stop\" does not say when: NAME@SECONDS"},
-        {{"--fault", "e-stop@soon"}, 2, "\"e-stop@soon\" does not say when: NAME@SECONDS"},
-        {{"--fault", "e-stop@-1"}, 2, "\"e-stop@-1\" does not say when: NAME@SECONDS"},
         {{"--fault", "e-stop@nan"}, 2, "\"e-stop@nan\" does not say when: NAME@SECONDS"},
-        {{"--scheme", "top"}, 2, "{left,right,both}"},
         {{"--seed", "-1"}, 2, "not in range"},
-        {{"--scheme", "right"}, 1, "there is no recipe for the right pallet"},
         {{"--scheme", "both"}, 1, "there is no recipe for the right pallet"},
         {{"--stack", "Nothing"}, 1, "Nothing"},
         {{"--trace", "/"}, 1, "/: "},
