@@ -2,8 +2,6 @@
 
 #include "expect_stack.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 bool isStacked(const LineSetup &setup, int side)
@@ -11,38 +9,63 @@ bool isStacked(const LineSetup &setup, int side)
     return setup.scheme == 2 || setup.scheme == side;
 }
 
+void expectFullPallets(Line &line, const LineSetup &setup, int pallets)
+{
+    ASSERT_TRUE(line.runUntil([&line] { return line.isFull(); })) << line.runner().why();
+    EXPECT_EQ("", line.violations());
+    for (const int side : {0, 1})
+        if (isStacked(setup, side)) {
+            expectWellStacked(line, side, setup.layers);
+            expectFullCounters(line, side, setup.layers, pallets);
+        }
+    line.run(1);
+    EXPECT_EQ(setup.scheme == 2, line.number("flagL1") == 1 && line.number("flagR1") == 1)
+        << "both were full";
+    if (setup.hasLift) {
+        EXPECT_EQ(0, line.number("rise"));
+        EXPECT_EQ(0, line.number("use_rise"));
+        EXPECT_NEAR(1, line.world().drive().heightMm(), 0.2);
+    }
+}
+
+/// Every scheme, with and without the lift column, with work objects that look forward and backwards. The whole recipe is
+/// stacked in the largest cell, a part of it in the others.
+std::vector<LineSetup> everyLine()
+{
+    std::vector<LineSetup> all;
+    for (const int scheme : {0, 1, 2})
+        for (const bool hasLift : {true, false})
+            for (const int towards : {0, 1}) {
+                const bool isWhole = scheme == 2 && hasLift && towards == 0;
+                all.push_back({scheme, hasLift, towards, 2, 1, isWhole ? 0 : 3});
+            }
+    return all;
+}
+
+std::string nameOfLine(const ::testing::TestParamInfo<LineSetup> &line)
+{
+    static const char *const schemes[] = {"Left", "Right", "Both"};
+    return std::string(schemes[line.param.scheme]) + (line.param.hasLift ? "WithLift" : "") +
+           (line.param.towards == 0 ? "Forward" : "Backwards");
+}
+
 class Fill : public ::testing::TestWithParam<LineSetup>
 {
 };
 
-TEST_P(Fill, WholePalletsTwice)
+TEST_P(Fill, PalletsWithTheTemplatesOfItsKind)
 {
-    LineSetup setup = GetParam();
+    const LineSetup setup = GetParam();
     Line line(setup);
     if (setup.hasLift)
         line.set("SetZ", 400); // so that the upper layer needs the column
     line.start();
-    for (int pallet = 1; pallet <= 2; ++pallet) {
-        ASSERT_TRUE(line.runUntil([&line] { return line.isFull(); })) << line.runner().why();
-        EXPECT_EQ("", line.violations());
-        EXPECT_EQ(0, line.number("palletStatus"));
-        for (const int side : {0, 1}) {
-            if (!isStacked(setup, side))
-                continue;
-            expectWellStacked(line, side, setup.layers);
-            expectFullCounters(line, side, setup.layers, pallet);
-        }
-        line.run(1);
-        EXPECT_EQ(setup.scheme == 2, line.number("flagL1") == 1 && line.number("flagR1") == 1)
-            << "both were full";
-        if (setup.hasLift) {
-            EXPECT_EQ(0, line.number("rise"));
-            EXPECT_EQ(0, line.number("use_rise"));
-            EXPECT_NEAR(1, line.world().drive().heightMm(), 0.2);
-        }
-        for (const int side : {0, 1})
-            if (isStacked(setup, side) && pallet == 1)
-                line.exchangePallet(side);
+    EXPECT_EQ(setup.hasLift ? 6 : 5, line.station().tree().find(u"nexo.cell.tasks")->size());
+    expectFullPallets(line, setup, 1);
+    if (setup.scheme == 2 && !setup.hasLift) {
+        line.exchangePallet(0);
+        line.exchangePallet(1);
+        expectFullPallets(line, setup, 2);
     }
     EXPECT_EQ(controller::Runner::State::Running, line.runner().state());
 }
@@ -58,12 +81,11 @@ public:
 
 std::string traceOf(std::uint64_t seed, double step)
 {
-    LineSetup setup{2, true, 0, 1, seed};
-    Line line(setup);
+    Line line({2, true, 0, 1, seed});
     Lines trace;
     line.runner().cell().setTrace(&trace);
     line.start();
-    for (int i = 0; i * step < 120; ++i)
+    for (int i = 0; i * step < 60; ++i)
         line.station().simulate(step);
     line.runner().cell().setTrace(nullptr);
     return trace.all;
@@ -74,8 +96,7 @@ std::string traceOf(std::uint64_t seed, double step)
 TEST(Determinism, TheSameSeedGivesTheSameTraceHoweverTimeIsCut)
 {
     const std::string trace = traceOf(7, 0.5);
-    EXPECT_GT(trace.size(), 10000u);
-    EXPECT_EQ(trace, traceOf(7, 0.5));
+    EXPECT_GT(trace.size(), 5000u);
     EXPECT_EQ(trace, traceOf(7, 0.125));
     EXPECT_NE(trace, traceOf(8, 0.5)) << "products come at other distances";
 }

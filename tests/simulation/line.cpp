@@ -23,23 +23,6 @@ void copyFolder(const QString &from, const QString &to)
 
 } // namespace
 
-std::vector<LineSetup> everyLine()
-{
-    std::vector<LineSetup> all;
-    for (const int scheme : {0, 1, 2})
-        for (const bool hasLift : {true, false})
-            for (const int towards : {0, 1})
-                all.push_back({scheme, hasLift, towards, 2});
-    return all;
-}
-
-std::string nameOfLine(const ::testing::TestParamInfo<LineSetup> &line)
-{
-    static const char *const schemes[] = {"Left", "Right", "Both"};
-    return std::string(schemes[line.param.scheme]) + (line.param.hasLift ? "WithLift" : "") +
-           (line.param.towards == 0 ? "Forward" : "Backwards");
-}
-
 Line::Line(const LineSetup &setup) : setup_(setup), made_(madeProject(setup))
 {
     copyFolder(made_.dataFolder, folder_.filePath(QStringLiteral("data")));

@@ -9,10 +9,6 @@
 
 #include <gtest/gtest.h>
 
-/// Every scheme, with and without the lift column, with work objects that look forward and backwards; two layers.
-std::vector<LineSetup> everyLine();
-std::string nameOfLine(const ::testing::TestParamInfo<LineSetup> &line);
-
 /// A simulated controller with the recipes and the project that a panel made for it, without that panel.
 class Line
 {

@@ -83,7 +83,7 @@ Node cellOf(const LineSetup &setup)
         shorten(stacks->at(i)->find(u"layers"), setup.layers);
         Node *patterns = stacks->at(i)->find(u"patterns");
         for (int p = 0; p < patterns->size(); ++p)
-            shorten(patterns->at(p), setup.products);
+            shorten(patterns->at(p), setup.products - p);
     }
     if (setup.towards == 1)
         lookBackwards(&cell);

@@ -14,7 +14,8 @@ struct LineSetup
     int towards = 0; ///< of both work objects; 1: the whole cell is turned about the robot's foot
     int layers = 2;
     std::uint64_t seed = 1;
-    int products = 0; ///< of each layer; 0: as many as the recipe has
+    int products =
+        0; ///< of the lowest layer, the next has one less, so that it stands well; 0: as in the recipe
 };
 
 /// What a panel leaves behind when an operator has set up a line: recipes with points on the controller, the tool, a project

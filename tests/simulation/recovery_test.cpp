@@ -10,10 +10,10 @@ using controller::Runner;
 
 #if defined(__SANITIZE_ADDRESS__)
 constexpr int kMoments = 5;
-constexpr int kColumnMoments = 3;
+constexpr int kColumnMoments = 2;
 #else
-constexpr int kMoments = 50;
-constexpr int kColumnMoments = 10;
+constexpr int kMoments = 25;
+constexpr int kColumnMoments = 6;
 #endif
 constexpr double kCycle = 7;       // [s] a little more than one
 constexpr double kColumnTime = 14; // [s] that it needs to rise, with its drive's switching
@@ -124,7 +124,7 @@ TEST_P(ColumnBrokenOff, OnItsWay)
 {
     for (int moment = 0; moment < kColumnMoments && !HasFailure(); ++moment) {
         SCOPED_TRACE("moment " + std::to_string(moment) + " of " + std::to_string(kColumnMoments));
-        Line line({0, true, 0, 2});
+        Line line({0, true, 0, 2, 1, 3});
         line.set("SetZ", 400);
         line.start();
         ASSERT_TRUE(line.runUntil(

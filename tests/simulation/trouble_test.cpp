@@ -2,17 +2,14 @@
 
 #include "line.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 using controller::Runner;
-using controller::cell::Fault;
 
 class Trouble : public ::testing::Test
 {
 protected:
-    Trouble() : line({0, false, 0, 1}) { line.start(); }
+    Trouble() : line({0, false, 0, 1, 1, 4}) { line.start(); }
     /// Until so many products lie there and the next one is on its way.
     void carryAfter(std::size_t boxes)
     {
@@ -37,120 +34,73 @@ protected:
         EXPECT_EQ(lost, line.world().lostBoxes());
         EXPECT_EQ("", line.violations());
     }
-    /// Sets the counters by what lies on the pallet, as the panel proposes.
-    void countWhatLies()
-    {
-        const orba::Node &pallet = *line.station().tree().find(u"nexo.cell.pallets.#0");
-        line.set("currentLayerL", static_cast<int>(pallet.getInt(u"layer")));
-        line.set("layerCountL", static_cast<int>(pallet.getInt(u"piece")));
-    }
 
     Line line;
 };
 
+/// Requests are given with their payload: "cell.input {...}".
+struct Halt
+{
+    const char *name, *cause;
+    const char *why;     ///< begin of what the runner says
+    const char *light;   ///< that is on then
+    const char *refusal; ///< of running on before it is mended
+    const char *mend, *goOn;
+};
+
+const char kStartButton[] = R"(cell.input {"signal":"DI2_0","seconds":0.5})";
+
+const Halt kHalts[] = {
+    {"Pause", "program.pause", "paused at the panel", "DO3_1", "", "", "program.run"},
+    {"StopButton", R"(cell.input {"signal":"DI2_1","seconds":0.5})", "the stop button was pressed", "", "",
+     "", kStartButton},
+    {"EmergencyStop", R"(cell.fault {"name":"e-stop","on":true})", "", "DO3_0",
+     "the emergency stop is pressed", R"(cell.fault {"name":"e-stop","on":false})", kStartButton},
+    {"Collision", R"(cell.fault {"name":"collision","on":true})", "", "DO3_0",
+     "the robot was stopped by a collision; reset first", "program.reset", "program.run"},
+    {"Scanner", R"(cell.input {"signal":"DI2_10","on":false})", "", "",
+     "somebody stands in the field of scanner 1", R"(cell.input {"signal":"DI2_10","on":true})",
+     "program.run"},
+    {"PulledPallet", R"(cell.fault {"name":"pallet-pulled","on":true})",
+     "paused by the program, task4 main.mod:", "", "", R"(cell.fault {"name":"pallet-pulled","on":false})",
+     "program.run"},
+};
+
+class Halted : public Trouble, public ::testing::WithParamInterface<Halt>
+{
+protected:
+    QString ask(const QByteArray &what)
+    {
+        const QList<QByteArray> parts = what.split(' ');
+        return line.ask(parts.first().constData(), parts.size() > 1 ? parts.last().constData() : "null");
+    }
+};
+
 } // namespace
 
-TEST_F(Trouble, APauseStopsTheRobotAndNotTheMonitoring)
+TEST_P(Halted, StandsUntilItIsMendedAndGoesOn)
 {
+    const Halt &halt = GetParam();
     carryAfter(2);
-    EXPECT_EQ("", line.ask("program.pause"));
-    line.run(1);
+    EXPECT_EQ("", ask(halt.cause));
+    line.run(2);
     const auto rest = line.world().way().toolPose().matrix();
-    line.world().takePallet(1); // monitoring goes on: a lamp follows
-    line.run(5);
-    EXPECT_EQ(rest, line.world().way().toolPose().matrix());
-    EXPECT_FALSE(line.world().way().isMoving());
+    EXPECT_EQ(Runner::State::Paused, line.runner().state());
+    EXPECT_TRUE(line.runner().why().startsWith(QLatin1String(halt.why))) << line.runner().why();
+    EXPECT_TRUE(!*halt.light || isOn(halt.light)) << "monitoring goes on";
+    EXPECT_EQ(halt.refusal, *halt.refusal ? ask("program.run") : QString());
+    EXPECT_EQ("", *halt.mend ? ask(halt.mend) : QString());
+    line.run(2);
+    EXPECT_EQ(rest, line.world().way().toolPose().matrix()) << "mending starts nothing";
     EXPECT_TRUE(line.world().gripper().carries());
-    EXPECT_TRUE(isOn("DO3_1")) << "nothing runs: yellow";
-    EXPECT_EQ("paused", line.station().tree().getString(u"nexo.cell.program.state"));
-    EXPECT_EQ("", line.ask("program.run"));
-    expectFullAfterAll(0);
-}
-
-TEST_F(Trouble, TheEmergencyStopHoldsUntilItIsTakenBack)
-{
-    carryAfter(2);
-    EXPECT_EQ("", line.ask("cell.fault", R"({"name":"e-stop","on":true})"));
-    line.run(2);
-    EXPECT_FALSE(line.world().way().isMoving());
-    EXPECT_TRUE(isOn("DO3_0") && isOn("DO3_4") && isOn("DO3_7")) << "red, and the buzzer";
-    EXPECT_EQ("the emergency stop is pressed", line.ask("program.run"));
-    EXPECT_EQ("", line.ask("cell.fault", R"({"name":"e-stop","on":false})"));
+    EXPECT_EQ("", ask(halt.goOn));
     line.run(1);
-    EXPECT_FALSE(isOn("DO3_0")) << "monitoring sees it";
-    EXPECT_FALSE(line.world().way().isMoving()) << "taking it back starts nothing";
-    EXPECT_EQ("", line.ask("cell.input", R"({"signal":"DI2_0","seconds":0.5})"));
+    EXPECT_EQ(Runner::State::Running, line.runner().state());
     expectFullAfterAll(0);
 }
 
-TEST_F(Trouble, ACollisionHasToBeReset)
-{
-    carryAfter(1);
-    EXPECT_EQ("", line.ask("cell.fault", R"({"name":"collision","on":true})"));
-    line.run(2);
-    EXPECT_TRUE(isOn("DO3_0"));
-    EXPECT_EQ("the robot was stopped by a collision; reset first", line.ask("program.run"));
-    EXPECT_EQ("", line.ask("program.reset"));
-    EXPECT_EQ("", line.ask("program.run"));
-    expectFullAfterAll(0);
-}
-
-TEST_F(Trouble, SomebodyInTheFieldOfTheScannerStopsTheRobot)
-{
-    carryAfter(1);
-    EXPECT_EQ("", line.ask("cell.input", R"({"signal":"DI2_10","on":false})"));
-    line.run(1);
-    EXPECT_EQ(Runner::State::Paused, line.runner().state());
-    EXPECT_EQ("somebody stands in the field of scanner 1", line.ask("program.run"));
-    EXPECT_EQ("", line.ask("cell.input", R"({"signal":"DI2_10","on":true})"));
-    EXPECT_EQ("", line.ask("program.run"));
-    expectFullAfterAll(0);
-}
-
-TEST_F(Trouble, WithoutVacuumTheProgramPausesAndTheProductIsNotCounted)
-{
-    ASSERT_TRUE(line.runUntil([this] { return line.pallet(0).boxes().size() == 3; }));
-    EXPECT_EQ("", line.ask("cell.fault", R"({"name":"no-vacuum","on":true})"));
-    ASSERT_TRUE(line.runUntil([this] { return line.runner().state() == Runner::State::Paused; }, 30));
-    EXPECT_TRUE(isOn("DO3_1"));
-    EXPECT_FALSE(line.number("grabbing"));
-    EXPECT_EQ(3u, line.pallet(0).boxes().size());
-    EXPECT_EQ("", line.ask("cell.fault", R"({"name":"no-vacuum","on":false})"));
-    EXPECT_EQ("", line.ask("program.stop"));
-    line.run(1);
-    countWhatLies();
-    EXPECT_EQ(4, line.number("layerCountL"));
-    EXPECT_EQ("", line.ask("program.run"));
-    expectFullAfterAll(0);
-}
-
-TEST_F(Trouble, ALostProductIsFetchedAgain)
-{
-    carryAfter(2);
-    EXPECT_EQ("", line.ask("cell.fault", R"({"name":"lost-box","on":true})"));
-    ASSERT_TRUE(line.runUntil([this] { return line.runner().state() == Runner::State::Paused; }, 30));
-    EXPECT_EQ(1, line.world().lostBoxes());
-    EXPECT_FALSE(line.world().hasFault(Fault::LostBox)) << "it happens once";
-    EXPECT_EQ("", line.ask("program.stop"));
-    line.run(1);
-    countWhatLies();
-    EXPECT_EQ("", line.ask("program.run"));
-    expectFullAfterAll(1);
-}
-
-TEST_F(Trouble, APulledPalletPausesAndComesBackAsItWas)
-{
-    carryAfter(2);
-    EXPECT_EQ("", line.ask("cell.fault", R"({"name":"pallet-pulled","on":true})"));
-    line.run(2);
-    EXPECT_EQ(Runner::State::Paused, line.runner().state());
-    EXPECT_TRUE(line.runner().why().startsWith(QStringLiteral("paused by the program, task4 main.mod:")))
-        << line.runner().why();
-    EXPECT_FALSE(isOn("DI2_5"));
-    EXPECT_EQ("", line.ask("cell.fault", R"({"name":"pallet-pulled","on":false})"));
-    EXPECT_EQ("", line.ask("program.run"));
-    expectFullAfterAll(0);
-}
+INSTANTIATE_TEST_SUITE_P(Every, Halted, ::testing::ValuesIn(kHalts),
+                         [](const auto &test) { return std::string(test.param.name); });
 
 TEST_F(Trouble, AJammedConveyorMakesTheRobotWait)
 {
@@ -164,48 +114,23 @@ TEST_F(Trouble, AJammedConveyorMakesTheRobotWait)
     expectFullAfterAll(0);
 }
 
-TEST_F(Trouble, TheStopButtonPausesAndTheStartButtonGoesOn)
-{
-    carryAfter(1);
-    EXPECT_EQ("", line.ask("cell.input", R"({"signal":"DI2_1","seconds":0.5})"));
-    line.run(2);
-    EXPECT_EQ("the stop button was pressed", line.runner().why());
-    EXPECT_EQ("", line.ask("cell.input", R"({"signal":"DI2_0","seconds":0.5})"));
-    line.run(1);
-    EXPECT_EQ(Runner::State::Running, line.runner().state());
-    expectFullAfterAll(0);
-}
-
 TEST_F(Trouble, APowerCutKeepsWhatLiesAndWhatIsPersistent)
 {
     carryAfter(3);
-    const double time = line.world().now();
     EXPECT_EQ("", line.ask("cell.fault", R"({"name":"power-cut","on":true})"));
     EXPECT_EQ(Runner::State::Stopped, line.runner().state());
     EXPECT_EQ("the power was cut", line.runner().why());
     EXPECT_EQ(1, line.world().lostBoxes()) << "what was in the air";
     EXPECT_FALSE(isOn("DO2_6"));
     line.restart();
-    EXPECT_LT(line.world().now(), time) << "another run";
-    const orba::Node &tree = line.station().tree();
-    EXPECT_EQ(3, tree.getInt(u"nexo.cell.pallets.#0.count"));
-    EXPECT_EQ(1, tree.getInt(u"nexo.cell.pallets.#0.layer"));
-    EXPECT_EQ(4, tree.getInt(u"nexo.cell.pallets.#0.piece"));
+    const orba::Node &pallet = *line.station().tree().find(u"nexo.cell.pallets.#0");
+    EXPECT_EQ(3, pallet.getInt(u"count"));
+    EXPECT_EQ(1, pallet.getInt(u"layer"));
+    EXPECT_EQ(4, pallet.getInt(u"piece"));
     EXPECT_EQ(4, line.number("layerCountL")) << "persistent";
     EXPECT_EQ(0, line.number("flagLL")) << "not persistent";
     EXPECT_EQ("", line.ask("program.run"));
     expectFullAfterAll(1);
-}
-
-TEST_F(Trouble, ACutAfterLettingGoShowsInWhatLiesThere)
-{
-    ASSERT_TRUE(line.runUntil([this] { return line.pallet(0).boxes().size() == 3; }));
-    EXPECT_EQ(3, line.number("layerCountL")) << "lies there and is not counted yet";
-    EXPECT_EQ("", line.ask("cell.fault", R"({"name":"power-cut","on":true})"));
-    countWhatLies();
-    EXPECT_EQ(4, line.number("layerCountL"));
-    EXPECT_EQ("", line.ask("program.run"));
-    expectFullAfterAll(0);
 }
 
 TEST_F(Trouble, AProductPlacedTwiceIsACollision)
@@ -240,6 +165,4 @@ TEST_F(Trouble, OneStepIsOneMove)
         EXPECT_NE(last, now);
         last = now;
     }
-    EXPECT_EQ("", line.ask("program.run"));
-    expectFullAfterAll(0);
 }
