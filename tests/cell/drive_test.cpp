@@ -50,51 +50,44 @@ void moveTo(Drive &drive, std::int64_t position)
 
 using State = Drive::State;
 
-struct Transition
-{
-    const char *name;
-    std::vector<int> words;
-    State end;
-};
-
-class DriveStates : public ::testing::TestWithParam<Transition>
-{
-};
-
-TEST_P(DriveStates, FollowTheControlWord)
-{
-    Drive drive;
-    for (const int word : GetParam().words) {
-        if (word < 0)
-            drive.fail();
-        else
-            control(drive, word);
-    }
-    EXPECT_STREQ(Drive::stateName(GetParam().end), Drive::stateName(drive.state()));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    All, DriveStates,
-    ::testing::Values(
-        Transition{"Start", {}, State::SwitchOnDisabled}, Transition{"ShutDown", {6}, State::ReadyToSwitchOn},
-        Transition{"SwitchOn", {6, 7}, State::SwitchedOn},
-        Transition{"Enable", {6, 7, 15}, State::OperationEnabled},
-        Transition{"NothingIsSkippedOnTheWayUp", {15}, State::SwitchOnDisabled},
-        Transition{"SwitchOnAndEnableInOneWordTakesTwo", {6, 15}, State::SwitchedOn},
-        Transition{"EnableAfterTwoWords", {6, 15, 15}, State::OperationEnabled},
-        Transition{"NewSetPointStaysEnabled", {6, 7, 15, 31, 15}, State::OperationEnabled},
-        Transition{"DisableOperation", {6, 7, 15, 7}, State::SwitchedOn},
-        Transition{"ShutDownFromEnabled", {6, 7, 15, 6}, State::ReadyToSwitchOn},
-        Transition{"DisableVoltage", {6, 7, 15, 0}, State::SwitchOnDisabled},
-        Transition{"QuickStop", {6, 7, 15, 2}, State::SwitchOnDisabled},
-        Transition{"FaultHolds", {6, 7, 15, -1, 6, 7, 15}, State::Fault},
-        Transition{"FaultReset", {6, 7, 15, -1, 128}, State::SwitchOnDisabled},
-        Transition{"ResetNeedsTheBitToRise", {128, -1, 128}, State::Fault},
-        Transition{"ResetByTheWordTimes128", {6, 7, 15, -1, 15 * 128, 15}, State::SwitchOnDisabled},
-        Transition{"AfterResetUpAgain", {6, 7, 15, -1, 15 * 128, 15, 0, 6, 7, 15}, State::OperationEnabled}),
-    [](const auto &test) { return std::string(test.param.name); });
-
 } // namespace
+
+TEST(Drive, FollowsTheControlWord)
+{
+    constexpr int kFail = -1;
+    const struct
+    {
+        std::vector<int> words;
+        State end;
+    } cases[] = {
+        {{6}, State::ReadyToSwitchOn},
+        {{6, 7}, State::SwitchedOn},
+        {{6, 7, 15}, State::OperationEnabled},
+        {{15}, State::SwitchOnDisabled}, // nothing is skipped on the way up
+        {{6, 15}, State::SwitchedOn},
+        {{6, 15, 15}, State::OperationEnabled},
+        {{6, 7, 15, 31, 15}, State::OperationEnabled}, // a new set point
+        {{6, 7, 15, 7}, State::SwitchedOn},
+        {{6, 7, 15, 6}, State::ReadyToSwitchOn},
+        {{6, 7, 15, 0}, State::SwitchOnDisabled},
+        {{6, 7, 15, 2}, State::SwitchOnDisabled}, // quick stop
+        {{6, 7, 15, kFail, 6, 7, 15}, State::Fault},
+        {{128, kFail, 128}, State::Fault}, // the bit must rise
+        {{6, 7, 15, kFail, 15 * 128, 15}, State::SwitchOnDisabled},
+        {{6, 7, 15, kFail, 15 * 128, 15, 0, 6, 7, 15}, State::OperationEnabled},
+    };
+    for (const auto &each : cases) {
+        Drive drive;
+        for (const int word : each.words) {
+            if (word == kFail)
+                drive.fail();
+            else
+                control(drive, word);
+        }
+        EXPECT_STREQ(Drive::stateName(each.end), Drive::stateName(drive.state()))
+            << &each - cases << ". case";
+    }
+}
 
 TEST(Drive, GoesToAPositionAndSaysSo)
 {
@@ -156,18 +149,6 @@ TEST(Drive, RunsAtASpeedUpToTheEndStop)
     run(drive, 2);
     EXPECT_EQ(Drive::kStrokeMm, drive.heightMm());
     EXPECT_EQ(State::Fault, drive.state());
-}
-
-TEST(Drive, LosesItsPower)
-{
-    Drive drive;
-    powerOn(drive);
-    moveTo(drive, 7000 * 100);
-    run(drive, 1);
-    drive.cutPower();
-    EXPECT_EQ(State::SwitchOnDisabled, drive.state());
-    EXPECT_EQ(0, read(drive, "ControlwordWrite"));
-    EXPECT_FALSE(drive.isMoving());
 }
 
 TEST(Drive, RefusesWhatItDoesNotHave)

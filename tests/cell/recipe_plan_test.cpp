@@ -34,19 +34,15 @@ void addPoint(Node *layer, double x, double y, double z)
     }
 }
 
-/// `sign` -1: points look the other way, as with one-point calibration in a cell that looks forward.
-Node recipe(double sign = 1, Vector origin = Vector::Zero())
+Node recipe()
 {
     Node made = nodeFromJson(kRecipe);
     Node *put = made.find(u"points.put");
-    const auto add = [&](Node *layer, double along, double across, double z) {
-        addPoint(layer, origin.x() + sign * along, origin.y() + sign * across, origin.z() + z);
-    };
     Node *first = put->add();
-    add(first, 0.2, 0.1, 0.1);
-    add(first, 0.2, 0.3, 0.1);
-    add(put->add(), 0.6, 0.4, 0.2);
-    add(put->add(), 0.6, 0.4, 0.203);
+    addPoint(first, 0.2, 0.1, 0.1);
+    addPoint(first, 0.2, 0.3, 0.1);
+    addPoint(put->add(), 0.6, 0.4, 0.2);
+    addPoint(put->add(), 0.6, 0.4, 0.203);
     return made;
 }
 
@@ -69,32 +65,16 @@ void expectAt(const Vector &wished, const Pose &pose)
     EXPECT_NEAR(0, (pose.translation() - wished).norm(), 1e-9) << pose.translation().transpose();
 }
 
-Vector putPoint(const RecipePlan &plan, int layer, int piece)
-{
-    Pose pose;
-    QString why;
-    EXPECT_TRUE(plan.point(PalletPoint::Wobj, layer, piece, &pose, &why)) << why;
-    return pose.translation();
-}
-
 } // namespace
 
-TEST(RecipePlan, CountsLayersAndPieces)
+TEST(RecipePlan, CountsPiecesAndGivesEverythingItsPlace)
 {
     const RecipePlan plan = planOf(recipe());
-    EXPECT_EQ("", plan.problem());
     EXPECT_EQ(3, plan.layers());
-    EXPECT_EQ(2, plan.pieces(1));
-    EXPECT_EQ(0, plan.pieces(2)) << "a sheet";
-    EXPECT_EQ(1, plan.pieces(3));
+    for (const int layer : {0, 1, 2, 3, 4})
+        EXPECT_EQ(std::vector({0, 2, 0, 1, 0}).at(std::size_t(layer)), plan.pieces(layer))
+            << "the second is a sheet";
     EXPECT_EQ(3, plan.productCount());
-    EXPECT_EQ(0, plan.pieces(4));
-    EXPECT_EQ(0, plan.pieces(0));
-}
-
-TEST(RecipePlan, GivesProductsSheetsAndThePalletTheirPlaces)
-{
-    const RecipePlan plan = planOf(recipe());
     expectAt({0.6, 0.4, -0.075}, plan.pallet().pose);
     EXPECT_NEAR(0, plan.pallet().top(), 1e-12);
     EXPECT_NEAR(-0.15, plan.floor(), 1e-12);
@@ -109,73 +89,42 @@ TEST(RecipePlan, GivesProductsSheetsAndThePalletTheirPlaces)
     EXPECT_NEAR(0.103, sheet.top(), 1e-12);
 }
 
-struct FrameCase
+TEST(RecipePlan, ReadsTheFrameOfItsCalibration)
 {
-    const char *name;
-    void (*calibrate)(Node *recipe);
-    Vector put; ///< of (0.2, 0.1, 0.1) in the frame
-};
-
-class Frames : public ::testing::TestWithParam<FrameCase>
-{
-};
-
-TEST_P(Frames, OfAnOwnCalibration)
-{
-    Node node = recipe();
-    GetParam().calibrate(&node);
-    const RecipePlan plan = planOf(node);
-    EXPECT_EQ("", plan.problem());
-    EXPECT_NEAR(0, (putPoint(plan, 1, 1) - GetParam().put).norm(), 1e-9) << putPoint(plan, 1, 1).transpose();
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    All, Frames,
-    ::testing::Values(
-        FrameCase{"NoneIsTheBase", [](Node *) {}, {0.2, 0.1, 0.1}},
-        FrameCase{"ThreePoints",
-                  [](Node *r) {
-                      setPoint(r, u"calibrate.p1", 1, -0.5, -0.4);
-                      setPoint(r, u"calibrate.p2", 0, -0.5, -0.4); // x looks back
-                      setPoint(r, u"calibrate.p3", 0.5, -1.5, -0.4);
-                  },
-                  {0.8, -0.6, -0.3}},
-        FrameCase{"ThreePointsShifted",
-                  [](Node *r) {
-                      setPoint(r, u"calibrate.p1", 1, -0.5, -0.4);
-                      setPoint(r, u"calibrate.p2", 0, -0.5, -0.4);
-                      setPoint(r, u"calibrate.p3", 0.5, -1.5, -0.4);
-                      r->set(u"calibrate.wobj_x", 100);
-                      r->set(u"calibrate.wobj_y", 50);
-                  },
-                  {0.7, -0.65, -0.3}},
-        FrameCase{"OnePoint",
-                  [](Node *r) {
-                      setPoint(r, u"calibrate.p1", 1, -0.5, -0.4);
-                      r->ensure(u"calibrate.calibration_method")->setInt(1);
-                  },
-                  {1.2, -0.4, -0.3}},
-        FrameCase{
-            "ReferenceOfTheToolset",
-            [](Node *r) {
-                *r->find(u"toolset") = nodeFromJson(
-                    R"({"ref":{"trans":[0,0,1],"rot":[0,0,0]},"end":{"trans":[0,0,0.2],"rot":[0,0,0]}})");
-            },
-            {0.2, 0.1, 1.1}},
-        FrameCase{"SharedWorkObjectsAreInTheBase",
-                  [](Node *r) {
-                      setPoint(r, u"calibrate.p1", 1, -0.5, -0.4);
-                      r->set(u"use_global_wobj", true);
-                  },
-                  {0.2, 0.1, 0.1}}),
-    [](const auto &test) { return std::string(test.param.name); });
-
-TEST(RecipePlan, FindsThePalletUnderPointsThatLookTheOtherWay)
-{
-    Node node = recipe(-1, {1.14, 1.42, -0.45});
-    node.set(u"use_global_wobj", true);
-    const RecipePlan plan = planOf(node);
-    expectAt({1.14 - 0.6, 1.42 - 0.4, -0.45 - 0.075}, plan.pallet().pose);
+    const auto point = [](double x, double y) {
+        return QStringLiteral(R"({"trans":[%1,%2,-0.4],"rot":[3.141592653589793,0,0]})").arg(x).arg(y);
+    };
+    const QString threePoints = QStringLiteral(R"("p1":%1,"p2":%2,"p3":%3)")
+                                    .arg(point(1, -0.5), point(0, -0.5), point(0.5, -1.5)); // x looks back
+    const QString onePoint = QStringLiteral(R"("p1":%1,"wobj_x":0,"wobj_y":0)").arg(point(1, -0.5));
+    const QString toolset =
+        QStringLiteral(R"({"ref":{"trans":[0,0,1],"rot":[0,0,0]},"end":{"trans":[0,0,0.2],"rot":[0,0,0]}})");
+    const struct
+    {
+        const char *name;
+        QString calibrate, toolset;
+        bool isShared;
+        Vector put; ///< of (0.2, 0.1, 0.1) in the frame
+    } cases[] = {
+        {"none is the base", R"("p1":null)", "null", false, {0.2, 0.1, 0.1}},
+        {"three points", threePoints, "null", false, {0.8, -0.6, -0.3}},
+        {"shifted", threePoints + R"(,"wobj_x":100,"wobj_y":50)", "null", false, {0.7, -0.65, -0.3}},
+        {"one point", onePoint + R"(,"calibration_method":1)", "null", false, {1.2, -0.4, -0.3}},
+        {"the toolset's reference", R"("p1":null)", toolset, false, {0.2, 0.1, 1.1}},
+        {"shared ones are in the base", onePoint, "null", true, {0.2, 0.1, 0.1}},
+    };
+    for (const auto &c : cases) {
+        Node node = recipe();
+        *node.find(u"calibrate") = nodeFromJson(("{" + c.calibrate + "}").toLatin1().constData());
+        *node.find(u"toolset") = nodeFromJson(c.toolset.toLatin1().constData());
+        node.set(u"use_global_wobj", c.isShared);
+        const RecipePlan plan = planOf(node);
+        EXPECT_EQ("", plan.problem()) << c.name;
+        Pose pose;
+        QString why;
+        EXPECT_TRUE(plan.point(PalletPoint::Wobj, 1, 1, &pose, &why)) << why;
+        EXPECT_NEAR(0, (pose.translation() - c.put).norm(), 1e-9) << c.name << pose.translation().transpose();
+    }
 }
 
 TEST(RecipePlan, TakesTheMiddleOfPointsFromElsewhere)

@@ -53,13 +53,6 @@ protected:
 
 } // namespace
 
-TEST_F(WayTest, ArrivesExactly)
-{
-    EXPECT_NEAR(0, (at() - Vector(1.0, 0, 0.8)).norm(), 1e-9);
-    EXPECT_TRUE(way.isReached());
-    EXPECT_FALSE(way.isMoving());
-}
-
 TEST_F(WayTest, GoesThroughAFinePointAndRoundsAZone)
 {
     const Vector corner(1.0, 0.5, 0.8);
@@ -97,25 +90,6 @@ TEST_F(WayTest, CutsZonesToHalfOfAMove)
     EXPECT_GT(at().z(), 0.83 - 1e-9) << "half of 60 mm";
 }
 
-TEST_F(WayTest, StopsOnItsWayAndGoesOn)
-{
-    add(leg(1.0, 0.5, 0.8, 0.05, 7));
-    add(leg(1.4, 0.5, 0.8, 0, 8));
-    run(0.4);
-    way.pause();
-    run(Way::kStopTime);
-    const Vector rest = at();
-    EXPECT_FALSE(way.isMoving());
-    EXPECT_EQ(7, way.where().line);
-    run(1);
-    EXPECT_EQ(rest, at());
-    EXPECT_GT((rest - Vector(1.0, 0.5, 0.8)).norm(), 0.05);
-    QString why;
-    EXPECT_TRUE(way.resume(&why));
-    run(4);
-    EXPECT_NEAR(0, (at() - Vector(1.4, 0.5, 0.8)).norm(), 1e-9);
-}
-
 TEST_F(WayTest, GoesOnFromWhereItWasPutMeanwhile)
 {
     add(leg(1.0, 0.5, 0.8));
@@ -150,23 +124,15 @@ TEST_F(WayTest, ForgetsWhatIsLeft)
     EXPECT_NEAR(0, (at() - Vector(1.0, 0.2, 0.8)).norm(), 1e-9);
 }
 
-TEST_F(WayTest, RefusesWhatIsOutOfReach)
+TEST_F(WayTest, RefusesWhatIsOutOfReachAndTakesThreeMoves)
 {
     QString why;
     EXPECT_FALSE(way.add(leg(4, 0, 0.8), &why));
     EXPECT_TRUE(why.contains(QStringLiteral("out of reach"))) << why.toStdString();
     EXPECT_TRUE(way.isReached());
-}
-
-TEST_F(WayTest, TakesTwoMovesAhead)
-{
     add(leg(1.0, 0.5, 0.8));
-    EXPECT_TRUE(way.hasRoom());
     add(leg(1.4, 0.5, 0.8));
     EXPECT_TRUE(way.hasRoom());
     add(leg(1.4, 0.2, 0.8));
     EXPECT_FALSE(way.hasRoom());
-    while (!way.hasRoom())
-        way.advance(0.01);
-    EXPECT_GT(at().y(), 0.4);
 }
