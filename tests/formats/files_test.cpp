@@ -112,60 +112,34 @@ TEST_P(FileTest, LargerThanTheLimitIsRefused)
     EXPECT_TRUE(GetParam().read(file, &back, &error, limits));
 }
 
-TEST_P(FileTest, AFullDiskLeavesTheOldFile)
+TEST_P(FileTest, AFailedWriteLeavesTheOldFile)
 {
     const QString file = path(QStringLiteral("a"));
     ASSERT_TRUE(GetParam().write(sample(1), file, nullptr));
     const QByteArray before = contentOf(file);
     Node large = sample(2);
     large.ensure(u"text")->setString(QString(200000, QLatin1Char('x')));
-    FormatError error;
+    Node infinite = sample(2);
+    infinite.ensure(u"x")->setDouble(std::numeric_limits<double>::infinity());
+    FormatError full, readOnly, refused, missing;
     {
-        const FullDisk full(50000);
-        EXPECT_FALSE(GetParam().write(large, file, &error));
+        const FullDisk obstacle(50000);
+        EXPECT_FALSE(GetParam().write(large, file, &full));
     }
-    EXPECT_EQ(error.file, file);
-    EXPECT_TRUE(error.isSet());
+    {
+        const ReadOnlyFolder obstacle(folder_.path());
+        EXPECT_FALSE(GetParam().write(sample(2), file, &readOnly));
+    }
+    EXPECT_FALSE(GetParam().write(infinite, file, &refused));
+    for (const FormatError &error : {full, readOnly, refused}) {
+        EXPECT_EQ(error.file, file);
+        EXPECT_TRUE(error.isSet());
+    }
+    EXPECT_FALSE(GetParam().write(sample(), path(QStringLiteral("no/a")), &missing));
+    EXPECT_TRUE(missing.text().contains(QStringLiteral("no/a: cannot be written"))) << missing.text();
     EXPECT_EQ(contentOf(file), before);
     EXPECT_EQ(entries(), QStringList{QStringLiteral("a")});
     EXPECT_TRUE(GetParam().write(large, file, nullptr));
-}
-
-TEST_P(FileTest, AReadOnlyFolderLeavesTheOldFile)
-{
-    const QString file = path(QStringLiteral("a"));
-    ASSERT_TRUE(GetParam().write(sample(1), file, nullptr));
-    FormatError error;
-    {
-        const ReadOnlyFolder readOnly(folder_.path());
-        EXPECT_FALSE(GetParam().write(sample(2), file, &error));
-        EXPECT_FALSE(GetParam().write(sample(2), path(QStringLiteral("new")), &error));
-    }
-    EXPECT_TRUE(error.isSet());
-    Node back;
-    ASSERT_TRUE(GetParam().read(file, &back, nullptr, orba::ReadLimits()));
-    EXPECT_EQ(back, sample(1));
-}
-
-TEST_P(FileTest, AMissingFolderIsNamed)
-{
-    FormatError error;
-    EXPECT_FALSE(GetParam().write(sample(), path(QStringLiteral("no/a")), &error));
-    EXPECT_TRUE(error.text().contains(QStringLiteral("no/a: cannot be written"))) << error.text();
-}
-
-TEST_P(FileTest, ARefusedTreeLeavesTheOldFile)
-{
-    const QString file = path(QStringLiteral("a"));
-    ASSERT_TRUE(GetParam().write(sample(1), file, nullptr));
-    Node infinite = sample(2);
-    infinite.ensure(u"x")->setDouble(std::numeric_limits<double>::infinity());
-    FormatError error;
-    EXPECT_FALSE(GetParam().write(infinite, file, &error));
-    EXPECT_EQ(error.file, file);
-    Node back;
-    ASSERT_TRUE(GetParam().read(file, &back, nullptr, orba::ReadLimits()));
-    EXPECT_EQ(back, sample(1));
 }
 
 TEST_P(FileTest, HandlesAreFilledAndAnnounced)
@@ -186,22 +160,6 @@ TEST_P(FileTest, HandlesAreFilledAndAnnounced)
     EXPECT_FALSE(GetParam().readHandle(file, &import, nullptr));
     EXPECT_EQ(import.node(), sample());
     EXPECT_EQ(structure.count(), 1);
-}
-
-TEST_P(FileTest, TheEmptyNodeIsNeitherWrittenNorRead)
-{
-    const QString file = path(QStringLiteral("a"));
-    ASSERT_TRUE(GetParam().write(sample(), file, nullptr));
-    for (ModuleObject *missing : {static_cast<ModuleObject *>(nullptr), emptyMobj()}) {
-        FormatError error;
-        EXPECT_FALSE(GetParam().readHandle(file, missing, &error));
-        EXPECT_FALSE(GetParam().writeHandle(missing, file, &error));
-        EXPECT_TRUE(error.text().startsWith(file)) << error.text();
-    }
-    EXPECT_TRUE(emptyMobj()->isNull());
-    Node back;
-    ASSERT_TRUE(GetParam().read(file, &back, nullptr, orba::ReadLimits()));
-    EXPECT_EQ(back, sample());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -225,19 +183,14 @@ TEST(JsonText, IsPlainAndShort)
     node.add(orba::Name(u"#1"))->reset(Node::Kind::Map);
     const double numbers[] = {-0.0, 1e22, 0.30000000000000004};
     node.ensure(u"trans")->setDoubles(numbers, 3);
+    Node *mixed = node.ensure(u"mixed");
+    mixed->add()->setInt(1);
+    mixed->add(orba::Name(u"a"))->setInt(2);
     EXPECT_EQ(
         ModuleManager::toJson(node, true),
         "{\"name\":\"Короб \\\"1\\\"\\n\",\"n\":5,\"d\":1.0,\"e\":0.1,\"none\":null,\"list\":[],\"##1\":{},"
-        "\"trans\":[-0.0,1e+22,0.30000000000000004]}");
-}
-
-TEST(JsonText, MixedContainersNameTheirItems)
-{
-    Node node;
-    node.add()->setInt(1);
-    node.add(orba::Name(u"a"))->setInt(2);
-    EXPECT_EQ(ModuleManager::toJson(node, true),
-              "{\"#mixed\":\"list\",\"#items\":[{\"value\":1},{\"name\":\"a\",\"value\":2}]}");
+        "\"trans\":[-0.0,1e+22,0.30000000000000004],"
+        "\"mixed\":{\"#mixed\":\"list\",\"#items\":[{\"value\":1},{\"name\":\"a\",\"value\":2}]}}");
 }
 
 TEST(JsonText, AByteOrderMarkAndEqualKeysAreRead)
@@ -258,16 +211,11 @@ TEST(JsonText, NumbersAreRoundedOnceWhateverTheirLength)
         double value;
     } kCases[] = {
         {"0.1", 0.1},
-        {"123456789012.345", 123456789012.345},
-        {"0.000000000000001", 1e-15},
-        {"2.4039953411124204e-350", 0.0},
         {"1e-400", 0.0},
         {"4.9406564584124654e-324", 5e-324},
-        {"2.2250738585072011e-308", 2.2250738585072011e-308},
         {"1.7976931348623157e308", std::numeric_limits<double>::max()},
         {"9007199254740993.0", 9007199254740992.0},
         {"100000000000000016777215.0", 1.0000000000000001e23},
-        {"1E2", 100.0},
         {"0.50000000000000000000000000000000000000000000000000000000000001", 0.5},
     };
     for (const auto &number : kCases) {
@@ -315,16 +263,6 @@ TEST(XmlText, ForeignLayoutIsAccepted)
     EXPECT_EQ(node.find(u"t")->number(0), 1000.0);
     EXPECT_TRUE(std::signbit(node.find(u"t")->number(1)));
     EXPECT_EQ(node.getString(u"s"), QStringLiteral("<a> A"));
-}
-
-TEST(FormatErrorText, NamesWhatIsKnown)
-{
-    EXPECT_EQ((FormatError{QStringLiteral("a.xml"), QStringLiteral("bad"), 3, 4}.text()),
-              QStringLiteral("a.xml:3:4: bad"));
-    EXPECT_EQ((FormatError{QString(), QStringLiteral("bad"), 3, 4}.text()), QStringLiteral("3:4: bad"));
-    EXPECT_EQ((FormatError{QStringLiteral("a.xml"), QStringLiteral("bad"), 0, 0}.text()),
-              QStringLiteral("a.xml: bad"));
-    EXPECT_EQ((FormatError{QString(), QStringLiteral("bad"), 0, 0}.text()), QStringLiteral("bad"));
 }
 
 } // namespace

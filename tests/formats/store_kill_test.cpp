@@ -1,4 +1,4 @@
-// A process that saves without end is killed a hundred times at a random moment. Every store it leaves must hold one
+// A process that saves without end is killed many times at a random moment. Every store it leaves must hold one
 // whole save: the last one that it reported as done, or the one after it.
 
 #include "formats/store_fixture.h"
@@ -70,7 +70,7 @@ int nextReport(int pipe, long microseconds)
     return save;
 }
 
-TEST_F(StoreKillTest, AHundredKillsLoseNoSave)
+TEST_F(StoreKillTest, KillsLoseNoSave)
 {
     ASSERT_EQ(QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1)
         << "only a process of one thread may be forked and go on";
@@ -78,7 +78,7 @@ TEST_F(StoreKillTest, AHundredKillsLoseNoSave)
     std::mt19937 random(7);
     int reported = 0;
     int cutShort = 0;
-    for (int round = 0; round < 100; ++round) {
+    for (int round = 0; round < 40; ++round) {
         SCOPED_TRACE(round);
         int pipe[2];
         ASSERT_EQ(::pipe(pipe), 0);
@@ -108,8 +108,8 @@ TEST_F(StoreKillTest, AHundredKillsLoseNoSave)
         cutShort += stored == reported ? 1 : 0;
         reported = stored;
     }
-    EXPECT_GT(reported, 50);
-    EXPECT_GT(cutShort, 20); // many kills hit an unfinished save
+    EXPECT_GT(reported, 20);
+    EXPECT_GT(cutShort, 8); // many kills hit an unfinished save
     EXPECT_EQ(filesSetAside(), QStringList());
 }
 

