@@ -26,18 +26,6 @@ protected:
 
 } // namespace
 
-TEST_F(BModuleTest, BindsATemplateAndGivesItTheKeyVersion)
-{
-    bwaf::BModule module;
-    EXPECT_TRUE(module.mobj()->isEmptyMobj());
-    module.bindMobjJson(QStringLiteral("sample_module"), write(R"({"a": 1, "list": []})"), false);
-    EXPECT_EQ(m("sample.a")->getInt(), 1);
-    EXPECT_EQ(module.mobj(), m("sample_module"));
-    module.mobj()->set(&module, "version", QStringLiteral("2.0.10"), true);
-    EXPECT_EQ(m("sample_module.version")->getString(), QStringLiteral("2.0.10"));
-    EXPECT_TRUE(presenter.notices.isEmpty());
-}
-
 TEST_F(BModuleTest, APageAnswersItsParentsTree)
 {
     bwaf::BModule module;

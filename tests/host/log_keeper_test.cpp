@@ -85,16 +85,6 @@ TEST_F(LogKeeperTest, RecordsSurviveARestartEqualOnesToo)
                      QString::fromUtf8("error: Коробка\n\"A\""), QStringLiteral("warning: later")}));
 }
 
-TEST_F(LogKeeperTest, NoticesAreKeptAndNotShownTwice)
-{
-    presenter.notices.clear();
-    nexo::ManagerHelper::instance()->throwLog(nullptr, QStringLiteral("info"),
-                                              QStringLiteral("Points copied"));
-    EXPECT_EQ(titles(), QStringList(QStringLiteral("info: Points copied")));
-    EXPECT_EQ(presenter.notices, QStringList(QStringLiteral("info: Points copied")));
-    EXPECT_EQ(m("quill.log.list.#0.date_time")->getString().size(), 19);
-}
-
 TEST_F(LogKeeperTest, WhoClearsTheListClearsTheFile)
 {
     keeper->keepIn(file);

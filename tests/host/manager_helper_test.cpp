@@ -60,15 +60,6 @@ TEST(ManagerHelper, OffersARefusalUnlessToldOtherwise)
     }
 }
 
-TEST(ManagerHelper, ShowsUnknownLevelsAsInfo)
-{
-    ScriptedPresenter presenter;
-    for (const char *level : {"error", "warning", "info", "", "fatal", "Error"})
-        nexo::ManagerHelper::instance()->throwLog(nullptr, QLatin1String(level), QLatin1String(level));
-    EXPECT_EQ(presenter.notices.join(QLatin1Char('|')),
-              QStringLiteral("error: error|warning: warning|info: info|info: |info: fatal|info: Error"));
-}
-
 TEST(ManagerHelper, WithoutAPresenterPrintsAndRefusesWhatCanBeRefused)
 {
     StderrCapture console;

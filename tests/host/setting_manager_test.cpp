@@ -68,22 +68,6 @@ TEST_F(SettingManagerTest, TellsOnlyWhenTheEffectiveValueChanges)
     EXPECT_EQ(changed.at(2), QVariantList({key, QStringLiteral("kr")}));
 }
 
-TEST_F(SettingManagerTest, ReadsTextsAsTruthLikeTheDataTree)
-{
-    const struct
-    {
-        const char *text;
-        bool truth;
-    } cases[] = {{"", false},    {"0", false}, {"false", false}, {"False", false},
-                 {"true", true}, {"1", true},  {"no", true}};
-    for (const auto &each : cases) {
-        settings.setOverride(key, QLatin1String(each.text));
-        EXPECT_EQ(settings.getBool(key, true), each.truth) << each.text;
-    }
-    settings.setOverride(key, QString());
-    EXPECT_TRUE(settings.getBool(QStringLiteral("unset"), true));
-}
-
 TEST_F(SettingManagerTest, KeepsWhatWasSetInTheFile)
 {
     const QString name = folder.filePath(QStringLiteral("settings.json"));

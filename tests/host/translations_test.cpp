@@ -189,11 +189,3 @@ TEST(TranslationFiles, NeedNoOtherFontsThanThePanelsOwn)
                 << file.name() << ": " << QString::fromUcs4(&letter, 1);
     }
 }
-
-TEST(TranslationFiles, AreInTheFrameworksResources)
-{
-    for (const char *language : {"ru", "cn", "jp", "kr"})
-        EXPECT_TRUE(QFile::exists(
-            QStringLiteral(":/palx_host/language/palx_host_%1.qm").arg(QLatin1String(language))))
-            << language;
-}

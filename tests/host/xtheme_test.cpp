@@ -2,14 +2,8 @@
 #include "support/test_support.h"
 
 #include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QSet>
-#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -65,25 +59,6 @@ TEST_F(Theme, StatesAreReadableAndDiffer)
     EXPECT_EQ(grounds.size(), 6);
 }
 
-TEST_F(Theme, ControlsAreLargeEnoughForFingers)
-{
-    QWidget page;
-    auto *column = new QVBoxLayout(&page);
-    QList<QWidget *> controls{new QPushButton(QStringLiteral("a")), new QLineEdit, new QComboBox,
-                              new QDoubleSpinBox, new QCheckBox(QStringLiteral("b"))};
-    auto *run = new QPushButton(QStringLiteral("run"));
-    setRole(run, QStringLiteral("run"));
-    for (QWidget *control : controls)
-        column->addWidget(control);
-    column->addWidget(run);
-    page.show();
-    for (QWidget *control : qAsConst(controls)) {
-        EXPECT_GE(control->height(), kEditHeight - 2) << control->metaObject()->className();
-        EXPECT_GE(control->fontInfo().pixelSize(), kTextPixels) << control->metaObject()->className();
-    }
-    EXPECT_GE(run->height(), kRunButtonHeight);
-}
-
 TEST_F(Theme, AStateShowsOnAWidgetThatIsVisibleAlready)
 {
     QLabel label(QStringLiteral(" "));
@@ -97,29 +72,4 @@ TEST_F(Theme, AStateShowsOnAWidgetThatIsVisibleAlready)
     EXPECT_GT(coloured(label.grab(), color(State::Fault)), 1000);
     setState(&label, State::None);
     EXPECT_EQ(coloured(label.grab(), color(State::Fault)), 0);
-}
-
-TEST_F(Theme, TintingKeepsTransparency)
-{
-    QPixmap picture(2, 1);
-    picture.fill(Qt::transparent);
-    QImage drawn = picture.toImage();
-    drawn.setPixelColor(0, 0, Qt::red);
-    const QImage result = tinted(QPixmap::fromImage(drawn), Qt::blue).toImage();
-    EXPECT_EQ(result.pixelColor(0, 0), QColor(Qt::blue));
-    EXPECT_EQ(result.pixelColor(1, 0).alpha(), 0);
-    EXPECT_TRUE(tinted(QStringLiteral(":/none.png"), Qt::blue).isNull());
-}
-
-TEST_F(Theme, EveryGlyphDrawsSomethingInside)
-{
-    for (int i = 0; i <= static_cast<int>(Glyph::TurnRight); ++i) {
-        const QImage image = pixmap(static_cast<Glyph>(i), 48, Qt::black).toImage();
-        int marked = 0;
-        for (int y = 0; y < 48; ++y)
-            for (int x = 0; x < 48; ++x)
-                marked += qAlpha(image.pixel(x, y)) > 128 ? 1 : 0;
-        EXPECT_GT(marked, 60) << i;
-        EXPECT_LT(marked, 48 * 48 / 2) << i;
-    }
 }
