@@ -90,6 +90,17 @@ TEST(DragTool, DragsWithSnapAsOneEdit)
     EXPECT_EQ(editor.places(), "300,400/0 410,400/0 300,510/0 402,502/0");
 }
 
+TEST(DragTool, DragsAllChosenProducts)
+{
+    PlanEditor editor(square());
+    DragTool tool(&editor.editing);
+    tool.setSnapping(false);
+    editor.editing.select({0, 1});
+    drag(tool, QPointF(300, 510), QPointF(333.4, 700), true); // puts one more to them
+    EXPECT_EQ(editor.places(), "333,590/0 443,590/0 333,700/0 410,510/0");
+    EXPECT_EQ(editor.editing.selection(), (Selection{0, 1, 2}));
+}
+
 TEST(FrameTool, ChoosesWhatLiesInside)
 {
     PlanEditor editor(square());
