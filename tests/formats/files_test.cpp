@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -15,7 +14,6 @@
 
 using orba::FormatError;
 using orba::ModuleManager;
-using orba::ModuleObject;
 using orba::Node;
 
 namespace {
@@ -26,8 +24,6 @@ struct Files
     const char *name;
     bool (*write)(const Node &, const QString &, FormatError *);
     bool (*read)(const QString &, Node *, FormatError *, const orba::ReadLimits &);
-    bool (*writeHandle)(const ModuleObject *, const QString &, FormatError *);
-    bool (*readHandle)(const QString &, ModuleObject *, FormatError *);
 };
 
 void PrintTo(const Files &files, std::ostream *out)
@@ -142,32 +138,10 @@ TEST_P(FileTest, AFailedWriteLeavesTheOldFile)
     EXPECT_TRUE(GetParam().write(large, file, nullptr));
 }
 
-TEST_P(FileTest, HandlesAreFilledAndAnnounced)
-{
-    const QString file = path(QStringLiteral("a"));
-    ModuleObject source(QStringLiteral("temp_list"));
-    source.copyFrom(sample());
-    ASSERT_TRUE(GetParam().writeHandle(&source, file, nullptr));
-    ModuleObject import(QStringLiteral("import"));
-    import.add(QStringLiteral("old"));
-    QSignalSpy structure(&import, &ModuleObject::structureChanged);
-    ASSERT_TRUE(GetParam().readHandle(file, &import, nullptr));
-    EXPECT_EQ(import.node(), sample());
-    EXPECT_EQ(import.name(), QStringLiteral("import"));
-    EXPECT_EQ(structure.count(), 1);
-
-    ASSERT_TRUE(QFile::remove(file));
-    EXPECT_FALSE(GetParam().readHandle(file, &import, nullptr));
-    EXPECT_EQ(import.node(), sample());
-    EXPECT_EQ(structure.count(), 1);
-}
-
 INSTANTIATE_TEST_SUITE_P(
     Formats, FileTest,
-    ::testing::Values(Files{"json", ModuleManager::writeToJson, ModuleManager::readFromJson,
-                            ModuleManager::writeToJson, ModuleManager::readFromJson},
-                      Files{"xml", ModuleManager::writeToXmlFile, ModuleManager::readFromXmlFile,
-                            ModuleManager::writeToXmlFile, ModuleManager::readFromXmlFile}),
+    ::testing::Values(Files{"json", ModuleManager::writeToJson, ModuleManager::readFromJson},
+                      Files{"xml", ModuleManager::writeToXmlFile, ModuleManager::readFromXmlFile}),
     [](const auto &files) { return std::string(files.param.name); });
 
 /// What other programs read: the form of the text itself.

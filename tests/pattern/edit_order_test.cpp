@@ -76,16 +76,3 @@ TEST(EditOrder, OutwardFromEachCorner)
     EXPECT_EQ(palx::orderFromCorner(square, PlanCorner::TopLeft), (Order{0, 1, 3, 4, 2, 6, 5, 7, 8}));
     EXPECT_EQ(palx::orderFromCorner(square, PlanCorner::TopRight), (Order{2, 1, 5, 4, 0, 8, 3, 7, 6}));
 }
-
-TEST(EditOrder, ReorderedItemsAreNumberedAnew)
-{
-    QVector<PatternItem> items = planGrid(3, 1, 100, 100);
-    items[0].index = 7;
-    items[0].faults = palx::ItemFault::NumberOutOfOrder;
-    const QVector<PatternItem> result = palx::reordered(items, {2, 0, 1});
-    EXPECT_EQ(placesOf(result), "250,50/0 50,50/0 150,50/0");
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(result[i].index, i + 1);
-        EXPECT_EQ(result[i].faults, palx::ItemFaults());
-    }
-}
