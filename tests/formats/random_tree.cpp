@@ -3,8 +3,8 @@
 #include <QStringList>
 
 #include <cmath>
+#include <cstdint>
 #include <cstring>
-#include <limits>
 #include <vector>
 
 using orba::Name;
@@ -23,7 +23,7 @@ double RandomTree::number()
                                   1e-7,
                                   9007199254740993.0,
                                   2.2250738585072014e-308,
-                                  std::numeric_limits<double>::max(),
+                                  1.7976931348623157e308,
                                   9223372036854775808.0,
                                   100000.0};
     if (below(3) == 0)
@@ -39,14 +39,7 @@ double RandomTree::number()
 
 qint64 RandomTree::integer()
 {
-    static const qint64 kOdd[] = {0,
-                                  1,
-                                  -1,
-                                  std::numeric_limits<qint64>::max(),
-                                  std::numeric_limits<qint64>::min(),
-                                  4294967296,
-                                  -2147483649,
-                                  2147483648};
+    static const qint64 kOdd[] = {0, 1, -1, INT64_MAX, INT64_MIN, 4294967296, -2147483649, 2147483648};
     return below(2) == 0 ? kOdd[below(std::size(kOdd))] : static_cast<qint64>(random_());
 }
 
