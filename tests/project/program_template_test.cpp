@@ -1,60 +1,46 @@
+// The programs that a project starts from, and what comes of it when one of them is not there.
+
 #include "project/rules/program_template.h"
+
+#include "support/test_support.h"
 
 #include <QDirIterator>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 namespace {
 
 using palx::TemplateChoice;
 
-struct Case
+/// What made projects do not show.
+const struct
 {
     const char *task;
     const char *file;
     TemplateChoice choice; ///< scheme, bollard, towards left, towards right
     const char *path;
-};
-
-constexpr Case kCases[] = {
-    {"task1", "main", {0, 0, 0, 0}, "/semi_static/conveyor_belt_inspection.mod"},
+} kCases[] = {
     {"task1", "anything", {3, 1, 1, 1}, "/semi_static/conveyor_belt_inspection.mod"},
-    {"task2", "main", {0, 0, 0, 0}, "/semi_static/palletizing_status_detection.mod"},
-    {"task3", "main", {0, 0, 0, 0}, "/semi_static/program_estop_collision.mod"},
-    {"task4", "main", {0, 0, 0, 0}, "/normal/task_stop.mod"},
     {"task5", "Helper", {0, 0, 0, 0}, "/helper/bollard_helper.mod"},
-    {"task5", "main", {0, 0, 0, 0}, "/semi_static/check_bollard_state.mod"},
     {"task5", "helper", {0, 0, 0, 0}, "/semi_static/check_bollard_state.mod"},
-    {"task0", "main", {0, 0, 0, 0}, "/motion/main/main_single_left.mod"},
-    {"task0", "main", {1, 1, 0, 0}, "/motion/main/main_single_right.mod"},
-    {"task0", "main", {2, 0, 0, 0}, "/motion/main/main_single_both.mod"},
-    {"task0", "main", {3, 0, 0, 0}, ""},
-    {"task0", "main", {-1, 0, 0, 0}, ""},
     {"task9", "main", {2, 0, 0, 0}, "/motion/main/main_single_both.mod"},
+    {"task0", "main", {3, 0, 0, 0}, ""},
     {"task0", "Helper", {3, 1, 0, 0}, "/helper/bollard_helper.mod"},
     {"task0", "ZuoMaduo", {0, 0, 0, 0}, "/motion/left/ZuoMaDuo_single_suction_bollard_no_clapboard.mod"},
-    {"task0", "ZuoMaduo", {3, 1, 0, 0}, "/motion/left/ZuoMaDuo_single_suction_no_bollard_no_clapboard.mod"},
     {"task0", "ZuoMaDuo", {0, 0, 0, 0}, ""}, // the file's name is spelled otherwise
-    {"task0", "YouMaduo", {1, 0, 0, 0}, "/motion/right/YouMaDuo_single_suction_bollard_no_clapboard.mod"},
     {"task0", "YouMaduo", {1, 2, 0, 0}, "/motion/right/YouMaDuo_single_suction_no_bollard_no_clapboard.mod"},
-    {"task0", "Init", {0, 0, 0, 0}, "/motion/init/Init_single_bollard_left.mod"},
-    {"task0", "Init", {1, 1, 0, 0}, "/motion/init/Init_single_right.mod"},
     {"task0", "Init", {2, 1, 0, 0}, "/motion/init/Init_single_both.mod"},
-    {"task0", "Init", {3, 1, 0, 0}, ""},
-    {"task0", "BackHome", {0, 1, 0, 0}, "/motion/back_home/BackHome_Forward-facing_left.mod"},
-    {"task0", "BackHome", {1, 0, 0, 0}, "/motion/back_home/BackHome_Forward-facing_bollard_right.mod"},
-    {"task0", "BackHome", {2, 0, 1, 1}, "/motion/back_home/BackHome_Backwards_bollard_both.mod"},
     {"task0", "BackHome", {2, 1, 0, 1}, "/motion/back_home/BackHome_Backwards_both.mod"},
-    {"task0", "BackHome", {2, 1, 1, 0}, "/motion/back_home/BackHome_Backwards_both.mod"},
     {"task0", "BackHome", {3, 1, 1, 0}, ""},
-    {"task0", "Other", {0, 0, 0, 0}, ""},
     {"", "", {0, 0, 0, 0}, ""},
 };
 
 TEST(ProgramTemplate, isChosenByTaskFileAndParameters)
 {
-    for (const Case &c : kCases)
+    for (const auto &c : kCases)
         EXPECT_EQ(palx::programTemplate(QLatin1String(c.task), QLatin1String(c.file), c.choice), c.path)
             << c.task << " " << c.file << " scheme " << c.choice.schemeLayout;
 }
@@ -72,26 +58,53 @@ TEST(ProgramTemplate, thereAreThirtyOneFilesAndNoOthers)
     EXPECT_EQ(wanted.join('\n').toStdString(), built.join('\n').toStdString());
 }
 
-TEST(ProgramTemplate, aFolderBesideTheProgramTakesThePlaceOfTheBuiltInTree)
+/// A copy of `palx` in a folder of its own, with the templates beside it except one.
+class MissingTemplate : public ::testing::Test
 {
+protected:
+    MissingTemplate()
+    {
+        EXPECT_TRUE(QFile::copy(QStringLiteral(PALX_BIN_DIR "/palx"), path("palx")));
+        for (const QString &file : palx::programTemplates()) {
+            QDir().mkpath(QFileInfo(path("mod") + file).path());
+            EXPECT_TRUE(QFile::copy(":/palx_workstation/mod" + file, path("mod") + file)) << file;
+        }
+        EXPECT_TRUE(QFile::remove(missing));
+    }
+    QString path(const char *name) const { return folder.filePath(QLatin1String(name)); }
+    /// What `palx project` tells as a result, or why it refuses.
+    QString run(const QStringList &arguments, int code) const
+    {
+        QProcess palx;
+        palx.start(path("palx"), QStringList("project") + arguments +
+                                     QStringList{"--data", path("data"), "--workspace", path("work")});
+        EXPECT_TRUE(palx.waitForFinished(60000));
+        EXPECT_EQ(palx.exitCode(), code) << arguments.join(' ');
+        return QString::fromUtf8(code == 0 ? palx.readAllStandardOutput() : palx.readAllStandardError());
+    }
+    QStringList folders() const
+    {
+        return QDir(path("work/SIM-0001")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    }
+
     const QTemporaryDir folder;
-    QByteArray text;
-    QString why;
-    EXPECT_EQ(palx::programTemplateRoot(folder.path()), QStringLiteral(":/palx_workstation/mod"));
-    ASSERT_TRUE(QDir(folder.path()).mkpath("mod/normal"));
-    const QString root = palx::programTemplateRoot(folder.path());
-    EXPECT_EQ(root, folder.path() + "/mod");
-    QFile file(root + "/normal/task_stop.mod");
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("own");
-    file.close();
-    EXPECT_TRUE(palx::readProgramTemplate("/normal/task_stop.mod", &text, &why, root));
-    EXPECT_EQ(text, "own");
-    EXPECT_FALSE(
-        palx::readProgramTemplate("/helper/bollard_helper.mod", &text, &why, root)); // all or nothing
-    EXPECT_TRUE(why.startsWith(root + "/helper/bollard_helper.mod: ")) << why.toStdString();
-    EXPECT_TRUE(palx::readProgramTemplate(QString(), &text, &why, root));
-    EXPECT_TRUE(text.isEmpty());
+    const QString missing = path("mod/motion/right/YouMaDuo_single_suction_no_bollard_no_clapboard.mod");
+};
+
+TEST_F(MissingTemplate, isNamedAndNoHalfProjectIsLeft)
+{
+    run({"create", "Left", "--scheme", "left", "--lift", "no"}, 0);
+    const QString listed = run({"list"}, 0);
+    const QStringList before = folders();
+    const QString why = QStringLiteral("Cannot read program template: ") + missing;
+    for (const QStringList &refused : {QStringList{"create", "Half", "--scheme", "right", "--lift", "no"},
+                                       QStringList{"edit", "Left", "--rename", "Half", "--scheme", "both"}}) {
+        const QString told = run(refused, 1);
+        EXPECT_TRUE(told.contains(why)) << told;
+        EXPECT_EQ(folders(), before) << refused.first();
+        EXPECT_FALSE(QFileInfo::exists(path("work/.palx-staging"))) << refused.first();
+        EXPECT_EQ(run({"list"}, 0), listed) << refused.first();
+    }
 }
 
 } // namespace

@@ -4,11 +4,11 @@
 
 #include "formats/obstacles.h"
 #include "orba/module_manager.h"
-#include "project/rules/program_template.h"
 #include "project/rules/project_files.h"
 #include "project/rules/project_place.h"
 #include "project/rules/project_record.h"
 #include "project/rules/project_variables.h"
+#include "support/cell_variables.h"
 #include "workstation/plugin_node.h"
 
 #include <QDir>
@@ -18,63 +18,6 @@
 #include <sys/stat.h>
 
 using orba::Node;
-
-namespace {
-
-QByteArray templateText(const char *path)
-{
-    return palx::readResourceFile(palx::programTemplateRoot() + QLatin1String(path)).toUtf8();
-}
-
-QStringList variableTexts()
-{
-    QStringList lines;
-    for (const orba::ModuleObject *each : m("quill.project.var._list")->cmobjs())
-        lines.append(QStringLiteral("%1|%2|%3|%4|%5")
-                         .arg(each->getString("name"), each->getString("description"),
-                              each->getString("type"), each->getString("value.[0][0][0]"),
-                              each->getString("pers")));
-    return lines;
-}
-
-} // namespace
-
-TEST_F(ProjectTest, FilesHaveTheirPlaceInTheCurrentProject)
-{
-    const QString top = workspace() + QLatin1Char('/');
-    EXPECT_EQ(palx::getFileName("main.mod", "task0"), top + "LOCALHOST/_temp/task0/main.mod");
-    m("quill.project.cur_project")->set(nullptr, "", QStringLiteral("SIM-0001/P"));
-    EXPECT_EQ(palx::getFileName("main.mod", "task0"), top + "SIM-0001/P/task0/main.mod");
-    EXPECT_EQ(palx::getFileName("var.json", ""), top + "SIM-0001/P/var.json");
-    EXPECT_EQ(QDir::cleanPath(palx::getFileName("", "task0")), top + "SIM-0001/P/task0");
-}
-
-TEST_F(ProjectTest, ProgramsAreTheChosenTemplates)
-{
-    palx::pluginNode()->c("global_wobj")->copyFrom(nodeFromJson(R"([{"towards": 0}, {"towards": 1}])"));
-    add(QStringLiteral("P"), R"({"scheme_layout": 2, "bollard": 0})");
-    const struct
-    {
-        const char *file;
-        const char *source;
-    } cases[] = {
-        {"task0/main.mod", "/motion/main/main_single_both.mod"},
-        {"task0/Init.mod", "/motion/init/Init_single_bollard_both.mod"},
-        {"task0/BackHome.mod", "/motion/back_home/BackHome_Backwards_bollard_both.mod"},
-        {"task0/ZuoMaduo.mod", "/motion/left/ZuoMaDuo_single_suction_bollard_no_clapboard.mod"},
-        {"task0/YouMaduo.mod", "/motion/right/YouMaDuo_single_suction_bollard_no_clapboard.mod"},
-        {"task0/Helper.mod", "/helper/bollard_helper.mod"},
-        {"task1/main.mod", "/semi_static/conveyor_belt_inspection.mod"},
-        {"task4/main.mod", "/normal/task_stop.mod"},
-        {"task5/main.mod", "/semi_static/check_bollard_state.mod"},
-        {"task5/Helper.mod", "/helper/bollard_helper.mod"},
-    };
-    for (const auto &each : cases) {
-        const QByteArray text = templateText(each.source);
-        EXPECT_FALSE(text.isEmpty()) << each.source;
-        EXPECT_EQ(content(QStringLiteral("P/") + QLatin1String(each.file)), text) << each.file;
-    }
-}
 
 TEST_F(ProjectTest, AProgramIsWrittenOrToldWhyNot)
 {
@@ -91,10 +34,8 @@ TEST_F(ProjectTest, AProgramIsWrittenOrToldWhyNot)
     } cases[] = {
         {"main", "task1", true, false, "warning: File main already exists!"},
         {"main", "task1", false, true, QString()},
-        {"more", "task1", true, true, QString()},
         {"main", "task9", true, true, QString()},
         {"main", "blocked", true, false, "error: Cannot create task folder: blocked"},
-        {"main", "blocked", false, false, QString()},
         {"dir", "task1", false, false, QString()},
     };
     for (const auto &each : cases) {
@@ -154,51 +95,33 @@ TEST_F(ProjectTest, ACopyThatFailsLeavesNothing)
     EXPECT_EQ(files(), before);
 }
 
-TEST_F(ProjectTest, VariablesAreCreatedOnceInTheirOrder)
+TEST_F(ProjectTest, VariablesAreThoseOfTheProgramsInTheirOrder)
 {
     add(QStringLiteral("P"));
-    QStringList expected{"enableStackL|Enable left-side stacking|bool|false|true",
-                         "enableStackR|Enable right-side stacking|bool|false|true"};
-    for (const QChar side : QStringLiteral("LR")) {
-        for (const char *line : {"palletIndex%1|%2 side recipe index|int|0|true",
-                                 "palletCount%1|%2 side pallet count|int|0|true",
-                                 "palletTotalCount%1|%2 side pallet total count|int|0|true",
-                                 "currentLayer%1|%2 side current layer|int|1|true",
-                                 "layerCount%1|%2 side current layer count|int|1|true",
-                                 "totalPallets%1|%2 side total pallets|int|0|true",
-                                 "totalPiledCount%1|%2 side total piled count|int|0|true",
-                                 "cycleTime%1|%2 side cycle time|double|0.0|true",
-                                 "boxHeight%1|%2 side box height|int|300|true"})
-            expected.append(QString::fromLatin1(line).arg(side, side == 'L' ? QStringLiteral("Left")
-                                                                            : QStringLiteral("Right")));
+    const orba::ModuleObject *list = m("quill.project.var._list");
+    const Node before = list->node();
+    QMap<QString, QString> values;
+    QStringList names;
+    for (const orba::ModuleObject *each : list->cmobjs()) {
+        names.append(each->getString("name"));
+        values[names.last()] = each->getString("value.[0][0][0]") + QLatin1Char(' ') +
+                               each->getString("type") + QLatin1Char(' ') + each->getString("pers");
     }
-    expected += QStringList{
-        "palletStatus|Left: 1, Right: 2|int|0|true",
-        "flagL|Left full flag|int|0|true",
-        "flagR|Right full flag|int|0|true",
-        "flagL1||int|0|true",
-        "flagR1||int|0|true",
-        "rise|Lifting column state, 1 up, 0 down|int|1|true",
-        "use_rise|Using lifting column|int|0|true",
-        "SetZ|Stacking maximum height|int|700|true",
-        "MaxZ|Maximum height reachable by the robot in the stacking scene|int|1000|true",
-        "grabbing|Gripping materials|bool|false|true",
-        "Margin|StandBy Point Margin|int|400|true",
-        "liftHeight|Lift height|int|550|true",
-        "clock0|calculate time|clock||false",
-        "boxheight|box height|int|300|false",
-        "flagLL||bool|false|false",
-        "flagRR||bool|false|false",
-        "flag||bool|false|false",
-        "BHOME|current pos|robtarget|p:{{0,0,0},{0,0,0,0},0}{cfg 0,0,0,0,0,0,0,0}{EJ 0,0,0,0,0,0}|false"};
-    EXPECT_EQ(variableTexts(), expected);
-    palx::createProjectVariables();
+    QStringList wanted;
+    for (const auto &variable : cellVariables())
+        wanted.append(QString::fromStdString(variable.name));
+    EXPECT_EQ(names, wanted);
+    for (const auto &[name, value] :
+         {std::pair("enableStackR", "false bool true"), std::pair("currentLayerL", "1 int true"),
+          std::pair("boxHeightR", "300 int true"), std::pair("SetZ", "700 int true"),
+          std::pair("MaxZ", "1000 int true"), std::pair("Margin", "400 int true"),
+          std::pair("liftHeight", "550 int true"), std::pair("rise", "1 int true"),
+          std::pair("cycleTimeL", "0.0 double true"), std::pair("clock0", " clock false"),
+          std::pair("flag", "false bool false")})
+        EXPECT_EQ(values[name], QLatin1String(value)) << name;
+    palx::createProjectVariables(); // again
     palx::createVar("SetZ", QString(), "int", "1");
-    EXPECT_EQ(variableTexts(), expected);
-    EXPECT_EQ(m("quill.project.var._list")->cmobj(1)->node(),
-              nodeFromJson(R"({"id": 1, "name": "enableStackR",
-        "description": "Enable right-side stacking", "type": "bool", "pers": "true", "d": [0, 0, 0],
-        "value": {"[0][0][0]": "false"}})"));
+    EXPECT_EQ(list->node(), before);
 }
 
 TEST_F(ProjectTest, VariablesAreKeptInFilesAsTheSoftwareWants)
@@ -219,23 +142,5 @@ TEST_F(ProjectTest, VariablesAreKeptInFilesAsTheSoftwareWants)
     add(QStringLiteral("Q"));
     EXPECT_FALSE(QFileInfo::exists(place("Q/var.json")));
     EXPECT_FALSE(QFileInfo::exists(place("Q/var_monitor.json")));
-    EXPECT_EQ(m("quill.project.var_monitor._list")->cmobjCount(), 0);
-    EXPECT_FALSE(m("quill.project.var._list")->cmobj(0)->has("id"));
     EXPECT_EQ(m("quill.project.var._list")->cmobjCount(), 38);
-}
-
-TEST_F(ProjectTest, WithoutARecordNoVariablesAreCreated)
-{
-    m("quill.project.cur_project")->set(nullptr, "", QStringLiteral("SIM-0001/foreign"));
-    palx::createProjectVariables();
-    EXPECT_EQ(m("quill.project.var._list")->cmobjCount(), 0);
-}
-
-TEST_F(ProjectTest, RecipesAreListedByTheirSide)
-{
-    const Node stacks =
-        nodeFromJson(R"([{"name": "a", "pallet_position": 0}, {"name": "b", "pallet_position": 1},
-                                         {"name": "c"}, {"name": "d", "pallet_position": 2}])");
-    EXPECT_EQ(palx::sideRecipes(stacks, true), QStringList({"a", "c"}));
-    EXPECT_EQ(palx::sideRecipes(stacks, false), QStringList({"b", "d"}));
 }

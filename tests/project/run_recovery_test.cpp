@@ -101,79 +101,47 @@ struct RecoveryCase
     const char *whyNotConfirm; ///< what is proposed
 };
 
+const char *const kConfirm = "Confirm layer and piece of the left pallet first!";
+const char *const kFull = "The left pallet is full; replace it first!";
+const char *const kClear = "Clear the gripper first!";
+
 const RecoveryCase kCases[] = {
     {"Fresh", {}, "1/1", false, "", ""},
     {"AsCounted", {"stopped", 0, {2, 1}, 2, {2, 1}}, "2/1", false, "", ""},
-    {"BrokenOff",
-     {"stopped", 1, {2, 2}, 3, {2, 2}},
-     "2/2",
-     true,
-     "Confirm layer and piece of the left pallet first!",
-     ""},
-    {"OneBehind",
-     {"stopped", 1, {1, 2}, 2, {2, 1}},
-     "2/1",
-     true,
-     "Confirm layer and piece of the left pallet first!",
-     ""},
-    {"BehindTheLastOfALayerIsTheNextLayersFirst", {"stopped", 0, {1, 3}, 2, {2, 1}}, "2/1", false, "", ""},
+    {"BrokenOff", {"stopped", 1, {2, 2}, 3, {2, 2}}, "2/2", true, kConfirm, ""},
+    {"OneBehind", {"stopped", 1, {1, 2}, 2, {2, 1}}, "2/1", true, kConfirm, ""},
+    {"BehindTheLastOfALayer", {"stopped", 0, {1, 3}, 2, {2, 1}}, "2/1", false, "", ""},
     {"ASheetIsPassed", {"stopped", 0, {3, 1}, 4, {4, 1}}, "4/1", false, "", ""},
-    {"Full",
-     {"stopped", 1, {4, 1}, 5, {5, 1}},
-     "5/1",
-     true,
-     "The left pallet is full; replace it first!",
-     "The left pallet is full; replace it first!"},
-    {"FullAndReplaced",
-     {"stopped", 0, {5, 1}, 0, {1, 1}},
-     "1/1",
-     true,
-     "Confirm layer and piece of the left pallet first!",
-     ""},
-    {"AtTheGripper",
-     {"stopped", 1, {1, 2}, 1, {1, 2}, "Left", true, true},
-     "1/2",
-     true,
-     "Clear the gripper first!",
-     "Clear the gripper first!"},
-    {"SuctionOnly",
-     {"stopped", 0, {1, 2}, 1, {1, 2}, "Left", false, true},
-     "1/2",
-     false,
-     "Clear the gripper first!",
-     "Clear the gripper first!"},
+    {"Full", {"stopped", 1, {4, 1}, 5, {5, 1}}, "5/1", true, kFull, kFull},
+    {"FullAndReplaced", {"stopped", 0, {5, 1}, 0, {1, 1}}, "1/1", true, kConfirm, ""},
+    {"AtTheGripper", {"stopped", 1, {1, 2}, 1, {1, 2}, "Left", true, true}, "1/2", true, kClear, kClear},
+    {"SuctionOnly", {"stopped", 0, {1, 2}, 1, {1, 2}, "Left", false, true}, "1/2", false, kClear, kClear},
     {"Foreign",
      {"stopped", 0, {1, 2}, 1, {1, 2}, "Other"},
      "1/2",
      true,
-     "Confirm layer and piece of the left pallet first!",
+     kConfirm,
      "Products of the recipe \"Other\" lie on the left pallet!"},
     {"Running", {"running", 1, {1, 2}, 2, {2, 1}}, "2/1", false, "", "Stop the program first!"},
-    {"Paused", {"paused", 1, {1, 2}, 2, {2, 1}}, "2/1", false, "", "Stop the program first!"},
     {"NobodySeesThePallet", {"", 1, {2, 2}, 0, {1, 1}, "", false, false, false}, "2/2", false, "", ""},
     {"NobodySeesTheFullPallet", {"", 0, {5, 1}, 0, {1, 1}, "", false, false, false}, "1/1", false, "", ""},
 };
 
-class Recovery : public ::testing::TestWithParam<RecoveryCase>
-{
-};
-
-TEST_P(Recovery, ProposesAndAsks)
-{
-    const RecoveryCase &c = GetParam();
-    const palx::RunRecovery run = read(c.cell);
-    EXPECT_EQ(QLatin1String(c.proposed), textOf(run.sides[0].proposed));
-    EXPECT_EQ(c.isAsked, palx::needsConfirmation(run, 0));
-    EXPECT_EQ(QLatin1String(c.whyNotEnable), palx::whyNotEnable(run, 0));
-    EXPECT_EQ(QLatin1String(c.whyNotConfirm), palx::whyNotConfirm(run, 0, run.sides[0].proposed));
-    EXPECT_EQ("There is no recipe for the right pallet!", palx::whyNotEnable(run, 1));
-    EXPECT_FALSE(palx::needsConfirmation(run, 1));
-}
-
-INSTANTIATE_TEST_SUITE_P(Cells, Recovery, ::testing::ValuesIn(kCases),
-                         [](const auto &test) { return test.param.name; });
-
 } // namespace
+
+TEST(RunRecovery, ProposesAndAsks)
+{
+    for (const RecoveryCase &c : kCases) {
+        SCOPED_TRACE(c.name);
+        const palx::RunRecovery run = read(c.cell);
+        EXPECT_EQ(QLatin1String(c.proposed), textOf(run.sides[0].proposed));
+        EXPECT_EQ(c.isAsked, palx::needsConfirmation(run, 0));
+        EXPECT_EQ(QLatin1String(c.whyNotEnable), palx::whyNotEnable(run, 0));
+        EXPECT_EQ(QLatin1String(c.whyNotConfirm), palx::whyNotConfirm(run, 0, run.sides[0].proposed));
+        EXPECT_EQ("There is no recipe for the right pallet!", palx::whyNotEnable(run, 1));
+        EXPECT_FALSE(palx::needsConfirmation(run, 1));
+    }
+}
 
 TEST(RunRecovery, OnlyPiecesOfTheRecipeAreConfirmed)
 {

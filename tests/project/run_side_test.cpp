@@ -68,27 +68,23 @@ TEST(RunSide, IsReadFromTheVariablesAndTheRecipe)
     const int wanted[] = {4, 5, 4, 4, 1, 1, 2};
     EXPECT_TRUE(std::equal(std::begin(figures), std::end(figures), std::begin(wanted)));
     EXPECT_DOUBLE_EQ(side.boxesPerHour(), 625);
-    EXPECT_EQ(palx::RunSide().boxesPerHour(), 0);
     EXPECT_FALSE(read(kLeft, R"({"scheme_layout":2})", R"({"state":"stopped"})").isStacked);
+    const Node all = stacks();
+    EXPECT_NE(palx::recipeChangeProblem(side), QString());
+    EXPECT_EQ(palx::enableProblem(side, palx::recipeOfSide(all, LineSide::Left, 0)), QString());
+    EXPECT_TRUE(palx::enableProblem(side, palx::recipeOfSide(all, LineSide::Left, 1))
+                    .contains(QStringLiteral("points")));
 }
 
 TEST(RunSide, IsPartOfTheLineByLayoutAndVariables)
 {
-    const struct
-    {
-        const char *project;
-        bool left, right;
-    } cases[] = {{R"({"scheme_layout":0})", true, false},
-                 {R"({"scheme_layout":1})", false, true},
-                 {R"({"scheme_layout":2})", true, true},
-                 {R"({"scheme_layout":3})", false, false},
-                 {"null", false, false}};
     const char *const both =
         R"({"enableStackL":"0","palletIndexL":"0","enableStackR":"0","palletIndexR":"0"})";
-    for (const auto &each : cases) {
-        EXPECT_EQ(read(both, each.project).isPart, each.left) << each.project;
-        EXPECT_EQ(read(both, each.project, "null", LineSide::Right).isPart, each.right) << each.project;
-        EXPECT_FALSE(read("{}", each.project).isPart) << each.project;
+    for (int scheme = 0; scheme < 4; ++scheme) {
+        const QByteArray project = "{\"scheme_layout\":" + QByteArray::number(scheme) + '}';
+        EXPECT_EQ(read(both, project).isPart, scheme == 0 || scheme == 2) << scheme;
+        EXPECT_EQ(read(both, project, "null", LineSide::Right).isPart, scheme == 1 || scheme == 2) << scheme;
+        EXPECT_FALSE(read("{}", project).isPart) << scheme;
     }
 }
 
@@ -124,18 +120,15 @@ TEST(RunSide, HasOneStateTheMostUrgentFirst)
     const Case cases[] = {
         {RunState::NoController, true, false, true, R"({"state":"running"})", {}},
         {RunState::Stacking, true, false, true, R"({"state":"running"})", on},
-        {RunState::Stacking, false, false, true, R"({"state":"running"})", on},
         {RunState::Waiting, true, false, false, R"({"state":"running"})", on},
         {RunState::Disabled, false, false, false, R"({"state":"running"})", on},
         {RunState::Full, true, true, false, R"({"state":"running"})", on},
         {RunState::Paused, true, false, true, R"({"state":"paused"})", on},
-        {RunState::Disabled, false, false, false, R"({"state":"paused"})", on},
         {RunState::Standing, true, false, false, R"({"state":"stopped"})", on},
-        {RunState::Fault, true, false, false, R"({"state":"stopped","fault":true})", on},
         {RunState::Fault, true, false, false, R"({"state":"stopped","fault":true})", {true, false, true}},
         {RunState::Unconfirmed, true, false, false, R"({"state":"stopped"})", {true, false, true}},
         {RunState::MovedByHand, true, false, false, R"({"state":"stopped"})", {true, true, false}},
-        {RunState::Waiting, true, false, false, "null", on}};
+    };
     for (const Case &each : cases) {
         palx::RunSide side;
         side.isPart = true;
@@ -146,21 +139,6 @@ TEST(RunSide, HasOneStateTheMostUrgentFirst)
             << each.program << " case " << &each - cases;
     }
     EXPECT_EQ(palx::runState(palx::RunSide(), Node(), on), RunState::Absent);
-}
-
-TEST(RunSide, AsksOnlyForWhatCanBe)
-{
-    const Node all = stacks();
-    palx::RunSide side = read(kLeft);
-    EXPECT_NE(palx::recipeChangeProblem(side), QString());
-    side.isEnabled = side.isStacked = false;
-    EXPECT_EQ(palx::recipeChangeProblem(side), QString());
-    EXPECT_EQ(palx::enableProblem(side, palx::recipeOfSide(all, LineSide::Left, 0)), QString());
-    EXPECT_TRUE(palx::enableProblem(side, palx::recipeOfSide(all, LineSide::Left, 1))
-                    .contains(QStringLiteral("points")));
-    EXPECT_NE(palx::enableProblem(side, nullptr), QString());
-    side.recipes.clear();
-    EXPECT_NE(palx::enableProblem(side, nullptr), QString());
 }
 
 TEST(RunSide, ChangesVariablesOfItsSide)

@@ -32,8 +32,6 @@ protected:
         QFile file(mod(path));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
     }
-    const QStringList success_{"info: Import project templates success!",
-                               "info: Project templates import success!"};
 };
 
 RawEntry file(const char *name)
@@ -50,7 +48,8 @@ TEST_F(TemplateExchangeTest, BuiltInTemplatesGoOutAndComeBackAsFiles)
     EXPECT_EQ(names(disk()), QStringList("mod.zip"));
     takeMessages();
     ASSERT_TRUE(run(TemplateAction::Custom, QStringLiteral("mod.zip"))) << records.join("|");
-    EXPECT_EQ(takeMessages(), success_);
+    EXPECT_EQ(takeMessages(), QStringList({"info: Import project templates success!",
+                                           "info: Project templates import success!"}));
     EXPECT_EQ(palx::programTemplateRoot(programs()), mod());
     for (const QString &path : palx::programTemplates()) {
         QFile builtIn(":/palx_workstation/mod" + path);
@@ -66,9 +65,6 @@ TEST_F(TemplateExchangeTest, TheContentsOfASingleFolderMoveUp)
     putArchive(QStringLiteral("t.zip"), {file("top/a.mod"), file("top/deep/b.mod")});
     ASSERT_TRUE(run(TemplateAction::Custom, QStringLiteral("t.zip")));
     EXPECT_EQ(names(mod()), QStringList({"a.mod", "deep", "deep/b.mod"}));
-    putArchive(QStringLiteral("t.zip"), {file("top/a.mod"), file("b.mod")});
-    ASSERT_TRUE(run(TemplateAction::Custom, QStringLiteral("t.zip")));
-    EXPECT_EQ(names(mod()), QStringList({"b.mod", "top", "top/a.mod"}));
     palx::forgetLastImport();
     EXPECT_EQ(QDir(programs()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList("mod"));
@@ -80,11 +76,8 @@ TEST_F(TemplateExchangeTest, ResetGoesBackToTheBuiltInOnes)
     ASSERT_TRUE(run(TemplateAction::Reset));
     EXPECT_EQ(takeMessages(), QStringList("info: Reset project templates success!"));
     EXPECT_EQ(palx::programTemplateRoot(programs()), QStringLiteral(":/palx_workstation/mod"));
-    EXPECT_EQ(palx::lastImported(), QStringList("mod"));
     ASSERT_TRUE(palx::undoLastImport());
     EXPECT_EQ(text(QStringLiteral("/old.mod")), QByteArray("old"));
-    ASSERT_TRUE(run(TemplateAction::Reset));
-    ASSERT_TRUE(run(TemplateAction::Reset)); // there is nothing to remove any more
 }
 
 TEST_F(TemplateExchangeTest, ARefusedArchiveLeavesTheTemplates)
@@ -106,18 +99,4 @@ TEST_F(TemplateExchangeTest, AnInterruptedReplacementIsPutRight)
     ASSERT_TRUE(QDir().mkpath(programs() + "/.palx-mod-new/top"));
     palx::recoverExchange(programs());
     EXPECT_EQ(names(programs()), QStringList({"mod", "mod/old.mod"}));
-}
-
-TEST_F(TemplateExchangeTest, TheLogSaysWhatIsReplacedByWhat)
-{
-    putArchive(QStringLiteral("t.zip"), {file("a.mod")});
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    run(TemplateAction::Custom, QStringLiteral("t.zip"));
-    run(TemplateAction::Reset);
-    const QString log = QString::fromStdString(testing::internal::GetCapturedStdout() +
-                                               testing::internal::GetCapturedStderr());
-    for (const QString &line :
-         {"mod_dir_path:" + mod(), "template_path:" + onDisk("t.zip"), QString("Remove mod dir success!")})
-        EXPECT_TRUE(log.contains(line)) << log;
 }

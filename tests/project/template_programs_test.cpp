@@ -1,29 +1,24 @@
-#include "project/template_tasks.h"
+// The copies of the program templates for sides and facings agree.
+
+#include "project/rules/program_template.h"
 
 #include <QCryptographicHash>
 #include <QFile>
 #include <QMap>
 #include <QRegularExpression>
 
-/// The program templates can be run, and their copies for sides and facings agree.
+#include <gtest/gtest.h>
+
 namespace {
-
-using namespace template_tasks;
-
-TEST(TemplatePrograms, everyCombinationCanBeRun)
-{
-    for (int i = 0; i < 3 * 2 * 2; ++i) {
-        const palx::TemplateChoice choice{i % 3, i / 3 % 2, i / 6, i / 6};
-        for (const Task &task : tasksOf(choice))
-            EXPECT_TRUE(programOf(task, choice));
-    }
-}
 
 /// Statements without comments, blanks at the ends and empty lines.
 QStringList statements(const QString &path)
 {
     QStringList lines;
-    for (const QString &line : QString::fromUtf8(templateText(path)).split('\n'))
+    QByteArray text;
+    QString why;
+    EXPECT_TRUE(palx::readProgramTemplate(path, &text, &why)) << why.toStdString();
+    for (const QString &line : QString::fromUtf8(text).split('\n'))
         lines.append(line.section('!', 0, 0).trimmed());
     lines.removeAll(QString());
     return lines;
