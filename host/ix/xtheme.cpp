@@ -57,8 +57,12 @@ void setLook(QWidget *widget, const char *property, const QString &value)
     if (!widget || widget->property(property).toString() == value)
         return;
     widget->setProperty(property, value);
-    widget->style()->unpolish(widget); // rules with [property="..."] are matched while polishing
-    widget->style()->polish(widget);
+    QWidgetList looks{widget};
+    looks += widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly); // texts on its ground
+    for (QWidget *each : std::as_const(looks)) {
+        each->style()->unpolish(each); // rules with [property="..."] are matched while polishing
+        each->style()->polish(each);
+    }
     widget->update();
 }
 
@@ -83,7 +87,8 @@ QString sizeRules()
                           "QPushButton { padding: 0px 16px; }\n"
                           "QComboBox QAbstractItemView::item { min-height: %1px; }\n"
                           "QCheckBox, QRadioButton { min-height: %3px; spacing: 10px; }\n"
-                          "QCheckBox::indicator, QRadioButton::indicator, QTableView::indicator { width: 28px; height: 28px; }\n"
+                          "QCheckBox::indicator, QRadioButton::indicator, QTableView::indicator { width: "
+                          "28px; height: 28px; }\n"
                           "QListView::item { min-height: %1px; }\n"
                           "QMenu::item { min-height: %1px; padding: 0px 24px; }\n"
                           "QMenu::item:selected { background: palette(highlight); color: #ffffff; }\n"
