@@ -190,7 +190,7 @@ void RunFrame::ask(RunSideCard *card, const palx::VariableChanges &changes)
 {
     card->setWaiting(true);
     ui_->message->showMessage(tr("Waiting for the controller."), State::Manual);
-    palx::changePersVariables(changes, card, [this, card](const XReply &reply) {
+    palx::setValueOfPERSVar(changes, card, [this, card](const XReply &reply) {
         card->setWaiting(false);
         if (reply.isOk())
             ui_->message->clearMessage();

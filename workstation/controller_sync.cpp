@@ -142,8 +142,8 @@ void setValueOfPERSVar(const QString &name, const QString &value)
     xservice()->command(nullptr, kModifyVariables, &modify);
 }
 
-void changePersVariables(const VariableChanges &changes, QObject *sender,
-                         std::function<void(const XReply &)> answered)
+void setValueOfPERSVar(const VariableChanges &changes, QObject *sender,
+                       std::function<void(const XReply &)> answered)
 {
     ModuleObject modify(QStringLiteral("modify"));
     modify.node().reset(Node::Kind::Map);

@@ -39,8 +39,8 @@ using VariableChanges = QVector<QPair<QString, QString>>;
 /// Sets several persistent variables at once, all of them or none, each read as above, and does not wait. `answered` gets
 /// the answer once, as long as `sender` lives. A name that is no persistent number or bool of the project is refused at
 /// once, and nothing is sent.
-PALX_API void changePersVariables(const VariableChanges &changes, QObject *sender,
-                                  std::function<void(const XReply &)> answered);
+PALX_API void setValueOfPERSVar(const VariableChanges &changes, QObject *sender,
+                                std::function<void(const XReply &)> answered);
 
 /// Whether the controller's software version starts with `prefix`.
 PALX_API bool checkNexoVersion(const QString &prefix);

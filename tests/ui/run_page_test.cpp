@@ -316,7 +316,7 @@ TEST_F(RunPageTest, ChangesAreTakenTogetherOrNotAtAll)
     QStringList answers;
     QObject context;
     const auto change = [&](const palx::VariableChanges &changes) {
-        palx::changePersVariables(changes, &context, [&answers](const XReply &reply) {
+        palx::setValueOfPERSVar(changes, &context, [&answers](const XReply &reply) {
             answers.append(reply.isOk() ? QStringLiteral("done") : reply.error);
         });
         settle();
