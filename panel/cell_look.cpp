@@ -60,11 +60,11 @@ PalletLook palletLook(const Node &cell, int side)
 
 const QVector<DeskButton> &deskButtons()
 {
-    static const QVector<DeskButton> buttons{{"btnDeskStart", "DI2_0", "DO2_0", State::Running, false},
-                                             {"btnDeskStop", "DI2_1", "DO2_1", State::Fault, false},
-                                             {"btnDeskReset", "DI2_2", "DO2_2", State::Attention, false},
-                                             {"btnArrowLeft", "DI2_3", "DO2_3", State::Running, true},
-                                             {"btnArrowRight", "DI2_4", "DO2_4", State::Running, true}};
+    static const QVector<DeskButton> buttons{{"DI2_0", "DO2_0", State::Running, false},
+                                             {"DI2_1", "DO2_1", State::Fault, false},
+                                             {"DI2_2", "DO2_2", State::Attention, false},
+                                             {"DI2_3", "DO2_3", State::Running, true},
+                                             {"DI2_4", "DO2_4", State::Running, true}};
     return buttons;
 }
 

@@ -28,12 +28,12 @@ PalletLook palletLook(const orba::Node &cell, int side);
 /// A button of the cell's desk with its lamp.
 struct DeskButton
 {
-    const char *button; ///< object name on the page
     const char *input;
     const char *lamp;
     ix::xtheme::State lit;
     bool isHeld; ///< it is pressed until its lamp lights
 };
+/// Start, stop, reset, left arrow, right arrow.
 const QVector<DeskButton> &deskButtons();
 
 /// Conveyor, gripper and lift column, a line each.

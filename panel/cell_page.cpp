@@ -93,11 +93,11 @@ void CellPage::setupRun()
 
 void CellPage::setupDesk()
 {
-    for (const DeskButton &each : deskButtons())
-        if (auto *button = findChild<QPushButton *>(QLatin1String(each.button)))
-            connect(button, &QPushButton::clicked, this, [this, each, button] {
-                press(QLatin1String(each.input), each.isHeld ? kHold : kTouch, button->text());
-            });
+    desk_ = {ui_->btnDeskStart, ui_->btnDeskStop, ui_->btnDeskReset, ui_->btnArrowLeft, ui_->btnArrowRight};
+    for (int i = 0; i < desk_.size(); ++i)
+        connect(desk_[i], &QPushButton::clicked, this, [this, button = desk_[i], each = deskButtons()[i]] {
+            press(QLatin1String(each.input), each.isHeld ? kHold : kTouch, button->text());
+        });
     const struct
     {
         QPushButton *button;
@@ -258,10 +258,10 @@ void CellPage::showPart()
 
 void CellPage::showDesk()
 {
-    for (const DeskButton &each : deskButtons())
-        if (auto *button = findChild<QPushButton *>(QLatin1String(each.button)))
-            ix::xtheme::setState(button,
-                                 cellSignal(cell(), QLatin1String(each.lamp)) ? each.lit : State::None);
+    for (int i = 0; i < desk_.size(); ++i) {
+        const DeskButton &each = deskButtons()[i];
+        ix::xtheme::setState(desk_[i], cellSignal(cell(), QLatin1String(each.lamp)) ? each.lit : State::None);
+    }
     QLabel *const labels[] = {ui_->lblPalletLeft, ui_->lblPalletRight};
     for (int side = 0; side < 2; ++side) {
         const PalletLook look = palletLook(cell(), side);

@@ -71,6 +71,7 @@ private:
     CellTable *tasks_ = nullptr;
     CellTable *variables_ = nullptr;
     CellTable *violations_ = nullptr;
+    QVector<QPushButton *> desk_; ///< in the order of `deskButtons`
     QVector<QPushButton *> faults_;
     std::unique_ptr<QObject> follower_; ///< while the page is seen
     QTimer frame_;                      ///< one picture for all changes of that time
