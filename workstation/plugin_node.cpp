@@ -12,7 +12,8 @@ using orba::ModuleObject;
 using orba::Name;
 using orba::Node;
 
-struct NumberList {
+struct NumberList
+{
     const char *path;
     int size;
 };
@@ -165,6 +166,14 @@ void copyPointData(Node &dst, const Node &src)
         for (int i = 0; i < count; ++i)
             to->setNumber(i, from->number(i));
     }
+}
+
+const Node *recordOfName(const Node &list, const QString &name)
+{
+    for (int i = 0; !list.isPacked() && i < list.size(); ++i)
+        if (const Node *record = list.at(i); record && record->getString(u"name") == name)
+            return record;
+    return nullptr;
 }
 
 void makePointRecord(Node &point)

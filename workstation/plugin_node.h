@@ -35,6 +35,8 @@ PALX_API void identityToolsetNode(orba::ModuleObject *toolset);
 PALX_API void copyPointData(orba::ModuleObject *dst, orba::ModuleObject *src);
 
 // --- the same on storage, for rules and inner loops
+/// The first record of a list whose "name" equals `name` to the letter; null when there is none.
+PALX_API const orba::Node *recordOfName(const orba::Node &list, const QString &name);
 /// Becomes a zero point record: "trans" 3, "rot" 3, "near" 6, "conf" 8.
 PALX_API void makePointRecord(orba::Node &point);
 /// The child of that name as a point record: made when missing or a mere value, completed with zeros when it lacks

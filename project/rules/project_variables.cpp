@@ -6,6 +6,7 @@
 #include "project/rules/project_record.h"
 #include "workstation/controller_sync.h"
 #include "workstation/plugin_log.h"
+#include "workstation/plugin_node.h"
 
 namespace palx {
 
@@ -155,11 +156,7 @@ bool create(const Variable &variable)
 
 bool checkVarExists(const QString &name)
 {
-    const Node &list = std::as_const(variableList()->node());
-    for (int i = 0; i < list.size(); ++i)
-        if (list.at(i) && list.at(i)->getString(u"name") == name)
-            return true;
-    return false;
+    return recordOfName(std::as_const(variableList()->node()), name) != nullptr;
 }
 
 void createVar(const QString &name, const QString &description, const QString &type, const QString &value)

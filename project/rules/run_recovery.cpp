@@ -1,6 +1,7 @@
 #include "project/rules/run_recovery.h"
 
 #include "project/rules/project_record.h"
+#include "project/rules/run_side.h"
 #include "workstation/plugin_node.h"
 #include "xservice.h"
 
@@ -12,7 +13,6 @@ using orba::Node;
 
 namespace {
 
-const QString kSheetPattern = QStringLiteral("clapboard");
 const QString kSuction = QStringLiteral("DO2_6");
 constexpr int kColumnUsed = 1; // "use_rise"
 constexpr int kColumnStopped = 2;
@@ -27,23 +27,14 @@ QString sideName(int side)
     return side == 0 ? say("left pallet") : say("right pallet");
 }
 
-/// The name that a variable has on that side: "currentLayer" is "currentLayerL" on the left one.
 QString onSide(const char *variable, int side)
 {
-    return QLatin1String(variable) + (side == 0 ? QLatin1Char('L') : QLatin1Char('R'));
-}
-
-const Node *recordOf(const Node &list, const QString &name)
-{
-    for (int i = 0; !list.isPacked() && i < list.size(); ++i)
-        if (list.at(i) && list.at(i)->getString(u"name") == name)
-            return list.at(i);
-    return nullptr;
+    return sideVariable(variable, kLineSides[side]);
 }
 
 int numberOf(const Node &variables, const QString &name, int fallback)
 {
-    const Node *variable = recordOf(variables, name);
+    const Node *variable = recordOfName(variables, name);
     const Node *value = variable ? variable->find(u"value.[0][0][0]") : nullptr;
     return value ? static_cast<int>(value->toInt()) : fallback;
 }
@@ -51,13 +42,8 @@ int numberOf(const Node &variables, const QString &name, int fallback)
 QVector<int> piecesOfLayers(const Node &stack)
 {
     QVector<int> pieces;
-    const Node *put = stack.find(u"points.put");
-    const Node *layers = stack.child(u"layers");
-    for (int i = 0; put && i < put->size(); ++i) {
-        const Node *layer = layers ? layers->at(i) : nullptr;
-        const bool isSheet = layer && layer->getString(u"pattern") == kSheetPattern;
-        pieces.append(isSheet ? 0 : put->at(i)->size());
-    }
+    for (int layer = 1; layer <= pointLayers(stack); ++layer)
+        pieces.append(layerPieces(stack, layer));
     return pieces;
 }
 
@@ -75,11 +61,20 @@ bool isBehindTheLast(const SideRun &side, PalletPiece piece)
     return !side.pieces.isEmpty() && piece.layer > side.pieces.size();
 }
 
+/// Pieces that come before that one.
+int piecesBefore(const SideRun &side, PalletPiece piece)
+{
+    int count = piece.piece - 1;
+    for (int i = 0; i < side.pieces.size() && i < piece.layer - 1; ++i)
+        count += side.pieces.at(i);
+    return count;
+}
+
 void readCounters(const Node &variables, const Node &stacks, int side, SideRun *run)
 {
     const QStringList names = sideRecipes(stacks, side == 0);
     run->recipe = names.value(numberOf(variables, onSide("palletIndex", side), 0));
-    if (const Node *stack = run->recipe.isEmpty() ? nullptr : recordOf(stacks, run->recipe))
+    if (const Node *stack = run->recipe.isEmpty() ? nullptr : recordOfName(stacks, run->recipe))
         run->pieces = piecesOfLayers(*stack);
     run->counted = firstFrom(run->pieces, {numberOf(variables, onSide("currentLayer", side), 1),
                                            numberOf(variables, onSide("layerCount", side), 1)});
@@ -113,7 +108,7 @@ void readCell(const Node &cell, const Node &variables, RunRecovery *run)
     run->isPaused = state == QLatin1String("paused");
     run->holdsProduct = cell.getBool(u"gripper.carries");
     if (const Node *all = cell.child(u"signals"))
-        if (const Node *suction = recordOf(*all, kSuction))
+        if (const Node *suction = recordOfName(*all, kSuction))
             run->isSuctionOn = suction->getBool(u"on");
     run->columnUse = numberOf(variables, QStringLiteral("use_rise"), 0);
     run->hasColumnPower = cell.getString(u"column.state") == QLatin1String("operation enabled");
@@ -149,14 +144,6 @@ bool needsConfirmation(const RunRecovery &run, int side)
     if (!run.isCellKnown || run.isRunning || run.isPaused || at.recipe.isEmpty())
         return false;
     return at.isInterrupted || !at.foreign.isEmpty() || (at.isKnown && at.counted != at.lying);
-}
-
-int piecesBefore(const SideRun &side, PalletPiece piece)
-{
-    int count = piece.piece - 1;
-    for (int i = 0; i < side.pieces.size() && i < piece.layer - 1; ++i)
-        count += side.pieces.at(i);
-    return count;
 }
 
 QString whyNotConfirm(const RunRecovery &run, int side, PalletPiece piece)
@@ -260,17 +247,6 @@ RunRecovery currentRunRecovery()
 {
     return readRunRecovery(m("nexo.cell")->node(), m("quill.project.var._list")->node(),
                            stacksNode()->node());
-}
-
-QString confirmPiece(int side, PalletPiece piece)
-{
-    const RunRecovery run = currentRunRecovery();
-    const QString why = whyNotConfirm(run, side, piece);
-    if (!why.isEmpty())
-        return why;
-    return xservice()
-        ->set(nullptr, QStringLiteral("monitor.pers.modify"), confirmedVariables(run, side, piece))
-        .error;
 }
 
 QString clearGripper()

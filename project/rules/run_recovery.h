@@ -87,11 +87,7 @@ PALX_API QString whyNotGoOn(const RunRecovery &run);
 /// to be stopped before it sets down the next one.
 PALX_API bool isMiscounted(const RunRecovery &run);
 
-/// Pieces that come before that one.
-PALX_API int piecesBefore(const SideRun &side, PalletPiece piece);
-
-/// Sends the confirmation, or has the gripper cleared. Why not; empty when done. GUI thread.
-PALX_API QString confirmPiece(int side, PalletPiece piece);
+/// Has the gripper cleared. Why not; empty when done. GUI thread.
 PALX_API QString clearGripper();
 
 } // namespace palx

@@ -2,6 +2,7 @@
 
 #include "project/rules/project_record.h"
 #include "stack/recipe_layers.h"
+#include "workstation/plugin_node.h"
 
 #include <QCoreApplication>
 
@@ -20,21 +21,16 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(palx::RunText)
 };
 
-const Node *variableOf(const Node &variables, const QString &name)
-{
-    for (int i = 0; i < variables.size(); ++i)
-        if (variables.at(i) && variables.at(i)->getString(u"name") == name)
-            return variables.at(i);
-    return nullptr;
-}
-
 /// Values of the variables of one side.
 class Values
 {
 public:
     Values(const Node &variables, LineSide side) : variables_(variables), side_(side) {}
 
-    bool has(const char *stem) const { return variableOf(variables_, sideVariable(stem, side_)) != nullptr; }
+    bool has(const char *stem) const
+    {
+        return recordOfName(variables_, sideVariable(stem, side_)) != nullptr;
+    }
     const Node &value(const char *stem) const { return valueOf(sideVariable(stem, side_)); }
     int number(const char *stem) const { return wholeNumber(value(stem)); }
     int shared(const char *name) const { return wholeNumber(valueOf(QLatin1String(name))); }
@@ -43,7 +39,7 @@ private:
     const Node &valueOf(const QString &name) const
     {
         static const Node none;
-        const Node *variable = variableOf(variables_, name);
+        const Node *variable = recordOfName(variables_, name);
         const Node *value = variable ? variable->find(u"value.[0][0][0]") : nullptr;
         return value ? *value : none;
     }
