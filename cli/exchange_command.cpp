@@ -79,8 +79,6 @@ QString outcome(const ImportStep &step)
         return QStringLiteral("new");
     case ImportStep::Renamed:
         return QStringLiteral("renamed");
-    case ImportStep::Named:
-        return QStringLiteral("named");
     case ImportStep::Replacing:
         return QStringLiteral("replaced");
     case ImportStep::Skipped:

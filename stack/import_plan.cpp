@@ -51,9 +51,7 @@ public:
         if (!isTicked)
             return;
         const QString name = recipe.getString(u"name");
-        if (name.trimmed().isEmpty())
-            add(ImportStep::Named, freeName(name.trimmed()));
-        else if (!isTaken(name))
+        if (!isTaken(name))
             add(ImportStep::New, name);
         else
             clash(name);

@@ -88,6 +88,14 @@ std::vector<int> recipeIndexes(const Node &list)
     return indexes;
 }
 
+int recipeOfName(const Node &list, const QString &name)
+{
+    for (const int child : recipeIndexes(list))
+        if (list.at(child)->getString(u"name") == name)
+            return child;
+    return -1;
+}
+
 const Node *templateStackOf(const Node &list, const Node &plugin)
 {
     const Name name(u"default");

@@ -20,6 +20,8 @@ constexpr qint64 kMostExchangeBytes = 256LL * 1024 * 1024;
 
 /// The children of a list that are recipes, in their order.
 PALX_API std::vector<int> recipeIndexes(const orba::Node &list);
+/// The child of a list that is the first recipe of that name, to the letter; -1 when there is none.
+PALX_API int recipeOfName(const orba::Node &list, const QString &name);
 /// The template stack of a list: its own, or that of the plugin node `plugin`; null when there is none.
 PALX_API const orba::Node *templateStackOf(const orba::Node &list, const orba::Node &plugin);
 
@@ -70,7 +72,6 @@ struct PALX_API ImportStep
         Unticked,
         New,
         Renamed,   ///< its name was taken
-        Named,     ///< it had no name, so that nobody could have opened it
         Replacing, ///< a recipe of the list that had the name
         Skipped,   ///< its name was taken
         Overtaken, ///< a later recipe of the file with this name replaces it
@@ -82,11 +83,11 @@ struct PALX_API ImportStep
     int sameAs =
         -1; ///< recipe of the file that has the name, for what is renamed, skipped or overtaken because of it
     int place = -1; ///< among the recipes of the list afterwards, from 0
-    bool arrives() const { return !name.isNull(); }
+    bool arrives() const { return arrival == New || arrival == Renamed || arrival == Replacing; }
 };
 /// What importing the ticked recipes of `content` into `list` will do, recipe by recipe in their order: a recipe is added at
-/// the end; "Replace" removes the first of the list with that name. Names are compared to the letter. A recipe whose name is
-/// missing or blank is numbered whatever the choice.
+/// the end; "Replace" removes the first of the list with that name. Names are compared to the letter; a missing
+/// one is the empty name.
 PALX_API std::vector<ImportStep> planImport(const orba::Node &list, const orba::Node &content,
                                             const std::vector<bool> &ticked, RecipeClash onClash);
 

@@ -39,13 +39,6 @@ bool copyRecipes(const Node &content, const std::vector<bool> &ticked, Progress 
     return true;
 }
 
-bool isNameTaken(const Node &list, const QString &name)
-{
-    const std::vector<int> recipes = recipeIndexes(list);
-    return std::any_of(recipes.begin(), recipes.end(),
-                       [&](int child) { return list.at(child)->getString(u"name") == name; });
-}
-
 } // namespace
 
 LastImport::LastImport(ModuleObject *list) : QObject(list), list_(list) {}
@@ -69,7 +62,7 @@ void LastImport::takeBack()
             list.removeAt(at);
     for (Removed &removed : removed_) {
         QString name = removed.recipe.getString(u"name");
-        while (isNameTaken(list, name))
+        while (recipeOfName(list, name) >= 0)
             name = nextRecipeName(name);
         if (name != removed.recipe.getString(u"name"))
             removed.recipe.ensureChild(Name(u"name"))->setString(name);
@@ -85,7 +78,7 @@ void LastImport::add(Node *copy, const ImportStep &step)
 {
     Node *recipe = list_->node().add(copy->name());
     recipe->take(*copy);
-    if (step.arrival == ImportStep::Renamed || step.arrival == ImportStep::Named)
+    if (step.arrival == ImportStep::Renamed)
         recipe->ensureChild(Name(u"name"))->setString(step.name);
     added_.emplace_back(ModuleObject::of(recipe));
 }

@@ -160,9 +160,6 @@ QString ImExportModel::outcome(int row) const
         text = other > 0 ? tr("Row %1 has the name: becomes \"%2\"").arg(other).arg(what->name)
                          : tr("Renamed to \"%1\"").arg(what->name);
         break;
-    case ImportStep::Named:
-        text = tr("Has no name: becomes \"%1\"").arg(what->name);
-        break;
     case ImportStep::Replacing:
         text = tr("Replaces no. %1 and stands at no. %2").arg(what->replacedPlace + 1).arg(what->place + 1);
         break;

@@ -326,20 +326,13 @@ void ImExportDialog::takeBack()
 
 bool ImExportDialog::hasNode(const QString &name) const
 {
-    const Node &list = list_ ? list_->node() : emptyMobj()->node();
-    const std::vector<int> recipes = palx::recipeIndexes(list);
-    return std::any_of(recipes.begin(), recipes.end(),
-                       [&](int child) { return list.at(child)->getString(u"name") == name; });
+    return list_ && palx::recipeOfName(list_->node(), name) >= 0;
 }
 
 void ImExportDialog::removeNode(const QString &name)
 {
-    for (const int child : palx::recipeIndexes(list_ ? list_->node() : emptyMobj()->node())) {
-        if (list_->node().at(child)->getString(u"name") != name)
-            continue;
+    if (const int child = list_ ? palx::recipeOfName(list_->node(), name) : -1; child >= 0)
         list_->cmobj(child)->remove();
-        return;
-    }
 }
 
 QString ImExportDialog::getNewName(QString name) const

@@ -19,8 +19,7 @@ using palx::RecipeClash;
 
 const char *arrivalText(ImportStep::Arrival arrival)
 {
-    static const char *const kTexts[] = {"unticked",  "new",     "renamed",  "named",
-                                         "replacing", "skipped", "overtaken"};
+    static const char *const kTexts[] = {"unticked", "new", "renamed", "replacing", "skipped", "overtaken"};
     return kTexts[arrival];
 }
 
@@ -112,8 +111,8 @@ TEST(ImportPlan, SaysWhatBecomesOfEveryRecipe)
         {{"a", " A", "A "},
          RecipeClash::Replace,
          {"new 'a' -1 -1 4", "new ' A' -1 -1 5", "new 'A ' -1 -1 6"}},
-        {{"", " "}, RecipeClash::Discard, {"named '1' -1 -1 4", "named '2' -1 -1 5"}},
-        {{"", "1"}, RecipeClash::Replace, {"overtaken '' -1 1 -1", "new '1' -1 -1 4"}},
+        {{"", " "}, RecipeClash::Discard, {"new '' -1 -1 4", "new ' ' -1 -1 5"}},
+        {{"", ""}, RecipeClash::Rename, {"new '' -1 -1 4", "renamed '1' -1 0 5"}},
     };
     for (const auto &each : cases) {
         const Node file = named(each.file);

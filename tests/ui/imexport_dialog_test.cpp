@@ -169,12 +169,12 @@ TEST_F(ImExportDialogTest, EveryRowFollowsTheOptionAndTheTicks)
     choose(file({"C", "B", "A", "C", ""}));
     EXPECT_EQ(rows(), (QStringList{"[x] C: New recipe", "[x] B: Renamed to \"B1\"", "[x] A: Renamed to \"A1\"",
                                    "[x] C: Row 1 has the name: becomes \"C1\"",
-                                   "[x] (no name): Has no name: becomes \"1\""}));
+                                   "[x] (no name): New recipe"}));
     press("optReplace");
     EXPECT_EQ(rows(),
               (QStringList{"[x] C: Skipped: row 4 replaces it", "[x] B: Replaces no. 2 and stands at no. 1",
                            "[x] A: Replaces no. 1 and stands at no. 2", "[x] C: New recipe",
-                           "[x] (no name): Has no name: becomes \"1\""}));
+                           "[x] (no name): New recipe"}));
     press("optDiscard");
     touchRow(0);
     EXPECT_EQ(rows().mid(0, 4), (QStringList{"[] C: Is left out", "[x] B: Skipped: the name is taken",
