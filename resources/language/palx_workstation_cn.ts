@@ -732,10 +732,6 @@
         <translation>改名为“%1”</translation>
     </message>
     <message>
-        <source>Has no name: becomes &quot;%1&quot;</source>
-        <translation>无名称：改为“%1”</translation>
-    </message>
-    <message>
         <source>Replaces no. %1 and stands at no. %2</source>
         <translation>替换第 %1 个，位于第 %2 个</translation>
     </message>

@@ -732,10 +732,6 @@
         <translation>「%1」に改名</translation>
     </message>
     <message>
-        <source>Has no name: becomes &quot;%1&quot;</source>
-        <translation>名前なし: 「%1」になります</translation>
-    </message>
-    <message>
         <source>Replaces no. %1 and stands at no. %2</source>
         <translation>%1 番を置き換え、%2 番になります</translation>
     </message>

@@ -732,10 +732,6 @@
         <translation>&quot;%1&quot;(으)로 바뀜</translation>
     </message>
     <message>
-        <source>Has no name: becomes &quot;%1&quot;</source>
-        <translation>이름 없음: &quot;%1&quot;(으)로</translation>
-    </message>
-    <message>
         <source>Replaces no. %1 and stands at no. %2</source>
         <translation>%1번을 바꾸고 %2번이 됨</translation>
     </message>

@@ -732,10 +732,6 @@
         <translation>Переименован в «%1»</translation>
     </message>
     <message>
-        <source>Has no name: becomes &quot;%1&quot;</source>
-        <translation>Без имени: станет «%1»</translation>
-    </message>
-    <message>
         <source>Replaces no. %1 and stands at no. %2</source>
         <translation>Заменит № %1, станет № %2</translation>
     </message>
