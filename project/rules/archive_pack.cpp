@@ -3,21 +3,24 @@
 #include "project/rules/archive_check.h"
 #include "project/rules/archive_names.h"
 #include "project/rules/project_messages.h"
-#include "project/rules/run_beside.h"
-#include "project/rules/staged_folder.h"
 
+#include <QBuffer>
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 
-#include <JlCompress.h>
-
-#include <unistd.h>
+#include <quazip.h>
+#include <quazipfile.h>
+#include <quazipnewinfo.h>
 
 namespace palx {
 
 namespace {
 
 constexpr auto kEverything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+// What every entry has, because whoever unpacks it would else have a resource's, that nobody may write to.
+constexpr auto kReadAndWrite = QFile::ReadOwner | QFile::WriteOwner;
+constexpr auto kUseFolder = kReadAndWrite | QFile::ExeOwner;
 
 bool refuse(QString *why, const QString &reason)
 {
@@ -25,117 +28,188 @@ bool refuse(QString *why, const QString &reason)
     return false;
 }
 
-/// One folder after the other, with what an archive may hold in sight.
-class TreeCopy
+struct PackedEntry
+{
+    QString name; ///< in the archive; a folder's ends with "/"
+    QFileInfo file;
+};
+
+/// What an archive is to hold, one folder after the other, with what an archive may hold in sight.
+class PackList
 {
 public:
-    TreeCopy(const QString &source, const QString &copy, QString *why, Progress *progress)
-        : source_(source), copy_(copy), why_(why), progress_(progress)
-    {
-    }
+    PackList(QString root, QString *why) : root_(std::move(root)), why_(why) {}
 
+    bool list() { return listFolder(QString()); }
+    const QVector<PackedEntry> &entries() const { return entries_; }
     qint64 bytes() const { return bytes_; }
-    bool copyAll() { return makeFolder(QString()) && copyFolder(QString()); }
 
 private:
-    /// `inside` is the path of a folder below the source, with "/" at its end, or empty for the source.
-    bool copyFolder(const QString &inside)
+    /// `inside` is the path of a folder below the root, with "/" at its end, or empty for the root.
+    bool listFolder(const QString &inside)
     {
-        for (const QFileInfo &entry : QDir(source_ + QLatin1Char('/') + inside).entryInfoList(kEverything)) {
-            const QString name = inside + entry.fileName();
-            progress_->step(0, 0, ProjectText::tr("Packing %1").arg(name));
-            if (progress_->isCancelled() || !isAllowed(entry, name))
-                return false;
-            const bool isDone = entry.isDir() ? makeFolder(name) && copyFolder(name + QLatin1Char('/'))
-                                              : copyFile(entry.filePath(), name);
-            if (!isDone)
+        for (const QFileInfo &file : QDir(root_ + QLatin1Char('/') + inside).entryInfoList(kEverything)) {
+            const QString name = inside + file.fileName() + (file.isDir() ? QStringLiteral("/") : QString());
+            if (!add(file, name) || (file.isDir() && !listFolder(name)))
                 return false;
         }
         return true;
     }
 
-    bool isAllowed(const QFileInfo &entry, const QString &name)
+    bool add(const QFileInfo &file, const QString &name)
     {
-        QString problem = entryNameProblem(name + (entry.isDir() ? QStringLiteral("/") : QString()));
-        if (entry.isSymLink())
+        QString problem = entryNameProblem(name);
+        if (file.isSymLink())
             problem = ProjectText::tr("is a link");
-        else if (!entry.isDir() && !entry.isFile())
+        else if (!file.isDir() && !file.isFile())
             problem = ProjectText::tr("is neither a file nor a folder");
         if (problem.isEmpty())
-            problem = names_.add(entry.isDir() ? name + QLatin1Char('/') : name);
-        bytes_ += entry.isDir() ? 0 : entry.size();
-        if (problem.isEmpty() && (++entries_ > limits_.entries || bytes_ > limits_.bytes))
+            problem = names_.add(name);
+        bytes_ += file.isDir() ? 0 : file.size();
+        entries_.append({name, file});
+        if (problem.isEmpty() && (entries_.size() > limits_.entries || bytes_ > limits_.bytes))
             problem = ProjectText::tr("makes the project too large for an archive");
         return problem.isEmpty() ||
                refuse(why_, QStringLiteral("\"%1\" %2").arg(shownEntryName(name), problem));
     }
 
-    bool makeFolder(const QString &name)
-    {
-        const QString path = copy_ + QLatin1Char('/') + name;
-        return QDir().mkpath(path) || refuse(why_, ProjectText::tr("Cannot create path: %1").arg(path));
-    }
-
-    bool copyFile(const QString &file, const QString &name)
-    {
-        const QString path = copy_ + QLatin1Char('/') + name;
-        if (::link(QFile::encodeName(file).constData(), QFile::encodeName(path).constData()) == 0)
-            return true;
-        QFile source(file);
-        if (source.copy(path))
-            return QFile::setPermissions(path, source.permissions() | QFile::ReadOwner | QFile::WriteOwner);
-        return refuse(why_, QStringLiteral("%1: %2").arg(file, source.errorString()));
-    }
-
-    QString source_;
-    QString copy_;
+    QString root_;
     QString *why_;
-    Progress *progress_;
     ArchiveLimits limits_;
     EntryNames names_;
-    int entries_ = 0;
+    QVector<PackedEntry> entries_;
     qint64 bytes_ = 0;
 };
 
-/// What the archive library itself calls for each entry's name; set once for all, before another thread uses it.
-void useUtf8Names()
+/// Writes an archive entry by entry.
+class Packer
 {
-    QuaZip::setDefaultFileNameCodec("UTF-8");
+public:
+    /// `bytes` is about what the files have together, for the progress.
+    Packer(const QString &archive, qint64 bytes, QString *why, Progress *progress)
+        : file_(archive), zip_(&file_), bytes_(bytes), why_(why), progress_(progress)
+    {
+        zip_.setAutoClose(false);
+        zip_.setUtf8Enabled(true);
+    }
+
+    bool open()
+    {
+        return (file_.open(QIODevice::WriteOnly) && zip_.open(QuaZip::mdCreate)) || refuseArchive();
+    }
+
+    bool add(const PackedEntry &entry)
+    {
+        told_ = ProjectText::tr("Packing %1").arg(entry.name);
+        QuaZipNewInfo info(entry.name);
+        if (const QDateTime changed = entry.file.lastModified(); changed.isValid()) // a resource may have none
+            info.dateTime = changed;
+        info.setPermissions(entry.file.permissions() | (entry.file.isDir() ? kUseFolder : kReadAndWrite));
+        if (entry.file.isDir())
+            return write(info, nullptr);
+        QFile file(entry.file.filePath());
+        if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+            return refuse(why_, QStringLiteral("%1: %2").arg(file.fileName(), file.errorString()));
+        return write(info, &file);
+    }
+
+    bool add(const QString &name, QByteArray content)
+    {
+        QuaZipNewInfo info(name);
+        info.setPermissions(kReadAndWrite | QFile::ReadGroup | QFile::ReadOther);
+        QBuffer buffer(&content);
+        return buffer.open(QIODevice::ReadOnly) && write(info, &buffer);
+    }
+
+    /// The list of all entries is written last.
+    bool close()
+    {
+        zip_.close();
+        return (zip_.getZipError() == ZIP_OK && file_.flush()) || refuseArchive();
+    }
+
+    /// Leaves no archive.
+    void giveUp()
+    {
+        zip_.close();
+        file_.remove();
+    }
+
+private:
+    bool refuseArchive()
+    {
+        return refuse(why_, ProjectText::tr("the archive cannot be written: %1").arg(file_.fileName()));
+    }
+
+    /// Without a source the entry is empty.
+    bool write(const QuaZipNewInfo &info, QIODevice *source)
+    {
+        QuaZipFile entry(&zip_);
+        if (!entry.open(QIODevice::WriteOnly, info))
+            return refuseArchive();
+        if (source && !copy(source, &entry))
+            return false;
+        entry.close();
+        return entry.getZipError() == ZIP_OK || refuseArchive();
+    }
+
+    bool copy(QIODevice *source, QIODevice *entry)
+    {
+        for (;;) {
+            progress_->step(int(done_ / 1024), int(bytes_ / 1024), told_);
+            if (progress_->isCancelled())
+                return false;
+            const qint64 size = source->read(piece_.data(), piece_.size());
+            if (size < 0)
+                return refuse(why_, QStringLiteral("%1: %2").arg(told_, source->errorString()));
+            if (size == 0)
+                return true;
+            if (entry->write(piece_.constData(), size) != size)
+                return refuseArchive();
+            done_ += size;
+        }
+    }
+
+    QFile file_;
+    QuaZip zip_;
+    QByteArray piece_ = QByteArray(256 * 1024, Qt::Uninitialized);
+    qint64 done_ = 0;
+    qint64 bytes_;
+    QString told_;
+    QString *why_;
+    Progress *progress_;
+};
+
+bool packAll(const QVector<PackedEntry> &entries, QHash<QString, QByteArray> instead, Packer *packer)
+{
+    for (const PackedEntry &entry : entries) {
+        const auto given = instead.find(entry.name);
+        const bool isAdded = given == instead.end() ? packer->add(entry) : packer->add(entry.name, *given);
+        if (!isAdded)
+            return false;
+        if (given != instead.end())
+            instead.erase(given);
+    }
+    for (auto given = instead.cbegin(); given != instead.cend(); ++given)
+        if (!packer->add(given.key(), given.value()))
+            return false;
+    return packer->close();
 }
 
 } // namespace
 
-bool copyForArchive(const QString &source, const QString &copy, qint64 *bytes, QString *why,
-                    Progress *progress)
+bool packFolder(const PackedFolder &folder, const QString &archive, QString *why, Progress *progress)
 {
     why->clear();
-    if (!QFileInfo(source).isDir())
-        return refuse(why, ProjectText::tr("there is no folder %1").arg(source));
-    TreeCopy tree(source, copy, why, progress);
-    const bool isDone = tree.copyAll();
-    *bytes = tree.bytes();
-    return isDone;
-}
-
-bool packFolder(const QString &folder, qint64 bytes, const QString &archive, QString *why, Progress *progress)
-{
-    constexpr qint64 kSoonDone = 2 * 1024 * 1024; // a few hundredths of a second, less than a thread is worth
-    why->clear();
-    useUtf8Names();
-    bool isPacked = false;
-    const auto pack = [&] { isPacked = JlCompress::compressDir(archive, folder, true, QDir::Hidden); };
-    const QString text = ProjectText::tr("Packing %1").arg(QFileInfo(archive).fileName());
-    progress->step(0, 0, text);
-    if (bytes > kSoonDone)
-        runBeside(progress, {text, [&folder] { removeFolder(folder); }}, pack);
-    else
-        pack();
-    isPacked = isPacked && isWholeArchive(archive);
-    if (!progress->isCancelled() && isPacked)
+    if (!QFileInfo(folder.path).isDir())
+        return refuse(why, ProjectText::tr("there is no folder %1").arg(folder.path));
+    PackList list(folder.path, why);
+    if (!list.list())
+        return false;
+    Packer packer(archive, list.bytes(), why, progress);
+    if (packer.open() && packAll(list.entries(), folder.instead, &packer))
         return true;
-    if (!progress->isCancelled())
-        *why = ProjectText::tr("the archive cannot be written: %1").arg(archive);
-    QFile::remove(archive);
+    packer.giveUp();
     return false;
 }
 

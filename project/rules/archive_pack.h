@@ -3,22 +3,26 @@
 #include "orba/export.h"
 #include "workstation/progress.h"
 
+#include <QByteArray>
+#include <QHash>
 #include <QString>
 
 /// Making archives.
 namespace palx {
 
-/// Makes a copy of a folder for an archive, and counts the bytes of its files, hidden files included; files share their contents with the copy where the disk
-/// allows it, so nothing but the copy's names may be written. `source` may be a resource. False with the reason, and what was copied until
-/// then is left for the caller to remove, when something in it is neither a file nor a folder, cannot be read, or would
-/// make an archive that `checkArchive` refuses. Also false, with an empty reason, when it was cancelled.
-PALX_API bool copyForArchive(const QString &source, const QString &copy, qint64 *bytes, QString *why,
-                             Progress *progress);
+/// What goes into an archive.
+struct PackedFolder
+{
+    QString path; ///< may be a resource
+    QHash<QString, QByteArray>
+        instead; ///< contents for files right in the folder, by name, there already or not
+};
 
-/// Packs a folder of about so many bytes into an archive, recursively and with hidden files, and reads the archive's list back. The folder is such a copy:
-/// when the work is cancelled, it is removed, so that packing ends soon. False, and no archive is left, with the reason, or
-/// with an empty one when it was cancelled.
-PALX_API bool packFolder(const QString &folder, qint64 bytes, const QString &archive, QString *why,
+/// Packs a folder into an archive, recursively and with hidden files; nothing is written but the archive, and that is not
+/// flushed to the disk. False, and no archive is left, with the reason when something in the folder is neither a file
+/// nor a folder, cannot be read, or would make an archive that `checkArchive` refuses, or when the archive cannot be
+/// written; with an empty reason when it was cancelled.
+PALX_API bool packFolder(const PackedFolder &folder, const QString &archive, QString *why,
                          Progress *progress);
 
 } // namespace palx

@@ -10,14 +10,12 @@
 #include "project/rules/project_recovery.h"
 #include "project/rules/run_beside.h"
 #include "project/rules/staged_folder.h"
-#include "project/rules/work_folder.h"
 #include "workstation/config_log.h"
 #include "workstation/file_sync.h"
 #include "workstation/workspace.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <cstdio>
 #include <unistd.h>
@@ -103,22 +101,9 @@ bool warn(const QString &text, const QString &why)
     return reportProject("warning", text);
 }
 
-/// Replaces a name in the copy; the project's file, which may share its content with the copy's, stays. Nothing is flushed,
-/// because the copy goes when it is packed.
-bool writeBeside(const QString &name, const QByteArray &text, QString *why)
+/// The list of variables as it is in the archive; the project's own file stays as it is whatever happens.
+bool variablesWithParameters(const QString &project, const QString &file, QByteArray *text, QString *why)
 {
-    QFile::remove(name);
-    QFile file(name);
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush())
-        return true;
-    *why = QStringLiteral("%1: %2").arg(name, file.errorString());
-    return false;
-}
-
-/// The copy that is packed gets a "var.xml" of its own, so that the project's stays whatever happens.
-bool addParametersTo(const QString &copy, const QString &project, QString *why)
-{
-    const QString file = copy + QStringLiteral("/var.xml");
     Node fixed{Name(u"fixed_var_list")};
     if (!readVariableList(file, &fixed, why))
         return false;
@@ -126,37 +111,21 @@ bool addParametersTo(const QString &copy, const QString &project, QString *why)
     temporary.assign(fixed);
     addParameterVariables(projectRecord(project)->node(), &temporary);
     orba::FormatError error;
-    const QByteArray text = orba::ModuleManager::toXml(temporary, &error);
+    *text = orba::ModuleManager::toXml(temporary, &error);
     *why = error.text();
-    return !error.isSet() && writeBeside(file, text, why);
+    return !error.isSet();
 }
 
 bool exportProject(const QString &name, const QString &archive, QString *why, Progress *progress)
 {
-    const QString folder = projectFolder(name);
-    if (folder.isEmpty() || !QFileInfo(folder).isDir()) {
+    PackedFolder folder{projectFolder(name), {}};
+    if (folder.path.isEmpty() || !QFileInfo(folder.path).isDir()) {
         *why = ProjectText::tr("there is no such project");
         return false;
     }
-    const WorkFolder work(robotFolder(), QStringLiteral("export"));
-    if (work.path().isEmpty()) {
-        *why = ProjectText::tr("there is no room for a copy beside the robot's folder");
-        return false;
-    }
-    const QString copy = work.filePath(QStringLiteral("copy"));
-    qint64 bytes = 0;
-    return copyForArchive(folder, copy, &bytes, why, progress) && addParametersTo(copy, name, why) &&
-           packFolder(copy, bytes, archive, why, progress);
-}
-
-/// Built-in templates are copied to files first: a folder in the archive would else be one that cannot be written to.
-bool exportTemplates(const QString &programFolder, const QString &archive, QString *why, Progress *progress)
-{
-    const QTemporaryDir work;
-    const QString copy = work.filePath(kTemplates);
-    qint64 bytes = 0;
-    return copyForArchive(programTemplateRoot(programFolder), copy, &bytes, why, progress) &&
-           packFolder(copy, bytes, archive, why, progress);
+    const QString file = QStringLiteral("var.xml");
+    return variablesWithParameters(name, QDir(folder.path).filePath(file), &folder.instead[file], why) &&
+           packFolder(folder, archive, why, progress);
 }
 
 bool exportAll(const ExportRequest &request, ArchiveDesk *desk, Progress *progress)
@@ -169,7 +138,8 @@ bool exportAll(const ExportRequest &request, ArchiveDesk *desk, Progress *progre
     }
     if (!request.hasTemplates)
         return true;
-    if (!exportTemplates(request.programFolder, desk->begin(kTemplates), &why, progress))
+    if (!packFolder({programTemplateRoot(request.programFolder), {}}, desk->begin(kTemplates), &why,
+                    progress))
         return progress->isCancelled() || warn(ProjectText::tr("Export Project templates failed!"), why);
     desk->noteWhole(kTemplates);
     return true;
