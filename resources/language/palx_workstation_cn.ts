@@ -4699,10 +4699,6 @@ Pallet: %4</source>
         <translation>没有这个工程</translation>
     </message>
     <message>
-        <source>there is no room for a copy beside the robot&apos;s folder</source>
-        <translation>机器人文件夹旁没有空间存放副本</translation>
-    </message>
-    <message>
         <source>Export %1 failed!</source>
         <translation>导出 %1 失败！</translation>
     </message>

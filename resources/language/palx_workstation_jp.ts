@@ -4699,10 +4699,6 @@ Pallet: %4</source>
         <translation>そのプロジェクトはありません</translation>
     </message>
     <message>
-        <source>there is no room for a copy beside the robot&apos;s folder</source>
-        <translation>ロボットのフォルダの横に複製の空きがありません</translation>
-    </message>
-    <message>
         <source>Export %1 failed!</source>
         <translation>%1 のエクスポートに失敗しました！</translation>
     </message>

@@ -4699,10 +4699,6 @@ Pallet: %4</source>
         <translation>그런 프로젝트가 없습니다</translation>
     </message>
     <message>
-        <source>there is no room for a copy beside the robot&apos;s folder</source>
-        <translation>로봇 폴더 옆에 사본을 둘 공간이 없습니다</translation>
-    </message>
-    <message>
         <source>Export %1 failed!</source>
         <translation>%1 내보내기 실패!</translation>
     </message>

@@ -4701,10 +4701,6 @@ Pallet: %4</source>
         <translation>такого проекта нет</translation>
     </message>
     <message>
-        <source>there is no room for a copy beside the robot&apos;s folder</source>
-        <translation>рядом с папкой робота нет места для копии</translation>
-    </message>
-    <message>
         <source>Export %1 failed!</source>
         <translation>Экспорт %1 не выполнен!</translation>
     </message>

@@ -62,7 +62,7 @@ protected:
 
 TEST_P(RoundTrip, RandomTrees)
 {
-    for (unsigned seed = 0; seed < 400 && !HasFailure(); ++seed) {
+    for (unsigned seed = 0; seed < 1000 && !HasFailure(); ++seed) {
         SCOPED_TRACE(seed);
         expectSame(RandomTree(seed).make());
         bytes_ += text_.size();

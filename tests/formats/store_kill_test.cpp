@@ -78,7 +78,7 @@ TEST_F(StoreKillTest, KillsLoseNoSave)
     std::mt19937 random(7);
     int reported = 0;
     int cutShort = 0;
-    for (int round = 0; round < 40; ++round) {
+    for (int round = 0; round < 100; ++round) {
         SCOPED_TRACE(round);
         int pipe[2];
         ASSERT_EQ(::pipe(pipe), 0);
