@@ -44,10 +44,10 @@ TEST(Arm, StandsWhereItsLengthsSay)
         << "the flange looks down";
 }
 
-TEST(Arm, InverseLeadsBackToThePose)
+TEST(Arm, InverseLeadsBackToThePoseAndStaysNearWhereItComesFrom)
 {
     std::mt19937 random(7);
-    for (int i = 0; i < 5000; ++i) {
+    for (int i = 0; i < 2000; ++i) {
         const Joints joints = randomJoints(random);
         const Pose pose = arm::forward(joints);
         Joints found;
@@ -55,17 +55,7 @@ TEST(Arm, InverseLeadsBackToThePose)
         ASSERT_TRUE(arm::inverse(pose, randomJoints(random), &found, &why)) << why << " in round " << i;
         expectSamePose(pose, arm::forward(found));
         EXPECT_EQ(QString(), arm::limitFault(found));
-    }
-}
-
-TEST(Arm, InverseStaysNearThePostureItComesFrom)
-{
-    std::mt19937 random(8);
-    for (int i = 0; i < 2000; ++i) {
-        const Joints joints = randomJoints(random);
-        Joints found;
-        QString why;
-        ASSERT_TRUE(arm::inverse(arm::forward(joints), joints, &found, &why)) << why;
+        ASSERT_TRUE(arm::inverse(pose, joints, &found, &why)) << why;
         // Where the wrist is all but straight, the fourth and sixth joint are known only together.
         EXPECT_LT(distance(joints, found), 1e-6 / std::max(1e-3, std::abs(std::sin(joints[4]))))
             << "round " << i;
@@ -111,20 +101,17 @@ TEST(Pose, AnglesComeBackAlsoWhereTheyAreNotUnique)
 
 TEST(Pose, SaysWhatIsWrongWithARecord)
 {
-    struct Case
+    const struct
     {
-        const char *json;
-        const char *why;
-    };
-    const Case cases[] = {
+        const char *json, *why;
+    } cases[] = {
         {R"({"trans":[1,2,3],"rot":[0,0,0]})", ""},
-        {R"({"trans":[1,2.5,3],"rot":[0,0,0]})", ""},
         {R"({"rot":[0,0,0]})", "\"trans\" is missing"},
         {R"({"trans":[1,2],"rot":[0,0,0]})", "\"trans\" is no list of 3 numbers"},
         {R"({"trans":[1,2,3],"rot":"0"})", "\"rot\" is no list of 3 numbers"},
         {R"({"trans":[1,"x",3],"rot":[0,0,0]})", "\"trans.#1\" is no number"},
     };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         Pose pose;
         QString why;
         EXPECT_EQ(*c.why == 0, readPose(nodeFromJson(c.json), &pose, &why)) << c.json;

@@ -1,122 +1,269 @@
+// What the panel's link must do alike over every way to a real controller, and over ways that lose, delay and cut.
+
 #include "controller/faulty_carrier.h"
 #include "controller/in_process_carrier.h"
 #include "controller/tcp_carrier.h"
 #include "controller_process.h"
-#include "link/conformance.h"
-#include "link/motion_conformance.h"
+#include "core/controller_link.h"
+#include "core/global_nodes.h"
+#include "core/log_keeper.h"
+#include "raw_panel.h"
+#include "recipes.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QTemporaryDir>
+#include <QTimer>
+
+#include <optional>
+#include <thread>
+
+using namespace controller;
+using orba::Node;
 
 namespace {
 
-class InProcessSide : public conformance::Side
+constexpr int kBoundMs = 10000; // only reached when something is wrong
+
+struct Way
 {
-public:
-    InProcessSide() { start(); }
-    std::unique_ptr<host::Carrier> carrier() override
-    {
-        return std::make_unique<controller::InProcessCarrier>(controller_);
-    }
-    void restart() override
-    {
-        EXPECT_EQ(1, controller_.use_count()) << "a way is open still";
-        controller_.reset();
-        start();
-    }
-
-private:
-    void start()
-    {
-        controller::StationOptions options;
-        options.dataFolder = folder_.path();
-        controller_ = std::make_shared<controller::Controller>(options);
-    }
-
-    QTemporaryDir folder_;
-    std::shared_ptr<controller::Controller> controller_;
+    const char *name;
+    bool isTcp;
+    Faults faults;
 };
 
-class TcpSide : public conformance::Side
+class Ways : public ::testing::TestWithParam<Way>
 {
-public:
-    std::unique_ptr<host::Carrier> carrier() override
+protected:
+    Ways()
     {
-        return std::make_unique<controller::TcpCarrier>(QStringLiteral("127.0.0.1"), process_.port());
+        if (GetParam().isTcp)
+            process.emplace();
+        else
+            startInProcess();
     }
-    void restart() override
+    ~Ways() override
     {
-        process_.stop();
-        process_.start();
+        link.reset();
+        keeper.reset();
+        host::removeGlobalNodes();
     }
+    void SetUp() override { ASSERT_TRUE(host::buildGlobalNodes()); }
+
+    std::unique_ptr<host::Carrier> carrier() const
+    {
+        if (process)
+            return std::make_unique<TcpCarrier>(QStringLiteral("127.0.0.1"), process->port());
+        return std::make_unique<InProcessCarrier>(inProcess);
+    }
+    void restart()
+    {
+        if (process) {
+            process->stop();
+            process->start();
+            return;
+        }
+        EXPECT_EQ(1, inProcess.use_count()) << "a way is open still";
+        inProcess.reset();
+        startInProcess();
+    }
+    void connectLink(std::unique_ptr<host::Carrier> by)
+    {
+        keeper = std::make_unique<host::LogKeeper>();
+        link = std::make_unique<host::ControllerLink>(std::move(by));
+        link->open();
+        ASSERT_TRUE(isTold([this] { return link->isConnected(); })) << link->stateText();
+    }
+    static bool isTold(const std::function<bool()> &condition) { return waitUntil(condition, kBoundMs); }
+    /// What the controller has of the project, as another panel is told.
+    Node project() const
+    {
+        RawPanel panel(carrier());
+        const RawPanel::Message hello = panel.greet("raw");
+        for (int i = 0; i < hello.payload.find(u"state")->size(); ++i)
+            if (hello.payload.find(u"state")->at(i)->getString(u"path") == QLatin1String("quill.project"))
+                return *hello.payload.find(u"state")->at(i)->find(u"value");
+        return Node();
+    }
+
+    ScriptedPresenter presenter;
+    QTemporaryDir folder;
+    std::optional<ControllerProcess> process;
+    std::shared_ptr<Controller> inProcess;
+    std::unique_ptr<host::LogKeeper> keeper;
+    std::unique_ptr<host::ControllerLink> link;
 
 private:
-    ControllerProcess process_;
+    void startInProcess()
+    {
+        StationOptions options;
+        options.dataFolder = folder.path();
+        inProcess = std::make_shared<Controller>(options);
+    }
 };
 
-/// A side whose way spoils frames. Pulled plugs are plugged in again by `mend`.
-template <class Sound> class FaultySide : public Sound
+Faults slow()
 {
-public:
-    explicit FaultySide(const controller::Faults &faults) : faults_(faults) {}
-    std::unique_ptr<host::Carrier> carrier() override
-    {
-        auto faulty = std::make_unique<controller::FaultyCarrier>(Sound::carrier(), faults_);
-        faulty_ = faulty.get();
-        return faulty;
-    }
-    std::unique_ptr<host::Carrier> soundCarrier() override { return Sound::carrier(); }
-    void mend() override
-    {
-        if (faulty_->isCut())
-            faulty_->restore();
-    }
-
-private:
-    controller::Faults faults_;
-    controller::FaultyCarrier *faulty_ = nullptr; ///< the panel's
-};
-
-template <class Sound> conformance::Way faultyWay(const char *name, const controller::Faults &faults)
-{
-    return {name, [faults] { return std::make_unique<FaultySide<Sound>>(faults); }, false};
-}
-
-controller::Faults slow()
-{
-    controller::Faults faults;
+    Faults faults;
     faults.delay = std::chrono::milliseconds(30);
     faults.jitter = std::chrono::milliseconds(40);
     return faults;
 }
 
-controller::Faults losing(int dropEvery, int cutEvery)
+Faults losing(int dropEvery, int cutEvery)
 {
-    controller::Faults faults;
+    Faults faults;
     faults.dropEvery = dropEvery;
     faults.cutEvery = cutEvery;
     return faults;
 }
 
-template <class Side> conformance::Way way(const char *name, bool isStream)
-{
-    return {name, [] { return std::make_unique<Side>(); }, isStream};
-}
+using FaultyWays = Ways;
+using RemoteWays = Ways;
+
+const auto kNameOf = [](const auto &test) { return std::string(test.param.name); };
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Ways, LinkConformance,
-                         ::testing::Values(way<InProcessSide>("InProcess", false), way<TcpSide>("Tcp", true)),
-                         conformance::conformanceName);
-INSTANTIATE_TEST_SUITE_P(Ways, MotionConformance,
-                         ::testing::Values(way<InProcessSide>("InProcess", false), way<TcpSide>("Tcp", true)),
-                         conformance::conformanceName);
-INSTANTIATE_TEST_SUITE_P(Ways, RemoteLinkConformance, ::testing::Values(way<TcpSide>("Tcp", true)),
-                         conformance::conformanceName);
-INSTANTIATE_TEST_SUITE_P(Ways, FaultyLinkConformance,
-                         ::testing::Values(faultyWay<InProcessSide>("SlowInProcess", slow()),
-                                           faultyWay<InProcessSide>("LosingInProcess", losing(3, 0)),
-                                           faultyWay<InProcessSide>("CutInProcess", losing(0, 7)),
-                                           faultyWay<TcpSide>("SlowTcp", slow()),
-                                           faultyWay<TcpSide>("LosingTcp", losing(3, 0)),
-                                           faultyWay<TcpSide>("CutTcp", losing(0, 7))),
-                         conformance::conformanceName);
+TEST_P(Ways, ASecondPanelIsRefusedUntilTheFirstHasGone)
+{
+    auto first = std::make_unique<RawPanel>(carrier());
+    first->greet("first");
+    keeper = std::make_unique<host::LogKeeper>();
+    link = std::make_unique<host::ControllerLink>(carrier());
+    link->open();
+    ASSERT_TRUE(isTold([this] { return link->state() == host::LinkState::Refused; })) << link->stateText();
+    EXPECT_EQ(first->ask("link.info").status, host::status::kDone); // and was not disturbed
+    first.reset();
+    EXPECT_TRUE(isTold([this] { return link->isConnected(); })) << link->stateText();
+}
+
+TEST_P(Ways, LargeMessagesOfAnyThreadArriveWhole)
+{
+    connectLink(carrier());
+    Node all;
+    for (const char *name : {"A", "B.b", "#1"})
+        all.add()->assign(makeRecipe(QLatin1String(name), 1, 200)); // 1 MB together
+    int done = 0;
+    std::thread worker([&] {
+        for (int i = 0; i < 3; ++i)
+            done += xservice()->set(nullptr, QStringLiteral("pallet.data"), all, kBoundMs).isOk() ? 1 : 0;
+    });
+    for (int i = 0; i < 20; ++i)
+        EXPECT_TRUE(xservice()->get(nullptr, QStringLiteral("link.info"), kBoundMs).isOk());
+    worker.join();
+    EXPECT_EQ(done, 3);
+    const XReply list = xservice()->get(nullptr, QStringLiteral("pallet.get.list"), kBoundMs);
+    ASSERT_EQ(list.value.size(), 3);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(list.value.at(i)->getString(u"name"), all.at(i)->getString(u"name"));
+        EXPECT_EQ(list.value.at(i)->getInt(u"products"), 200);
+    }
+    EXPECT_EQ(link->figures().droppedReplies, 0);
+    EXPECT_EQ(link->figures().unreadable, 0);
+}
+
+TEST_P(Ways, APersistentVariableIsChangedMirroredAndKeptWithItsProject)
+{
+    const QPointer<orba::ModuleObject> variables = m("quill.project.var._list");
+    connectLink(carrier());
+    m("quill.project")->set(nullptr, "cur_project", QStringLiteral("R/one"));
+    variables->addUnnamed()->copyFrom(makeVariable("SetZ", "int", "700"));
+    variables->addUnnamed()->copyFrom(makeVariable("boxheight", "int", "300", false));
+    m("quill.project")->set(nullptr, "cur_project", QStringLiteral("R/two"));
+    EXPECT_EQ(variables->cmobjCount(), 0) << "when set returns";
+    m("quill.project")->set(nullptr, "cur_project", QStringLiteral("R/one"));
+    ASSERT_TRUE(variables && variables->cmobjCount() == 2);
+
+    orba::ModuleObject modify(QStringLiteral("modify"));
+    modify.add(QStringLiteral("SetZ"))->set(nullptr, "", 650);
+    ASSERT_TRUE(xservice()->command(nullptr, QStringLiteral("monitor.pers.modify"), &modify));
+    const auto value = [&variables](int i) { return variables->c(i)->c("value")->c(0)->getInt(); };
+    EXPECT_TRUE(isTold([&value] { return value(0) == 650; })) << value(0);
+    modify.add(QStringLiteral("boxheight"))->set(nullptr, "", 1);
+    const XReply refused = xservice()->execCommand(nullptr, QStringLiteral("monitor.pers.modify"), &modify);
+    EXPECT_EQ(refused.status, XReply::Status::Refused);
+    EXPECT_TRUE(refused.error.contains(QStringLiteral("boxheight"))) << refused.error;
+
+    variables->c(0)->c("value")->c(0)->node().setInt(0); // shows that what comes is the controller's
+    link.reset();
+    restart();
+    connectLink(carrier());
+    EXPECT_EQ(m("quill.project.cur_project")->getString(), QStringLiteral("R/one"));
+    EXPECT_EQ(value(0), 650);
+    EXPECT_EQ(value(1), 300);
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, Ways, ::testing::Values(Way{"InProcess", false, {}}, Way{"Tcp", true, {}}),
+                         kNameOf);
+
+TEST_P(FaultyWays, EveryEditArrivesOnceAndNothingBlocks)
+{
+    constexpr int kEdits = 12;
+    constexpr int kTimeoutMs = 200;
+    constexpr int kMarginMs = 400; // of a machine that is busy with other things
+    auto carrierWithFaults = std::make_unique<FaultyCarrier>(carrier(), GetParam().faults);
+    FaultyCarrier *faulty = carrierWithFaults.get();
+    connectLink(std::move(carrierWithFaults));
+    const auto mend = [faulty] { // as an operator who puts a plug back
+        if (faulty->isCut())
+            faulty->restore();
+    };
+    QElapsedTimer sinceEvent;
+    qint64 longestGap = 0;
+    QTimer pulse;
+    QObject::connect(&pulse, &QTimer::timeout,
+                     [&] { longestGap = std::max(longestGap, sinceEvent.restart()); });
+    sinceEvent.start();
+    pulse.start(5);
+    orba::ModuleObject *list = m("quill.project.var._list");
+    list->clear();
+    for (int i = 0; i < kEdits; ++i) {
+        list->addUnnamed()->copyFrom(makeVariable(QByteArray::number(i), "int", "0"));
+        if (i % 4 == 0)
+            xservice()->get(nullptr, QStringLiteral("link.info"), kTimeoutMs);
+        if (i % 4 == 2)
+            m("quill.project.refresh_project")->trigger();
+        QCoreApplication::processEvents();
+        const auto isBack = [&] {
+            mend();
+            return link->isConnected();
+        };
+        ASSERT_TRUE(isTold(isBack)) << link->stateText();
+    }
+    const Node edited = list->node();
+    const auto taken = [&] {
+        mend();
+        const XReply info = xservice()->get(nullptr, QStringLiteral("link.info"), kTimeoutMs);
+        return info.isOk() && link->unsettledEdits() == 0;
+    };
+    EXPECT_TRUE(waitUntil(taken, 6 * kBoundMs));
+    EXPECT_LE(longestGap, kTimeoutMs + kMarginMs);
+    EXPECT_EQ(list->node(), edited); // no update put anything back
+    link.reset();
+    EXPECT_EQ(*project().find(u"var._list"), edited);
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, FaultyWays,
+                         ::testing::Values(Way{"SlowInProcess", false, slow()},
+                                           Way{"LosingInProcess", false, losing(3, 0)},
+                                           Way{"CutTcp", true, losing(0, 7)}),
+                         kNameOf);
+
+/// The controller's process ends and comes again while the panel goes on.
+TEST_P(RemoteWays, ARestartIsShownAndLosesNoEdit)
+{
+    connectLink(carrier());
+    int changes = 0;
+    QObject::connect(link.get(), &host::ControllerLink::stateChanged, [&changes] { ++changes; });
+    m("quill.project")->set(nullptr, "autoload_prj_path", QStringLiteral("before"));
+    xservice()->get(nullptr, QStringLiteral("link.info"));
+    restart();
+    m("quill.project")->set(nullptr, "autoload_prj_path", QStringLiteral("after"));
+    ASSERT_TRUE(isTold([&] { return changes > 1 && link->isConnected(); }));
+    EXPECT_EQ(m("quill.project.autoload_prj_path")->getString(), QStringLiteral("after"));
+    link.reset();
+    EXPECT_EQ(project().getString(u"autoload_prj_path"), QStringLiteral("after"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, RemoteWays, ::testing::Values(Way{"Tcp", true, {}}), kNameOf);

@@ -40,46 +40,12 @@ protected:
 
 } // namespace
 
-TEST_F(HeldMotion, AnotherStartIsRefusedAndStopsTheRobot)
-{
-    const auto reply = panel->request("motion.start", move);
-    EXPECT_EQ(host::status::kRefused, reply.status);
-    EXPECT_EQ("the robot is moving already", reply.text);
-    hold(*panel, 0.5);
-    EXPECT_FALSE(isMoving());
-    EXPECT_EQ("stopped: another move was asked for", panel->tree.getString(u"nexo.robot.fault"));
-    EXPECT_EQ(2, panel->request("motion.start", move).payload.toInt());
-}
-
-TEST_F(HeldMotion, ARefusedStartAndACheckTellNothingElse)
-{
-    Node far = move;
-    far.find(u"point.trans")->setNumber(0, 9);
-    panel->request("motion.stop");
-    panel->wait(1);
-    for (const char *name : {"motion.start", "motion.check"}) {
-        const auto reply = panel->request(name, far);
-        EXPECT_EQ(host::status::kRefused, reply.status) << name;
-        EXPECT_TRUE(reply.text.contains("out of reach") || reply.text.contains("joint")) << reply.text;
-        EXPECT_EQ(QStringList(), panel->updatePaths()) << name;
-    }
-    EXPECT_EQ(6, panel->request("motion.check", move).payload.find(u"joints")->size());
-    EXPECT_EQ(QStringList(), panel->updatePaths());
-}
-
 TEST_F(HeldMotion, AStopWaitsForNoEdit)
 {
     EXPECT_EQ(host::status::kBehind, panel->request("motion.hold", Node(), 7).status);
     EXPECT_EQ(host::status::kDone, panel->request("motion.stop", Node(), 7).status);
     panel->wait(0.2);
     EXPECT_FALSE(isMoving());
-}
-
-TEST_F(HeldMotion, AGreetingOnTheSameWayLetsItGoOn)
-{
-    panel->hello();
-    hold(*panel, 0.5);
-    EXPECT_TRUE(isMoving());
 }
 
 TEST_F(HeldMotion, ANewWayStopsItAndSignsOfTheOldOneCountForNothing)

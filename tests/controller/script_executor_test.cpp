@@ -23,11 +23,13 @@ std::shared_ptr<const Program> programOf(const std::string &statements)
 
 TEST(ScriptExecutor, aBusyLoopGivesItsTurnBack)
 {
-    ScriptRecorder world(kVariables);
-    Executor executor(programOf("VAR int i\nWHILE true\ni := 1 - i\nENDWHILE"), &world);
-    for (int turn = 0; turn < 3; ++turn)
-        EXPECT_EQ(executor.turn(), Activity::Ready);
-    EXPECT_FALSE(executor.changedWorld());
+    for (const char *loop : {"VAR int i\nWHILE true\ni := 1 - i\nENDWHILE",
+                             "ClockStart(clock0)\nWHILE ClockRead(clock0) < 5\nENDWHILE"}) {
+        ScriptRecorder world(kVariables);
+        Executor executor(programOf(loop), &world);
+        for (int turn = 0; turn < 3; ++turn)
+            EXPECT_EQ(executor.turn(), Activity::Ready);
+    }
 }
 
 TEST(ScriptExecutor, aLoopThatChangesNothingIsIdle)
@@ -40,13 +42,6 @@ TEST(ScriptExecutor, aLoopThatChangesNothingIsIdle)
     world.variables[0] = std::int64_t{4};
     EXPECT_EQ(executor.turn(), Activity::Ended);
     EXPECT_EQ(executor.turn(), Activity::Ended);
-}
-
-TEST(ScriptExecutor, aLoopThatReadsARunningClockIsNotIdle)
-{
-    ScriptRecorder world(kVariables);
-    Executor executor(programOf("ClockStart(clock0)\nWHILE ClockRead(clock0) < 5\nENDWHILE"), &world);
-    EXPECT_EQ(executor.turn(), Activity::Ready);
 }
 
 TEST(ScriptExecutor, saysWhereItStands)
@@ -70,19 +65,6 @@ TEST(ScriptExecutor, saysWhereItStands)
     expectAt(7, Activity::Failed);
     EXPECT_EQ(executor.fault().what, "division by 0");
     EXPECT_EQ(executor.fault().where.line, 7);
-}
-
-TEST(ScriptExecutor, startsAgainFromTheBeginning)
-{
-    ScriptRecorder world(kVariables);
-    Executor executor(
-        programOf("VAR int here\ncount := count + 1\nhere := here + 1\ncount := count + 10 * here"), &world);
-    EXPECT_EQ(executor.turn(), Activity::Ended);
-    EXPECT_TRUE(executor.changedWorld());
-    executor.restart();
-    EXPECT_EQ(executor.activity(), Activity::Ready);
-    EXPECT_EQ(executor.turn(), Activity::Ended);
-    EXPECT_EQ(world.variables[0], Value(std::int64_t{22})); // locals began at 0 again
 }
 
 TEST(ScriptExecutor, tasksRunSideBySideInTheSameWay)

@@ -8,22 +8,20 @@
 
 #include <memory>
 
-/// The panel's end of a way, without an event loop: what the carrier brings waits in a mailbox.
-class RawWay : public host::CarrierSink
+/// A panel made by hand, without an event loop: what its carrier brings waits in a mailbox.
+class RawPanel : public host::CarrierSink
 {
 public:
     using Message = host::LinkMessage;
     using Kind = host::LinkMessage::Kind;
 
-    explicit RawWay(std::unique_ptr<host::Carrier> carrier) : carrier_(std::move(carrier))
+    explicit RawPanel(std::unique_ptr<host::Carrier> carrier) : carrier_(std::move(carrier))
     {
         carrier_->open(this);
     }
-    ~RawWay() override { carrier_->close(); }
+    ~RawPanel() override { carrier_->close(); }
 
-    host::Carrier *carrier() { return carrier_.get(); }
-
-    /// What came next: a frame, or the way's opening or end.
+    /// What came next: a message, or the way's opening or end.
     struct Arrival
     {
         bool isFrame = false;
@@ -36,15 +34,16 @@ public:
         const bool isThere =
             arrivals_.popUntil(arrival, host::Mailbox<Arrival>::Clock::now() + std::chrono::seconds(20));
         EXPECT_TRUE(isThere) << "nothing came";
+        if (isThere && !arrival->isFrame)
+            isOpen_ = arrival->isOpen;
         return isThere;
     }
     bool waitForWay(bool open)
     {
         Arrival arrival;
-        while (next(&arrival))
-            if (!arrival.isFrame && arrival.isOpen == open)
-                return true;
-        return false;
+        while (isOpen_ != open && next(&arrival))
+            continue;
+        return isOpen_ == open;
     }
     /// The next message of that kind; others are passed over.
     Message nextOf(Kind kind)
@@ -58,23 +57,29 @@ public:
         return Message();
     }
     bool send(const Message &message) { return carrier_->send(host::encodeFrame(message)); }
+    /// Once the way is there.
     Message greet(const QString &session)
     {
         Message hello;
         hello.kind = Kind::Hello;
         hello.payload.ensure(u"session")->setString(session);
-        EXPECT_TRUE(send(hello));
+        EXPECT_TRUE(waitForWay(true) && send(hello));
         return nextOf(Kind::Hello);
     }
-    Message ask(const QString &name, const orba::Node &payload = orba::Node())
+    /// Without waiting for the answer.
+    bool request(std::uint64_t id, const QString &name, const orba::Node &payload = orba::Node())
     {
         Message request;
         request.kind = Kind::Request;
-        request.id = ++requests_;
+        request.id = id;
         request.name = name;
-        EXPECT_TRUE(carrier_->send(host::encodeFrame(request, payload)));
+        return carrier_->send(host::encodeFrame(request, payload));
+    }
+    Message ask(const QString &name, const orba::Node &payload = orba::Node())
+    {
+        EXPECT_TRUE(request(++requests_, name, payload));
         const Message reply = nextOf(Kind::Reply);
-        EXPECT_EQ(request.id, reply.id) << "each request is answered once, in order";
+        EXPECT_EQ(requests_, reply.id) << "each request is answered once, in order";
         return reply;
     }
 
@@ -84,5 +89,6 @@ private:
 
     host::Mailbox<Arrival> arrivals_;
     std::unique_ptr<host::Carrier> carrier_;
+    bool isOpen_ = false;
     std::uint64_t requests_ = 0;
 };
