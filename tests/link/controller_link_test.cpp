@@ -1,4 +1,4 @@
-// The state of the link: greeting, loss, refusal, silence, nonsense.
+// The state of the link: greeting, loss, refusal, silence, nonsense; and what the operator sees of it, one record each.
 
 #include "fake_controller.h"
 
@@ -6,31 +6,52 @@
 
 #include <QSignalSpy>
 
-#include <gtest/gtest.h>
-
 using host::ControllerLink;
 using host::LinkMessage;
 using host::LinkState;
 using Kind = LinkMessage::Kind;
 
+namespace {
+
+QString shown(const char *key)
+{
+    return m("nexo.r")->getString(key);
+}
+
+LinkMessage errorOf(const char *fault, const char *text = "no")
+{
+    LinkMessage error;
+    error.kind = Kind::Error;
+    error.name = QLatin1String(fault);
+    error.text = QLatin1String(text);
+    return error;
+}
+
+} // namespace
+
 TEST_F(LinkTest, ShowsTheControllerOnceItHasGreeted)
 {
     QSignalSpy told(nexo::ControllerManager::instance(), &nexo::ControllerManager::rcConnectedChanged);
-    controller.greets = false;
+    EXPECT_EQ(shown("state"), QStringLiteral("closed"));
+    controller.opensAtOnce = false;
     openLink();
-    EXPECT_EQ(link->state(), LinkState::Greeting);
-    EXPECT_FALSE(nexo::ControllerManager::instance()->rcConnected());
+    EXPECT_EQ(shown("state"), QStringLiteral("connecting"));
+    controller.greets = false;
+    controller.openWay();
+    controller.update("quill.body.toolset", "\"A\"");
+    settle();
+    EXPECT_EQ(shown("state"), QStringLiteral("greeting"));
+    EXPECT_EQ(m("quill.body.toolset")->getString(), QString()) << "nothing is mirrored yet";
     EXPECT_FALSE(m("nexo.r")->getBool("connected"));
     controller.hello(0);
     settle();
-    EXPECT_EQ(link->state(), LinkState::Connected);
+    EXPECT_EQ(shown("state"), QStringLiteral("connected"));
     EXPECT_TRUE(nexo::ControllerManager::instance()->rcConnected());
     EXPECT_TRUE(m("nexo.r")->getBool("connected"));
-    EXPECT_EQ(m("nexo.r.id")->getString(), QStringLiteral("R7"));
-    EXPECT_EQ(m("nexo.r.version")->getString(), QStringLiteral("2.3.1"));
+    EXPECT_EQ(shown("id"), QStringLiteral("R7"));
     EXPECT_EQ(told.size(), 1);
     EXPECT_EQ(takeRecords(), QStringList("info: Controller Cell 4 connected, software 2.3.1, robot R7."));
-    EXPECT_EQ(m("nexo.r.link")->getString(), link->stateText());
+    EXPECT_EQ(shown("link"), link->stateText());
     link.reset();
     EXPECT_FALSE(m("nexo.r")->getBool("connected"));
     EXPECT_EQ(ControllerLink::current(), nullptr);
@@ -51,35 +72,25 @@ TEST_F(LinkTest, GreetsAgainUntilItIsAnswered)
     EXPECT_EQ(controller.count(Kind::Hello), 1);
 }
 
-TEST_F(LinkTest, TellsALostLinkAndItsReturn)
+TEST_F(LinkTest, TellsALostLinkOnceAndItsReturn)
 {
     connectLink();
     controller.breakWay("the other side closed the connection");
     settle();
     EXPECT_EQ(link->state(), LinkState::Connecting);
     EXPECT_FALSE(m("nexo.r")->getBool("connected"));
-    QStringList records = takeRecords();
-    ASSERT_EQ(records.size(), 1);
-    EXPECT_TRUE(records[0].startsWith(QStringLiteral("warning: "))) << records[0];
-    EXPECT_TRUE(records[0].contains(QStringLiteral("the other side closed the connection"))) << records[0];
-    EXPECT_EQ(QStringLiteral("warning: ") + m("nexo.r.link")->getString(), records[0]);
+    EXPECT_TRUE(shown("link").contains(QStringLiteral("the other side closed the connection")))
+        << shown("link");
+    EXPECT_EQ(takeRecords(), QStringList(QStringLiteral("warning: ") + shown("link")));
+    for (int i = 0; i < 3; ++i)
+        controller.breakWay("nobody listens at 127.0.0.1:7001");
+    settle();
+    EXPECT_EQ(takeRecords(), QStringList(QStringLiteral("warning: ") + shown("link"))) << "told once";
     controller.openWay();
     settle();
     EXPECT_TRUE(link->isConnected());
     EXPECT_EQ(takeRecords().size(), 1);
-    EXPECT_EQ(m("nexo.r.id")->getString(), QStringLiteral("R7"));
-}
-
-TEST_F(LinkTest, TellsAMissingControllerOnce)
-{
-    controller.opensAtOnce = false;
-    openLink();
-    for (int i = 0; i < 3; ++i)
-        controller.breakWay("nobody listens at 127.0.0.1:7001");
-    settle();
-    const QStringList records = takeRecords();
-    ASSERT_EQ(records.size(), 1);
-    EXPECT_TRUE(records[0].contains(QStringLiteral("nobody listens at 127.0.0.1:7001"))) << records[0];
+    EXPECT_EQ(shown("id"), QStringLiteral("R7"));
 }
 
 TEST_F(LinkTest, WaitsForTheFirstStateAndNoLonger)
@@ -88,8 +99,7 @@ TEST_F(LinkTest, WaitsForTheFirstStateAndNoLonger)
     link = std::make_unique<ControllerLink>(controller.carrier());
     link->open();
     EXPECT_TRUE(link->waitForState(5000));
-    EXPECT_EQ(m("nexo.r.id")->getString(), QStringLiteral("R7"));
-    EXPECT_TRUE(link->waitForState(5000));
+    EXPECT_EQ(shown("id"), QStringLiteral("R7"));
     link->close();
     controller.opensAtOnce = false;
     link->open();
@@ -99,78 +109,53 @@ TEST_F(LinkTest, WaitsForTheFirstStateAndNoLonger)
     EXPECT_TRUE(link->waitForState(600000));
 }
 
-TEST_F(LinkTest, RefusesAnotherVersionAndNamesBoth)
+TEST_F(LinkTest, AnotherVersionIsRefusedOnEitherSide)
 {
-    controller.onMessage = [this](const LinkMessage &message) {
-        if (message.kind != Kind::Hello)
-            return false;
-        LinkMessage hello = message;
-        hello.version = 3;
-        controller.send(hello);
-        return true;
-    };
-    openLink();
-    EXPECT_EQ(link->state(), LinkState::Refused);
-    EXPECT_TRUE(link->stateText().contains(QStringLiteral("version 3"))) << link->stateText();
-    EXPECT_TRUE(link->stateText().contains(QStringLiteral("version 1"))) << link->stateText();
-    EXPECT_EQ(takeRecords(), QStringList(QStringLiteral("error: ") + link->stateText()));
-    pass(60000);
-    EXPECT_EQ(controller.count(Kind::Hello), 1); // asking again changes nothing
-    controller.onMessage = nullptr;
-    controller.breakWay("restarted"); // with the right version
-    controller.openWay();
-    settle();
-    EXPECT_TRUE(link->isConnected());
-}
-
-TEST_F(LinkTest, AControllerThatRefusesThisVersionIsShown)
-{
-    controller.greets = false;
-    openLink();
-    LinkMessage error;
-    error.kind = Kind::Error;
-    error.version = 2;
-    error.name = QLatin1String(host::fault::kVersion);
-    error.text = QStringLiteral("version 1 is not version 2");
-    controller.send(error);
-    settle();
-    EXPECT_EQ(link->state(), LinkState::Refused);
-    EXPECT_TRUE(link->stateText().contains(error.text)) << link->stateText();
+    LinkMessage hello;
+    hello.kind = Kind::Hello;
+    hello.version = 3;
+    for (const LinkMessage &answer : {hello, errorOf(host::fault::kVersion, "version 1 is not version 3")}) {
+        controller.seen.clear();
+        controller.onMessage = [&](const LinkMessage &message) {
+            if (message.kind == Kind::Hello)
+                controller.send(answer);
+            return true;
+        };
+        openLink();
+        EXPECT_EQ(shown("state"), QStringLiteral("refused"));
+        for (const char *part : {"version 3", "version 1", "Update the older one"})
+            EXPECT_TRUE(shown("link").contains(QLatin1String(part))) << shown("link");
+        EXPECT_EQ(takeRecords(), QStringList(QStringLiteral("error: ") + shown("link")));
+        pass(60000);
+        EXPECT_EQ(controller.count(Kind::Hello), 1) << "asking again changes nothing";
+        controller.onMessage = nullptr;
+        controller.breakWay("restarted"); // with the right version
+        controller.openWay();
+        settle();
+        EXPECT_TRUE(link->isConnected());
+        takeRecords();
+        link.reset();
+        keeper.reset();
+    }
 }
 
 TEST_F(LinkTest, ASecondPanelAsksUntilTheFirstHasGone)
 {
     controller.greets = false;
     openLink();
-    LinkMessage busy;
-    busy.kind = Kind::Error;
-    busy.name = QLatin1String(host::fault::kBusy);
-    busy.text = QStringLiteral("serves another panel");
     for (int i = 0; i < 3; ++i) {
-        controller.send(busy);
+        controller.send(errorOf(host::fault::kBusy));
         settle();
         EXPECT_EQ(link->state(), LinkState::Refused);
+        EXPECT_TRUE(link->stateText().contains(QStringLiteral("another panel"))) << link->stateText();
         const int greetings = controller.count(Kind::Hello);
         pass(ControllerLink::kBusyMs - 1);
         EXPECT_EQ(controller.count(Kind::Hello), greetings);
         pass(1);
         EXPECT_EQ(controller.count(Kind::Hello), greetings + 1);
     }
-    EXPECT_EQ(takeRecords(), QStringList(QStringLiteral("error: ") + link->stateText()));
-    controller.hello(0);
-    settle();
-    EXPECT_TRUE(link->isConnected());
-}
-
-TEST_F(LinkTest, ARefusalThatEndsTheWayKeepsItsReason)
-{
-    controller.greets = false;
-    openLink();
-    LinkMessage busy;
-    busy.kind = Kind::Error;
-    busy.name = QLatin1String(host::fault::kBusy);
-    for (int i = 0; i < 3; ++i) {
-        controller.send(busy);
+    for (int i = 0; i < 2; ++i) { // a refusal that ends the way keeps its reason
+        controller.send(errorOf(host::fault::kBusy));
         controller.breakWay("the other side closed the connection");
         settle();
         EXPECT_EQ(link->state(), LinkState::Connecting);
@@ -179,6 +164,9 @@ TEST_F(LinkTest, ARefusalThatEndsTheWayKeepsItsReason)
         settle();
     }
     EXPECT_EQ(takeRecords().size(), 1);
+    controller.hello(0);
+    settle();
+    EXPECT_TRUE(link->isConnected());
 }
 
 TEST_F(LinkTest, SaysSomethingBeforeTheOtherSideGrowsImpatient)
@@ -189,8 +177,6 @@ TEST_F(LinkTest, SaysSomethingBeforeTheOtherSideGrowsImpatient)
     EXPECT_EQ(controller.count(Kind::Ping), before);
     pass(1);
     EXPECT_EQ(controller.count(Kind::Ping), before + 1);
-    controller.ping();
-    settle();
     xservice()->get(nullptr, QStringLiteral("link.info")); // as good as a ping
     pass(ControllerLink::kPingMs - 1);
     EXPECT_EQ(controller.count(Kind::Ping), before + 1);
@@ -199,33 +185,22 @@ TEST_F(LinkTest, SaysSomethingBeforeTheOtherSideGrowsImpatient)
 TEST_F(LinkTest, ASilentControllerIsGivenUpAndLookedForAnew)
 {
     connectLink();
-    pass(ControllerLink::kDeadMs - 100);
-    controller.ping();
+    now += 10 * ControllerLink::kDeadMs; // the panel was busy for long
+    controller.ping();                   // and this waits to be read
+    link->tick();
     settle();
+    EXPECT_TRUE(link->isConnected());
     pass(ControllerLink::kDeadMs - 100);
     EXPECT_TRUE(link->isConnected());
     controller.opensAtOnce = false;
     pass(100);
     EXPECT_EQ(link->state(), LinkState::Connecting);
     EXPECT_TRUE(link->stateText().contains(QStringLiteral("silent for 4 s"))) << link->stateText();
+    takeRecords();
+    controller.greets = false; // somebody who never greets is no controller
+    controller.opensAtOnce = true;
     controller.openWay();
     settle();
-    EXPECT_TRUE(link->isConnected());
-}
-
-TEST_F(LinkTest, FramesThatWaitCountAsSignsOfLife)
-{
-    connectLink();
-    now += 10 * ControllerLink::kDeadMs; // the panel was busy for long
-    controller.ping();
-    link->tick();
-    EXPECT_TRUE(link->isConnected());
-}
-
-TEST_F(LinkTest, SomebodyWhoNeverGreetsIsNoController)
-{
-    controller.greets = false;
-    openLink();
     pass(ControllerLink::kDeadMs);
     EXPECT_TRUE(takeRecords().join(QString()).contains(QStringLiteral("did not answer the greeting")));
     EXPECT_EQ(link->state(), LinkState::Greeting); // on a new way
@@ -241,22 +216,24 @@ TEST_F(LinkTest, NonsenseIsAnsweredToldOnceAndHarmsNothing)
     LinkMessage wrong;
     wrong.kind = Kind::Write; // which only a panel sends
     wrong.name = QStringLiteral("quill.project.cur_project");
-    controller.sendBytes("nonsense");
+    LinkMessage empty;
+    empty.kind = Kind::Hello; // without a state
     controller.sendBytes(good.substr(0, 17));
     controller.sendBytes(std::string());
     controller.send(wrong);
-    controller.update("quill.log.list", "[]");
-    controller.update("nexo.setting.workspace", "\"/\"");
-    controller.update("nexo.r.connected", "false");
-    controller.update("quill.project_x", "1");
-    controller.update("quill.project.cur_project.a.b", "1");
-    controller.update("quill.project.var._list.#7", "1");
-    controller.update("", "{}");
+    controller.send(empty);
+    for (const char *path :
+         {"quill.log.list", "nexo.setting.workspace", "nexo.r.state", "nexo.r.faults", "quill.project_x",
+          "quill.project.cur_project.a.b", "quill.project.var._list.#7", ""})
+        controller.update(path, "1");
     settle();
-    EXPECT_EQ(link->figures().unreadable, 11);
-    EXPECT_EQ(controller.count(Kind::Error), 11);
+    EXPECT_EQ(link->figures().unreadable, 12);
+    EXPECT_EQ(controller.count(Kind::Error), 12);
     EXPECT_EQ(*orba::findGlobal(u"quill.project"), before);
-    EXPECT_TRUE(link->isConnected());
+    controller.update("nexo.r", R"({"state": "refused", "faults": "none", "name": "Cell 5"})");
+    settle();
+    EXPECT_EQ(shown("state"), QStringLiteral("connected")) << "what the panel shows is not the controller's";
+    EXPECT_EQ(shown("name"), QStringLiteral("Cell 5"));
     const QStringList records = takeRecords();
     ASSERT_EQ(records.size(), 1);
     EXPECT_TRUE(records[0].startsWith(QStringLiteral("warning: The controller sent"))) << records[0];
@@ -266,35 +243,64 @@ TEST_F(LinkTest, NonsenseIsAnsweredToldOnceAndHarmsNothing)
 TEST_F(LinkTest, AnErrorIsNeverAnswered)
 {
     connectLink();
-    LinkMessage error;
-    error.kind = Kind::Error;
-    error.name = QLatin1String(host::fault::kFrame);
-    error.text = QStringLiteral("the message was damaged on its way");
-    controller.send(error);
+    controller.send(errorOf(host::fault::kFrame, "the message was damaged on its way"));
     settle();
     EXPECT_EQ(controller.count(Kind::Error), 0);
-    EXPECT_TRUE(takeRecords().join(QString()).contains(error.text));
+    EXPECT_TRUE(takeRecords().join(QString()).contains(QStringLiteral("the message was damaged")));
     EXPECT_EQ(controller.count(Kind::Hello), 2); // in case the controller was exchanged
 }
 
-TEST_F(LinkTest, AGreetingWithoutAStateIsNotTaken)
+TEST_F(LinkTest, EachKindOfTroubleIsShownForATimeAndRecordedOnce)
 {
-    controller.greets = false;
-    openLink();
-    LinkMessage hello;
-    hello.kind = Kind::Hello;
-    controller.send(hello);
-    settle();
-    EXPECT_EQ(link->state(), LinkState::Greeting);
-    EXPECT_EQ(link->figures().unreadable, 1);
-}
-
-TEST_F(LinkTest, ANoticeOfTheControllerBecomesARecord)
-{
-    connectLink();
-    controller.event("controller.notice", R"({"level": "error", "text": "The disk is full."})");
-    settle();
-    EXPECT_EQ(takeRecords(), QStringList("error: The disk is full."));
+    const auto ask = [this](int timeoutMs) {
+        xservice()->get(nullptr, QStringLiteral("pallet.get.list"), timeoutMs);
+        settle();
+    };
+    const auto answerTwice = [this](const LinkMessage &message) {
+        if (message.kind != Kind::Request)
+            return false;
+        LinkMessage reply;
+        reply.kind = Kind::Reply;
+        reply.id = message.id;
+        controller.send(reply);
+        controller.send(reply);
+        return true;
+    };
+    const struct
+    {
+        std::function<void()> happens;
+        const char *shown, *record;
+    } cases[] = {
+        {[&] { controller.sendBytes("nonsense"); }, "Messages that could not be read: 2.",
+         "cannot be read and was left out"},
+        {[&] { ask(0); }, "Requests without an answer: 2.", "did not answer"},
+        {[&] {
+             controller.onMessage = answerTwice;
+             ask(-1);
+         },
+         "Answers that came late or twice: 2.", "too late or twice"},
+    };
+    controller.answers = false;
+    for (const auto &each : cases) {
+        connectLink();
+        for (int i = 0; i < 2; ++i)
+            each.happens();
+        settle();
+        EXPECT_EQ(shown("faults"), QLatin1String(each.shown));
+        EXPECT_TRUE(link->isConnected());
+        const QStringList records = takeRecords();
+        ASSERT_EQ(records.size(), 1) << records.join(QLatin1Char('|'));
+        EXPECT_TRUE(records[0].startsWith(QStringLiteral("warning: "))) << records[0];
+        EXPECT_TRUE(records[0].contains(QLatin1String(each.record))) << records[0];
+        for (int ms = 0; ms < ControllerLink::kFaultShownMs; ms += 1000) {
+            EXPECT_FALSE(shown("faults").isEmpty()) << ms;
+            controller.ping();
+            pass(1000);
+        }
+        EXPECT_EQ(shown("faults"), QString()) << "after a calm time";
+        link.reset();
+        keeper.reset();
+    }
 }
 
 TEST_F(LinkTest, PublishedValuesReachThoseWhoWatch)
@@ -304,12 +310,13 @@ TEST_F(LinkTest, PublishedValuesReachThoseWhoWatch)
     auto context = std::make_unique<QObject>();
     xservice()->watch(QStringLiteral("a"), context.get(),
                       [&told](const orba::Node &value) { told.append(value.toString()); });
-    xservice()->watch(QStringLiteral("b"), this->keeper.get(),
-                      [&told](const orba::Node &) { told.append(QStringLiteral("b")); });
+    controller.event("b", "\"other\"");
     controller.event("a", "\"one\"");
     settle();
     context.reset();
     controller.event("a", "\"two\"");
+    controller.event("controller.notice", R"({"level": "error", "text": "The disk is full."})");
     settle();
     EXPECT_EQ(told, QStringList(QStringLiteral("one")));
+    EXPECT_EQ(takeRecords(), QStringList("error: The disk is full."));
 }

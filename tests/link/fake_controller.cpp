@@ -52,7 +52,6 @@ std::unique_ptr<host::Carrier> FakeController::carrier()
 void FakeController::openWay()
 {
     isWayOpen = true;
-    wayFrames_ = 0;
     sink_->wayChanged(true, std::string());
 }
 
@@ -127,26 +126,13 @@ bool FakeController::receive(const std::string &frame)
     }
     if (losesEvery > 0 && ++framesSoFar % losesEvery == 0)
         return true;
-    if (breaksAfter > 0 && ++wayFrames_ > breaksAfter) {
-        waiting_.clear();
-        breakWay("cut");
-        return true;
-    }
     LinkMessage message;
     QString error;
     EXPECT_TRUE(host::decodeFrame(frame, &message, &error)) << error;
     seen.push_back(message);
-    if (takesLate && message.kind != Kind::Hello)
-        waiting_.push_back(message);
-    else if (!onMessage || !onMessage(message))
+    if ((!takesLate || message.kind == Kind::Hello) && (!onMessage || !onMessage(message)))
         take(message);
     return true;
-}
-
-void FakeController::takeWaiting()
-{
-    for (const LinkMessage &message : std::exchange(waiting_, {}))
-        take(message);
 }
 
 void FakeController::take(const LinkMessage &message)
@@ -235,7 +221,7 @@ void LinkTest::settle()
 {
     do
         QCoreApplication::processEvents();
-    while (link && !link->isIdle()); // one turn of the loop takes only so much
+    while (link && !link->isIdle());   // one turn of the loop takes only so much
     QCoreApplication::processEvents(); // what the last of it put off
 }
 

