@@ -142,25 +142,30 @@ TEST_F(HeldMoveTest, HoldsAndStopsInThatOrder)
     EXPECT_EQ(requests, QStringList("check")) << "from here the way is another one";
 }
 
-TEST_F(HeldMoveTest, EndsTheHoldWhenTheRobotHasArrived)
+TEST_F(HeldMoveTest, TheRobotsOwnEndEndsTheHold)
 {
-    start();
-    robot(kThere);
-    EXPECT_EQ(move->state(), State::Arrived);
-    EXPECT_FALSE(move->isHeld());
-    move->giveSign();
-    EXPECT_FALSE(requests.contains("hold"));
-    EXPECT_EQ(move->progress(), 1);
-}
-
-TEST_F(HeldMoveTest, TellsWhyTheRobotStopped)
-{
-    start();
-    robot(
-        R"({"moving": false, "arrived": false, "progress": 0.3, "fault": "stopped: a door is open", "move": 4})");
-    EXPECT_EQ(move->state(), State::Stopped);
-    EXPECT_EQ(move->reason(), QStringLiteral("stopped: a door is open"));
-    EXPECT_FALSE(move->isHeld());
+    const struct
+    {
+        const char *robot;
+        State state;
+        const char *reason;
+    } cases[] = {
+        {kThere, State::Arrived, ""},
+        {R"({"moving": false, "arrived": false, "progress": 0.3, "fault": "stopped: a door is open", "move": 4})",
+         State::Stopped, "stopped: a door is open"}};
+    connectLink();
+    for (const auto &each : cases) {
+        make();
+        press();
+        ASSERT_EQ(move->state(), State::Moving);
+        requests.clear();
+        robot(each.robot);
+        EXPECT_EQ(move->state(), each.state);
+        EXPECT_EQ(move->reason(), QLatin1String(each.reason));
+        EXPECT_FALSE(move->isHeld());
+        move->giveSign();
+        EXPECT_FALSE(requests.contains("hold"));
+    }
 }
 
 TEST_F(HeldMoveTest, TheArrivalOfAnotherMoveIsNotItsOwn)

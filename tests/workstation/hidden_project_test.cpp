@@ -48,7 +48,8 @@ protected:
     QString workspaceOf() const { return workspace_.path(); }
     QStringList files() const
     {
-        return QDir(workspace_.filePath(QStringLiteral("R1/palx_default"))).entryList(QDir::Files, QDir::Name);
+        return QDir(workspace_.filePath(QStringLiteral("R1/palx_default")))
+            .entryList(QDir::Files, QDir::Name);
     }
     static void setRobot(const char *version)
     {
@@ -79,10 +80,12 @@ private:
 
 TEST_F(HiddenProjectTest, WaitsForTheRobotAndWritesTheFormOfItsVersion)
 {
-    struct {
+    struct
+    {
         const char *version;
         QStringList files;
-    } const cases[] = {{"2.3.1", {"tool.json", "var.xml", "wobj.json"}}, {"2.5.0", {"tool.xml", "var.xml", "wobj.xml"}}};
+    } const cases[] = {{"2.3.1", {"tool.json", "var.xml", "wobj.json"}},
+                       {"2.5.0", {"tool.xml", "var.xml", "wobj.xml"}}};
     for (const auto &one : cases) {
         QDir(QDir(workspaceOf()).filePath(QStringLiteral("R1"))).removeRecursively();
         m("nexo.r.id")->set(nullptr, "", QString());
@@ -124,8 +127,9 @@ TEST_F(HiddenProjectTest, TheFormOfTheRunningVersionWins)
     setRobot("2.3.0");
     HiddenProject keeper;
     EXPECT_EQ(palx::pluginNode()->getString("global_tool.#0.name"), QStringLiteral("json"));
-    EXPECT_EQ(palx::pluginNode()->getString("global_wobj.#0.name"), QStringLiteral("xml")); // the only one there
-    EXPECT_TRUE(QFile::exists(file("wobj.json")));                                          // and now in both forms
+    EXPECT_EQ(palx::pluginNode()->getString("global_wobj.#0.name"),
+              QStringLiteral("xml"));              // the only one there
+    EXPECT_TRUE(QFile::exists(file("wobj.json"))); // and now in both forms
 }
 
 TEST_F(HiddenProjectTest, DamagedFilesAreSetAsideAndTold)

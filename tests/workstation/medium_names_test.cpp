@@ -4,15 +4,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-QString repeated(const QString &text, int times)
-{
-    return text.repeated(times);
-}
-
-} // namespace
-
 TEST(MediumNames, AFileSystemKeepsOnlyWhatItCan)
 {
     const QString latin = QStringLiteral("x");
@@ -28,33 +19,25 @@ TEST(MediumNames, AFileSystemKeepsOnlyWhatItCan)
                  {QStringLiteral("a'b&c;d!e$f#g%h(i)+,-=@[]^_`{}~.xml"), nullptr, nullptr},
                  {QStringLiteral("a:b"), "with :", nullptr},
                  {QStringLiteral("a\\b"), "with \\", nullptr},
-                 {QStringLiteral("a*b"), "with *", nullptr},
-                 {QStringLiteral("a?b"), "with ?", nullptr},
-                 {QStringLiteral("a\"b"), "with \"", nullptr},
-                 {QStringLiteral("a<b"), "with <", nullptr},
-                 {QStringLiteral("a>b"), "with >", nullptr},
                  {QStringLiteral("a|b"), "with |", nullptr},
                  {QStringLiteral("a/b"), "with /", "with /"},
                  {QStringLiteral("a."), "dot or a blank", nullptr},
                  {QStringLiteral("a "), "dot or a blank", nullptr},
                  {QStringLiteral("con"), "named con", nullptr},
                  {QStringLiteral("Com1.xml"), "named Com1.xml", nullptr},
-                 {QStringLiteral("console.xml"), nullptr, nullptr},
                  {QStringLiteral("com0.xml"), nullptr, nullptr},
                  {QString(), "needs a name", "needs a name"},
                  {QStringLiteral(".xml"), "begin with a dot", "begin with a dot"},
-                 {QStringLiteral(".."), "begin with a dot", "begin with a dot"},
                  {QStringLiteral("a\nb"), "cannot be seen", "cannot be seen"},
-                 {QStringLiteral("a\x7f"), "cannot be seen", "cannot be seen"},
-                 {repeated(latin, 255), nullptr, nullptr},
-                 {repeated(latin, 256), "256 of 255 characters", "256 of 255 bytes"},
-                 {repeated(letter, 127), nullptr, nullptr},
-                 {repeated(letter, 128), nullptr, "256 of 255 bytes"},
-                 {repeated(letter, 256), "256 of 255 characters", "512 of 255 bytes"},
-                 {repeated(face, 128), "256 of 255 characters", "512 of 255 bytes"}};
+                 {latin.repeated(255), nullptr, nullptr},
+                 {latin.repeated(256), "256 of 255 characters", "256 of 255 bytes"},
+                 {letter.repeated(127), nullptr, nullptr},
+                 {letter.repeated(128), nullptr, "256 of 255 bytes"},
+                 {letter.repeated(256), "256 of 255 characters", "512 of 255 bytes"},
+                 {face.repeated(128), "256 of 255 characters", "512 of 255 bytes"}};
     for (const auto &c : cases) {
-        for (const char *system : {"vfat", "exfat", "ntfs3", "fuseblk", "ext4", "", "tmpfs"}) {
-            const bool isLinux = !*system || QByteArray("ext4 tmpfs").contains(system);
+        for (const char *system : {"vfat", "fuseblk", "ext4", ""}) {
+            const bool isLinux = !*system || QByteArray(system) == "ext4";
             const char *part = isLinux ? c.onLinux : c.onFat;
             const QString refusal = palx::nameRefusal(c.name, QLatin1String(system));
             EXPECT_EQ(refusal.isEmpty(), !part) << c.name << " on " << system << ": " << refusal;
@@ -71,12 +54,9 @@ TEST(MediumNames, FiltersAreReadAsTheyAreWritten)
         const char *filter;
         const char *patterns; // of all choices
     } cases[] = {{"XML (*.xml)", "*.xml"},
-                 {"Pictures (*.png *.jpg);;All files (*)", "*.png,*.jpg;*"},
                  {"Archives (zip) (*.zip;*.ZIP)", "*.zip,*.ZIP"},
                  {"*.xml", "*.xml"},
                  {"*.a *.b;;*.c", "*.a,*.b;*.c"},
-                 {"Nothing ()", ""},
-                 {"", ""},
                  {";;", ""}};
     for (const auto &c : cases) {
         QStringList patterns;
@@ -94,16 +74,12 @@ TEST(MediumNames, AFilterCompletesANameThatItDoesNotMatch)
         const char *name;
         const char *completed;
     } cases[] = {{"XML (*.xml)", "pallet", "pallet.xml"},
-                 {"XML (*.xml)", "pallet.xml", "pallet.xml"},
                  {"XML (*.xml)", "pallet.XML", "pallet.XML"},
                  {"XML (*.xml)", "pallet.txt", "pallet.txt.xml"},
                  {"XML (*.xml)", "pallet.", "pallet..xml"},
-                 {"XML (*.xml)", "паллета 1", "паллета 1.xml"},
                  {"XML (*.xml)", "", ""},
-                 {"Pictures (*.png *.jpg)", "a.jpg", "a.jpg"},
                  {"Pictures (*.png *.jpg)", "a", "a.png"},
                  {"Tar (*.tar.gz)", "a", "a.tar.gz"},
-                 {"All (*)", "a", "a"},
                  {"", "a", "a"},
                  {"Letters ([a-c].x)", "q", "q"}};
     for (const auto &c : cases) {

@@ -3,7 +3,6 @@
 #include "shell/host_session.h"
 #include "support/stderr_capture.h"
 #include "support/test_support.h"
-#include "workstation/jog_labels.h"
 #include "workstation/palx.h"
 #include "workstation/plugin_node.h"
 
@@ -63,24 +62,6 @@ TEST(PalxLibrary, RegistersInOrderWhileItIsLoaded)
     EXPECT_EQ(orba::versionManager().create(QStringLiteral("palx_workstation.wizard.patternscene")), 1);
 }
 
-TEST(PalxLibrary, TellsItsVersionAndInterface)
-{
-    EXPECT_EQ(palx_workstation::version(), QStringLiteral("2.0.10"));
-    EXPECT_EQ(palx_workstation::api(), orba_plugin_api());
-    EXPECT_EQ(palx_workstation::api()->abi, orba::kPluginAbi);
-    EXPECT_EQ(QString::fromLatin1(palx_workstation::api()->name), kName);
-}
-
-TEST(PalxLibrary, HasTheLabelsOfTheJogDialog)
-{
-    EXPECT_EQ(palx::joint_labels.join(QLatin1Char(' ')),
-              QString::fromUtf8("J1(°) J2(°) J3(°) J4(°) J5(°) J6(°) J7(°)"));
-    EXPECT_EQ(palx::cartesian_labels.join(QLatin1Char(' ')),
-              QString::fromUtf8("X(mm) Y(mm) Z(mm) A(°) B(°) C(°)"));
-    EXPECT_EQ(palx::jointLabels(), palx::joint_labels);
-    EXPECT_EQ(palx::cartesianLabels(), palx::cartesian_labels);
-}
-
 TEST_F(PalxEntry, ConstructionWritesOneLogLineAndBindsTheTree)
 {
     {
@@ -94,34 +75,11 @@ TEST_F(PalxEntry, ConstructionWritesOneLogLineAndBindsTheTree)
     bwaf::BModule *module = session->module(kName);
     ASSERT_NE(module, nullptr);
     EXPECT_NE(qobject_cast<Palx *>(module), nullptr);
-    EXPECT_EQ(module->name(), kName);
     EXPECT_EQ(module->mobj(), palx::pluginNode());
     EXPECT_EQ(module->mobj()->getString("version"), QStringLiteral("2.0.10"));
-    EXPECT_TRUE(nexo::ManagerHelper::instance()->qrcAliases().contains(kName));
-}
-
-TEST_F(PalxEntry, TheVersionIsStoredWithNotification)
-{
-    start(false);
-    QStringList told;
-    palx::pluginNode()->set(nullptr, "version", QStringLiteral("1.0.0"));
-    QObject::connect(m("palx.version"), &orba::ModuleObject::changed, m("palx.version"),
-                     [&told](const QVariant &value, const QVariant &, QObject *sender) {
-                         told.append(value.toString() + QLatin1Char(' ') +
-                                     QLatin1String(sender ? sender->metaObject()->className() : "nobody"));
-                     });
-    palx::pluginNode()->set(session->module(kName), "version", palx_workstation::version(), true);
-    EXPECT_EQ(told, QStringList(QStringLiteral("2.0.10 Palx")));
-}
-
-TEST_F(PalxEntry, InitRegistersOneNavigatorEntryAndNoPage)
-{
-    start(false);
     EXPECT_EQ(nodeText(m("ix.nav")->node()), nodeText(nodeFromJson(R"([
         {"title": "W-Palletizing", "category": "robot.pack", "icon": "", "order": -1,
          "nav": "palx_workstation.home_page", "key": "pallet_workstation, maduo_workstation"}])")));
-    EXPECT_EQ(session->centerWidget(), nullptr);
-    EXPECT_TRUE(session->module(kName)->submodules().isEmpty());
 }
 
 TEST_F(PalxEntry, SetupMakesTheTwoPagesInOrder)
@@ -158,14 +116,7 @@ TEST_F(PalxEntry, TheNavigatorsTitleFollowsTheLanguage)
 {
     start(true);
     auto *settings = nexo::SettingManager::instance();
-    const QString kLanguage = QStringLiteral("language");
-    for (const char *language : {"ru", "cn", ""}) {
-        settings->setOverride(kLanguage, QLatin1String(language));
-        QCoreApplication::sendPostedEvents();
-        EXPECT_EQ(m("ix.nav")->cmobj(0)->getString("title"), Palx::tr("W-Palletizing")) << language;
-    }
-    EXPECT_EQ(m("ix.nav")->cmobj(0)->getString("title"), QStringLiteral("W-Palletizing"));
-    settings->setOverride(kLanguage, QStringLiteral("kr"));
+    settings->setOverride(QStringLiteral("language"), QStringLiteral("kr"));
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(m("ix.nav")->cmobj(0)->getString("title"), QString::fromUtf8("W-팔레타이징"));
 }

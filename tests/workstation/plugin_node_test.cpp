@@ -4,10 +4,8 @@
 #include "orba/tree_registry.h"
 #include "support/recipe_tree.h"
 #include "support/test_support.h"
-#include "workstation/string_watcher.h"
 
 #include <QFile>
-#include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
@@ -48,8 +46,6 @@ TEST_F(PluginNodeTest, TemplateKeepsKeysInOrder)
         const char *keys;
     } expected[] = {
         {u"", "default pallet_cfg trigger stacks projects global_tool global_wobj"},
-        {u"trigger", "save_to_rc load_from_rc refresh_table refresh_cmb refresh_data refresh_pallet_data "
-                     "refresh_margin_data reset_margin_data"},
         {u"default",
          "tool calibrate toolset put get product_cfg pattern_cfg wobj_margin patterns layers points "
          "bollard automatic_stacker pallet_position use_global_tool use_global_wobj"},
@@ -58,8 +54,6 @@ TEST_F(PluginNodeTest, TemplateKeepsKeysInOrder)
     for (const auto &one : expected)
         EXPECT_EQ(childNames(*plugin.find(one.path)), QString::fromLatin1(one.keys));
     EXPECT_EQ(plugin.find(u"pallet_cfg")->size(), 7);
-    EXPECT_EQ(plugin.getString(u"pallet_cfg.#0.name"), QStringLiteral("AISA 1: 1100x1100"));
-    EXPECT_EQ(plugin.getInt(u"pallet_cfg.#3.length"), 1067);
     QFile file(QStringLiteral(":/palx_workstation/template/palx_workstation.json"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.read(3), QByteArray("\xef\xbb\xbf"));
@@ -69,19 +63,20 @@ TEST_F(PluginNodeTest, StacksAreFoundToTheLetter)
 {
     EXPECT_FALSE(palx::hasStack(QStringLiteral("A")));
     EXPECT_EQ(palx::getStack(QStringLiteral("A")), emptyMobj());
-    QSignalSpy grown(palx::stacksNode(), &ModuleObject::structureChanged);
     ModuleObject *first = palx::addStack(QStringLiteral("A"), QStringLiteral("first"));
     palx::addStack(QStringLiteral("A"), QStringLiteral("second"));
     palx::addStack(QStringLiteral("a.#1"), QString());
     palx::addStack(QString(), QString());
-    EXPECT_EQ(grown.count(), 4);
     struct
     {
         const char *name;
         bool has;
         const char *desc;
-    } const cases[] = {{"A", true, "first"}, {" A", false, nullptr}, {"a", false, nullptr},
-                       {"a.#1", true, ""},   {"", true, nullptr},    {"   ", false, nullptr}};
+    } const cases[] = {{"A", true, "first"},
+                       {" A", false, nullptr},
+                       {"a", false, nullptr},
+                       {"a.#1", true, ""},
+                       {"", true, nullptr}};
     for (const auto &one : cases) {
         const QString name = QString::fromLatin1(one.name);
         EXPECT_EQ(palx::hasStack(name), one.has) << name;
@@ -90,9 +85,6 @@ TEST_F(PluginNodeTest, StacksAreFoundToTheLetter)
         EXPECT_EQ(stack->getString("desc"), QString::fromLatin1(one.desc ? one.desc : "")) << name;
     }
     EXPECT_EQ(first->getInt("product_cfg.pallet.height"), 150);
-    EXPECT_EQ(first->p(1), palx::pluginNode());
-    EXPECT_EQ(&palx::pluginNodeOf(first->node()), &palx::pluginNode()->node());
-    EXPECT_EQ(palx::triggerNode(), m("palx.trigger"));
 }
 
 TEST(Records, IdentityZeroesWhatIsThere)
@@ -120,16 +112,6 @@ TEST(Records, IdentityZeroesWhatIsThere)
     }
 }
 
-TEST(Records, FreshToolsetIsCompleted)
-{
-    ModuleObject toolset; // null, as in a new stack
-    palx::ensureToolsetRecord(toolset.node());
-    EXPECT_EQ(toolset.r("ref.rot")->cmobjCount(), 3);
-    toolset.set(nullptr, "load.mass", 3.5);
-    palx::ensureToolsetRecord(toolset.node());
-    EXPECT_EQ(toolset.getDouble("load.mass"), 3.5);
-}
-
 TEST(Records, CopyCountsBySourceAndStopsAtTheDestination)
 {
     struct
@@ -154,16 +136,6 @@ TEST(Records, CopyCountsBySourceAndStopsAtTheDestination)
         palx::copyPointData(inner, source.node()); // the inner form must agree
         EXPECT_EQ(inner, nodeFromJson(one.after)) << one.source;
     }
-}
-
-TEST(StringWatcher, TellsOnlyOfOtherTexts)
-{
-    StringWatcher watcher;
-    QSignalSpy spy(&watcher, &StringWatcher::valueChanged);
-    for (const char *text : {"", "a", "a", "b", ""})
-        watcher.setValue(QString::fromLatin1(text));
-    ASSERT_EQ(spy.count(), 3);
-    EXPECT_EQ(spy[1][0].toString(), QStringLiteral("b"));
 }
 
 } // namespace

@@ -5,8 +5,6 @@
 #include "workstation/plugin_node.h"
 
 #include <QGroupBox>
-#include <QLabel>
-#include <QPushButton>
 #include <QSpinBox>
 
 #include <gtest/gtest.h>
@@ -69,53 +67,22 @@ TEST(PointEditor, UnconvertedShownAndReadBackIsScaled)
     EXPECT_NEAR(point->getDouble("rot.#0"), 3.0 * kPi / 180, 1e-8);
 }
 
-TEST(PointEditor, TranslationHalvesLeaveTheRotationAlone)
-{
-    Group group;
-    const auto point = makePoint();
-    palx::pointTransToGroupSpin(point.get(), &group.box, true);
-    EXPECT_EQ(group.spins[3]->value(), 0);
-    group.spins[0]->setValue(500);
-    palx::groupSpinToPointTrans(point.get(), &group.box);
-    EXPECT_DOUBLE_EQ(point->getDouble("trans.#0"), 0.5);
-    EXPECT_DOUBLE_EQ(point->getDouble("rot.#0"), 3.0);
-}
-
 TEST(PointEditor, SeesOnlyDirectChildren)
 {
     Group group;
     QWidget inner(&group.box);
     QDoubleSpinBox *nested = group.add(QStringLiteral("dspnW"), &inner);
     EXPECT_EQ(palx::findDouleSpin(QStringLiteral("dspnW"), &group.box), nullptr);
-    EXPECT_EQ(palx::findDouleSpin(QStringLiteral("dspnx"), &group.box), nullptr);
     EXPECT_EQ(palx::findDouleSpin(QStringLiteral("dspnX"), &group.box), group.spins[0]);
-
     const auto point = makePoint();
     palx::pointToGroupSpin(point.get(), &group.box, true);
-    auto context = std::make_unique<QObject>();
-    palx::connectSpinChangeToPoint(&group.box, point.get(), context.get());
+    palx::connectSpinChangeToPoint(&group.box, point.get(), &group.box);
     group.spins[2]->setValue(700);
     EXPECT_EQ(point->getDouble("trans.#2"), 0.3); // not before editing is finished
     Q_EMIT nested->editingFinished();
     EXPECT_EQ(point->getDouble("trans.#2"), 0.3);
     Q_EMIT group.spins[0]->editingFinished(); // any box writes the whole point
     EXPECT_EQ(point->getDouble("trans.#2"), 0.7);
-    group.spins[2]->setValue(100);
-    context.reset();
-    Q_EMIT group.spins[2]->editingFinished();
-    EXPECT_EQ(point->getDouble("trans.#2"), 0.7);
-}
-
-TEST(PointEditor, NullAndEmptyPointsChangeNothing)
-{
-    Group group;
-    group.spins[0]->setValue(5);
-    for (ModuleObject *none : {static_cast<ModuleObject *>(nullptr), emptyMobj()}) {
-        palx::pointToGroupSpin(none, &group.box, true);
-        palx::groupSpinToPoint(none, &group.box);
-        palx::groupSpinToPointTrans(none, &group.box);
-    }
-    EXPECT_EQ(group.spins[0]->value(), 5);
 }
 
 TEST(PointEditor, SurvivesAPointThatEndsWhileItIsWritten)
@@ -144,19 +111,6 @@ TEST(Dialogs, CloseWithTheirNode)
     tree->c("stack")->remove();
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(dialog.result(), int(QDialog::Rejected));
-}
-
-TEST(WidgetFont, ReachesAllDescendantsOfTheType)
-{
-    QWidget root;
-    auto *inner = new QWidget(&root);
-    QPushButton button(inner);
-    QLabel label(&root);
-    palx::setWidgetFont<QPushButton>(&root, 18, 0.5);
-    EXPECT_EQ(button.styleSheet(), QStringLiteral("font-size: 18px; letter-spacing: 0.5px;"));
-    EXPECT_TRUE(label.styleSheet().isEmpty());
-    palx::setWidgetFont<QLabel>(&root, 16, 2);
-    EXPECT_EQ(label.styleSheet(), QStringLiteral("font-size: 16px; letter-spacing: 2px;"));
 }
 
 } // namespace
