@@ -43,16 +43,6 @@ TEST_F(NavigatorTest, SortsByCategoryThenOrderThenTimeOfRegistering)
               QStringLiteral("first second late last other"));
 }
 
-TEST_F(NavigatorTest, TheFirstPageIsThatOfTheFirstEntryThatHasOne)
-{
-    panel::Navigator navigator(&list);
-    EXPECT_EQ(navigator.firstPage(), QStringLiteral("p.second"));
-    list.c(4)->set(nullptr, "nav", QStringLiteral("p.first"));
-    EXPECT_EQ(navigator.firstPage(), QStringLiteral("p.first"));
-    list.clear();
-    EXPECT_EQ(navigator.firstPage(), QString());
-}
-
 TEST_F(NavigatorTest, AButtonOpensItsPageAndFollowsItsEntry)
 {
     panel::Navigator navigator(&list);
@@ -66,18 +56,7 @@ TEST_F(NavigatorTest, AButtonOpensItsPageAndFollowsItsEntry)
     list.c(4)->set(nullptr, "nav", QStringLiteral("p.first"));
     ASSERT_NE(button(navigator, "p.first"), nullptr);
     EXPECT_TRUE(button(navigator, "p.first")->isEnabled());
-}
-
-TEST_F(NavigatorTest, EntriesThatComeLaterAreFollowedToo)
-{
-    panel::Navigator navigator(&list);
-    orba::ModuleObject *entry = list.addUnnamed();
-    entry->copyFrom(
-        nodeFromJson(R"({"title": "new", "category": "system", "icon": "", "order": -1, "nav": ""})"));
-    list.announceStructure();
-    entry->set(nullptr, "nav", QStringLiteral("p.new"));
-    ASSERT_NE(button(navigator, "p.new"), nullptr);
-    EXPECT_EQ(button(navigator, "p.new")->text(), QStringLiteral("new"));
+    EXPECT_EQ(navigator.firstPage(), QStringLiteral("p.first"));
 }
 
 TEST_F(NavigatorTest, MarksTheOpenPageAlsoAfterARebuild)

@@ -3,7 +3,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -42,15 +41,6 @@ TEST(PanelOptions, AreHandedToTheSession)
     EXPECT_EQ(options.session.examples, words("r.xml"));
 }
 
-TEST(PanelOptions, LeaveOpenWhatTheSettingsMayDecide)
-{
-    const panel::PanelOptions options = parse({});
-    EXPECT_EQ(options.refusal, QString());
-    EXPECT_EQ(options.session.dataFolder, QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-    EXPECT_EQ(options.session.workspaceFolder + options.session.language, QString());
-    EXPECT_FALSE(options.session.touch.has_value());
-}
-
 TEST(PanelOptions, FindLibrariesAndExamplesInFoldersByName)
 {
     const QTemporaryDir folder;
@@ -78,12 +68,4 @@ TEST(PanelOptions, RefuseWhatTheyDoNotKnow)
         const QString refusal = parse(words(each.arguments)).refusal;
         EXPECT_TRUE(refusal.contains(QLatin1String(each.told))) << each.arguments << ": " << refusal;
     }
-}
-
-TEST(PanelOptions, HelpNamesEveryOption)
-{
-    const panel::PanelOptions options = parse(words("--help"));
-    EXPECT_TRUE(options.wantsHelp);
-    for (const char *name : {"--data", "--workspace", "--language", "--touch", "--plugin", "--examples"})
-        EXPECT_TRUE(options.helpText.contains(QLatin1String(name))) << name;
 }

@@ -44,11 +44,8 @@ TEST(PluginLoader, RefusesWhatIsNoPluginWithFileAndReason)
         const char *why;
     } cases[] = {
         {folder.filePath(QStringLiteral("none.so")), "there is no such file"},
-        {folder.path(), "there is no such file"},
         {writeFile(folder, "text.so", "this is a text"), "it is no library"},
-        {writeFile(folder, "long_text.so", QByteArray(5000, 'x')), "it is no library"},
         {writeFile(folder, "empty.so", ""), "it is no library"},
-        {writeFile(folder, "head.so", good.left(100)), "the file is incomplete: it has 100 bytes"},
         {writeFile(folder, "start.so", good.left(8192)), "the file is incomplete: it has 8192 bytes"},
         {writeFile(folder, "other_machine.so", otherMachine(good)),
          "other_machine.so"}, // the loader's own words

@@ -1,25 +1,19 @@
-#include "panel/shown_report.h"
-
 #include "support/test_support.h"
 
-#include <QCoreApplication>
-#include <QPointer>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
-#include <QWidget>
 
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <cstdio>
 
 namespace {
 
 constexpr int kBoundMs = 60000; // a sanitized start on a busy machine
 
 /// Runs the panel until it says that it is shown, or, when it is not to say so, until its log stands; then ends it.
-/// Returns what it wrote to standard output.
+/// What it wrote to standard output.
 QByteArray outputOfPanel(bool reports)
 {
     const QTemporaryDir folder;
@@ -54,19 +48,4 @@ TEST(ShownReport, ThePanelSaysOnceThatItIsShownWhenItIsAskedTo)
 {
     EXPECT_EQ(outputOfPanel(true), "shown\n");
     EXPECT_EQ(outputOfPanel(false), "");
-}
-
-TEST(ShownReport, ComesAfterTheFirstPaintingAndOnce)
-{
-    testing::internal::CaptureStdout();
-    QWidget window;
-    const QPointer<QObject> report = new panel::ShownReport(&window);
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(report.isNull()); // nothing was painted
-    window.show();
-    EXPECT_TRUE(waitUntil([&report] { return report.isNull(); }));
-    window.repaint();
-    QCoreApplication::processEvents();
-    std::fflush(stdout);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "shown\n");
 }
