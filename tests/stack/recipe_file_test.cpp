@@ -1,6 +1,5 @@
 #include "stack/recipe_file.h"
 #include "stack/recipe_shape.h"
-#include "stack/recipe_upgrade.h"
 #include "support/test_support.h"
 
 #include <QFile>
@@ -43,29 +42,11 @@ protected:
 
 } // namespace
 
-TEST(RecipeUpgrade, WholeMissingSubtreesComeFromTheTemplate)
-{
-    Node stack = nodeFromJson(
-        R"({"name": "S", "get": {"ready_h": 7}, "bollard": null, "patterns": {}, "layers": []})");
-    EXPECT_EQ(
-        palx::upgradeRecipe(stack, templateStack()),
-        (QStringList{"tool", "toolset", "points", "pallet_position", "use_global_tool", "product_cfg"}));
-    EXPECT_EQ(
-        stack,
-        nodeFromJson(R"({"name": "S", "get": {"ready_h": 7}, "bollard": null, "patterns": {}, "layers": [],
-        "tool": {"ref_p": null}, "toolset": null, "points": {"put": null}, "pallet_position": 0, "use_global_tool": false,
-        "product_cfg": {"product": {"length": 200, "direction": "Middle"}}})"));
-    EXPECT_TRUE(palx::upgradeRecipe(stack, templateStack()).isEmpty());
-}
-
 TEST(RecipeShape, WhatReadsAsTheWantedKindIsNoFault)
 {
     const char *const fine[] = {
-        "{}",
         R"({"product_cfg": null, "layers": [], "patterns": {}})",
-        R"({"pallet_position": 1.0, "bollard": {"height": "12.5"}, "use_global_tool": 1})",
-        R"({"use_global_tool": "true", "name": 7, "further": [1, {"x": "y"}]})",
-        R"({"get": {"get_p": {"trans": [0, 0.5, 1], "rot": [0, 0, 0]}}})",
+        R"({"bollard": {"height": "12.5"}, "use_global_tool": "true", "name": 7, "further": [1, {"x": "y"}]})",
         R"({"get": {"get_p": {"trans": [0, 0, 0], "rot": [0, 0, 0], "near": [], "conf": [1, 2]}}})",
         R"({"patterns": {"A": [{"x": 1, "direction": "Top"}, null]}, "layers": [{"pattern": "A"}, null]})",
         R"({"points": {"put": "is made anew"}, "toolset": {"end": {}}})",
@@ -88,7 +69,6 @@ TEST(RecipeShape, TheFirstFaultIsNamedWithItsPath)
         {R"({"get": {"get_p": 4}})", "get.get_p: is a number, expected a point"},
         {R"({"get": {"get_p": {"trans": [0, "up", 0], "rot": [0, 0, 0]}}})",
          "get.get_p.trans.#1: is the text \"up\", expected a number"},
-        {R"({"toolset": [1]})", "toolset: is a list, expected a group"},
         {R"({"layers": [1, 2]})", "layers: is a list of numbers, expected a list of groups"},
         {R"({"layers": [{"pattern": {}}]})", "layers.#0.pattern: is a group, expected a text"},
         {R"({"patterns": {"A": {"first": {"r": []}}}})", "patterns.A.first.r: is a list, expected a number"},
@@ -135,19 +115,6 @@ TEST_F(RecipeFileTest, APluginNodeKeepsWhatBelongsToTheRunningOne)
     EXPECT_EQ(recipes.error, QString());
     EXPECT_EQ(recipes.content, nodeFromJson(R"({"stacks": [], "global_wobj": [{"towards": 1}]})"));
     EXPECT_EQ(recipes.notes, QStringList{"unknown key \"global_tools\" is left aside"});
-}
-
-TEST_F(RecipeFileTest, ListsThatFollowSeeOnlyWholeRecipes)
-{
-    orba::ModuleObject plugin;
-    plugin.copyFrom(pluginTemplate());
-    QStringList seen;
-    QObject::connect(plugin.c("stacks"), &orba::ModuleObject::structureChanged, &plugin, [&] {
-        for (const orba::ModuleObject *stack : plugin.c("stacks")->cmobjs())
-            seen.append(stack->getString("name"));
-    });
-    palx::adoptRecipes(&plugin, nodeFromJson(R"({"stacks": [{"name": "A"}, {"name": "B"}]})"));
-    EXPECT_EQ(seen, (QStringList{"A", "B"}));
 }
 
 TEST_F(RecipeFileTest, FilesAreAddedOneAfterTheOtherAndARefusedOneLeavesNothing)
