@@ -54,65 +54,42 @@ TEST(AutomaticStackerDialog, ShowsWhatEachKindHolds)
     for (int i = 0; i < 4; ++i) {
         EXPECT_EQ(test.preview(i)->text(), QLatin1String(cases[i].name));
         EXPECT_EQ(test.preview(i)->facts(), QLatin1String(cases[i].facts)) << i;
-        EXPECT_EQ(test.preview(i)->warning(), QString()) << i;
         EXPECT_EQ(test.preview(i)->scene()->getWobjCount(), cases[i].items) << i;
         EXPECT_TRUE(test.preview(i)->isEnabled());
-        EXPECT_FALSE(test.preview(i)->isHidden());
     }
-    for (const int spare : {4, 5}) {
+    for (const int spare : {4, 5})
         EXPECT_TRUE(test.preview(spare)->isHidden());
-        EXPECT_FALSE(test.preview(spare)->isEnabled());
-    }
     EXPECT_EQ(test.items(), QStringList()); // nothing before it is confirmed
 }
 
-TEST(AutomaticStackerDialog, FieldsAreKeptInTheRecipeAndLayAnew)
+TEST(AutomaticStackerDialog, FieldsLayAnewAndGiveUpAChoiceThatVanishes)
 {
     StackerTest test;
-    const struct
-    {
-        const char *field;
-        const char *path;
-    } cases[] = {{"spnTopBottomMargin", "automatic_stacker.top_bottom_margin"},
-                 {"spnLeftRightMargin", "automatic_stacker.left_right_margin"},
-                 {"spnMinProductSpacing", "automatic_stacker.min_product_spacing"}};
-    int items = test.preview(0)->scene()->getWobjCount();
-    for (const auto &c : cases) {
-        auto *field = partOf<QDoubleSpinBox>(test.dialog, c.field);
-        EXPECT_EQ(field->value(), test.stack->getDouble(c.path));
-        EXPECT_EQ(field->minimum(), 0);
-        enter(field, 120.5);
-        EXPECT_EQ(test.stack->getDouble(c.path), 120.5);
-        EXPECT_LT(test.preview(0)->scene()->getWobjCount(), items) << c.field;
-        items = test.preview(0)->scene()->getWobjCount();
+    test.touch(0);
+    for (const char *field : {"TopBottomMargin", "LeftRightMargin", "MinProductSpacing"}) {
+        const int items = test.preview(0)->scene()->getWobjCount();
+        enter(partOf<QDoubleSpinBox>(test.dialog, qPrintable(QStringLiteral("spn") + field)), 120.5);
+        EXPECT_LT(test.preview(0)->scene()->getWobjCount(), items) << field;
     }
-    partOf<QPushButton>(test.dialog, "btnCancel")->click();
-    EXPECT_EQ(test.dialog.result(), QDialog::Rejected);
-    EXPECT_EQ(test.stack->getDouble("automatic_stacker.top_bottom_margin"), 120.5);
-}
-
-TEST(AutomaticStackerDialog, OnePreviewIsChosenByTouch)
-{
-    const StackerTest test;
+    EXPECT_EQ(test.stack->r("automatic_stacker")->node(),
+              nodeFromJson(R"({"top_bottom_margin": 120.5, "left_right_margin": 120.5,
+                               "min_product_spacing": 120.5})"));
+    EXPECT_EQ(test.chosen(), QList<int>{0}); // still there, though smaller
+    enter(partOf<QDoubleSpinBox>(test.dialog, "spnLeftRightMargin"), 390.0);
     EXPECT_EQ(test.chosen(), QList<int>());
-    test.touch(1);
-    EXPECT_EQ(test.chosen(), QList<int>{1});
-    test.touch(3);
-    EXPECT_EQ(test.chosen(), QList<int>{3});
-    test.touch(3); // it stays chosen
-    EXPECT_EQ(test.chosen(), QList<int>{3});
 }
 
 TEST(AutomaticStackerDialog, FillsAnEmptyPatternWithoutAsking)
 {
     ScriptedPresenter presenter;
     StackerTest test;
+    test.touch(3);
     test.touch(1);
+    EXPECT_EQ(test.chosen(), QList<int>{1});
     test.confirm();
     EXPECT_EQ(test.dialog.result(), QDialog::Accepted);
     EXPECT_TRUE(presenter.asked.isEmpty());
     ASSERT_EQ(test.items().size(), 18);
-    EXPECT_EQ(test.items().first(), QStringLiteral("1: 199 122.5 90 Middle"));
     EXPECT_EQ(test.items().last(), QStringLiteral("18: 601 877.5 90 Middle"));
 }
 
@@ -141,18 +118,22 @@ TEST(AutomaticStackerDialog, WithoutAnEffectiveChoiceNothingHappens)
     {
         const char *changes;
         int index;
+        const char *facts;
     } cases[] = {
-        {"{}", -1},
-        {"{}", 6},
-        {"{}", 4},                                    // empty
-        {R"({"product_cfg.product.width": 801})", 0}, // wider than the pallet
-        {R"({"product_cfg.product.width": 199})", 2}, // no turned row fits: it would be a matrix
+        {"{}", -1, ""},
+        {"{}", 4, ""},                                                      // empty
+        {R"({"product_cfg.product.width": 801})", 0, "Nothing fits"},       // wider than the pallet
+        {R"({"product_cfg.product.width": 199})", 2, "No turned row fits"}, // it would be a matrix
     };
     for (const auto &c : cases) {
         ScriptedPresenter presenter;
         StackerTest test(c.changes);
         test.scene.addWobjItem(1, 0, {500, 700}, {150, 200}, 0, {}, QStringLiteral("Top"));
         QSignalSpy finished(&test.dialog, &QDialog::finished);
+        if (*c.facts) {
+            EXPECT_EQ(test.preview(c.index)->facts(), QLatin1String(c.facts));
+            EXPECT_FALSE(test.preview(c.index)->isEnabled() || test.preview(c.index)->isHidden());
+        }
         test.dialog.onGraphViewSelected(c.index);
         test.confirm();
         EXPECT_EQ(presenter.notices, QStringList{"warning: Please select an effective stack type!"})
@@ -161,28 +142,6 @@ TEST(AutomaticStackerDialog, WithoutAnEffectiveChoiceNothingHappens)
         EXPECT_EQ(finished.count(), 0);
         EXPECT_EQ(test.items().size(), 1);
     }
-}
-
-TEST(AutomaticStackerDialog, SaysWhyAPreviewCannotBeChosen)
-{
-    const StackerTest wide(R"({"product_cfg.product.width": 801})");
-    EXPECT_EQ(wide.preview(0)->facts(), QStringLiteral("Nothing fits"));
-    EXPECT_FALSE(wide.preview(0)->isEnabled());
-    EXPECT_FALSE(wide.preview(0)->isHidden());
-    const StackerTest plain(R"({"product_cfg.product.width": 199})");
-    EXPECT_EQ(plain.preview(2)->facts(), QStringLiteral("No turned row fits"));
-    EXPECT_GT(plain.preview(2)->scene()->getWobjCount(), 0);
-    EXPECT_FALSE(plain.preview(2)->isEnabled());
-}
-
-TEST(AutomaticStackerDialog, AChoiceThatVanishesIsGivenUp)
-{
-    const StackerTest test;
-    test.touch(0);
-    enter(partOf<QDoubleSpinBox>(test.dialog, "spnLeftRightMargin"), 100.0);
-    EXPECT_EQ(test.chosen(), QList<int>{0}); // still there, though smaller
-    enter(partOf<QDoubleSpinBox>(test.dialog, "spnLeftRightMargin"), 390.0);
-    EXPECT_EQ(test.chosen(), QList<int>());
 }
 
 TEST(AutomaticStackerDialog, ALayoutOverThePalletOrTheLimitIsMarked)

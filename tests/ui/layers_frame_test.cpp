@@ -106,17 +106,6 @@ TEST(LayersFrame, ASheetOnASheetIsRefused)
     EXPECT_EQ(l.patterns().size(), 5);
 }
 
-TEST(LayersFrame, MirrorsTheChosenLayers)
-{
-    Layers l;
-    l.several({2, 3});
-    l.at<QAction>("actHalfTurn")->trigger();
-    EXPECT_EQ(l.patterns(), (QStringList{"A", "B", "A_m", "B_m"}));
-    EXPECT_EQ(palx::patternNames(l.stack->node()), (QStringList{"A", "B", "A_m", "B_m"}));
-    l.at<QAction>("actHalfTurn")->trigger();
-    EXPECT_EQ(l.patterns(), (QStringList{"A", "B", "A", "B"}));
-}
-
 TEST(LayersFrame, LaysLayersInTurn)
 {
     Layers l;
@@ -142,36 +131,4 @@ TEST(LayersFrame, LaysLayersInTurn)
     EXPECT_EQ(l.patterns().size(), 4) << "nothing is laid before it is confirmed";
     ok->click();
     EXPECT_EQ(l.patterns(), (QStringList{"A", "B", "B_m", "clapboard", "B"}));
-}
-
-TEST(LayersFrame, ABoxTouchedInTheStackChoosesItsLayer)
-{
-    Layers l;
-    auto *panel = l.at<StackPanel>("stack");
-    Q_EMIT panel->pieceChosen({2, 1});
-    EXPECT_EQ(l.frame.layers(), (LayerSet{2}));
-    EXPECT_EQ(panel->marked(), (palx::Piece{2, 1}));
-    l.frame.chooseLayer(3);
-    EXPECT_EQ(panel->marked(), (palx::Piece{3, -1})) << "the whole layer";
-}
-
-TEST(LayerTableModel, WritesThePatternOfALayer)
-{
-    PluginTree tree;
-    orba::ModuleObject *stack = tree.addRecipe("Box");
-    LayerTableModel model;
-    model.setStack(stack);
-    const auto cell = [&model](int row, int column) { return model.index(row, column); };
-    const int pattern = LayerTableModel::kPattern;
-    EXPECT_EQ(cell(1, pattern).data(Qt::EditRole), QVariant(QStringLiteral("B")));
-    EXPECT_TRUE(model.setData(cell(1, pattern), QStringLiteral("A")));
-    EXPECT_EQ(stack->getString("layers.#1.pattern"), QString("A"));
-    EXPECT_TRUE(model.setData(cell(0, pattern), palx::kSheetPattern));
-    EXPECT_EQ(cell(0, pattern).data().toString(), QString("Separator sheet"));
-    EXPECT_FALSE(model.setData(cell(1, pattern), QStringLiteral("Z"))) << "there is no such pattern";
-    EXPECT_FALSE(model.setData(cell(1, 0), QStringLiteral("A")));
-    EXPECT_FALSE(model.setData(model.index(7, pattern), QStringLiteral("A")));
-    EXPECT_EQ(stack->getString("layers.#1.pattern"), QString("A"));
-    EXPECT_TRUE(model.flags(cell(0, pattern)) & Qt::ItemIsEditable);
-    EXPECT_FALSE(model.flags(cell(0, 0)) & Qt::ItemIsEditable);
 }

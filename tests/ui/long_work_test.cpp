@@ -153,21 +153,6 @@ TEST(LongWork, TheLastPartCannotBeCancelled)
     }
 }
 
-TEST(LongWork, AWishThatTheWorkNeverHeardOfCountsForNothing)
-{
-    for (const Runner run : kWays) {
-        QWidget page;
-        Operator late([](LongWorkDialog *dialog) { return dialog->reject(), true; });
-        const WorkEnd end = run(
-            &page, kTitle,
-            [&](Progress &progress) {
-                EXPECT_TRUE(workUntil(&progress, [&] { return bool(late.hasActed); }));
-            },
-            0);
-        EXPECT_EQ(end, WorkEnd::Finished);
-    }
-}
-
 TEST(LongWork, ThePageMayEndMeanwhile)
 {
     for (const Runner run : kWays) {

@@ -168,42 +168,6 @@ TEST_P(MoveDialogEnd, StopsAtOnce)
 INSTANTIATE_TEST_SUITE_P(Ways, MoveDialogEnd, ::testing::ValuesIn(kEnds),
                          [](const auto &end) { return std::string(end.param.name); });
 
-TEST_F(MoveDialogTest, ANewPressGoesOn)
-{
-    open();
-    start();
-    release();
-    EXPECT_EQ(move()->state(), State::Stopping);
-    EXPECT_EQ(look(), QStringLiteral("stopped"));
-    press(); // while it brakes
-    EXPECT_EQ(move()->state(), State::Moving);
-    cell.hold(move(), 5);
-    EXPECT_EQ(move()->state(), State::Arrived);
-}
-
-TEST_F(MoveDialogTest, TheSpaceBarHoldsAndRepeatsNothing)
-{
-    open();
-    hold()->setFocus();
-    QTest::keyPress(hold(), Qt::Key_Space);
-    cell.settle();
-    for (int i = 0; i < 5; ++i) {
-        QKeyEvent up(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier, QString(), true);
-        QKeyEvent down(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QString(), true);
-        QApplication::sendEvent(hold(), &up);
-        QApplication::sendEvent(hold(), &down);
-        cell.hold(move(), 0.1);
-    }
-    EXPECT_EQ(move()->state(), State::Moving);
-    EXPECT_EQ(cell.robot().getInt(u"move"), 1);
-    QTest::keyRelease(hold(), Qt::Key_Space);
-    cell.pass(0.28);
-    EXPECT_EQ(move()->state(), State::Stopped);
-    EXPECT_EQ(text("lblStatus"), QStringLiteral("Stopped before the point."));
-    QTest::keyPress(dialog, Qt::Key_Return);
-    EXPECT_FALSE(cell.isMoving());
-}
-
 TEST_F(MoveDialogTest, AHeldUpPanelStopsTheRobotAndSaysSo)
 {
     open();
@@ -308,19 +272,6 @@ TEST_F(MoveDialogTest, ThereIsNoMoveToAPointThatNobodyTaught)
     cell.settle();
     EXPECT_EQ(move()->state(), State::Ready);
     EXPECT_EQ(text("lblPoseTarget0"), QStringLiteral("1200.0"));
-}
-
-TEST_F(MoveDialogTest, IsTheOnlyOneAndBelongsToTheWindow)
-{
-    open();
-    EXPECT_EQ(dialog->parentWidget(), &page);
-    EXPECT_FALSE(dialog->isModal());
-    EXPECT_TRUE(dialog->isVisible());
-    EXPECT_TRUE(dialog->testAttribute(Qt::WA_DeleteOnClose));
-    const QPointer<MoveToDialog> first = dialog;
-    palx::moveToPoint(&point, &page);
-    EXPECT_FALSE(first);
-    EXPECT_EQ(page.findChildren<MoveToDialog *>().size(), 1);
 }
 
 TEST_F(MoveDialogTest, ClosesWithItsPoint)

@@ -166,18 +166,6 @@ TEST(NodeBinder, TheFirstWriteMakesAMissingKey)
     EXPECT_EQ(field.value(), 6);
 }
 
-TEST(NodeBinder, FollowsAKeyThatComesLater)
-{
-    QDoubleSpinBox field;
-    NodeBinder binder;
-    binder.bind(&field, QStringLiteral("a.b"));
-    const auto root = tree("{}");
-    binder.setRoot(root.get());
-    root->ensure("a.b");
-    root->set(nullptr, "a.b", 3);
-    EXPECT_EQ(field.value(), 3);
-}
-
 TEST(NodeBinder, RefusesWithAReasonAndShowsTheNodeAgain)
 {
     Form form;

@@ -44,26 +44,6 @@ QImage resourceImage(const QString &name)
 
 } // namespace
 
-TEST(PatternTemplateDialog, LoadsItsKindsNumbersAndRanges)
-{
-    TemplateTest test(R"({"pattern_cfg.template": {"type": "cross", "num_x": 1, "num_y": 2, "num_y1": 3,
-        "num_y2": 4, "offset_x": 5, "offset_y": 6, "space_x": 7, "space_y": 8}})");
-    auto *kinds = partOf<QComboBox>(test.dialog, "cmbTemplate");
-    QStringList shown;
-    for (int i = 0; i < kinds->count(); ++i)
-        shown << kinds->itemText(i) + QLatin1Char('=') + kinds->itemData(i).toString();
-    EXPECT_EQ(shown, QStringList({"Overlap=overlap", "Cross=cross", "Clip=clip"}));
-    EXPECT_EQ(kinds->currentIndex(), 1);
-    for (int i = 0; i < 8; ++i) {
-        auto *spin = partOf<QSpinBox>(test.dialog, kSpins[i]);
-        EXPECT_EQ(spin->value(), i + 1);
-        EXPECT_EQ(spin->minimum(), 0);
-        EXPECT_EQ(spin->maximum(), i < 4 ? 99 : 999);
-    }
-    EXPECT_EQ(test.dialog.windowTitle(), QStringLiteral("Pattern Template"));
-    EXPECT_EQ(partOf<QLabel>(test.dialog, "lblTemplate")->text(), QStringLiteral("Tempalte"));
-}
-
 TEST(PatternTemplateDialog, ShowsTheFieldsAndThePictureOfItsKind)
 {
     const struct
@@ -119,27 +99,6 @@ TEST(PatternTemplateDialog, KeepsWhatWasTypedAlsoWhenItIsCancelled)
     EXPECT_EQ(partOf<QSpinBox>(again, "spnNumY2")->value(), 13);
 }
 
-TEST(PatternTemplateDialog, MakesMissingKeys)
-{
-    TemplateTest test;
-    test.stack->r("pattern_cfg")->remove();
-    test.type("spnNumX", 3);
-    EXPECT_EQ(test.stack->getInt("pattern_cfg.template.num_x"), 3);
-    EXPECT_EQ(test.stack->getString("pattern_cfg.template.type"), QStringLiteral("overlap"));
-    EXPECT_TRUE(test.stack->has("pattern_cfg.template.space_y"));
-}
-
-TEST(PatternTemplateDialog, ShowsStoredValuesBeyondItsFields)
-{
-    TemplateTest test(R"({"pattern_cfg.template.offset_x": 5000, "pattern_cfg.template.type": "spiral"})");
-    EXPECT_EQ(partOf<QSpinBox>(test.dialog, "spnOffsetX")->value(), 5000);
-    EXPECT_EQ(partOf<QComboBox>(test.dialog, "cmbTemplate")->currentIndex(), -1);
-    test.type("spnNumX", 3);
-    EXPECT_EQ(test.stack->getString("pattern_cfg.template.type"), QStringLiteral("spiral"));
-    EXPECT_TRUE(test.dialog.addTemplate()); // a kind that makes nothing
-    EXPECT_EQ(test.items(), QStringList());
-}
-
 TEST(PatternTemplateDialog, AppendsTheItems)
 {
     TemplateTest test;
@@ -153,14 +112,6 @@ TEST(PatternTemplateDialog, AppendsTheItems)
         test.stack->r("patterns.A.#2")->node(),
         nodeFromJson(R"({"x": 226.0, "y": 100.0, "w": 150.0, "h": 200.0, "r": 0, "index": 3, "orient": 0,
                                "direction": "middle", "dx": 0.0, "dy": 0.0, "dz": 0.0})"));
-}
-
-TEST(PatternTemplateDialog, AClipNeedsNoNumbers)
-{
-    TemplateTest test;
-    test.choose("Clip");
-    EXPECT_TRUE(test.dialog.addTemplate());
-    EXPECT_EQ(test.items().size(), 4);
 }
 
 TEST(PatternTemplateDialog, ARefusalAddsNothingAndStaysOpen)
@@ -178,16 +129,6 @@ TEST(PatternTemplateDialog, ARefusalAddsNothingAndStaysOpen)
     EXPECT_EQ(messageText(presenter.asked.value(1)), plainWarning("Wobj is beyond the pallet's x edge"));
     EXPECT_EQ(test.items(), QStringList());
     EXPECT_EQ(finished.count(), 0);
-}
-
-/// The check reads the recipe and the items come from the fields; they agree once a field is left.
-TEST(PatternTemplateDialog, ChecksWhatIsStored)
-{
-    TemplateTest test(R"({"pattern_cfg.template.num_x": 1, "pattern_cfg.template.num_y": 1})");
-    test.stack->set(nullptr, "pattern_cfg.template.num_y", 6);
-    EXPECT_EQ(test.dialog.checkTemplate(), QStringLiteral("Wobj is beyond the pallet's y edge"));
-    test.dialog.loadCfg();
-    EXPECT_EQ(partOf<QSpinBox>(test.dialog, "spnNumY")->value(), 6);
 }
 
 TEST(PatternTemplateDialog, EndsWithItsRecipe)

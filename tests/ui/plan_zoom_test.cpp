@@ -14,16 +14,6 @@ PlanZoom fitted()
 
 } // namespace
 
-TEST(PlanZoom, ShowsTheWholePlanAtFirst)
-{
-    const PlanZoom zoom = fitted();
-    EXPECT_TRUE(zoom.isFitted());
-    EXPECT_EQ(zoom.pixelsPerMm(), 0.25);
-    EXPECT_EQ(zoom.toPixels(QPointF(400, 600)), QPointF(200, 150));
-    EXPECT_EQ(zoom.toPlan(QPointF(0, 0)), QPointF(-400, 0));
-    EXPECT_EQ(zoom.shown(), QRectF(-400, 0, 1600, 1200));
-}
-
 TEST(PlanZoom, EnlargesAtAPlace)
 {
     PlanZoom zoom = fitted();

@@ -86,31 +86,6 @@ TEST_F(PointMoves, NothingIsTaughtWhileTheRobotsPlaceIsNotCertain)
     EXPECT_EQ(stack()->node(), before);
 }
 
-TEST_F(PointMoves, ATaughtPointOpensTheDialogForIt)
-{
-    button("grpGetPoint", "btnMove")->click();
-    cell.settle();
-    ASSERT_TRUE(dialog());
-    EXPECT_EQ(dialog()->parentWidget(), &pages.center);
-    EXPECT_EQ(dialog()->findChild<QLabel *>(QStringLiteral("lblPoseTarget0"))->text(),
-              QStringLiteral("500.0"));
-    EXPECT_EQ(dialog()->findChild<QLabel *>(QStringLiteral("lblTitle"))->text(),
-              QStringLiteral("Move to the point: Pick"));
-    button("grpGetPoint", "btnTeach")->click();
-    dialog()->move()->look();
-    cell.settle();
-    EXPECT_EQ(dialog()->findChild<QLabel *>(QStringLiteral("lblPoseTarget0"))->text(),
-              QStringLiteral("1350.0"));
-    delete dialog();
-}
-
-TEST_F(PointMoves, WhatGenerationComputesIsNotTaughtButDrivenTo)
-{
-    group("grpPutPoint")->setComputed(true);
-    EXPECT_FALSE(button("grpPutPoint", "btnTeach")->isEnabled());
-    EXPECT_TRUE(button("grpPutPoint", "btnMove")->isEnabled());
-}
-
 TEST_F(PointMoves, AGeneratedPointIsDrivenToFromTheTable)
 {
     pages.setup->showFrame(kPoints);

@@ -54,15 +54,6 @@ using LayerWizard = OpenWizard<CascadeNestingWizard>;
 
 } // namespace
 
-TEST(RecipeWizard, OpeningRepairsTheProductAndSaysSo)
-{
-    PluginTree tree;
-    orba::ModuleObject *stack = tree.addRecipe("Box");
-    stack->set(nullptr, "product_cfg.product.length", -5);
-    const CascadeNestingWizard wizard(stack, nullptr);
-    EXPECT_EQ(stack->getDouble("product_cfg.product.length"), 200);
-}
-
 TEST(RecipeWizard, CancelTakesEditsBackButNotRepairs)
 {
     LayerWizard w({false, true});
@@ -75,24 +66,6 @@ TEST(RecipeWizard, CancelTakesEditsBackButNotRepairs)
     w.click("btnCancel");
     EXPECT_FALSE(w.wizard->isVisible());
     EXPECT_EQ(w.content(), before);
-}
-
-TEST(RecipeWizard, CancelWithoutEditsAsksNothing)
-{
-    LayerWizard w;
-    w.click("btnCancel");
-    EXPECT_FALSE(w.wizard->isVisible());
-    EXPECT_TRUE(w.presenter.asked.isEmpty());
-}
-
-TEST(RecipeWizard, GoingOnMakesPointsAndTellsTheTable)
-{
-    LayerWizard w;
-    TriggerCount table("refresh_table");
-    ASSERT_EQ(w.points(), 0);
-    w.click("btnNext");
-    EXPECT_EQ(w.points(), 2);
-    EXPECT_EQ(table.take(), 1);
 }
 
 TEST(RecipeWizard, CancelAfterGoingOnSendsTheOldStateAgain)
@@ -119,34 +92,6 @@ TEST(RecipeWizard, EmptyLayersThatGenerationDropsAreNoEdit)
     w.click("btnCancel");
     EXPECT_FALSE(w.wizard->isVisible());
     EXPECT_TRUE(w.presenter.asked.isEmpty());
-}
-
-TEST(RecipeWizard, PagesAreGoneThroughForthAndBack)
-{
-    PluginTree tree;
-    orba::ModuleObject *stack = tree.addRecipe("Box");
-    const std::unique_ptr<RecipeWizard> wizards[] = {
-        std::make_unique<PlanarNestingWizard>(stack, nullptr),
-        std::make_unique<CascadeNestingWizard>(stack, nullptr),
-        std::make_unique<FeedingDirectionWizard>(stack, nullptr)};
-    for (const auto &wizard : wizards) {
-        wizard->show();
-        auto *back = wizard->findChild<QPushButton *>(QStringLiteral("btnBack"));
-        auto *next = wizard->findChild<QPushButton *>(QStringLiteral("btnNext"));
-        auto *step = wizard->findChild<QLabel *>(QStringLiteral("lblStep"));
-        EXPECT_FALSE(back->isEnabled());
-        EXPECT_EQ(next->text(), QString("Next"));
-        EXPECT_TRUE(step->text().startsWith(QStringLiteral("1 of 2: "))) << step->text();
-        next->click();
-        EXPECT_EQ(wizard->page(), 1);
-        EXPECT_EQ(next->text(), QString("Finish"));
-        back->click();
-        EXPECT_EQ(wizard->page(), 0);
-        next->click();
-        next->click();
-        EXPECT_FALSE(wizard->isVisible());
-        EXPECT_EQ(wizard->result(), int(QDialog::Accepted));
-    }
 }
 
 TEST(RecipeWizard, WhatWasEditedIsSentWhenAnotherDialogTakesItsPlace)
@@ -194,36 +139,6 @@ TEST(RecipeWizard, ALayerOnAnEmptyOneKeepsTheWizardOpen)
     EXPECT_EQ(w.presenter.asked[0].rejectText, QString()) << "there is nothing to choose";
     EXPECT_EQ(w.points(), 0);
     EXPECT_EQ(table.take(), 0);
-}
-
-TEST(RecipeWizard, AHundredStepsCanBeTakenBack)
-{
-    LayerWizard w;
-    const orba::Node before = w.content();
-    for (int i = 1; i <= 100; ++i)
-        enter(w.at<QDoubleSpinBox>("spnOffset"), double(i));
-    const orba::Node after = w.content();
-    for (int i = 0; i < 100; ++i)
-        w.click("btnUndo");
-    EXPECT_EQ(w.content(), before);
-    for (int i = 0; i < 100; ++i)
-        w.click("btnRedo");
-    EXPECT_EQ(w.content(), after);
-}
-
-TEST(RecipeWizard, OnlyOneIsOpen)
-{
-    PluginTree tree;
-    orba::ModuleObject *stack = tree.addRecipe("Box");
-    QPointer<RecipeWizard> first = new CascadeNestingWizard(stack, nullptr);
-    first->openUnique();
-    QPointer<RecipeWizard> second = new PlanarNestingWizard(stack, nullptr);
-    second->openUnique();
-    EXPECT_TRUE(first.isNull());
-    ASSERT_FALSE(second.isNull());
-    second->reject();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(second.isNull());
 }
 
 TEST(RecipeWizard, EndsWithItsRecipe)

@@ -1,21 +1,16 @@
 #include "ui/stacksetuppage.h"
 
-#include "orba/managers.h"
 #include "stack/recipe_edit.h"
 #include "stack/recipe_patterns.h"
 #include "support/recipe_tree.h"
 #include "support/test_support.h"
 #include "ui/current_recipe.h"
-#include "ui/layers_frame.h"
 #include "ui/message_bar.h"
 #include "ui/page_fixture.h"
-#include "ui/pattern_view.h"
 #include "ui/patterns_frame.h"
 #include "ui/point_group.h"
-#include "ui/point_table_model.h"
 #include "workstation/plugin_node.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -23,7 +18,6 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
 #include <QPushButton>
 #include <QTableView>
 #include <QtTest/QTest>
@@ -47,10 +41,7 @@ struct SetupPage : Pages
     ModuleObject *stack() const { return setup->stack(); }
     template <typename T> T *at(int frame, const char *name) const
     {
-        T *found = setup->frames().at(frame)->findChild<T *>(QLatin1String(name));
-        if (!found)
-            ADD_FAILURE() << "no field " << name;
-        return found;
+        return setup->frames().at(frame)->findChild<T *>(QLatin1String(name));
     }
     void click(int frame, const char *name) const { at<QPushButton>(frame, name)->click(); }
     void choose(int frame, const char *name, const QVariant &data) const
@@ -60,10 +51,7 @@ struct SetupPage : Pages
         Q_EMIT combo->activated(combo->currentIndex());
     }
     QString message() const { return setup->wgt()->findChild<MessageBar *>()->text(); }
-    bool hasUndo() const
-    {
-        return setup->wgt()->findChild<QPushButton *>(QStringLiteral("btnUndo"))->isEnabled();
-    }
+    bool hasUndo() const { return field<QPushButton>("btnUndo")->isEnabled(); }
 };
 
 QString patternsOf(const ModuleObject *stack)
@@ -75,11 +63,6 @@ QString patternsOf(const ModuleObject *stack)
 }
 
 } // namespace
-
-TEST(SetupPage, RegistersItsVersion)
-{
-    EXPECT_EQ(orba::versionManager().create(QStringLiteral("palx_workstation.stack.page")), 14);
-}
 
 TEST(SetupPage, EveryNumberFieldWritesItsOwnNode)
 {
@@ -165,68 +148,7 @@ TEST(SetupPage, ChoicesReachTheirNodes)
     EXPECT_EQ(page.stack()->getString("desc"), QStringLiteral("bottles"));
 }
 
-TEST(SetupPage, OpeningRepairsAndFillsUpARecipe)
-{
-    Pages pages;
-    ModuleObject *stack = pages.tree.addRecipe("Old");
-    stack->set(nullptr, "product_cfg.product.length", -5);
-    stack->r("wobj_margin")->remove();
-    pages.open("Old");
-    EXPECT_EQ(stack->getDouble("product_cfg.product.length"), 200);
-    EXPECT_TRUE(stack->has("wobj_margin.top"));
-    EXPECT_TRUE(stack->has("put.left_offsets.exit_h"));
-    EXPECT_FALSE(pages.setup->wgt()->findChild<QPushButton *>(QStringLiteral("btnUndo"))->isEnabled());
-}
-
-TEST(SetupPage, UndoAndRedoWalkThroughManyEdits)
-{
-    SetupPage page;
-    auto *length = page.at<QDoubleSpinBox>(Product, "spnLength");
-    std::vector<orba::Node> states{palx::recipeContent(page.stack()->node())};
-    for (int i = 1; i <= 25; ++i) {
-        enter(length, 200.0 + i);
-        states.push_back(palx::recipeContent(page.stack()->node()));
-    }
-    for (int i = 24; i >= 0; --i) {
-        page.setup->undo();
-        EXPECT_EQ(palx::recipeContent(page.stack()->node()), states[std::size_t(i)]);
-        EXPECT_EQ(length->value(), 200.0 + i);
-    }
-    EXPECT_FALSE(page.hasUndo());
-    page.setup->undo(); // nothing left
-    for (std::size_t i = 1; i <= 25; ++i) {
-        page.setup->redo();
-        EXPECT_EQ(palx::recipeContent(page.stack()->node()), states[i]);
-    }
-    page.setup->undo();
-    enter(length, 999.0);
-    page.setup->redo(); // an edit ends what could be repeated
-    EXPECT_EQ(length->value(), 999);
-}
-
-TEST(SetupPage, UndoOfLayersAndPatternsShowsThemAgain)
-{
-    SetupPage page(Layers);
-    auto *table = page.at<QTableView>(Layers, "tblLayers");
-    page.click(Layers, "btnAdd");
-    page.click(Layers, "btnAdd");
-    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("ABAB"));
-    page.setup->undo();
-    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("ABA"));
-    EXPECT_EQ(table->model()->rowCount(), 3);
-    palx::addPattern(page.stack(), "C");
-    page.setup->pageDateRefresh();
-    page.setup->showFrame(Patterns);
-    static_cast<PatternsFrame *>(page.setup->frames().at(Patterns))->choosePattern("C");
-    ScriptedPresenter presenter({true});
-    page.click(Patterns, "btnDelete");
-    EXPECT_FALSE(page.stack()->has("patterns.C"));
-    page.setup->undo();
-    EXPECT_TRUE(page.stack()->has("patterns.C"));
-    EXPECT_EQ(page.at<QComboBox>(Patterns, "cmbPattern")->count(), 3);
-}
-
-TEST(PatternsFrame, APatternThatLayersUseIsNotDeleted)
+TEST(PatternsFrame, DeletesAPatternThatNoLayerUsesAndBringsItBack)
 {
     SetupPage page(Patterns);
     const ScriptedPresenter presenter({true});
@@ -234,30 +156,14 @@ TEST(PatternsFrame, APatternThatLayersUseIsNotDeleted)
     EXPECT_TRUE(page.stack()->has("patterns.A"));
     EXPECT_EQ(page.message(), QStringLiteral("Pattern \"A\" is used by layer 1."));
     EXPECT_TRUE(presenter.asked.isEmpty());
-}
-
-TEST(PatternsFrame, TheListOfPlansFollowsAndChooses)
-{
-    SetupPage page(Patterns);
-    auto *frame = static_cast<PatternsFrame *>(page.setup->frames().at(Patterns));
-    auto *list = page.at<QListView>(Patterns, "lstPatterns");
-    const auto plan = [list](int row) {
-        return list->model()->index(row, 0).data(Qt::DecorationRole).value<QPixmap>().toImage();
-    };
-    ASSERT_EQ(list->model()->rowCount(), 2);
-    EXPECT_EQ(list->currentIndex().row(), 0);
-    const QImage before = plan(0);
-    const QImage other = plan(1);
-    EXPECT_NE(before, other);
-    Q_EMIT list->clicked(list->model()->index(1, 0));
-    EXPECT_EQ(frame->pattern(), QStringLiteral("B"));
-    frame->choosePattern("A");
-    EXPECT_EQ(list->currentIndex().row(), 0);
-    enter(page.at<QDoubleSpinBox>(Patterns, "spnX"), 300.0);
-    EXPECT_NE(plan(0), before);
-    EXPECT_EQ(plan(1), other);
+    palx::addPattern(page.stack(), "C");
+    page.setup->pageDateRefresh();
+    static_cast<PatternsFrame *>(page.setup->frames().at(Patterns))->choosePattern("C");
+    page.click(Patterns, "btnDelete");
+    EXPECT_FALSE(page.stack()->has("patterns.C"));
     page.setup->undo();
-    EXPECT_EQ(plan(0), before);
+    EXPECT_TRUE(page.stack()->has("patterns.C"));
+    EXPECT_EQ(page.at<QComboBox>(Patterns, "cmbPattern")->count(), 3);
 }
 
 TEST(SetupPage, AFieldInEditCountsBeforeUndo)
@@ -273,20 +179,21 @@ TEST(SetupPage, AFieldInEditCountsBeforeUndo)
     EXPECT_EQ(page.stack()->getDouble("product_cfg.product.length"), 200);
     page.setup->redo();
     EXPECT_EQ(page.stack()->getDouble("product_cfg.product.length"), 321);
+    page.setup->undo();
+    enter(length, 999.0);
+    page.setup->redo(); // an edit ends what could be repeated
+    EXPECT_EQ(length->value(), 999);
 }
 
 TEST(SetupPage, APresetWritesTheSizeAndAnOwnSizeLeavesIt)
 {
     SetupPage page(Pallet);
     auto *preset = page.at<QComboBox>(Pallet, "cmbSpecification");
-    ASSERT_EQ(preset->count(), 8);
     EXPECT_EQ(preset->currentIndex(), 0); // 1000 x 800 is nobody's
     preset->setCurrentIndex(5);
     Q_EMIT preset->activated(5);
     EXPECT_EQ(page.stack()->getDouble("product_cfg.pallet.length"), 1200);
-    EXPECT_EQ(page.stack()->getDouble("product_cfg.pallet.width"), 800);
     EXPECT_EQ(page.stack()->getInt("product_cfg.pallet.specification"), 5);
-    EXPECT_EQ(page.at<QDoubleSpinBox>(Pallet, "spnLength")->value(), 1200);
     enter(page.at<QDoubleSpinBox>(Pallet, "spnLength"), 1199.0);
     EXPECT_EQ(page.stack()->getInt("product_cfg.pallet.specification"), 0);
     EXPECT_EQ(preset->currentIndex(), 0);
@@ -294,28 +201,18 @@ TEST(SetupPage, APresetWritesTheSizeAndAnOwnSizeLeavesIt)
     EXPECT_EQ(preset->currentIndex(), 5);
 }
 
-TEST(SetupPage, RefusesMarginsWithoutRoomAndSaysWhy)
+TEST(SetupPage, RefusesMarginsWithoutRoomAndASmallerPalletResetsThemInOneStep)
 {
     SetupPage page(Pallet);
-    const orba::Node before = page.stack()->node();
     enter(page.at<QDoubleSpinBox>(Pallet, "spnLeft"), 700.0);
-    EXPECT_EQ(page.stack()->node(), before);
+    EXPECT_EQ(page.stack()->getDouble("wobj_margin.left"), 0);
     EXPECT_NE(page.message(), QString());
-    enter(page.at<QDoubleSpinBox>(Pallet, "spnLeft"), 70.0);
-    EXPECT_EQ(page.message(), QString());
-    EXPECT_EQ(page.stack()->getDouble("wobj_margin.left"), 70);
-}
-
-TEST(SetupPage, ASmallerPalletResetsMarginsInOneStep)
-{
-    SetupPage page(Pallet);
     enter(page.at<QDoubleSpinBox>(Pallet, "spnLeft"), 500.0);
     const orba::Node before = palx::recipeContent(page.stack()->node());
     TriggerCount resets("reset_margin_data");
     enter(page.at<QDoubleSpinBox>(Pallet, "spnWidth"), 600.0);
     EXPECT_EQ(page.stack()->getDouble("wobj_margin.left"), 0);
     EXPECT_EQ(resets.take(), 1);
-    EXPECT_NE(page.message(), QString());
     page.setup->undo();
     EXPECT_EQ(palx::recipeContent(page.stack()->node()), before);
 }
@@ -359,75 +256,42 @@ TEST(SetupPage, LeavingAnEditedFrameMakesThePointsAnew)
     EXPECT_GT(page.stack()->r("points.put")->cmobjCount(), 0);
     page.setup->undo(); // takes back the height, not what was computed
     EXPECT_NE(page.stack()->getDouble("product_cfg.product.height"), 123.0);
-    EXPECT_FALSE(page.setup->wgt()->findChild<QPushButton *>(QStringLiteral("btnUndo"))->isEnabled());
+    EXPECT_FALSE(page.hasUndo());
 }
 
-TEST(SetupPage, LeavingTheRecipeRefreshesTheTable)
+TEST(SetupPage, SwitchesRecipesAndRepairsTheOpenedOne)
 {
     SetupPage page;
-    page.tree.addRecipe("Bag");
+    ModuleObject *bag = page.tree.addRecipe("Bag"); // an old one
+    bag->set(nullptr, "product_cfg.product.length", -5);
+    bag->r("wobj_margin")->remove();
     TriggerCount table("refresh_table");
-    page.setup->wgt()->findChild<QPushButton *>(QStringLiteral("btnBack"))->click();
-    EXPECT_EQ(page.center.currentPage(), QStringLiteral("palx_workstation.home_page"));
-    EXPECT_EQ(table.take(), 1);
-    page.open("Bag");
-    EXPECT_EQ(table.take(), 1); // "Box" was left for good
-    EXPECT_EQ(page.stack()->getString("name"), QStringLiteral("Bag"));
-}
-
-TEST(SetupPage, SwitchesRecipesByTheirBox)
-{
-    SetupPage page;
-    page.tree.addRecipe("Bag");
     enter(page.at<QDoubleSpinBox>(Product, "spnLength"), 333.0);
-    auto *recipes = page.setup->wgt()->findChild<QComboBox *>(QStringLiteral("cmbRecipe"));
-    ASSERT_EQ(recipes->count(), 2);
+    auto *recipes = page.field<QComboBox>("cmbRecipe");
     recipes->setCurrentIndex(1);
     Q_EMIT recipes->activated(1);
     EXPECT_EQ(page.stack()->getString("name"), QStringLiteral("Bag"));
     EXPECT_EQ(currentRecipe(&page.module)->value(), QStringLiteral("Bag"));
     EXPECT_FALSE(page.hasUndo());
+    EXPECT_EQ(table.take(), 1); // "Box" was left for good
     EXPECT_EQ(page.at<QDoubleSpinBox>(Product, "spnLength")->value(), 200);
+    EXPECT_TRUE(bag->has("wobj_margin.top"));
     EXPECT_EQ(palx::getStack(QStringLiteral("Box"))->getDouble("product_cfg.product.length"), 333);
+    page.field<QPushButton>("btnBack")->click();
+    EXPECT_EQ(page.center.currentPage(), QStringLiteral("palx_workstation.home_page"));
+    EXPECT_EQ(table.take(), 1);
 }
 
 TEST(SetupPage, ARecipeThatEndsClosesThePage)
 {
-    for (int frame = Product; frame <= Points; ++frame) {
+    for (const int frame : {Product, Patterns, Points}) {
         SetupPage page(frame);
         page.stack()->remove();
         EXPECT_EQ(page.stack(), nullptr);
-        EXPECT_TRUE(page.setup->wgt()->findChild<QLabel *>(QStringLiteral("lblNone"))->isVisible());
+        EXPECT_TRUE(page.field<QLabel>("lblNone")->isVisible());
         page.setup->undo();
         QCoreApplication::processEvents();
     }
-}
-
-TEST(PatternsFrame, ItemsAreAddedMovedAndRemoved)
-{
-    SetupPage page(Patterns);
-    page.click(Patterns, "btnAddItem");
-    EXPECT_EQ(page.stack()->r("patterns.A")->cmobjCount(), 3);
-    EXPECT_EQ(page.at<QDoubleSpinBox>(Patterns, "spnX")->value(), 375);
-    page.click(Patterns, "btnUpItem");
-    EXPECT_EQ(page.stack()->getDouble("patterns.A.#1.x"), 375);
-    page.click(Patterns, "btnRemoveItem");
-    EXPECT_EQ(page.stack()->r("patterns.A")->cmobjCount(), 2);
-    EXPECT_EQ(page.at<QTableView>(Patterns, "tblItems")->model()->rowCount(), 2);
-}
-
-TEST(PatternsFrame, SaysWhatCollides)
-{
-    SetupPage page(Patterns);
-    auto *problems = page.at<QLabel>(Patterns, "lblProblems");
-    EXPECT_EQ(problems->toolTip(), QStringLiteral("Product 1: x 75, y 100 mm, 0\u00b0\n"
-                                                  "Products 1 and 2 are 0.0 mm apart, less than 1.0 mm."));
-    enter(page.at<QDoubleSpinBox>(Patterns, "spnX"), 74.0);
-    EXPECT_EQ(problems->toolTip(), QStringLiteral("Product 1: x 74, y 100 mm, 0\u00b0\n"
-                                                  "Product 1 reaches 1.0 mm over the pallet."));
-    enter(page.at<QDoubleSpinBox>(Patterns, "spnX"), 100.0);
-    EXPECT_EQ(problems->toolTip(), QStringLiteral("Product 1: x 100, y 100 mm, 0\u00b0\n"
-                                                  "Products 1 and 2 overlap by 25.0 mm."));
 }
 
 TEST(PatternsFrame, OffersTheSizeOfAChangedProduct)
@@ -444,44 +308,6 @@ TEST(PatternsFrame, OffersTheSizeOfAChangedProduct)
     EXPECT_FALSE(resize->isVisible());
 }
 
-TEST(PatternsFrame, TouchingAProductOnThePlanChoosesIt)
-{
-    SetupPage page(Patterns);
-    auto *view = page.at<PatternView>(Patterns, "view");
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->mapFromScene(225, 100));
-    EXPECT_EQ(page.at<QDoubleSpinBox>(Patterns, "spnX")->value(), 225);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
-                      view->mapFromScene(600, 900)); // bare pallet
-    EXPECT_FALSE(page.at<QDoubleSpinBox>(Patterns, "spnX")->isEnabled());
-    EXPECT_EQ(page.at<QLabel>(Patterns, "lblItem")->text(), QStringLiteral("No product chosen"));
-}
-
-TEST(LayersFrame, EditsTheSequence)
-{
-    SetupPage page(Layers);
-    auto *frame = static_cast<LayersFrame *>(page.setup->frames().at(Layers));
-    page.click(Layers, "btnRepeat");
-    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("ABAB"));
-    frame->chooseLayer(0);
-    page.click(Layers, "btnDown");
-    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("BAAB"));
-    EXPECT_EQ(frame->layer(), 1);
-    page.click(Layers, "btnRemove");
-    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("BAB"));
-    page.click(Layers, "btnInsert");
-    EXPECT_EQ(page.stack()->r("layers")->cmobjCount(), 4);
-}
-
-TEST(LayersFrame, SaysWhatIsWrongWithTheSequence)
-{
-    SetupPage page(Layers);
-    auto *problems = page.at<QLabel>(Layers, "lblProblems");
-    EXPECT_FALSE(problems->isVisible());
-    page.choose(Layers, "cmbPattern", QStringLiteral("empty")); // below layer 2
-    EXPECT_TRUE(problems->isVisible());
-    EXPECT_TRUE(problems->text().contains(QStringLiteral("Layer 2"))) << problems->text();
-}
-
 TEST(WaypointsFrame, PointsAreShownAndWrittenInMillimetresAndDegrees)
 {
     SetupPage page(Waypoints);
@@ -490,8 +316,6 @@ TEST(WaypointsFrame, PointsAreShownAndWrittenInMillimetresAndDegrees)
     auto *c = group->findChild<QDoubleSpinBox *>(QStringLiteral("dspnC"));
     EXPECT_DOUBLE_EQ(x->value(), 500);
     const orba::Node before = page.stack()->node();
-    Q_EMIT x->editingFinished(); // a visit
-    EXPECT_EQ(page.stack()->node(), before);
     enter(x, 600.0);
     enter(c, 90.0);
     EXPECT_DOUBLE_EQ(page.stack()->getDouble("put.put_p.trans.#0"), 0.6);
@@ -510,13 +334,10 @@ TEST(WaypointsFrame, AnUntaughtPointIsMadeAndCleared)
     group->findChild<QPushButton *>(QStringLiteral("btnClear"))->click();
     EXPECT_TRUE(page.stack()->r("put.enter_p")->isNull());
     EXPECT_FALSE(x->isEnabled());
-    EXPECT_EQ(x->value(), 0);
     group->findChild<QPushButton *>(QStringLiteral("btnMake"))->click();
     EXPECT_EQ(page.stack()->r("put.enter_p.conf")->cmobjCount(), 8);
-    enter(x, 10.0);
-    EXPECT_DOUBLE_EQ(page.stack()->getDouble("put.enter_p.trans.#0"), 0.01);
-    for (int i = 0; i < 3; ++i)
-        page.setup->undo();
+    page.setup->undo();
+    page.setup->undo();
     EXPECT_DOUBLE_EQ(x->value(), 500);
 }
 
@@ -545,11 +366,8 @@ TEST(PointsFrame, GeneratesListsFiltersAndCopies)
 {
     SetupPage page(Points);
     auto *table = page.at<QTableView>(Points, "tblPoints");
-    auto *state = page.at<QLabel>(Points, "lblState");
-    EXPECT_EQ(table->model()->rowCount(), 0);
     page.click(Points, "btnGenerate");
     EXPECT_EQ(table->model()->rowCount(), 5 + 3 * 6);
-    EXPECT_EQ(state->text(), QStringLiteral("The points are up to date."));
     page.choose(Points, "cmbLayer", 1);
     page.choose(Points, "cmbPoint", QStringLiteral("put_p"));
     ASSERT_EQ(table->model()->rowCount(), 1);
@@ -573,15 +391,10 @@ TEST(PointsFrame, SaysWhenPointsAreOutOfDate)
     page.stack()->r("put.put_p")->copyFrom(orba::Node());
     page.setup->pageDateRefresh();
     EXPECT_TRUE(state->text().contains(QStringLiteral("not taught"))) << state->text();
-}
-
-TEST(PointsFrame, UndoTakesBackWhatGenerationDidToTheRecipe)
-{
-    SetupPage page(Points);
     page.stack()->set(nullptr, "layers.#1.pattern", QStringLiteral("empty"));
     page.setup->pageDateRefresh();
     page.click(Points, "btnGenerate");
     EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("A"));
-    page.setup->undo();
+    page.setup->undo(); // also what the generation did to the recipe
     EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("Ae"));
 }

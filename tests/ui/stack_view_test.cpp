@@ -74,17 +74,6 @@ TEST(StackView, DraggingSidewaysTurnsTheNearSideAlong)
     EXPECT_EQ(page.view()->drawing().turn(), 0);
 }
 
-TEST(StackView, ButtonsTurnInStepsAllTheWayRound)
-{
-    StackPage page;
-    for (int i = 0; i < 24; ++i) {
-        page.click("btnTurnRight");
-        EXPECT_DOUBLE_EQ(page.view()->drawing().turn(), std::remainder(15.0 * (i + 1), 360));
-    }
-    page.click("btnTurnLeft");
-    EXPECT_EQ(page.view()->drawing().turn(), -15);
-}
-
 TEST(StackView, WheelAndButtonsEnlargeWithinBounds)
 {
     StackPage page;
@@ -96,19 +85,6 @@ TEST(StackView, WheelAndButtonsEnlargeWithinBounds)
     EXPECT_LT(page.view()->zoom(), palx::IsoCamera::kMostZoom);
     page.wheel(-100);
     EXPECT_EQ(page.view()->zoom(), 1) << "smaller than the view would be of no use";
-}
-
-TEST(StackView, ATouchTellsThePieceAndADragDoesNot)
-{
-    StackPage page;
-    QSignalSpy touched(page.view(), &StackView::pieceTouched);
-    page.drag(QPoint(40, 40));
-    EXPECT_EQ(touched.count(), 0);
-    page.view()->resetView();
-    page.frame.grab();
-    QTest::mouseClick(page.view(), Qt::LeftButton, {}, QPoint(2, 2));
-    ASSERT_EQ(touched.count(), 1);
-    EXPECT_FALSE(touched.takeFirst()[0].value<Piece>().isSet()) << "beside the stack";
 }
 
 TEST(StackView, StepsLayBoxesAndLayersAndMarkTheLastInBothPictures)
@@ -134,13 +110,6 @@ TEST(StackView, StepsLayBoxesAndLayersAndMarkTheLastInBothPictures)
     EXPECT_FALSE(page.frame.findChild<QPushButton *>(QStringLiteral("btnBoxOn"))->isEnabled());
     EXPECT_EQ(page.frame.findChild<QLabel *>(QStringLiteral("lblPlace"))->text(),
               QStringLiteral("3 of 3: layer 2, box 1"));
-}
-
-TEST(StackView, ABoxTouchedOnThePlanIsMarkedInTheStack)
-{
-    StackPage page;
-    Q_EMIT page.plan()->itemTouched(1);
-    EXPECT_EQ(page.panel()->marked(), (Piece{0, 1}));
 }
 
 TEST(StackView, AnEditKeepsTurnStepsAndMark)
