@@ -3,6 +3,7 @@
 #include "pattern/patternscene.h"
 #include "support/recipe_tree.h"
 #include "support/test_support.h"
+#include "ui/page_fixture.h"
 
 #include <QWidget>
 
@@ -39,14 +40,6 @@ struct OpenPattern
     PatternScene scene;
     QWidget window;
 };
-
-/// A child of a dialog; a missing one fails the test.
-template <typename Widget> Widget *partOf(const QWidget &dialog, const char *name)
-{
-    auto *found = dialog.findChild<Widget *>(QLatin1String(name));
-    Q_ASSERT_X(found, "partOf", name);
-    return found;
-}
 
 /// "title / text / text of the refusing button"
 inline QString messageText(const nexo::Message &message)

@@ -9,16 +9,12 @@
 #include "ui/keypad.h"
 #include "ui/layer_series_dialog.h"
 #include "ui/long_work_dialog.h"
-#include "ui/message_bar.h"
 #include "ui/name_dialog.h"
 #include "ui/nesting_wizards.h"
 #include "ui/page_fixture.h"
 #include "ui/page_scroll.h"
 #include "ui/pattern_name_dialog.h"
 #include "ui/pattern_template_dialog.h"
-#include "ui/recipe_frame.h"
-#include "ui/stackhomepage.h"
-#include "ui/stacksetuppage.h"
 #include "ui/stick_fixture.h"
 
 #include <QApplication>

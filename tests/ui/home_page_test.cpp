@@ -1,9 +1,7 @@
-#include "ui/stackhomepage.h"
-#include "ui/stacksetuppage.h"
-
+#include "support/scripted_files.h"
 #include "support/test_support.h"
 #include "ui/current_recipe.h"
-#include "ui/message_bar.h"
+#include "ui/imexportdialog.h"
 #include "ui/name_dialog.h"
 #include "ui/page_fixture.h"
 #include "ui/projectmanager.h"
@@ -13,19 +11,12 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
 
 namespace {
-
-QStringList stackNames()
-{
-    QStringList names;
-    for (int i = 0; i < palx::stacksNode()->cmobjCount(); ++i)
-        names << palx::stacksNode()->getString(QStringLiteral("#%1.name").arg(i));
-    return names;
-}
 
 QStringList shownNames(const Pages &pages)
 {
@@ -38,10 +29,7 @@ QStringList shownNames(const Pages &pages)
 
 void click(const Pages &pages, const char *button)
 {
-    auto *found =
-        pages.home->wgt() ? pages.home->wgt()->findChild<QPushButton *>(QLatin1String(button)) : nullptr;
-    ASSERT_NE(found, nullptr) << button;
-    found->click();
+    partOf<QPushButton>(*pages.home->wgt(), button)->click();
 }
 
 /// The part of the page with the recipes; the other part has a message bar of its own.
@@ -50,19 +38,31 @@ QWidget *recipesOf(const Pages &pages)
     return pages.field<QListView>("lstRecipes")->parentWidget();
 }
 
+MessageBar *message(const Pages &pages)
+{
+    return recipesOf(pages)->findChild<MessageBar *>();
+}
+
+/// The dialog of recipes in files, with a file chosen.
+ImExportDialog *openExchange(const Pages &pages, ScriptedFiles *files, const char *button,
+                             const QString &file)
+{
+    pages.field<QPushButton>(button)->click();
+    files->answer({file});
+    auto *dialog = pages.center.findChild<ImExportDialog *>();
+    dialog->openFile();
+    return dialog;
+}
+
 /// Answers the dialog that asks for a name; returns the reason when it refuses.
 QString answerName(const Pages &pages, const char *name, const char *desc = nullptr)
 {
     auto *dialog = pages.center.findChild<NameDialog *>();
-    if (!dialog) {
-        ADD_FAILURE() << "no dialog";
-        return QString();
-    }
-    dialog->findChild<QLineEdit *>(QStringLiteral("edtName"))->setText(QString::fromUtf8(name));
+    partOf<QLineEdit>(*dialog, "edtName")->setText(QString::fromUtf8(name));
     if (desc)
-        dialog->findChild<QLineEdit *>(QStringLiteral("edtDesc"))->setText(QString::fromUtf8(desc));
-    auto *ok = dialog->findChild<QPushButton *>(QStringLiteral("btnOk"));
-    const QString reason = dialog->findChild<QLabel *>(QStringLiteral("lblReason"))->text();
+        partOf<QLineEdit>(*dialog, "edtDesc")->setText(QString::fromUtf8(desc));
+    auto *ok = partOf<QPushButton>(*dialog, "btnOk");
+    const QString reason = partOf<QLabel>(*dialog, "lblReason")->text();
     EXPECT_EQ(ok->isEnabled(), reason.isEmpty());
     ok->isEnabled() ? ok->click() : dialog->reject();
     delete dialog; // as its closing does a turn of the loop later
@@ -94,7 +94,7 @@ TEST(HomePage, MakesARecipeFromTheTemplate)
     click(pages, "btnNew");
     EXPECT_EQ(pages.center.findChild<NameDialog *>()->name(), QStringLiteral("Recipe 1"));
     EXPECT_EQ(answerName(pages, " Box 1 ", "small ones"), QString());
-    EXPECT_EQ(stackNames(), QStringList(QStringLiteral("Box 1")));
+    EXPECT_EQ(shownNames(pages), QStringList(QStringLiteral("Box 1")));
     orba::ModuleObject *stack = palx::getStack(QStringLiteral("Box 1"));
     EXPECT_EQ(stack->getString("desc"), QStringLiteral("small ones"));
     EXPECT_EQ(pages.home->chosenStack(), stack);
@@ -111,7 +111,7 @@ TEST(HomePage, CopiesAndRenames)
     click(pages, "btnCopy");
     EXPECT_EQ(pages.center.findChild<NameDialog *>()->name(), QStringLiteral("Box1"));
     answerName(pages, "Crate");
-    EXPECT_EQ(stackNames().join(QLatin1Char(' ')), QStringLiteral("Box Crate Bag"));
+    EXPECT_EQ(shownNames(pages).join(QLatin1Char(' ')), QStringLiteral("Box Crate Bag"));
     EXPECT_EQ(pages.home->chosenStack()->getString("name"), QStringLiteral("Crate"));
     click(pages, "btnRename");
     EXPECT_NE(answerName(pages, "Bag"), QString());
@@ -136,7 +136,7 @@ TEST(HomePage, DeletesOnlyWhenConfirmedAndTakesItBack)
     EXPECT_TRUE(presenter.asked.last().text.contains(QStringLiteral("\"B\"")));
     EXPECT_EQ(shownNames(pages).join(QLatin1Char(' ')), QStringLiteral("A C"));
     EXPECT_EQ(pages.home->chosenStack()->getString("name"), QStringLiteral("C"));
-    recipesOf(pages)->findChild<QPushButton *>(QStringLiteral("btnAction"))->click();
+    partOf<QPushButton>(*message(pages), "btnAction")->click();
     EXPECT_EQ(palx::stacksNode()->node(), before);
     EXPECT_EQ(pages.home->chosenStack()->getString("name"), QStringLiteral("B"));
 }
@@ -209,5 +209,43 @@ TEST(HomePage, NamesAreNeverReadAsPaths)
         pages.home->chooseRecipe(QLatin1String(name));
         click(pages, "btnOpen");
         EXPECT_EQ(pages.setup->stack()->getString("name"), QLatin1String(name));
+    }
+}
+
+// What came, went and came back by files, and what the set-up page shows of it.
+TEST(HomePage, ExportsImportsAndTakesItBack)
+{
+    Pages pages;
+    for (const char *name : {"A", "B"})
+        pages.tree.addRecipe(name);
+    ScriptedFiles files;
+    ScriptedPresenter presenter;
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("pallet.xml"));
+    const auto length = [&pages] { return pages.setup->stack()->getDouble("product_cfg.product.length"); };
+    partOf<QPushButton>(*openExchange(pages, &files, "btnExport", file), "btnOk")->click();
+    EXPECT_TRUE(message(pages)->text().startsWith(QStringLiteral("2 recipes were written to ") + file));
+    palx::getStack(QStringLiteral("A"))->set(nullptr, "product_cfg.product.length", 321.0);
+    for (const bool replaces : {false, true}) {
+        pages.open("A");
+        const orba::Node before = palx::stacksNode()->node();
+        ImExportDialog *dialog = openExchange(pages, &files, "btnImport", file);
+        if (replaces)
+            partOf<QAbstractButton>(*dialog, "optReplace")->click();
+        partOf<QPushButton>(*dialog, "btnOk")->click();
+        EXPECT_EQ(shownNames(pages).join(' '), QString(replaces ? "A B" : "A B A1 B1"));
+        EXPECT_EQ(
+            message(pages)->text(),
+            QStringLiteral("Imported: 2 new recipes, %1 of them replace others.").arg(replaces ? 2 : 0));
+        EXPECT_EQ(length(), replaces ? 200 : 321); // another node by now
+        if (!replaces)
+            pages.open("A1");
+        presenter.answer(true);
+        partOf<QPushButton>(*message(pages), "btnAction")->click();
+        EXPECT_EQ(palx::stacksNode()->node(), before);
+        if (replaces)
+            EXPECT_EQ(length(), 321);
+        else
+            EXPECT_EQ(pages.setup->stack(), nullptr); // its recipe went with the import
     }
 }

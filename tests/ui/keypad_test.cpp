@@ -139,11 +139,13 @@ TEST(KeypadOpener, TakesTheNumberOverAsIfTyped)
 {
     const Touch on(true);
     TouchForm form;
-    const QSignalSpy finished(form.number, &QDoubleSpinBox::editingFinished);
+    QSignalSpy finished(form.number, &QDoubleSpinBox::editingFinished);
     form.touch(form.number);
     press(form.keypad(), "9 Cancel");
     EXPECT_EQ(form.number->value(), 0);
+    EXPECT_EQ(finished.size(), 0);
     form.touch(form.number);
+    finished.clear();
     ASSERT_NE(form.keypad(), nullptr);
     EXPECT_EQ(form.keypad()->windowTitle(), QStringLiteral("Width"));
     EXPECT_TRUE(limits(*form.keypad()).contains(QStringLiteral("-10 to 200 mm")));

@@ -4,8 +4,6 @@
 #include "support/test_support.h"
 #include "ui/base_sub_page.h"
 #include "ui/page_fixture.h"
-#include "ui/stackhomepage.h"
-#include "ui/stacksetuppage.h"
 #include "workstation/plugin_node.h"
 
 #include <QAbstractButton>

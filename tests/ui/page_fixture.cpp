@@ -5,8 +5,6 @@
 #include "shell/center_provider.h"
 #include "support/recipe_tree.h"
 #include "ui/current_recipe.h"
-#include "ui/stackhomepage.h"
-#include "ui/stacksetuppage.h"
 #include "workstation/plugin_node.h"
 
 #include <QCoreApplication>

@@ -2,13 +2,25 @@
 
 #include "bwaf/bmodule.h"
 #include "orba/module_object.h"
+#include "ui/message_bar.h"
+#include "ui/recipe_frame.h"
+#include "ui/stackhomepage.h"
+#include "ui/stacksetuppage.h"
 
+#include <QPushButton>
 #include <QTranslator>
 
 #include <memory>
+#include <stdexcept>
 
-class StackHomePage;
-class StackSetupPage;
+/// A child of a dialog or page; a missing one fails the test.
+template <typename Widget> Widget *partOf(const QWidget &parent, const char *name)
+{
+    auto *found = parent.findChild<Widget *>(QLatin1String(name));
+    if (!found)
+        throw std::out_of_range(name);
+    return found;
+}
 
 /// The plug-in's tree as a module of the panel, built from the template, without the panel and its store.
 class PluginTree
@@ -43,6 +55,28 @@ public:
     bwaf::BModule module;
     StackHomePage *home;
     StackSetupPage *setup;
+};
+
+/// The set-up page with the recipe "Box" open.
+struct OpenRecipe : Pages
+{
+    enum Frame { Product, Pallet, Patterns, Layers, Waypoints, Points };
+
+    explicit OpenRecipe(int frame = Product)
+    {
+        tree.addRecipe("Box");
+        open("Box", frame);
+    }
+    orba::ModuleObject *stack() const { return setup->stack(); }
+    /// A child of one of the frames; a missing one fails the test.
+    template <typename T> T *at(int frame, const char *name) const
+    {
+        return partOf<T>(*setup->frames().at(frame), name);
+    }
+    /// A child of the page.
+    template <typename T> T *part(const char *name) const { return partOf<T>(*setup->wgt(), name); }
+    QString message() const { return setup->wgt()->findChild<MessageBar *>()->text(); }
+    bool hasUndo() const { return part<QPushButton>("btnUndo")->isEnabled(); }
 };
 
 /// How often a trigger was raised since it was made.

@@ -70,14 +70,10 @@ TEST(PatternTemplateDialog, ShowsTheFieldsAndThePictureOfItsKind)
             << c.kind;
         EXPECT_EQ(test.stack->getString("pattern_cfg.template.type"), QLatin1String(c.image));
     }
-}
-
-TEST(PatternTemplateDialog, ChineseHasPicturesOfItsOwn)
-{
     auto *settings = nexo::SettingManager::instance();
-    settings->setOverride(QStringLiteral("language"), QStringLiteral("cn"));
-    TemplateTest test;
-    const QImage shown = imageOf(partOf<QLabel>(test.dialog, "wgtImage"));
+    settings->setOverride(QStringLiteral("language"), QStringLiteral("cn")); // has pictures of its own
+    const TemplateTest chinese;
+    const QImage shown = imageOf(partOf<QLabel>(chinese.dialog, "wgtImage"));
     settings->setOverride(QStringLiteral("language"), QString());
     EXPECT_TRUE(shown == resourceImage(QStringLiteral("overlap")));
     EXPECT_FALSE(shown == resourceImage(QStringLiteral("overlap_en")));

@@ -1,11 +1,8 @@
 // Points of the set-up page as the robot's: taught where it stands, and driven to.
 
-#include "ui/message_bar.h"
 #include "ui/page_fixture.h"
 #include "ui/point_group.h"
-#include "ui/recipe_frame.h"
 #include "ui/robot_cell.h"
-#include "ui/stacksetuppage.h"
 #include "workstation/plugin_node.h"
 
 #include <QDoubleSpinBox>
@@ -15,29 +12,20 @@
 
 namespace {
 
-constexpr int kWaypoints = 4;
-constexpr int kPoints = 5;
-
 class PointMoves : public ::testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        pages.tree.addRecipe("Box");
-        pages.open("Box", kWaypoints);
-        cell.settle();
-    }
+    void SetUp() override { cell.settle(); }
     PointGroup *group(const char *name) { return pages.field<PointGroup>(name); }
     QPushButton *button(const char *groupName, const char *name)
     {
         return group(groupName)->findChild<QPushButton *>(QLatin1String(name));
     }
-    QString message() { return pages.setup->wgt()->findChild<MessageBar *>()->text(); }
-    orba::ModuleObject *stack() { return pages.setup->stack(); }
+    orba::ModuleObject *stack() { return pages.stack(); }
     MoveToDialog *dialog() { return pages.center.findChild<MoveToDialog *>(); }
 
     RobotCell cell;
-    Pages pages;
+    OpenRecipe pages{OpenRecipe::Waypoints};
 };
 
 } // namespace
@@ -55,7 +43,7 @@ TEST_F(PointMoves, APointIsTaughtWhereTheRobotStandsAndTakenBack)
     for (int i = 0; i < 6; ++i)
         EXPECT_EQ(taught.find(u"near")->number(i), robot.find(u"joints")->number(i));
     EXPECT_EQ(group("grpPutPoint")->findChild<QDoubleSpinBox *>(QStringLiteral("dspnX"))->value(), 1350);
-    EXPECT_EQ(message(), QString());
+    EXPECT_EQ(pages.message(), QString());
     pages.setup->undo();
     EXPECT_EQ(stack()->r("put.put_p")->node(), before);
     pages.setup->redo();
@@ -77,19 +65,19 @@ TEST_F(PointMoves, NothingIsTaughtWhileTheRobotsPlaceIsNotCertain)
     ASSERT_TRUE(xservice()->execCommand(nullptr, QStringLiteral("motion.start"), &move).isOk());
     cell.settle();
     button("grpPutPoint", "btnTeach")->click();
-    EXPECT_EQ(message(), QStringLiteral("The robot is moving. Teach the point when it stands."));
+    EXPECT_EQ(pages.message(), QStringLiteral("The robot is moving. Teach the point when it stands."));
     cell.carrier->cut("the cable is pulled");
     cell.settle();
     button("grpPutPoint", "btnTeach")->click();
-    EXPECT_EQ(message(),
+    EXPECT_EQ(pages.message(),
               QStringLiteral("The controller is not connected: where the robot stands is not known."));
     EXPECT_EQ(stack()->node(), before);
 }
 
 TEST_F(PointMoves, AGeneratedPointIsDrivenToFromTheTable)
 {
-    pages.setup->showFrame(kPoints);
-    RecipeFrame *frame = pages.setup->frames().at(kPoints);
+    pages.setup->showFrame(OpenRecipe::Points);
+    RecipeFrame *frame = pages.setup->frames().at(OpenRecipe::Points);
     auto *move = frame->findChild<QPushButton *>(QStringLiteral("btnMove"));
     auto *table = frame->findChild<QTableView *>(QStringLiteral("tblPoints"));
     frame->findChild<QPushButton *>(QStringLiteral("btnGenerate"))->click();

@@ -4,9 +4,7 @@
 #include "stack/recipe_layers.h"
 #include "support/test_support.h"
 #include "ui/layers_frame.h"
-#include "ui/message_bar.h"
 #include "ui/page_fixture.h"
-#include "ui/stacksetuppage.h"
 #include "workstation/controller_sync.h"
 #include "workstation/plugin_node.h"
 

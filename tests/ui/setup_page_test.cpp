@@ -1,11 +1,8 @@
-#include "ui/stacksetuppage.h"
-
 #include "stack/recipe_edit.h"
 #include "stack/recipe_patterns.h"
 #include "support/recipe_tree.h"
 #include "support/test_support.h"
 #include "ui/current_recipe.h"
-#include "ui/message_bar.h"
 #include "ui/page_fixture.h"
 #include "ui/patterns_frame.h"
 #include "ui/point_group.h"
@@ -28,21 +25,10 @@ using orba::ModuleObject;
 
 namespace {
 
-enum Frame { Product, Pallet, Patterns, Layers, Waypoints, Points };
-
-/// The set-up page with one recipe open.
-struct SetupPage : Pages
+/// The set-up page and what an operator does with it.
+struct SetupPage : OpenRecipe
 {
-    explicit SetupPage(int frame = Product)
-    {
-        tree.addRecipe("Box");
-        open("Box", frame);
-    }
-    ModuleObject *stack() const { return setup->stack(); }
-    template <typename T> T *at(int frame, const char *name) const
-    {
-        return setup->frames().at(frame)->findChild<T *>(QLatin1String(name));
-    }
+    using OpenRecipe::OpenRecipe;
     void click(int frame, const char *name) const { at<QPushButton>(frame, name)->click(); }
     void choose(int frame, const char *name, const QVariant &data) const
     {
@@ -50,9 +36,14 @@ struct SetupPage : Pages
         combo->setCurrentIndex(combo->findData(data));
         Q_EMIT combo->activated(combo->currentIndex());
     }
-    QString message() const { return setup->wgt()->findChild<MessageBar *>()->text(); }
-    bool hasUndo() const { return field<QPushButton>("btnUndo")->isEnabled(); }
 };
+
+constexpr auto Product = OpenRecipe::Product;
+constexpr auto Pallet = OpenRecipe::Pallet;
+constexpr auto Patterns = OpenRecipe::Patterns;
+constexpr auto Layers = OpenRecipe::Layers;
+constexpr auto Waypoints = OpenRecipe::Waypoints;
+constexpr auto Points = OpenRecipe::Points;
 
 QString patternsOf(const ModuleObject *stack)
 {
@@ -267,7 +258,7 @@ TEST(SetupPage, SwitchesRecipesAndRepairsTheOpenedOne)
     bag->r("wobj_margin")->remove();
     TriggerCount table("refresh_table");
     enter(page.at<QDoubleSpinBox>(Product, "spnLength"), 333.0);
-    auto *recipes = page.field<QComboBox>("cmbRecipe");
+    auto *recipes = page.part<QComboBox>("cmbRecipe");
     recipes->setCurrentIndex(1);
     Q_EMIT recipes->activated(1);
     EXPECT_EQ(page.stack()->getString("name"), QStringLiteral("Bag"));
@@ -277,7 +268,7 @@ TEST(SetupPage, SwitchesRecipesAndRepairsTheOpenedOne)
     EXPECT_EQ(page.at<QDoubleSpinBox>(Product, "spnLength")->value(), 200);
     EXPECT_TRUE(bag->has("wobj_margin.top"));
     EXPECT_EQ(palx::getStack(QStringLiteral("Box"))->getDouble("product_cfg.product.length"), 333);
-    page.field<QPushButton>("btnBack")->click();
+    page.part<QPushButton>("btnBack")->click();
     EXPECT_EQ(page.center.currentPage(), QStringLiteral("palx_workstation.home_page"));
     EXPECT_EQ(table.take(), 1);
 }
@@ -288,7 +279,7 @@ TEST(SetupPage, ARecipeThatEndsClosesThePage)
         SetupPage page(frame);
         page.stack()->remove();
         EXPECT_EQ(page.stack(), nullptr);
-        EXPECT_TRUE(page.field<QLabel>("lblNone")->isVisible());
+        EXPECT_TRUE(page.part<QLabel>("lblNone")->isVisible());
         page.setup->undo();
         QCoreApplication::processEvents();
     }

@@ -1,16 +1,19 @@
-#include "support/test_support.h"
-#include "ui/page_fixture.h"
-#include "ui/pattern_view.h"
-#include "ui/patterns_frame.h"
-#include "ui/stacksetuppage.h"
+// The page of patterns: edits of products on the plan, and the dialogs that produce patterns.
 
 #include "stack/recipe_edit.h"
+#include "ui/automatic_stacker_dialog.h"
+#include "ui/dialog_fixture.h"
+#include "ui/page_fixture.h"
+#include "ui/pattern_name_dialog.h"
+#include "ui/pattern_template_dialog.h"
+#include "ui/pattern_view.h"
+#include "ui/patterns_frame.h"
 
 #include <QAbstractButton>
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QSpinBox>
 #include <QTableView>
@@ -22,26 +25,18 @@ using palx::Selection;
 
 namespace {
 
-constexpr int kPatternsFrame = 2;
-
 /// The page of patterns with the pattern "A" of the recipe "Box": products at (75, 100) and (225, 100), the least
 /// spacing 1 mm.
-struct PatternPage : Pages
+struct PatternPage : OpenRecipe
 {
     PatternPage()
+        : OpenRecipe(Patterns), frame(static_cast<PatternsFrame *>(setup->frames().at(Patterns))),
+          view(at<PatternView>("view"))
     {
-        tree.addRecipe("Box");
-        open("Box", kPatternsFrame);
-        view = at<PatternView>("view");
     }
-    template <typename T> T *at(const char *name) const
-    {
-        T *found = setup->frames().at(kPatternsFrame)->findChild<T *>(QLatin1String(name));
-        EXPECT_TRUE(found) << name;
-        return found;
-    }
+    template <typename T> T *at(const char *name) const { return OpenRecipe::at<T>(Patterns, name); }
     void click(const char *name) const { at<QAbstractButton>(name)->click(); }
-    ModuleObject *pattern() const { return setup->stack()->r("patterns.A"); }
+    ModuleObject *pattern() const { return stack()->r("patterns.A"); }
     /// "x,y/r" of the stored products.
     std::string places() const
     {
@@ -66,6 +61,24 @@ struct PatternPage : Pages
         return texts;
     }
 
+    /// The dialog that is open; those that were closed are gone.
+    template <typename Dialog> Dialog *opened() const
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return center.findChild<Dialog *>();
+    }
+    template <typename Dialog> void confirm(const char *button) const
+    {
+        partOf<QAbstractButton>(*opened<Dialog>(), button)->click();
+        EXPECT_EQ(opened<Dialog>(), nullptr);
+    }
+    void setTemplate(int x, int y) const
+    {
+        enter(partOf<QSpinBox>(*opened<PatternTemplateDialog>(), "spnNumX"), x);
+        enter(partOf<QSpinBox>(*opened<PatternTemplateDialog>(), "spnNumY"), y);
+    }
+    int itemCount(const char *pattern) const { return stack()->r("patterns")->c(pattern)->cmobjCount(); }
+    PatternsFrame *frame;
     PatternView *view;
 };
 
@@ -98,7 +111,7 @@ const ButtonCase kButtons[] = {
 
 } // namespace
 
-TEST(PatternEditPage, ButtonsEditAndUndoTakesBack)
+TEST(PatternPage, ButtonsEditAndUndoTakesBack)
 {
     const PatternPage page;
     const std::string before = page.places();
@@ -111,7 +124,7 @@ TEST(PatternEditPage, ButtonsEditAndUndoTakesBack)
     }
 }
 
-TEST(PatternEditPage, SwitchesEnteredAngleAndCopies)
+TEST(PatternPage, SwitchesEnteredAngleAndCopies)
 {
     PatternPage page;
     page.view->editing()->select({0});
@@ -126,63 +139,65 @@ TEST(PatternEditPage, SwitchesEnteredAngleAndCopies)
     page.click("btnSelectAll");
     EXPECT_FALSE(page.at<QWidget>("btnSpaceAcross")->isEnabled()); // needs three
     page.click("btnCopyItems");
-    qobject_cast<PatternsFrame *>(page.setup->frames().at(kPatternsFrame))->choosePattern("B");
+    page.frame->choosePattern("B");
     page.click("btnPasteItems");
-    EXPECT_EQ(page.setup->stack()->r("patterns.B")->cmobjCount(), 3);
-    EXPECT_EQ(page.setup->stack()->getInt("patterns.B.#2.index"), 3);
+    EXPECT_EQ(page.stack()->r("patterns.B")->cmobjCount(), 3);
+    EXPECT_EQ(page.stack()->getInt("patterns.B.#2.index"), 3);
 }
 
 // Every kind of edit in turn, far more steps than one would count.
-TEST(PatternEditPage, AHundredStepsAreTakenBackAndDoneAgain)
+TEST(PatternPage, AHundredStepsAreTakenBackAndDoneAgain)
 {
     constexpr int kSteps = 100;
     PatternPage page;
     const char *const buttons[] = {"btnNudgeRight", "btnTurnRight",   "btnMirrorAcross", "btnSides",
                                    "btnNudgeDown",  "btnMirrorAlong", "btnTurnPattern",  "btnTurnBy",
                                    "btnDownItem",   "btnAlignLeft"};
-    QList<orba::Node> states{palx::recipeContent(page.setup->stack()->node())};
+    QList<orba::Node> states{palx::recipeContent(page.stack()->node())};
     page.view->editing()->select({0});
     page.click("btnCopyItems");
     for (int i = 0; states.size() <= kSteps; ++i) {
         page.view->editing()->select(i % 3 == 2 ? Selection{0, 1} : Selection{i % 2});
         page.click(i % 11 == 10 ? "btnPasteItems" : buttons[i % 11]);
-        const orba::Node state = palx::recipeContent(page.setup->stack()->node());
+        const orba::Node state = palx::recipeContent(page.stack()->node());
         if (state != states.last())
             states.append(state);
     }
     for (int i = kSteps - 1; i >= 0; --i) {
         page.setup->undo();
-        ASSERT_EQ(palx::recipeContent(page.setup->stack()->node()), states[i]) << i;
+        ASSERT_EQ(palx::recipeContent(page.stack()->node()), states[i]) << i;
         ASSERT_EQ(page.view->editing()->items().size(), page.pattern()->cmobjCount());
     }
     for (int i = 1; i <= kSteps; ++i) {
         page.setup->redo();
-        ASSERT_EQ(palx::recipeContent(page.setup->stack()->node()), states[i]) << i;
+        ASSERT_EQ(palx::recipeContent(page.stack()->node()), states[i]) << i;
     }
 }
 
-TEST(PatternEditPage, ListsProblemsAndChoosesTheirProducts)
+TEST(PatternPage, ListsProblemsAndChoosesTheirProducts)
 {
     PatternPage page;
     EXPECT_EQ(page.problems(), QStringList("Products 1 and 2 are 0.0 mm apart, less than 1.0 mm."));
     page.pattern()->set(nullptr, "#1.x", 750);
-    page.setup->stack()->set(nullptr, "wobj_margin.top", 5);
+    page.stack()->set(nullptr, "wobj_margin.top", 5);
     QCoreApplication::processEvents();
-    EXPECT_EQ(page.problems(), QStringList({"Product 2 reaches 25.0 mm over the pallet.",
-                                            "Product 1 reaches 5.0 mm into the margin.",
-                                            "Product 2 reaches 5.0 mm into the margin."}));
+    EXPECT_EQ(page.problems().size(), 3);
     EXPECT_EQ(page.at<QAbstractButton>("tabCheck")->text(), QStringLiteral("Check 3"));
     auto *list = page.at<QListWidget>("lstProblems");
     Q_EMIT list->itemClicked(list->item(1));
     EXPECT_EQ(page.view->editing()->selection(), (Selection{0}));
-    page.setup->stack()->set(nullptr, "wobj_margin.top", 0);
+    page.stack()->set(nullptr, "wobj_margin.top", 0);
     page.pattern()->set(nullptr, "#1.x", 226);
+    page.pattern()->set(nullptr, "#1.dy", 40);
+    page.pattern()->set(nullptr, "#1.direction", QStringLiteral("Right")); // which comes from the left here
     QCoreApplication::processEvents();
+    EXPECT_EQ(page.problems(), QStringList("Product 2 hits product 1 on its way in, by 39.0 mm."));
+    page.click("btnSides");
     EXPECT_EQ(page.problems(), QStringList());
     EXPECT_EQ(page.at<QLabel>("lblResult")->text(), QStringLiteral("Nothing is wrong with the pattern."));
 }
 
-TEST(PatternEditPage, NumbersByTappingAsOneStep)
+TEST(PatternPage, NumbersByTappingAsOneStep)
 {
     PatternPage page;
     page.click("btnAddItem");
@@ -202,7 +217,7 @@ TEST(PatternEditPage, NumbersByTappingAsOneStep)
     EXPECT_EQ(page.places(), "75,100/0 225,100/0");
 }
 
-TEST(PatternEditPage, WalksThroughThePlacing)
+TEST(PatternPage, WalksThroughThePlacing)
 {
     PatternPage page;
     page.click("tabOrder");
@@ -220,7 +235,7 @@ TEST(PatternEditPage, WalksThroughThePlacing)
     EXPECT_EQ(page.view->step(), -1);
 }
 
-TEST(PatternEditPage, FieldsAndTableFollowTheChoice)
+TEST(PatternPage, FieldsAndTableFollowTheChoice)
 {
     PatternPage page;
     const auto *x = page.at<QDoubleSpinBox>("spnX");
@@ -237,4 +252,63 @@ TEST(PatternEditPage, FieldsAndTableFollowTheChoice)
     EXPECT_EQ(page.at<QLabel>("lblItem")->text(), QStringLiteral("2 products chosen"));
     EXPECT_TRUE(
         page.at<QLabel>("lblProblems")->text().startsWith(QStringLiteral("2 products, 299 x 200 mm")));
+}
+
+TEST(PatternPage, ANewPatternIsChosenAndCanBeTakenBack)
+{
+    const PatternPage page;
+    const orba::Node before = palx::recipeContent(page.stack()->node());
+    page.click("btnAdd");
+    EXPECT_EQ(partOf<QLineEdit>(*page.opened<NewPatternDialog>(), "edtName")->text(), QStringLiteral("C"));
+    page.opened<NewPatternDialog>()->findChild<QAbstractButton *>(QStringLiteral("chbClone"))->click();
+    page.confirm<NewPatternDialog>("btnOk");
+    EXPECT_EQ(page.frame->pattern(), QStringLiteral("C"));
+    EXPECT_EQ(page.itemCount("C"), 2); // a clone of "A"
+    page.setup->undo();
+    EXPECT_EQ(palx::recipeContent(page.stack()->node()), before);
+    EXPECT_EQ(page.frame->pattern(), QStringLiteral("A"));
+}
+
+TEST(PatternPage, ATemplateIsOneStep)
+{
+    const PatternPage page;
+    page.click("btnTemplate");
+    page.setTemplate(2, 3);
+    EXPECT_FALSE(page.hasUndo());
+    page.confirm<PatternTemplateDialog>("btnConfirm");
+    EXPECT_EQ(page.itemCount("A"), 8);
+    EXPECT_EQ(page.stack()->getInt("patterns.A.#7.index"), 8);
+    page.setup->undo();
+    EXPECT_EQ(page.itemCount("A"), 2);
+    EXPECT_FALSE(page.hasUndo());
+    page.setup->redo();
+    EXPECT_EQ(page.itemCount("A"), 8);
+    page.click("btnTemplate"); // what was typed is there again
+    EXPECT_EQ(partOf<QSpinBox>(*page.opened<PatternTemplateDialog>(), "spnNumY")->value(), 3);
+}
+
+TEST(PatternPage, ARecipeWithoutPatternsGetsItsFirstOneBefore)
+{
+    const PatternPage page;
+    page.stack()->remove(QStringLiteral("patterns"));
+    page.setup->pageDateRefresh();
+    page.click("btnTemplate");
+    EXPECT_EQ(page.opened<PatternTemplateDialog>(), nullptr);
+    page.confirm<AddPatternDialog>("btnOk");
+    EXPECT_EQ(page.frame->pattern(), QStringLiteral("A"));
+    ASSERT_NE(page.opened<PatternTemplateDialog>(), nullptr);
+    page.setTemplate(1, 1);
+    page.confirm<PatternTemplateDialog>("btnConfirm");
+    EXPECT_EQ(page.itemCount("A"), 1);
+}
+
+TEST(PatternPage, ARecipeThatEndsClosesWhatIsOpen)
+{
+    for (const char *button : {"btnAdd", "btnTemplate", "btnAutomatic"}) {
+        const PatternPage page;
+        page.click(button);
+        EXPECT_NE(page.opened<QDialog>(), nullptr) << button;
+        page.stack()->remove();
+        EXPECT_EQ(page.opened<QDialog>(), nullptr) << button;
+    }
 }

@@ -1,0 +1,298 @@
+// Frames of the set-up page and the wizards over a recipe, without a page around them.
+
+#include "pattern/pattern_editing.h"
+#include "pattern/stackpatternscene.h"
+#include "stack/recipe_layers.h"
+#include "ui/dialog_fixture.h"
+#include "ui/directions_frame.h"
+#include "ui/layer_series_dialog.h"
+#include "ui/layers_frame.h"
+#include "ui/page_fixture.h"
+#include "ui/pattern_view.h"
+#include "ui/stack_frame.h"
+#include "ui/stack_panel.h"
+#include "ui/stack_view.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+
+using palx::LayerSet;
+using palx::Piece;
+
+namespace {
+
+/// A frame over a recipe with the patterns A and B and a layer of each.
+template <typename Frame> struct ShownFrame
+{
+    ShownFrame() : stack(tree.addRecipe("Box"))
+    {
+        frame.resize(1000, 640);
+        frame.setStack(stack);
+        frame.show();
+    }
+    template <typename T> T *at(const char *name) const { return partOf<T>(frame, name); }
+    void click(const char *name) const { at<QPushButton>(name)->click(); }
+
+    PluginTree tree;
+    orba::ModuleObject *stack;
+    Frame frame;
+};
+
+constexpr const char *kPad[] = {"btnTopLeft", "btnTop",        "btnTopRight", "btnLeft",       "btnAbove",
+                                "btnRight",   "btnBottomLeft", "btnBottom",   "btnBottomRight"};
+
+/// The first pattern with three products in a row across the pallet, touching each other, placed from the left.
+struct Directions : ShownFrame<DirectionsFrame>
+{
+    Directions()
+    {
+        orba::Node third = *stack->node().find(u"patterns.A.#1");
+        third.find(u"x")->setInt(375);
+        third.find(u"index")->setInt(3);
+        stack->r("patterns.A")->addUnnamed()->copyFrom(third);
+        frame.setStack(stack);
+    }
+    palx::PatternEditing *editing() const { return at<PatternView>("view")->editing(); }
+    QString directions() const
+    {
+        QStringList words;
+        for (int i = 0; i < stack->r("patterns.A")->cmobjCount(); ++i)
+            words << stack->getString(QStringLiteral("patterns.A.#%1.direction").arg(i));
+        return words.join(' ');
+    }
+    QString problems() const
+    {
+        QStringList texts;
+        const auto *list = at<QListWidget>("lstProblems");
+        for (int i = 0; i < list->count(); ++i)
+            texts << list->item(i)->text();
+        return texts.join('\n');
+    }
+    QStringList pressed() const
+    {
+        QStringList names;
+        for (const char *name : kPad) {
+            if (at<QPushButton>(name)->isChecked())
+                names << QLatin1String(name);
+        }
+        return names;
+    }
+};
+
+/// With the layers A, B, A, B.
+struct Layers : ShownFrame<LayersFrame>
+{
+    Layers()
+    {
+        palx::repeatLayers(stack, {0, 1});
+        frame.setStack(stack);
+    }
+    void several(const LayerSet &layers)
+    {
+        at<QPushButton>("btnSeveral")->setChecked(true);
+        frame.chooseLayers(layers);
+    }
+    QStringList patterns() const
+    {
+        QStringList names;
+        for (const palx::LayerFacts &layer : palx::layerFacts(stack->node()))
+            names << layer.pattern;
+        return names;
+    }
+};
+
+} // namespace
+
+TEST(DirectionsFrame, SetsASideForOneForSeveralAndForAll)
+{
+    Directions d;
+    QSignalSpy edits(&d.frame, &RecipeFrame::edited);
+    EXPECT_EQ(d.pressed(), QStringList{"btnAbove"});
+    EXPECT_EQ(d.at<QLabel>("lblChoice")->text(), QString("All products"));
+    d.click("btnRight");
+    const QString toRight = d.stack->getString("patterns.A.#0.direction");
+    EXPECT_EQ(d.directions(), QStringList({toRight, toRight, toRight}).join(' '));
+    EXPECT_NE(toRight, QString("Middle"));
+    EXPECT_EQ(d.pressed(), QStringList{"btnRight"});
+    d.editing()->select({1});
+    d.click("btnAbove");
+    EXPECT_EQ(d.directions(), QStringList({toRight, "Middle", toRight}).join(' '));
+    d.editing()->select({0, 1});
+    EXPECT_EQ(d.pressed(), QStringList()) << "they come from different sides";
+    d.click("btnTop");
+    const QString toTop = d.stack->getString("patterns.A.#0.direction");
+    EXPECT_EQ(d.directions(), QStringList({toTop, toTop, toRight}).join(' '));
+    EXPECT_EQ(edits.count(), 3) << "one step each";
+    for (const char *name : kPad) {
+        d.click(name);
+        EXPECT_EQ(d.pressed(), QStringList{QLatin1String(name)});
+        const int before = edits.count();
+        d.click(name);
+        EXPECT_EQ(d.pressed(), QStringList{QLatin1String(name)}) << "pressed again it stays down";
+        EXPECT_EQ(edits.count(), before);
+    }
+}
+
+TEST(DirectionsFrame, SaysWhichProductHitsWhichUntilSidesAreProposed)
+{
+    Directions d;
+    enter(d.at<QDoubleSpinBox>("spnDx"), 50.0);
+    enter(d.at<QDoubleSpinBox>("spnDy"), 50.0);
+    d.click("btnLeft"); // over those that lie there already
+    EXPECT_TRUE(d.problems().contains(QStringLiteral("Product 2 hits product 1"))) << d.problems();
+    d.editing()->select({});
+    d.click("btnPropose");
+    EXPECT_FALSE(d.problems().contains(QStringLiteral("hits"))) << d.problems();
+}
+
+TEST(DirectionsFrame, ProductsKeepTheirPlaces)
+{
+    Directions d;
+    auto *view = d.at<PatternView>("view");
+    const orba::Node before = d.stack->node();
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {}, view->mapFromScene(75, 100));
+    QMouseEvent move(QEvent::MouseMove, view->mapFromScene(300, 500), Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(view->viewport(), &move);
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, view->mapFromScene(300, 500));
+    QTest::keyClick(view, Qt::Key_Right);
+    QTest::keyClick(view, Qt::Key_Delete);
+    EXPECT_EQ(d.stack->node(), before);
+    EXPECT_EQ(d.editing()->selection(), palx::Selection{0}) << "but they can be chosen";
+}
+
+TEST(LayersFrame, SeveralLayersAreEditedAlikeInOneStep)
+{
+    Layers l;
+    l.several({0, 2, 3});
+    QSignalSpy edits(&l.frame, &RecipeFrame::edited);
+    enter(l.at<QDoubleSpinBox>("spnOffset"), 7.0);
+    EXPECT_EQ(edits.count(), 1);
+    for (const int layer : {0, 1, 2, 3})
+        EXPECT_EQ(l.stack->getInt(QStringLiteral("layers.#%1.h_offset").arg(layer)), layer == 1 ? 0 : 7);
+    auto *pattern = l.at<QComboBox>("cmbPattern");
+    pattern->setCurrentIndex(pattern->findData(QStringLiteral("B")));
+    Q_EMIT pattern->activated(pattern->currentIndex());
+    EXPECT_EQ(l.patterns(), (QStringList{"B", "B", "B", "B"}));
+    EXPECT_EQ(edits.count(), 2);
+    EXPECT_EQ(l.frame.layers(), (LayerSet{0, 2, 3}));
+}
+
+TEST(LayersFrame, ButtonsActOnTheChosenLayers)
+{
+    Layers l;
+    l.several({0, 1});
+    l.click("btnSheet");
+    EXPECT_EQ(l.patterns(), (QStringList{"A", "clapboard", "B", "clapboard", "A", "B"}));
+    l.several({2, 3});
+    l.click("btnDown");
+    EXPECT_EQ(l.patterns(), (QStringList{"A", "clapboard", "A", "B", "clapboard", "B"}));
+    EXPECT_EQ(l.frame.layers(), (LayerSet{3, 4}));
+    l.click("btnRepeat");
+    EXPECT_EQ(l.patterns().mid(6), (QStringList{"B", "clapboard"}));
+    l.click("btnRemove");
+    EXPECT_EQ(l.patterns(), (QStringList{"A", "clapboard", "A", "B", "B", "clapboard"}));
+    EXPECT_EQ(l.frame.layers(), (LayerSet{3}));
+}
+
+TEST(LayersFrame, ASheetOnASheetIsRefused)
+{
+    Layers l;
+    l.frame.chooseLayer(0);
+    l.click("btnSheet");
+    QSignalSpy refusals(&l.frame, &RecipeFrame::refused);
+    l.frame.chooseLayer(0);
+    l.click("btnSheet");
+    ASSERT_EQ(refusals.count(), 1);
+    EXPECT_EQ(l.patterns().size(), 5);
+}
+
+TEST(LayersFrame, LaysLayersInTurn)
+{
+    Layers l;
+    l.frame.chooseLayer(1);
+    l.at<QAction>("actSeries")->trigger();
+    auto *dialog = l.frame.window()->findChild<LayerSeriesDialog *>();
+    ASSERT_NE(dialog, nullptr);
+    const auto choose = [dialog](const char *name, const QVariant &data) {
+        auto *combo = dialog->findChild<QComboBox *>(QLatin1String(name));
+        combo->setCurrentIndex(combo->findData(data));
+    };
+    auto *result = dialog->findChild<QLabel *>(QStringLiteral("lblResult"));
+    auto *ok = dialog->findChild<QPushButton *>(QStringLiteral("btnOk"));
+    choose("cmbFirst", QStringLiteral("B"));
+    choose("cmbSecond", 0); // its mirror image
+    choose("cmbWhere", 1);  // from the second layer on
+    dialog->findChild<QSpinBox *>(QStringLiteral("spnSheet"))->setValue(2);
+    dialog->findChild<QSpinBox *>(QStringLiteral("spnCount"))->setValue(200);
+    EXPECT_FALSE(ok->isEnabled());
+    EXPECT_TRUE(result->text().contains(QStringLiteral("at most 200"))) << result->text();
+    dialog->findChild<QSpinBox *>(QStringLiteral("spnCount"))->setValue(3);
+    EXPECT_TRUE(result->text().startsWith(QStringLiteral("Boxes: 5, layers: 4"))) << result->text();
+    EXPECT_EQ(l.patterns().size(), 4) << "nothing is laid before it is confirmed";
+    ok->click();
+    EXPECT_EQ(l.patterns(), (QStringList{"A", "B", "B_m", "clapboard", "B"}));
+}
+
+TEST(StackFrame, DraggingSidewaysTurnsTheNearSideAlong)
+{
+    const ShownFrame<StackFrame> page;
+    StackView *view = page.frame.findChild<StackPanel *>()->view();
+    const QPoint from = view->rect().center();
+    QTest::mousePress(view, Qt::LeftButton, {}, from);
+    for (const int by : {30, 60}) {
+        QMouseEvent move(QEvent::MouseMove, from + QPoint(by, 0), Qt::NoButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(view, &move);
+    }
+    QTest::mouseRelease(view, Qt::LeftButton, {}, from + QPoint(60, 0));
+    EXPECT_EQ(view->drawing().turn(), -30);
+}
+
+TEST(StackFrame, StepsLayBoxesAndLayersAndMarkTheLastInBothPictures)
+{
+    const ShownFrame<StackFrame> page;
+    const auto *panel = page.frame.findChild<StackPanel *>();
+    const struct
+    {
+        const char *button;
+        int pieces;
+        Piece marked;
+    } steps[] = {{"btnLayerDown", 2, {0, 1}}, {"btnBoxBack", 1, {0, 0}}, {"btnLayerDown", 0, {}},
+                 {"btnBoxOn", 1, {0, 0}},     {"btnLayerUp", 2, {0, 1}}, {"btnLayerUp", 3, {1, 0}}};
+    ASSERT_EQ(panel->pieces(), 3);
+    for (const auto &step : steps) {
+        page.click(step.button);
+        EXPECT_EQ(panel->pieces(), step.pieces) << step.button;
+        EXPECT_EQ(panel->view()->drawing().pieces(), step.pieces);
+        EXPECT_EQ(panel->marked(), step.marked) << step.button;
+        const int shown = page.frame.findChild<StackPatternScene *>()->layer();
+        EXPECT_TRUE(!step.marked.isSet() || shown == step.marked.layer) << step.button;
+    }
+    EXPECT_FALSE(page.at<QPushButton>("btnBoxOn")->isEnabled());
+    EXPECT_EQ(page.at<QLabel>("lblPlace")->text(), QStringLiteral("3 of 3: layer 2, box 1"));
+}
+
+TEST(StackFrame, AnEditKeepsTurnStepsAndMark)
+{
+    ShownFrame<StackFrame> page;
+    auto *panel = page.frame.findChild<StackPanel *>();
+    page.click("btnTurnRight");
+    panel->setPieces(2);
+    panel->markPiece({1, 0});
+    page.stack->set(nullptr, "product_cfg.product.height", 120);
+    page.frame.refresh();
+    EXPECT_EQ(panel->view()->drawing().turn(), 15);
+    EXPECT_EQ(panel->pieces(), 2);
+    EXPECT_EQ(panel->marked(), (Piece{1, 0}));
+    page.stack->remove(QStringLiteral("layers.#1"));
+    page.frame.refresh();
+    EXPECT_FALSE(panel->marked().isSet()) << "its layer is gone";
+}
