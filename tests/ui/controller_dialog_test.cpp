@@ -1,10 +1,7 @@
 #include "ui/controller_dialog.h"
 
-#include "bwaf/bmodule.h"
-#include "bwaf/center_widget.h"
 #include "shell/center_provider.h"
-#include "ui/message_bar.h"
-#include "ui/stackhomepage.h"
+#include "ui/page_fixture.h"
 #include "workstation/controller_recipes.h"
 #include "workstation/recipe_controller.h"
 
@@ -38,12 +35,7 @@ protected:
         dialog = std::make_unique<ControllerDialog>(recipes.get());
         dialog->show();
     }
-    template <typename T> T *child(const char *name) const
-    {
-        T *found = dialog->findChild<T *>(QLatin1String(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
+    template <typename T> T *child(const char *name) const { return partOf<T>(*dialog, name); }
     void click(const char *button) const { child<QPushButton>(button)->click(); }
     bool isOn(const char *button) const { return child<QPushButton>(button)->isEnabled(); }
     QString text(const char *label) const { return child<QLabel>(label)->text(); }

@@ -31,13 +31,7 @@ template <typename Wizard> struct OpenWizard
         wizard->resize(1100, 700);
         wizard->show();
     }
-    template <typename T> T *at(const char *name) const
-    {
-        T *found = wizard->template findChild<T *>(QLatin1String(name));
-        if (!found)
-            ADD_FAILURE() << "no control " << name;
-        return found;
-    }
+    template <typename T> T *at(const char *name) const { return partOf<T>(*wizard, name); }
     void click(const char *name) const { at<QPushButton>(name)->click(); }
     orba::Node content() const { return palx::recipeContent(stack->node()); }
     int points() const { return stack->r("points.put")->cmobjCount(); }
