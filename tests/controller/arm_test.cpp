@@ -1,5 +1,4 @@
 #include "controller/arm.h"
-#include "support/test_support.h"
 
 #include <gtest/gtest.h>
 
@@ -96,25 +95,5 @@ TEST(Pose, AnglesComeBackAlsoWhereTheyAreNotUnique)
         const double b = i % 3 == 0 ? std::copysign(kPi / 2, angle(random)) : angle(random) / 2;
         const Eigen::Matrix3d rotation = rotationOf({angle(random), b, angle(random)});
         EXPECT_LT(angleBetween(rotation, rotationOf(anglesOf(rotation))), 1e-6);
-    }
-}
-
-TEST(Pose, SaysWhatIsWrongWithARecord)
-{
-    const struct
-    {
-        const char *json, *why;
-    } cases[] = {
-        {R"({"trans":[1,2,3],"rot":[0,0,0]})", ""},
-        {R"({"rot":[0,0,0]})", "\"trans\" is missing"},
-        {R"({"trans":[1,2],"rot":[0,0,0]})", "\"trans\" is no list of 3 numbers"},
-        {R"({"trans":[1,2,3],"rot":"0"})", "\"rot\" is no list of 3 numbers"},
-        {R"({"trans":[1,"x",3],"rot":[0,0,0]})", "\"trans.#1\" is no number"},
-    };
-    for (const auto &c : cases) {
-        Pose pose;
-        QString why;
-        EXPECT_EQ(*c.why == 0, readPose(nodeFromJson(c.json), &pose, &why)) << c.json;
-        EXPECT_EQ(QLatin1String(c.why), why) << c.json;
     }
 }

@@ -21,14 +21,6 @@ protected:
         EXPECT_EQ(host::status::kDone, panel->request("motion.start", move).status);
         panel->wait(0.2);
     }
-    /// Time passes while `from` gives signs.
-    void hold(CorePanel &from, double seconds)
-    {
-        for (double t = 0; t < seconds - 1e-9; t += 0.1) {
-            from.request("motion.hold");
-            from.wait(0.1);
-        }
-    }
     Node robot() { return *core.station().tree().find(u"nexo.robot"); }
     bool isMoving() { return robot().getBool(u"moving"); }
 
@@ -64,14 +56,4 @@ TEST_F(HeldMotion, ANewWayStopsItAndSignsOfTheOldOneCountForNothing)
         again.wait(0.1);
     }
     EXPECT_EQ("stopped: no sign from the held button for 300 ms", robot().getString(u"fault"));
-}
-
-TEST_F(HeldMotion, ANewRunHasNoneOfTheOldOnesMoves)
-{
-    Core fresh{StationOptions(), "run-2"};
-    CorePanel other(&fresh, 1);
-    other.hello();
-    EXPECT_EQ(0, other.tree.getInt(u"nexo.robot.move"));
-    hold(other, 0.5);
-    EXPECT_FALSE(fresh.station().isBusy()) << "signs alone move nothing";
 }

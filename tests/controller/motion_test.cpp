@@ -154,26 +154,23 @@ TEST(Motion, KeepsTheLimitsOfTheJointsOnAnyWay)
 TEST(Motion, RefusesWaysThatTheArmCannotRun)
 {
     const Joints from = postureAt(poseAt(1.2, 0.8, 0.6));
-    struct Case
+    const Pose behind = poseAt(-1.2, -0.8, 0.6);
+    const struct
     {
-        const char *what;
         MotionWish wish;
         const char *why;
+    } cases[] = {
+        {{true, poseAt(4, 0, 1), Pose::Identity(), 1}, "out of reach"},
+        {{false, poseAt(4, 0, 1), Pose::Identity(), 1}, "out of reach"},
+        {{true, behind, Pose::Identity(), 1}, "of the straight way"},                // through the column
+        {{false, poseOf({1.9, 0, 0.05}, {0, 0, 0}), Pose::Identity(), 1}, "joint "}, // looking up from below
     };
-    const Case cases[] = {
-        {"far away", {true, poseAt(4, 0, 1), Pose::Identity(), 1}, "out of reach"},
-        {"far away, by joints", {false, poseAt(4, 0, 1), Pose::Identity(), 1}, "out of reach"},
-        {"through the column", {true, poseAt(-1.2, -0.8, 0.6), Pose::Identity(), 1}, "of the straight way"},
-        {"looking up from below", {false, poseOf({1.9, 0, 0.05}, {0, 0, 0}), Pose::Identity(), 1}, "joint "},
-    };
-    for (const Case &c : cases) {
-        MotionPlan plan;
-        QString why;
-        EXPECT_FALSE(MotionPlan::make(c.wish, from, &plan, &why)) << c.what;
-        EXPECT_TRUE(why.contains(QLatin1String(c.why))) << c.what << ": " << why;
-    }
     MotionPlan plan;
     QString why;
-    EXPECT_TRUE(MotionPlan::make({false, poseAt(-1.2, -0.8, 0.6), Pose::Identity(), 1}, from, &plan, &why))
+    for (const auto &c : cases) {
+        EXPECT_FALSE(MotionPlan::make(c.wish, from, &plan, &why)) << c.why;
+        EXPECT_TRUE(why.contains(QLatin1String(c.why))) << why << " instead of " << c.why;
+    }
+    EXPECT_TRUE(MotionPlan::make({false, behind, Pose::Identity(), 1}, from, &plan, &why))
         << "by joints it can go round: " << why;
 }

@@ -25,19 +25,6 @@ void expectRuns(const QString &text)
         ADD_FAILURE() << toText(problem) << "\n" << text.toStdString();
 }
 
-TEST(ScriptDescription, firstProgramCanBeRun)
-{
-    QString program;
-    for (const QString &line : description()) {
-        if (line.startsWith("    "))
-            program += line.mid(4) + '\n';
-        else if (line.startsWith("##"))
-            break;
-    }
-    EXPECT_TRUE(program.contains("ENDPROC"));
-    expectRuns(program);
-}
-
 TEST(ScriptDescription, everyFunctionIsThereWithAnExample)
 {
     static const QRegularExpression row("^\\| `(\\w+)\\(.*` \\| `([^`]+)` \\|");

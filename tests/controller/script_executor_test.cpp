@@ -67,25 +67,4 @@ TEST(ScriptExecutor, saysWhereItStands)
     EXPECT_EQ(executor.fault().where.line, 7);
 }
 
-TEST(ScriptExecutor, tasksRunSideBySideInTheSameWay)
-{
-    const auto program = programOf("FOR i FROM 1 TO 300\ncount := count * 3 / 2 - count / 2 + 1\nENDFOR");
-    const auto other = programOf("FOR i FROM 1 TO 300\ncount := count + 2\nENDFOR");
-    Value counts[2];
-    for (Value &count : counts) {
-        ScriptRecorder world(kVariables);
-        Executor a(program, &world);
-        Executor b(other, &world);
-        int turns = 0;
-        for (; a.activity() != Activity::Ended || b.activity() != Activity::Ended; ++turns) {
-            a.turn();
-            b.turn();
-        }
-        EXPECT_GT(turns, 2);
-        count = world.variables[0];
-    }
-    EXPECT_EQ(counts[0], Value(std::int64_t{900}));
-    EXPECT_EQ(counts[0], counts[1]);
-}
-
 } // namespace
