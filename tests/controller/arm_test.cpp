@@ -1,4 +1,5 @@
 #include "controller/arm.h"
+#include "support/test_support.h"
 
 #include <gtest/gtest.h>
 

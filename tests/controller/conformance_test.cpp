@@ -240,6 +240,7 @@ TEST_P(FaultyWays, EveryEditArrivesOnceAndNothingBlocks)
     EXPECT_TRUE(waitUntil(taken, 6 * kBoundMs));
     EXPECT_LE(longestGap, kTimeoutMs + kMarginMs);
     EXPECT_EQ(list->node(), edited); // no update put anything back
+    EXPECT_EQ(faulty->lostCount() > 0, GetParam().faults.delay.count() == 0);
     link.reset();
     EXPECT_EQ(*project().find(u"var._list"), edited);
 }

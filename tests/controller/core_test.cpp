@@ -334,23 +334,6 @@ TEST_F(CoreTest, ReadsTheListOfProjectsAnew)
     EXPECT_EQ(nodeFromJson(R"(["A","B","C"])"), *panel->tree.find(u"quill.project._list"));
 }
 
-TEST_F(CoreTest, TellsTheRobotFiftyTimesASecondWhileItMoves)
-{
-    panel->hello();
-    const Node move = nodeFromJson(R"({"type":"l","motion":{"toolset":"no use","speed":250},
-        "point":{"trans":[1.2,0.4,0.8],"rot":[3.141592653589793,0,0]}})");
-    EXPECT_EQ(host::status::kDone, panel->request("motion.start", move).status);
-    EXPECT_TRUE(panel->tree.getBool(u"nexo.robot.moving")) << "told before the answer";
-    panel->wait(0.2);
-    EXPECT_EQ(10, panel->updatePaths().count("nexo.robot"));
-    EXPECT_GT(panel->tree.getDouble(u"nexo.robot.progress"), 0);
-    panel->request("motion.stop");
-    panel->wait(1);
-    EXPECT_FALSE(panel->tree.getBool(u"nexo.robot.moving"));
-    panel->wait(1);
-    EXPECT_EQ(QStringList(), panel->updatePaths());
-}
-
 TEST_F(CoreTest, ComesBackAfterARestart)
 {
     options.dataFolder = folder.filePath("data");

@@ -57,3 +57,17 @@ TEST_F(HeldMotion, ANewWayStopsItAndSignsOfTheOldOneCountForNothing)
     }
     EXPECT_EQ("stopped: no sign from the held button for 300 ms", robot().getString(u"fault"));
 }
+
+TEST_F(HeldMotion, IsToldFiftyTimesASecond)
+{
+    panel->wait(0.05);
+    panel->request("motion.hold");
+    panel->wait(0.2);
+    EXPECT_EQ(10, panel->updatePaths().count("nexo.robot"));
+    EXPECT_GT(panel->tree.getDouble(u"nexo.robot.progress"), 0);
+    panel->request("motion.stop");
+    panel->wait(1);
+    EXPECT_FALSE(panel->tree.getBool(u"nexo.robot.moving"));
+    panel->wait(1);
+    EXPECT_EQ(QStringList(), panel->updatePaths());
+}

@@ -3,11 +3,9 @@
 
 #include "controller/faulty_carrier.h"
 #include "controller/in_process_carrier.h"
-#include "link/recipe_summary.h"
 #include "raw_panel.h"
 #include "recipes.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <atomic>
@@ -95,33 +93,6 @@ TEST(Threads, WhatWasSentBeforeTheEndIsWorkedOffAndKept)
     EXPECT_EQ(20, panel.ask("pallet.get.list").payload.size());
 }
 
-TEST(Threads, TheStateIsKeptWhileTheControllerWorks)
-{
-    QTemporaryDir folder;
-    StationOptions options;
-    options.dataFolder = folder.path();
-    int last = 0;
-    {
-        RawPanel panel(newCarrier(options));
-        panel.greet("one");
-        const auto change = [&] {
-            panel.ask("pallet.set.one", makeRecipe("A", 1, 20, ++last));
-            panel.ask("pallet.set.name", nodeFromJson(R"({"index":0,"name":"A","desc":"described"})"));
-        };
-        const auto start = std::chrono::steady_clock::now();
-        while (!QFile::exists(folder.filePath("recipes/order.state")) &&
-               std::chrono::steady_clock::now() - start < std::chrono::seconds(20))
-            change(); // recipes and names change while they are written
-        EXPECT_TRUE(QFile::exists(folder.filePath("recipes/order.state"))) << "kept before the end";
-        change();
-    }
-    RawPanel panel(newCarrier(options));
-    panel.greet("two");
-    Node expected = makeRecipe("A", 1, 20, last);
-    expected.set(u"desc", QStringLiteral("described"));
-    EXPECT_EQ(host::summaryOf(expected).toNode(), *panel.ask("pallet.get.list").payload.at(0));
-}
-
 TEST(Threads, TheRobotStopsInRealTimeWhenTheButtonIsReleasedByALostWay)
 {
     const auto machine = std::make_shared<Controller>(StationOptions());
@@ -141,22 +112,6 @@ TEST(Threads, TheRobotStopsInRealTimeWhenTheButtonIsReleasedByALostWay)
     const QString fault = panel.greet("two").payload.find(u"state.#1.value")->getString(u"fault");
     EXPECT_TRUE(fault.startsWith("stopped: "))
         << fault; // the lost way, or on a busy machine the button before it
-}
-
-// ---------------------------------------------------------------- the faulty way
-
-TEST(FaultyWay, LosesEveryNthFrameBothWays)
-{
-    Faults faults;
-    faults.dropEvery = 3;
-    RawPanel panel(std::make_unique<FaultyCarrier>(newCarrier(), faults));
-    panel.greet("one");                       // 1st out, 1st in
-    for (std::uint64_t id = 1; id <= 8; ++id) // 2nd to 9th out: 2, 5 and 8 are lost; of the answers 3, then 7
-        panel.request(id, "link.info");
-    std::vector<std::uint64_t> answered;
-    for (int i = 0; i < 3; ++i)
-        answered.push_back(panel.nextOf(Kind::Reply).id);
-    EXPECT_EQ((std::vector<std::uint64_t>{1, 4, 6}), answered);
 }
 
 TEST(FaultyWay, BreaksInTheMiddleOfAFrameAndIsPluggedInAgain)
