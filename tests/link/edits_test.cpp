@@ -195,6 +195,7 @@ TEST_F(LinkTest, ARequestThatOvertookItsEditsComesAgain)
     EXPECT_EQ(seen.at(1).kind, Kind::Request);
     EXPECT_EQ(seen.at(2).kind, Kind::Write);
     EXPECT_EQ(seen.back().id, seen.at(1).id);
+    settle();
     setAutoload("Q");
     controller.losesFrames = 1;
     EXPECT_TRUE(xservice()->command(nullptr, QStringLiteral("monitor.pers.modify"), nullptr));
