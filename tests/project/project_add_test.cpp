@@ -92,36 +92,6 @@ TEST_F(ProjectTest, AnAddedProjectHasItsPartsEverywhere)
     EXPECT_TRUE(m("quill.project.task.built")->getBool());
 }
 
-TEST_F(ProjectTest, TasksFollowTheSchemeAndTheLift)
-{
-    m("quill.project.task.default")->ensure("marker")->set(nullptr, "", 7); // tasks are copies of it
-    const struct
-    {
-        const char *parameters;
-        const char *task0;
-        bool hasLift;
-    } cases[] = {
-        {R"({"scheme_layout": 0, "bollard": 0})", "task0: main BackHome Init ZuoMaduo Helper", true},
-        {R"({"scheme_layout": 1, "bollard": 1})", "task0: main BackHome Init YouMaduo", false},
-        {R"({"scheme_layout": 2, "bollard": 0})", "task0: main BackHome Init ZuoMaduo YouMaduo Helper", true},
-        {R"({"scheme_layout": 3, "bollard": 1})", "task0: main BackHome Init", false},
-    };
-    for (const auto &each : cases) {
-        const QString name = QString::number(&each - cases);
-        add(name, each.parameters);
-        QStringList expected{each.task0, "task1: main", "task2: main", "task3: main", "task4: main"};
-        if (each.hasLift)
-            expected.append(QStringLiteral("task5: main Helper"));
-        EXPECT_EQ(tasks(), expected) << each.parameters;
-        EXPECT_EQ(QFileInfo::exists(place(name + "/task5")), each.hasLift) << each.parameters;
-    }
-    for (const char *file : {"main", "BackHome", "Init"}) // a double line has no programs for the robot yet
-        EXPECT_EQ(content(QStringLiteral("3/task0/%1.mod").arg(file)), QByteArray()) << file;
-    EXPECT_NE(content(QStringLiteral("3/task1/main.mod")), QByteArray());
-    const Node &task = m("quill.project.task._list")->cmobj(0)->node();
-    EXPECT_EQ(task.getString(u"type") + task.getString(u"marker"), QStringLiteral("motion7"));
-}
-
 TEST_F(ProjectTest, WithoutAControllerTheRobotIsNotKnown)
 {
     startWithoutController();

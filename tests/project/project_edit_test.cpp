@@ -81,29 +81,6 @@ TEST_F(ProjectTest, ARenamedProjectLeavesNothingOfItsOldName)
     EXPECT_EQ(startUp(), QStringLiteral("Q")); // the bare name: the comparison comes after the change
 }
 
-TEST_F(ProjectTest, AnEditCanBeRefused)
-{
-    add(QStringLiteral("P"));
-    add(QStringLiteral("Q"));
-    const struct
-    {
-        const char *name;
-        bool answer;
-        const char *message;
-    } cases[] = {{"Q", true, "error: Cannot rename to an existing project"},
-                 {"../P", true, "error: Try to add invalid project name"},
-                 {"R", false, "ask: Are you sure to update and switch to project R?"}};
-    const auto before = files();
-    const std::string state = stateText();
-    for (const auto &each : cases) {
-        presenter.answer(each.answer);
-        EXPECT_FALSE(palx::editProject(each.name, QStringLiteral("P"), &steps));
-        EXPECT_EQ(takeMessages().last(), QLatin1String(each.message));
-        EXPECT_EQ(files(), before);
-        EXPECT_EQ(stateText(), state);
-    }
-}
-
 TEST_F(ProjectTest, AnEditOfNoProjectTouchesNoFolder)
 {
     add(QStringLiteral("A"));
@@ -202,37 +179,45 @@ TEST_F(ProjectTest, DeletingRemovesTheProjectAndNothingElse)
     EXPECT_EQ(tasks().size(), 5) << "the controller forgot the tasks of its name";
 }
 
-TEST_F(ProjectTest, DeletingCanBeRefused)
+TEST_F(ProjectTest, EditsAndDeletionsCanBeRefused)
 {
     add(QStringLiteral("P"));
+    add(QStringLiteral("Q"));
     QDir().mkpath(place(QStringLiteral("_build")));
-    const auto before = files();
-    const std::string state = stateText();
+    const QString removing = QStringLiteral("error: Remove folder %1 failed");
     const struct
     {
         QString name;
         bool answer;
+        bool isEdit; ///< of the project P
+        bool isLocked;
         QString message;
-    } cases[] = {{QString(), true, "error: Cannot remove empty project"},
-                 {"P", false, "ask: Are you sure to delete project P?"},
-                 {"_build", true, "error: Remove folder _build failed"},
-                 {"../SIM-0001", true, "error: Remove folder ../SIM-0001 failed"}};
+    } cases[] = {{"Q", true, true, false, "error: Cannot rename to an existing project"},
+                 {"../P", true, true, false, "error: Try to add invalid project name"},
+                 {"R", false, true, false, "ask: Are you sure to update and switch to project R?"},
+                 {QString(), true, false, false, "error: Cannot remove empty project"},
+                 {"P", false, false, false, "ask: Are you sure to delete project P?"},
+                 {"_build", true, false, false, removing.arg("_build")},
+                 {"../SIM-0001", true, false, false, removing.arg("../SIM-0001")},
+                 {"P", true, false, true, removing.arg(place("P"))}};
+    const auto before = files();
+    const std::string state = stateText();
     for (const auto &each : cases) {
         presenter.answer(each.answer);
-        EXPECT_FALSE(palx::deleteProject(each.name, &steps));
+        const auto act = [&] {
+            return each.isEdit ? palx::editProject(each.name, QStringLiteral("P"), &steps)
+                               : palx::deleteProject(each.name, &steps);
+        };
+        if (each.isLocked) {
+            const ReadOnlyFolder locked(place(QString()));
+            EXPECT_FALSE(act());
+        } else {
+            EXPECT_FALSE(act());
+        }
         EXPECT_EQ(takeMessages().last(), each.message);
         EXPECT_EQ(files(), before);
         EXPECT_EQ(stateText(), state);
     }
-    presenter.answer(true);
-    {
-        const ReadOnlyFolder locked(place(QString()));
-        EXPECT_FALSE(palx::deleteProject(QStringLiteral("P"), &steps));
-    }
-    EXPECT_EQ(takeMessages().last(),
-              QStringLiteral("error: Remove folder %1 failed").arg(place(QStringLiteral("P"))));
-    EXPECT_EQ(files(), before);
-    EXPECT_EQ(stateText(), state);
 }
 
 TEST_F(ProjectTest, ReloadingSwitchesAndTouchesNoFile)

@@ -3,7 +3,6 @@
 #include "project_fixture.h"
 
 #include "project/rules/project_record.h"
-#include "ui/long_work_dialog.h"
 #include "ui/program_view.h"
 #include "ui/project_tables.h"
 #include "ui/projectmanager.h"
@@ -130,33 +129,6 @@ TEST_F(ProjectPage, WhatFailsStaysOpenToBeCorrected)
     EXPECT_FALSE(find<QRadioButton>("rBtnSingleLineRightSize")->isChecked());
 }
 
-TEST_F(ProjectPage, RemovesAndSwitchesByItsButtons)
-{
-    add(QStringLiteral("A"));
-    add(QStringLiteral("B"));
-    page->refreshData();
-    choose(QStringLiteral("A"));
-    presenter.answer(true);
-    click("btnReload");
-    EXPECT_FALSE(page->findChild<LongWorkDialog *>());
-    EXPECT_EQ(current(), QStringLiteral("SIM-0001/A"));
-    choose(QStringLiteral("B"));
-    click("btnSetDefault");
-    EXPECT_EQ(takeMessages().last(), QStringLiteral("info: Set B to auto load project success!"));
-    EXPECT_EQ(find<QLabel>("lblState")->text(), QStringLiteral("Loaded at start-up"));
-    presenter.answer(false);
-    click("btnRemove");
-    EXPECT_EQ(page->chosenProject(), QStringLiteral("B")); // and not what is current
-    presenter.answer(true);
-    click("btnRemove");
-    EXPECT_EQ(listed(), QStringList("A"));
-    EXPECT_EQ(page->chosenProject(), QStringLiteral("A"));
-    presenter.answer(true);
-    click("btnRemove");
-    EXPECT_EQ(listed(), QStringList());
-    EXPECT_FALSE(find<QPushButton>("btnRemove")->isEnabled());
-}
-
 TEST_F(ProjectPage, ShowsTheProgramsOfEveryProject)
 {
     add(QStringLiteral("A"), R"({"bollard": 1})");
@@ -197,6 +169,10 @@ TEST_F(ProjectPage, FollowsTheControllerButNotIntoAnEdit)
     EXPECT_TRUE(find<QRadioButton>("rBtnDoubleLineBothSizes")->isChecked());
     click("btnCancel");
     EXPECT_EQ(page->chosenProject(), QString());
+    choose(QStringLiteral("B"));
+    presenter.answer(true);
+    click("btnRemove");
+    EXPECT_EQ(listed(), QStringList("A")) << "what is shown goes";
     m("nexo.r.id")->set(nullptr, "", QString());
     EXPECT_EQ(listed(), QStringList());
     EXPECT_EQ(find<QLabel>("lblState")->text(), QStringLiteral("Connect the controller first"));

@@ -88,25 +88,6 @@ TEST(RunSide, IsPartOfTheLineByLayoutAndVariables)
     }
 }
 
-TEST(RunSide, CountsPiecesThroughLayersAndSheets)
-{
-    const Node all = stacks();
-    const Node &stack = *palx::recipeOfSide(all, LineSide::Left, 0);
-    EXPECT_EQ(palx::pointLayers(stack), 4);
-    const struct
-    {
-        int layer, piece, products, withSheets;
-    } cases[] = {{1, 1, 0, 0}, {1, 2, 1, 1}, {2, 1, 2, 2}, {3, 1, 4, 4},
-                 {4, 1, 4, 5}, {5, 1, 5, 6}, {1, 9, 2, 2}, {0, 0, 0, 0}};
-    for (const auto &each : cases) {
-        EXPECT_EQ(palx::piecesBefore(stack, each.layer, each.piece, false), each.products) << each.layer;
-        EXPECT_EQ(palx::piecesBefore(stack, each.layer, each.piece, true), each.withSheets) << each.layer;
-    }
-    EXPECT_EQ(palx::layerPieces(stack, 3), 0);
-    EXPECT_EQ(palx::recipeOfSide(all, LineSide::Left, 2), nullptr);
-    EXPECT_EQ(palx::recipeOfSide(all, LineSide::Right, 0)->getString(u"name"), QStringLiteral("R"));
-}
-
 TEST(RunSide, HasOneStateTheMostUrgentFirst)
 {
     struct Case

@@ -5,8 +5,6 @@
 #include "support/recipe_tree.h"
 #include "support/test_support.h"
 
-#include <QFile>
-
 #include <gtest/gtest.h>
 
 using orba::ModuleObject;
@@ -28,36 +26,6 @@ protected:
     }
     void TearDown() override { orba::TreeRegistry::instance().removeModule(palx::getPluginName()); }
 };
-
-QString childNames(const Node &node)
-{
-    QStringList names;
-    for (int i = 0; i < node.size(); ++i)
-        names << node.at(i)->name().toString();
-    return names.join(QLatin1Char(' '));
-}
-
-TEST_F(PluginNodeTest, TemplateKeepsKeysInOrder)
-{
-    const Node &plugin = palx::pluginNode()->node();
-    const struct
-    {
-        const char16_t *path;
-        const char *keys;
-    } expected[] = {
-        {u"", "default pallet_cfg trigger stacks projects global_tool global_wobj"},
-        {u"default",
-         "tool calibrate toolset put get product_cfg pattern_cfg wobj_margin patterns layers points "
-         "bollard automatic_stacker pallet_position use_global_tool use_global_wobj"},
-        {u"default.product_cfg.product", "height length width weight orient dx dy dz direction"},
-    };
-    for (const auto &one : expected)
-        EXPECT_EQ(childNames(*plugin.find(one.path)), QString::fromLatin1(one.keys));
-    EXPECT_EQ(plugin.find(u"pallet_cfg")->size(), 7);
-    QFile file(QStringLiteral(":/palx_workstation/template/palx_workstation.json"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.read(3), QByteArray("\xef\xbb\xbf"));
-}
 
 TEST_F(PluginNodeTest, StacksAreFoundToTheLetter)
 {
