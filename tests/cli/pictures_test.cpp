@@ -93,17 +93,13 @@ TEST_F(Pictures, ARefusedDrawingLeavesTheOldFile)
     }
 }
 
-TEST_F(Pictures, ScreenshotsSayWhatIsMissing)
-{
-    const PalxRun empty = runPalx({"screenshots", "-o", path("out"), "--examples", path("none")});
-    EXPECT_EQ(empty.code, 1);
-    EXPECT_TRUE(empty.err.contains("no example recipes")) << empty.err.constData();
-}
-
 /// On the examples, of which the pair for the lift column is filled one layer high.
 TEST_F(Pictures, TheDemonstrationGoesTheWholePath)
 {
     ASSERT_TRUE(QDir(folder_.path()).mkdir("examples"));
+    const PalxRun empty = runPalx({"screenshots", "-o", path("out"), "--examples", path("examples")});
+    EXPECT_EQ(empty.code, 1);
+    EXPECT_TRUE(empty.err.contains("no example recipes")) << empty.err.constData();
     for (const QString &file : exampleFiles())
         writeFile(folder_.filePath("examples/" + file), fileContent(examplePath(file)));
     writeRecipes(path("examples/lift-pair.xml"), exampleContent("lift-pair.xml", 1));

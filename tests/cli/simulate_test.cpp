@@ -1,4 +1,5 @@
-// `palx simulate`: pallets of one layer, faults, traces, refusals. The cell itself is tested without the program.
+// `palx simulate`: a pallet of one layer, faults, traces, refusals. The demonstration fills both sides with the lift column;
+// the cell itself is tested without the program.
 
 #include "palx_run.h"
 
@@ -98,15 +99,6 @@ TEST_F(Simulate, AViolationIsToldAndFails)
     EXPECT_EQ(first.getInt(u"layer") * 10 + first.getInt(u"piece"), 12);
     EXPECT_EQ(first.getString(u"what"),
               QStringLiteral("the carried box hits box 1 of layer 1 on the left pallet"));
-}
-
-TEST_F(Simulate, BothSidesWithTheLiftColumn)
-{
-    recipes = exampleContent("lift-pair.xml", 1);
-    const PalxRun result = run({"--lift", "--scheme", "both", "--format", "table"});
-    EXPECT_EQ(result.code, 0) << result.err.constData();
-    EXPECT_TRUE(result.out.startsWith("20 of 20 boxes on 2 full pallets\n")) << result.out.constData();
-    EXPECT_TRUE(result.out.contains("\n0 violations\n"));
 }
 
 TEST_F(Simulate, RefusesWhatItCannotDo)

@@ -156,7 +156,6 @@ TEST_F(PanelWindowTest, DialogsAnswerByTheirButtons)
     } cases[] = {{"", "messageAccept", true},
                  {"", "messageReject", false},
                  {"", "none: closed", false},
-                 {"_", "messageAccept", true},
                  {"_", "none: closed", true}};
     for (const auto &each : cases) {
         QStringList shown;

@@ -38,19 +38,6 @@ TEST(QuitSignals, EndTheMainLoopAndTheLoopOfADialog)
     }
 }
 
-TEST(QuitSignals, GiveTheSignalsBack)
-{
-    struct sigaction before = {}, after = {};
-    ::sigaction(SIGTERM, nullptr, &before);
-    {
-        const panel::QuitSignals signals;
-        ::sigaction(SIGTERM, nullptr, &after);
-        EXPECT_NE(before.sa_handler, after.sa_handler);
-    }
-    ::sigaction(SIGTERM, nullptr, &after);
-    EXPECT_EQ(before.sa_handler, after.sa_handler);
-}
-
 /// The program itself: the signal comes while it starts, before the delay after which changes are saved.
 TEST(QuitSignals, ThePanelSavesAndEndsWithoutFault)
 {

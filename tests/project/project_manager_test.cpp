@@ -3,7 +3,6 @@
 #include "project_fixture.h"
 
 #include "project/rules/project_record.h"
-#include "ui/program_view.h"
 #include "ui/project_tables.h"
 #include "ui/projectmanager.h"
 #include "workstation/plugin_node.h"
@@ -127,30 +126,6 @@ TEST_F(ProjectPage, WhatFailsStaysOpenToBeCorrected)
     click("btnCancel");
     EXPECT_EQ(page->editMode(), ProjectManager::NotEditing);
     EXPECT_FALSE(find<QRadioButton>("rBtnSingleLineRightSize")->isChecked());
-}
-
-TEST_F(ProjectPage, ShowsTheProgramsOfEveryProject)
-{
-    add(QStringLiteral("A"), R"({"bollard": 1})");
-    putFile(QStringLiteral("A/task0/main.mod"), "! one\n! two\nGLOBAL PROC main()\nENDPROC");
-    QFile::remove(place(QStringLiteral("A/task1/main.mod")));
-    page->refreshData();
-    auto *table = find<QTableView>("tblPrograms");
-    const auto *program = find<ProgramView>("program");
-    const auto *title = find<QLabel>("lblProgram");
-    table->selectRow(0);
-    EXPECT_EQ(title->text(), QStringLiteral("task0/main.mod - Main Function, Default (motion)"));
-    EXPECT_EQ(program->blockCount(), 4);
-    table->selectRow(4);
-    EXPECT_EQ(program->blockCount(), 1);
-    EXPECT_TRUE(title->text().endsWith(QStringLiteral(": the file cannot be read"))) << title->text();
-    add(QStringLiteral("B"));
-    page->refreshData();
-    choose(QStringLiteral("A")); // of which only the files are known
-    EXPECT_EQ(column("tblPrograms", 2),
-              QStringList({"BackHome", "Init", "ZuoMaduo", "main", "main", "main", "main"}));
-    table->selectRow(3);
-    EXPECT_EQ(program->blockCount(), 4);
 }
 
 TEST_F(ProjectPage, FollowsTheControllerButNotIntoAnEdit)
