@@ -207,8 +207,11 @@ TEST_F(CellPageTest, PressesButtonsForcesInputsAndShowsLamps)
     }
     choose("tblSignals", "DO2_0");
     EXPECT_FALSE(child<QPushButton>("btnOn")->isEnabled()) << "an output";
+    press("tabDesk");
     press("btnTakeRight");
+    pass(0.1);
     EXPECT_EQ(text("lblPalletRight"), QStringLiteral("Right: no pallet"));
+    press("tabFaults");
     press("btnFault_conveyor-jam");
     EXPECT_TRUE(m("nexo.cell.conveyor")->getBool("jammed"));
 }
