@@ -48,8 +48,14 @@ public:
     ArchiveDesk &operator=(const ArchiveDesk &) = delete;
 
     bool isReady() const { return isReady_; }
-    /// Where the archive of that name is to be made.
-    QString begin(const QString &name) const { return archivePath(folder_, name); }
+    /// Where the archive of that name is to be made. False when one stands there: a disk may take "a" and "A" for one.
+    bool begin(const QString &name, QString *archive, QString *why) const
+    {
+        *archive = archivePath(folder_, name);
+        if (isTaken(*archive))
+            *why = ProjectText::tr("the disk takes its archive and another of this export for one");
+        return why->isEmpty();
+    }
     void noteWhole(const QString &name) { whole_.append(name); }
 
     /// The archives so far get their names.
@@ -130,16 +136,16 @@ bool exportProject(const QString &name, const QString &archive, QString *why, Pr
 
 bool exportAll(const ExportRequest &request, ArchiveDesk *desk, Progress *progress)
 {
-    QString why;
+    QString why, archive;
     for (const QString &project : request.projects) {
-        if (!exportProject(project, desk->begin(project), &why, progress))
+        if (!desk->begin(project, &archive, &why) || !exportProject(project, archive, &why, progress))
             return progress->isCancelled() || warn(ProjectText::tr("Export %1 failed!").arg(project), why);
         desk->noteWhole(project);
     }
     if (!request.hasTemplates)
         return true;
-    if (!packFolder({programTemplateRoot(request.programFolder), {}}, desk->begin(kTemplates), &why,
-                    progress))
+    const PackedFolder templates{programTemplateRoot(request.programFolder), {}};
+    if (!desk->begin(kTemplates, &archive, &why) || !packFolder(templates, archive, &why, progress))
         return progress->isCancelled() || warn(ProjectText::tr("Export Project templates failed!"), why);
     desk->noteWhole(kTemplates);
     return true;
