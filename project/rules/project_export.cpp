@@ -51,7 +51,7 @@ public:
     /// Where the archive of that name is to be made. False when one stands there: a disk may take "a" and "A" for one.
     bool begin(const QString &name, QString *archive, QString *why) const
     {
-        *archive = archivePath(folder_, name);
+        *archive = made(name);
         if (isTaken(*archive))
             *why = ProjectText::tr("the disk takes its archive and another of this export for one");
         return why->isEmpty();
@@ -69,11 +69,13 @@ public:
     }
 
 private:
+    QString made(const QString &name) const { return archivePath(folder_, name); }
+
     /// Before they get their names: a name must not reach the disk before what it names.
     bool writeThrough(QString *why) const
     {
         for (const QString &name : whole_) {
-            QFile file(begin(name));
+            QFile file(made(name));
             if (!file.open(QIODevice::ReadOnly) || ::fsync(file.handle()) != 0)
                 return explain(name, why);
         }
@@ -83,7 +85,7 @@ private:
     bool nameAll(QString *why) const
     {
         for (const QString &name : whole_)
-            if (std::rename(QFile::encodeName(begin(name)).constData(),
+            if (std::rename(QFile::encodeName(made(name)).constData(),
                             QFile::encodeName(archivePath(target_, name)).constData()) != 0)
                 return explain(name, why);
         return true;

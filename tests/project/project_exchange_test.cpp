@@ -171,9 +171,11 @@ TEST_F(ProjectExchangeTest, ExportEndsWithTheFirstFailure)
     EXPECT_EQ(takeMessages().last(), QStringLiteral("warning: Export B failed!"));
     EXPECT_EQ(records, QStringList("error: Export B failed!: \"task0/link.mod\" is a link"));
     EXPECT_EQ(names(disk()), QStringList("A.zip"));
+    EXPECT_FALSE(exportNames({"C", "C"})); // as "c" and "C" on a disk that takes them for one
+    EXPECT_TRUE(records.last().contains("another of this export for one")) << records.last();
     putFile(QStringLiteral("C/var.xml"), "no xml");
     EXPECT_FALSE(exportNames({"C"}));
-    EXPECT_EQ(names(disk()), QStringList("A.zip"));
+    EXPECT_EQ(names(disk()), QStringList({"A.zip", "C.zip"}));
     EXPECT_EQ(content("C/var.xml"), QByteArray("no xml"));
 }
 
