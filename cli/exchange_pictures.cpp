@@ -1,7 +1,7 @@
 #include "exchange_pictures.h"
 
 #include "stack/recipe_exchange.h"
-#include "ui/im_export_model.h"
+#include "ui/exchange_table_model.h"
 #include "ui/imexportdialog.h"
 #include "ui/xfile_dialog.h"
 #include "workstation/plugin_node.h"
@@ -69,7 +69,8 @@ bool showExchange(QWidget *window, const Take &take)
         dialog->openFile();
         take(dialog, QStringLiteral("import-rename"));
         press(dialog, "optReplace");
-        Q_EMIT dialog->findChild<QTableView *>()->clicked(dialog->findChild<ImExportModel *>()->index(1, 0));
+        Q_EMIT dialog->findChild<QTableView *>()->clicked(
+            dialog->findChild<ExchangeTableModel *>()->index(1, ExchangeTableModel::kTick));
         take(dialog, QStringLiteral("import-replace"));
         delete dialog;
         dialog = openDialog(window, "btnExport");

@@ -1,41 +1,53 @@
 #pragma once
 
-#include "ix/xtheme.h"
 #include "orba/export.h"
 
 #include <QAbstractTableModel>
 #include <QStringList>
 #include <QVector>
 
-/// What is chosen to be imported or exported, and what becomes of it.
+#include <vector>
+
+/// What will become of a row.
+struct ExchangeFate
+{
+    enum Kind { Untold, Stays, Comes, Replaces, Impossible };
+
+    Kind kind = Untold;
+    QString text;
+};
+
+/// What can be ticked to be imported or exported, and what will become of it: a tick, texts, and the fate.
 class PALX_API ExchangeTableModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    enum Column { kChosen, kName, kBecomes };
+    enum Column { kTick, kName }; // and more texts as there are titles; the fate is last
 
     struct Row
     {
-        QString name;    ///< as it is shown
-        QString item;    ///< project or archive
-        QString problem; ///< why it cannot be chosen; empty for nothing
-        bool isChecked = false;
-        QString becomes; ///< what will happen, or why nothing can
-        ix::xtheme::State state = ix::xtheme::State::None;
+        QStringList texts; ///< as they are shown, from the name on
+        QString item;      ///< project or archive
+        QString problem;   ///< why it cannot be ticked; empty for nothing
+        bool isTicked = false;
     };
 
     using QAbstractTableModel::QAbstractTableModel;
 
+    /// Of all columns.
     void setTitles(const QStringList &titles);
+    int fateColumn() const { return titles_.size() - 1; }
     void setRows(const QVector<Row> &rows);
     const QVector<Row> &rows() const { return rows_; }
-    /// What will happen to each row; sends no `chosen`.
-    void setBecomes(int row, const QString &text, ix::xtheme::State state);
+    /// Row by row; sends no `tickedChanged`.
+    void setFates(const QVector<ExchangeFate> &fates);
+    const ExchangeFate &fate(int row) const { return fates_.at(row); }
     void toggle(int row);
-    void checkAll(bool isChecked);
-    /// The items of checked rows.
-    QStringList checked() const;
+    void tickAll(bool isTicked);
+    std::vector<bool> ticked() const;
+    int tickedCount() const;
+    QStringList tickedItems() const;
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -43,10 +55,13 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 Q_SIGNALS:
-    /// Other rows are checked now.
-    void chosen();
+    /// Ticks, or rows, have changed.
+    void tickedChanged();
 
 private:
+    void noteChange();
+
     QStringList titles_;
     QVector<Row> rows_;
+    QVector<ExchangeFate> fates_; ///< as many as rows
 };

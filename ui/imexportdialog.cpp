@@ -2,9 +2,10 @@
 
 #include "nexo/manager_helper.h"
 #include "stack/recipe_import.h"
+#include "ui/exchange_table_model.h"
 #include "ui/form_style.h"
-#include "ui/im_export_model.h"
 #include "ui/long_work.h"
+#include "ui/recipe_fates.h"
 #include "ui/xfile_dialog.h"
 #include "ui_imexportdialog.h"
 #include "workstation/config_log.h"
@@ -37,7 +38,7 @@ Node templateStack(const ModuleObject *list)
 
 ImExportDialog::ImExportDialog(bool import, ModuleObject *list, QWidget *parent)
     : QDialog(parent), import_(import), list_(list), ui_(std::make_unique<Ui::ImExportDialog>()),
-      model_(new ImExportModel(this)), read_(std::make_shared<ModuleObject>(QStringLiteral("import")))
+      model_(new ExchangeTableModel(this)), read_(std::make_shared<ModuleObject>(QStringLiteral("import")))
 {
     palx::makeUniqueDialog(this);
     palx::bindDialogToNode(this, list);
@@ -60,7 +61,6 @@ void ImExportDialog::setUp()
     ui_->tblRecipes->verticalHeader()->show(); // rows speak of each other by their numbers
     ui_->tblRecipes->setWordWrap(true);
     ui_->tblRecipes->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    ui_->tblRecipes->setColumnHidden(ImExportModel::Outcome, !import_);
     ui_->tblRecipes->viewport()->installEventFilter(this);
     for (QPushButton *button : {ui_->btnBrowse, ui_->btnUndo, ui_->btnOk})
         button->setIconSize(QSize(28, 28));
@@ -77,6 +77,8 @@ void ImExportDialog::showDirection()
     const QString title = import_ ? tr("Import recipes") : tr("Export recipes");
     setWindowTitle(title);
     ui_->lblTitle->setText(title);
+    model_->setTitles({QString(), tr("Recipe"), tr("Description"), tr("What happens")});
+    ui_->tblRecipes->setColumnHidden(model_->fateColumn(), !import_);
     ui_->edtPath->setPlaceholderText(import_ ? tr("No file chosen") : tr("No place chosen"));
     ui_->btnOk->setText(import_ ? tr("Import") : tr("Export"));
     ui_->btnOk->setAccessibleName(ui_->btnOk->text());
@@ -95,14 +97,14 @@ void ImExportDialog::connectControls()
     connect(space, &QShortcut::activated, this, [this] { toggle(ui_->tblRecipes->currentIndex()); });
     for (QRadioButton *option : {ui_->optRename, ui_->optReplace, ui_->optDiscard})
         connect(option, &QRadioButton::toggled, this, &ImExportDialog::plan);
-    connect(model_, &ImExportModel::tickedChanged, this, &ImExportDialog::plan);
+    connect(model_, &ExchangeTableModel::tickedChanged, this, &ImExportDialog::plan);
     connect(list_, &ModuleObject::structureChanged, this, [this] { hasFile_ ? plan() : loadList(list_); });
 }
 
 void ImExportDialog::loadList(ModuleObject *list)
 {
     hasFile_ = list == read_.get() && !read_->isNull();
-    model_->setRecipes(list->node(), hasFile_ ? added_ : std::vector<QStringList>());
+    model_->setRows(recipeRows(list->node()));
     if (import_ && !hasFile_)
         model_->tickAll(false);
     constexpr int kMorePartsThanFit = 2;
@@ -131,7 +133,8 @@ palx::RecipeClash ImExportDialog::onClash() const
 void ImExportDialog::plan()
 {
     if (hasFile_ && list_)
-        model_->setSteps(palx::planImport(list_->node(), read_->node(), model_->ticked(), onClash()));
+        model_->setFates(
+            recipeFates(palx::planImport(list_->node(), read_->node(), model_->ticked(), onClash()), added_));
     showState();
 }
 
@@ -357,10 +360,11 @@ void ImExportDialog::fitColumns()
     constexpr int kTickWidth = 56;
     QTableView *table = ui_->tblRecipes;
     const int width = table->viewport()->width() - kTickWidth;
-    table->setColumnWidth(ImExportModel::Tick, kTickWidth);
-    table->setColumnWidth(ImExportModel::Name, import_ ? width * 28 / 100 : width * 45 / 100);
-    table->setColumnWidth(ImExportModel::Description, import_ ? width * 24 / 100 : width - width * 45 / 100);
-    table->setColumnWidth(ImExportModel::Outcome, width - width * 28 / 100 - width * 24 / 100);
+    const int name = width * (import_ ? 28 : 45) / 100;
+    const int description = import_ ? width * 24 / 100 : width - name;
+    int column = ExchangeTableModel::kTick;
+    for (const int each : {kTickWidth, name, description, width - name - description})
+        table->setColumnWidth(column++, each);
 }
 
 bool ImExportDialog::eventFilter(QObject *watched, QEvent *event)

@@ -8,7 +8,7 @@
 
 #include <memory>
 
-class ImExportModel;
+class ExchangeTableModel;
 namespace Ui {
 class ImExportDialog;
 }
@@ -77,7 +77,7 @@ private:
     const bool import_;
     QPointer<orba::ModuleObject> list_;
     std::unique_ptr<Ui::ImExportDialog> ui_;
-    ImExportModel *model_;
+    ExchangeTableModel *model_;
     std::shared_ptr<orba::ModuleObject> read_; ///< "import": what the file holds
     std::vector<QStringList> added_;           ///< for its recipes
     bool hasFile_ = false;                     ///< the table shows what was read

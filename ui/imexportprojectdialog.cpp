@@ -59,7 +59,8 @@ ImExportProjectDialog::ImExportProjectDialog(bool import, QWidget *parent, const
 {
     ui_->setupUi(this);
     ui_->tblProjects->setModel(model_);
-    setupTable(ui_->tblProjects, ExchangeTableModel::kBecomes, false);
+    setTexts();
+    setupTable(ui_->tblProjects, model_->fateColumn(), false);
     ui_->tblProjects->setSelectionMode(QAbstractItemView::NoSelection);
     for (QWidget *part : QList<QWidget *>{ui_->btnFiles, ui_->wgtClash, ui_->gpbProjectTemplates})
         part->setVisible(isImport_);
@@ -69,7 +70,6 @@ ImExportProjectDialog::ImExportProjectDialog(bool import, QWidget *parent, const
     ui_->lblHint->setVisible(isImport_);
     setFieldMargins(this);
     connectParts();
-    setTexts();
     if (!isImport_) {
         const QString folder = rememberedFolder(kExportFolder);
         ui_->edtTarget->setText(QFileInfo(folder).isDir() ? folder : QString());
@@ -99,12 +99,12 @@ void ImExportProjectDialog::connectParts()
         action.button->setIconSize(QSize(28, 28));
         connect(action.button, &QPushButton::clicked, this, action.act);
     }
-    connect(ui_->btnAll, &QPushButton::clicked, this, [this] { model_->checkAll(true); });
-    connect(ui_->btnNone, &QPushButton::clicked, this, [this] { model_->checkAll(false); });
+    connect(ui_->btnAll, &QPushButton::clicked, this, [this] { model_->tickAll(true); });
+    connect(ui_->btnNone, &QPushButton::clicked, this, [this] { model_->tickAll(false); });
     connect(ui_->btnClose, &QPushButton::clicked, this, &QDialog::reject);
     connect(ui_->tblProjects, &QTableView::clicked, this,
             [this](const QModelIndex &index) { model_->toggle(index.row()); });
-    connect(model_, &ExchangeTableModel::chosen, this, &ImExportProjectDialog::showPlan);
+    connect(model_, &ExchangeTableModel::tickedChanged, this, &ImExportProjectDialog::showPlan);
     for (QRadioButton *option : {ui_->rBtnReplace, ui_->rBtnNone, ui_->rBtnReset, ui_->rBtnCustom})
         connect(option, &QRadioButton::toggled, this, &ImExportProjectDialog::showPlan);
     connect(ui_->chbProjectTemplates, &QCheckBox::toggled, this, &ImExportProjectDialog::showState);
@@ -128,14 +128,14 @@ void ImExportProjectDialog::listProjects()
 {
     QVector<ExchangeTableModel::Row> rows;
     for (const QString &name : palx::projectNames())
-        rows.append({name, name, QString(), false, QString(), State::None});
+        rows.append({{name}, name, QString(), false});
     model_->setRows(rows);
 }
 
 void ImExportProjectDialog::chooseProject(const QString &name)
 {
     for (int i = 0; i < model_->rows().size(); ++i)
-        if (model_->rows().at(i).item == name && !model_->rows().at(i).isChecked)
+        if (model_->rows().at(i).item == name && !model_->rows().at(i).isTicked)
             model_->toggle(i);
 }
 
@@ -162,8 +162,7 @@ void ImExportProjectDialog::listArchives(const QStringList &archives)
                 return;
             const QString named = palx::planImport({archive}, OnClash::Rename).first().problem;
             why = named.isEmpty() ? why : named;
-            rows.append({QFileInfo(archive).fileName(), archive, why, isFine && why.isEmpty(), QString(),
-                         State::None});
+            rows.append({{QFileInfo(archive).fileName()}, archive, why, isFine && why.isEmpty()});
         }
     };
     if (palx::runInSlices(this, tr("Checking the archives"), work) == palx::WorkEnd::Finished)
@@ -206,37 +205,43 @@ void ImExportProjectDialog::showPlan()
 
 void ImExportProjectDialog::showImportPlan()
 {
-    const QVector<palx::ImportPlan> plans = palx::planImport(model_->checked(), importRequest().onClash);
+    const QVector<palx::ImportPlan> plans = palx::planImport(model_->tickedItems(), importRequest().onClash);
+    QVector<ExchangeFate> fates;
     int next = 0;
-    for (int i = 0; i < model_->rows().size(); ++i) {
-        const ExchangeTableModel::Row row = model_->rows().at(i);
-        if (!row.isChecked) {
-            model_->setBecomes(i, row.problem.isEmpty() ? tr("Not imported") : row.problem,
-                               row.problem.isEmpty() ? State::None : State::Fault);
-            continue;
+    for (const ExchangeTableModel::Row &row : model_->rows()) {
+        if (!row.problem.isEmpty()) {
+            fates.append({ExchangeFate::Impossible, row.problem});
+        } else if (!row.isTicked) {
+            fates.append({ExchangeFate::Stays, tr("Not imported")});
+        } else {
+            const palx::ImportPlan &plan = plans.at(next++);
+            const QString text = plan.isReplacing ? tr("Replaces the project %1")
+                                 : plan.isRenamed ? tr("Renamed to %1")
+                                                  : tr("New project %1");
+            fates.append(
+                {plan.isReplacing ? ExchangeFate::Replaces : ExchangeFate::Comes, text.arg(plan.name)});
         }
-        const palx::ImportPlan plan = plans.at(next++);
-        const QString text = plan.isReplacing ? tr("Replaces the project %1")
-                             : plan.isRenamed ? tr("Renamed to %1")
-                                              : tr("New project %1");
-        model_->setBecomes(i, text.arg(plan.name), plan.isReplacing ? State::Attention : State::None);
     }
+    model_->setFates(fates);
 }
 
 void ImExportProjectDialog::showExportPlan()
 {
     const QString target = ui_->edtTarget->text();
-    for (int i = 0; i < model_->rows().size(); ++i) {
-        const ExchangeTableModel::Row row = model_->rows().at(i);
+    QVector<ExchangeFate> fates;
+    for (const ExchangeTableModel::Row &row : model_->rows()) {
         const QFileInfo archive(palx::archivePath(target, row.item));
-        const bool isReplacing = row.isChecked && !target.isEmpty() && archive.exists();
-        QString text = row.isChecked ? tr("New file %1").arg(archive.fileName()) : tr("Not exported");
-        if (isReplacing)
-            text =
-                tr("Replaces %1 of %2")
-                    .arg(archive.fileName(), locale().toString(archive.lastModified(), QLocale::ShortFormat));
-        model_->setBecomes(i, text, isReplacing ? State::Attention : State::None);
+        if (!row.isTicked)
+            fates.append({ExchangeFate::Stays, tr("Not exported")});
+        else if (target.isEmpty() || !archive.exists())
+            fates.append({ExchangeFate::Comes, tr("New file %1").arg(archive.fileName())});
+        else
+            fates.append({ExchangeFate::Replaces,
+                          tr("Replaces %1 of %2")
+                              .arg(archive.fileName(),
+                                   locale().toString(archive.lastModified(), QLocale::ShortFormat))});
     }
+    model_->setFates(fates);
 }
 
 void ImExportProjectDialog::showState()
@@ -245,9 +250,9 @@ void ImExportProjectDialog::showState()
     ui_->edtTemplates->setEnabled(isCustom);
     const bool hasChoice = isImport_ ? !ui_->rBtnNone->isChecked() : ui_->chbProjectTemplates->isChecked();
     const bool canUse = !isImport_ || !isCustom || !ui_->edtTemplates->text().isEmpty();
-    ui_->btnWork->setEnabled(canUse && (hasChoice || !model_->checked().isEmpty()));
+    ui_->btnWork->setEnabled(canUse && (hasChoice || !model_->tickedItems().isEmpty()));
     ui_->btnAll->setEnabled(!model_->rows().isEmpty());
-    ui_->btnNone->setEnabled(!model_->checked().isEmpty());
+    ui_->btnNone->setEnabled(!model_->tickedItems().isEmpty());
 }
 
 void ImExportProjectDialog::showUndo()
@@ -262,7 +267,7 @@ void ImExportProjectDialog::showUndo()
 palx::ImportRequest ImExportProjectDialog::importRequest() const
 {
     palx::ImportRequest request;
-    request.archives = model_->checked();
+    request.archives = model_->tickedItems();
     request.onClash = ui_->rBtnReplace->isChecked() ? OnClash::Replace : OnClash::Rename;
     if (ui_->rBtnReset->isChecked())
         request.templates = TemplateAction::Reset;
@@ -284,7 +289,7 @@ void ImExportProjectDialog::work()
 
 void ImExportProjectDialog::exportChosen()
 {
-    const palx::ExportRequest request{model_->checked(), ui_->chbProjectTemplates->isChecked(),
+    const palx::ExportRequest request{model_->tickedItems(), ui_->chbProjectTemplates->isChecked(),
                                       ui_->edtTarget->text(), programFolder_};
     bool isDone = false;
     const auto end = palx::runInSlices(this, windowTitle(), [&](palx::Progress &progress) {

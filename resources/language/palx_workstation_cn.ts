@@ -442,12 +442,12 @@
 <context>
     <name>ExchangeTableModel</name>
     <message>
-        <source>chosen</source>
-        <translation>已选</translation>
+        <source>ticked</source>
+        <translation>已勾选</translation>
     </message>
     <message>
-        <source>not chosen</source>
-        <translation>未选</translation>
+        <source>not ticked</source>
+        <translation>未勾选</translation>
     </message>
 </context>
 <context>
@@ -652,45 +652,6 @@
         <source>The last import was taken back.</source>
         <translation>已撤销上次导入。</translation>
     </message>
-</context>
-<context>
-    <name>ImExportModel</name>
-    <message>
-        <source>pick points</source>
-        <translation>抓取点</translation>
-    </message>
-    <message>
-        <source>corner posts</source>
-        <translation>角柱</translation>
-    </message>
-    <message>
-        <source>pallet side</source>
-        <translation>托盘侧</translation>
-    </message>
-    <message>
-        <source>choice of tool</source>
-        <translation>工具选择</translation>
-    </message>
-    <message>
-        <source>choice of work object</source>
-        <translation>工件选择</translation>
-    </message>
-    <message>
-        <source>automatic layout</source>
-        <translation>自动排样</translation>
-    </message>
-    <message>
-        <source>margins</source>
-        <translation>边距</translation>
-    </message>
-    <message>
-        <source>ticked</source>
-        <translation>已勾选</translation>
-    </message>
-    <message>
-        <source>not ticked</source>
-        <translation>未勾选</translation>
-    </message>
     <message>
         <source>Recipe</source>
         <translation>配方</translation>
@@ -702,46 +663,6 @@
     <message>
         <source>What happens</source>
         <translation>将发生什么</translation>
-    </message>
-    <message>
-        <source>(no name)</source>
-        <translation>（无名称）</translation>
-    </message>
-    <message>
-        <source>Is left out</source>
-        <translation>不导入</translation>
-    </message>
-    <message>
-        <source>Skipped: row %1 has the name</source>
-        <translation>跳过：第 %1 行已用此名</translation>
-    </message>
-    <message>
-        <source>Skipped: the name is taken</source>
-        <translation>跳过：名称已存在</translation>
-    </message>
-    <message>
-        <source>Skipped: row %1 replaces it</source>
-        <translation>跳过：由第 %1 行替换</translation>
-    </message>
-    <message>
-        <source>Row %1 has the name: becomes &quot;%2&quot;</source>
-        <translation>第 %1 行已用此名：改为“%2”</translation>
-    </message>
-    <message>
-        <source>Renamed to &quot;%1&quot;</source>
-        <translation>改名为“%1”</translation>
-    </message>
-    <message>
-        <source>Replaces no. %1 and stands at no. %2</source>
-        <translation>替换第 %1 个，位于第 %2 个</translation>
-    </message>
-    <message>
-        <source>Usual values for: %1</source>
-        <translation>采用默认值：%1</translation>
-    </message>
-    <message>
-        <source>New recipe</source>
-        <translation>新建配方</translation>
     </message>
 </context>
 <context>
@@ -2869,6 +2790,77 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>RecipeFates</name>
+    <message>
+        <source>pick points</source>
+        <translation>抓取点</translation>
+    </message>
+    <message>
+        <source>corner posts</source>
+        <translation>角柱</translation>
+    </message>
+    <message>
+        <source>pallet side</source>
+        <translation>托盘侧</translation>
+    </message>
+    <message>
+        <source>choice of tool</source>
+        <translation>工具选择</translation>
+    </message>
+    <message>
+        <source>choice of work object</source>
+        <translation>工件选择</translation>
+    </message>
+    <message>
+        <source>automatic layout</source>
+        <translation>自动排样</translation>
+    </message>
+    <message>
+        <source>margins</source>
+        <translation>边距</translation>
+    </message>
+    <message>
+        <source>Is left out</source>
+        <translation>不导入</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 has the name</source>
+        <translation>跳过：第 %1 行已用此名</translation>
+    </message>
+    <message>
+        <source>Skipped: the name is taken</source>
+        <translation>跳过：名称已存在</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 replaces it</source>
+        <translation>跳过：由第 %1 行替换</translation>
+    </message>
+    <message>
+        <source>New recipe</source>
+        <translation>新建配方</translation>
+    </message>
+    <message>
+        <source>Row %1 has the name: becomes &quot;%2&quot;</source>
+        <translation>第 %1 行已用此名：改为“%2”</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>改名为“%1”</translation>
+    </message>
+    <message>
+        <source>Replaces no. %1 and stands at no. %2</source>
+        <translation>替换第 %1 个，位于第 %2 个</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>（无名称）</translation>
+    </message>
+    <message>
+        <source>Usual values for: %1</source>
+        <translation>采用默认值：%1</translation>
+    </message>
+</context>
+<context>
     <name>RecipeFrame</name>
     <message numerus="yes">
         <source>%n more</source>
@@ -4785,6 +4777,10 @@ Pallet: %4</source>
     <message>
         <source>Project templates import success!</source>
         <translation>工程模板导入完成！</translation>
+    </message>
+    <message>
+        <source>the disk takes its archive and another of this export for one</source>
+        <translation>磁盘无法区分它的压缩包与本次导出的另一个压缩包</translation>
     </message>
 </context>
 <context>

@@ -442,12 +442,12 @@
 <context>
     <name>ExchangeTableModel</name>
     <message>
-        <source>chosen</source>
-        <translation>選択済み</translation>
+        <source>ticked</source>
+        <translation>選択あり</translation>
     </message>
     <message>
-        <source>not chosen</source>
-        <translation>未選択</translation>
+        <source>not ticked</source>
+        <translation>選択なし</translation>
     </message>
 </context>
 <context>
@@ -652,45 +652,6 @@
         <source>The last import was taken back.</source>
         <translation>直前のインポートを取り消しました。</translation>
     </message>
-</context>
-<context>
-    <name>ImExportModel</name>
-    <message>
-        <source>pick points</source>
-        <translation>取り点</translation>
-    </message>
-    <message>
-        <source>corner posts</source>
-        <translation>コーナーポスト</translation>
-    </message>
-    <message>
-        <source>pallet side</source>
-        <translation>パレットの側</translation>
-    </message>
-    <message>
-        <source>choice of tool</source>
-        <translation>ツールの選択</translation>
-    </message>
-    <message>
-        <source>choice of work object</source>
-        <translation>ワークオブジェクトの選択</translation>
-    </message>
-    <message>
-        <source>automatic layout</source>
-        <translation>自動配置</translation>
-    </message>
-    <message>
-        <source>margins</source>
-        <translation>余白</translation>
-    </message>
-    <message>
-        <source>ticked</source>
-        <translation>選択あり</translation>
-    </message>
-    <message>
-        <source>not ticked</source>
-        <translation>選択なし</translation>
-    </message>
     <message>
         <source>Recipe</source>
         <translation>レシピ</translation>
@@ -702,46 +663,6 @@
     <message>
         <source>What happens</source>
         <translation>処理の内容</translation>
-    </message>
-    <message>
-        <source>(no name)</source>
-        <translation>(名前なし)</translation>
-    </message>
-    <message>
-        <source>Is left out</source>
-        <translation>対象外</translation>
-    </message>
-    <message>
-        <source>Skipped: row %1 has the name</source>
-        <translation>スキップ: 行 %1 と同名</translation>
-    </message>
-    <message>
-        <source>Skipped: the name is taken</source>
-        <translation>スキップ: 同名あり</translation>
-    </message>
-    <message>
-        <source>Skipped: row %1 replaces it</source>
-        <translation>スキップ: 行 %1 が置き換え</translation>
-    </message>
-    <message>
-        <source>Row %1 has the name: becomes &quot;%2&quot;</source>
-        <translation>行 %1 と同名: 「%2」になります</translation>
-    </message>
-    <message>
-        <source>Renamed to &quot;%1&quot;</source>
-        <translation>「%1」に改名</translation>
-    </message>
-    <message>
-        <source>Replaces no. %1 and stands at no. %2</source>
-        <translation>%1 番を置き換え、%2 番になります</translation>
-    </message>
-    <message>
-        <source>Usual values for: %1</source>
-        <translation>既定値: %1</translation>
-    </message>
-    <message>
-        <source>New recipe</source>
-        <translation>新しいレシピ</translation>
     </message>
 </context>
 <context>
@@ -2869,6 +2790,77 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>RecipeFates</name>
+    <message>
+        <source>pick points</source>
+        <translation>取り点</translation>
+    </message>
+    <message>
+        <source>corner posts</source>
+        <translation>コーナーポスト</translation>
+    </message>
+    <message>
+        <source>pallet side</source>
+        <translation>パレットの側</translation>
+    </message>
+    <message>
+        <source>choice of tool</source>
+        <translation>ツールの選択</translation>
+    </message>
+    <message>
+        <source>choice of work object</source>
+        <translation>ワークオブジェクトの選択</translation>
+    </message>
+    <message>
+        <source>automatic layout</source>
+        <translation>自動配置</translation>
+    </message>
+    <message>
+        <source>margins</source>
+        <translation>余白</translation>
+    </message>
+    <message>
+        <source>Is left out</source>
+        <translation>対象外</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 has the name</source>
+        <translation>スキップ: 行 %1 と同名</translation>
+    </message>
+    <message>
+        <source>Skipped: the name is taken</source>
+        <translation>スキップ: 同名あり</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 replaces it</source>
+        <translation>スキップ: 行 %1 が置き換え</translation>
+    </message>
+    <message>
+        <source>New recipe</source>
+        <translation>新しいレシピ</translation>
+    </message>
+    <message>
+        <source>Row %1 has the name: becomes &quot;%2&quot;</source>
+        <translation>行 %1 と同名: 「%2」になります</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>「%1」に改名</translation>
+    </message>
+    <message>
+        <source>Replaces no. %1 and stands at no. %2</source>
+        <translation>%1 番を置き換え、%2 番になります</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(名前なし)</translation>
+    </message>
+    <message>
+        <source>Usual values for: %1</source>
+        <translation>既定値: %1</translation>
+    </message>
+</context>
+<context>
     <name>RecipeFrame</name>
     <message numerus="yes">
         <source>%n more</source>
@@ -4785,6 +4777,10 @@ Pallet: %4</source>
     <message>
         <source>Project templates import success!</source>
         <translation>プロジェクトテンプレートのインポートが完了しました！</translation>
+    </message>
+    <message>
+        <source>the disk takes its archive and another of this export for one</source>
+        <translation>ディスクはそのアーカイブとこの書き出しの別のアーカイブを区別できません</translation>
     </message>
 </context>
 <context>

@@ -442,11 +442,11 @@
 <context>
     <name>ExchangeTableModel</name>
     <message>
-        <source>chosen</source>
+        <source>ticked</source>
         <translation>선택됨</translation>
     </message>
     <message>
-        <source>not chosen</source>
+        <source>not ticked</source>
         <translation>선택 안 됨</translation>
     </message>
 </context>
@@ -652,45 +652,6 @@
         <source>The last import was taken back.</source>
         <translation>마지막 가져오기를 취소했습니다.</translation>
     </message>
-</context>
-<context>
-    <name>ImExportModel</name>
-    <message>
-        <source>pick points</source>
-        <translation>집기 포인트</translation>
-    </message>
-    <message>
-        <source>corner posts</source>
-        <translation>코너 포스트</translation>
-    </message>
-    <message>
-        <source>pallet side</source>
-        <translation>팔레트 쪽</translation>
-    </message>
-    <message>
-        <source>choice of tool</source>
-        <translation>툴 선택</translation>
-    </message>
-    <message>
-        <source>choice of work object</source>
-        <translation>작업 객체 선택</translation>
-    </message>
-    <message>
-        <source>automatic layout</source>
-        <translation>자동 배치</translation>
-    </message>
-    <message>
-        <source>margins</source>
-        <translation>여백</translation>
-    </message>
-    <message>
-        <source>ticked</source>
-        <translation>선택됨</translation>
-    </message>
-    <message>
-        <source>not ticked</source>
-        <translation>선택 안 됨</translation>
-    </message>
     <message>
         <source>Recipe</source>
         <translation>레시피</translation>
@@ -702,46 +663,6 @@
     <message>
         <source>What happens</source>
         <translation>처리 내용</translation>
-    </message>
-    <message>
-        <source>(no name)</source>
-        <translation>(이름 없음)</translation>
-    </message>
-    <message>
-        <source>Is left out</source>
-        <translation>제외</translation>
-    </message>
-    <message>
-        <source>Skipped: row %1 has the name</source>
-        <translation>건너뜀: %1행과 이름 같음</translation>
-    </message>
-    <message>
-        <source>Skipped: the name is taken</source>
-        <translation>건너뜀: 이름 있음</translation>
-    </message>
-    <message>
-        <source>Skipped: row %1 replaces it</source>
-        <translation>건너뜀: %1행이 대신함</translation>
-    </message>
-    <message>
-        <source>Row %1 has the name: becomes &quot;%2&quot;</source>
-        <translation>%1행과 이름 같음: &quot;%2&quot;(으)로</translation>
-    </message>
-    <message>
-        <source>Renamed to &quot;%1&quot;</source>
-        <translation>&quot;%1&quot;(으)로 바뀜</translation>
-    </message>
-    <message>
-        <source>Replaces no. %1 and stands at no. %2</source>
-        <translation>%1번을 바꾸고 %2번이 됨</translation>
-    </message>
-    <message>
-        <source>Usual values for: %1</source>
-        <translation>기본값 사용: %1</translation>
-    </message>
-    <message>
-        <source>New recipe</source>
-        <translation>새 레시피</translation>
     </message>
 </context>
 <context>
@@ -2869,6 +2790,77 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>RecipeFates</name>
+    <message>
+        <source>pick points</source>
+        <translation>집기 포인트</translation>
+    </message>
+    <message>
+        <source>corner posts</source>
+        <translation>코너 포스트</translation>
+    </message>
+    <message>
+        <source>pallet side</source>
+        <translation>팔레트 쪽</translation>
+    </message>
+    <message>
+        <source>choice of tool</source>
+        <translation>툴 선택</translation>
+    </message>
+    <message>
+        <source>choice of work object</source>
+        <translation>작업 객체 선택</translation>
+    </message>
+    <message>
+        <source>automatic layout</source>
+        <translation>자동 배치</translation>
+    </message>
+    <message>
+        <source>margins</source>
+        <translation>여백</translation>
+    </message>
+    <message>
+        <source>Is left out</source>
+        <translation>제외</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 has the name</source>
+        <translation>건너뜀: %1행과 이름 같음</translation>
+    </message>
+    <message>
+        <source>Skipped: the name is taken</source>
+        <translation>건너뜀: 이름 있음</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 replaces it</source>
+        <translation>건너뜀: %1행이 대신함</translation>
+    </message>
+    <message>
+        <source>New recipe</source>
+        <translation>새 레시피</translation>
+    </message>
+    <message>
+        <source>Row %1 has the name: becomes &quot;%2&quot;</source>
+        <translation>%1행과 이름 같음: &quot;%2&quot;(으)로</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>&quot;%1&quot;(으)로 바뀜</translation>
+    </message>
+    <message>
+        <source>Replaces no. %1 and stands at no. %2</source>
+        <translation>%1번을 바꾸고 %2번이 됨</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(이름 없음)</translation>
+    </message>
+    <message>
+        <source>Usual values for: %1</source>
+        <translation>기본값 사용: %1</translation>
+    </message>
+</context>
+<context>
     <name>RecipeFrame</name>
     <message numerus="yes">
         <source>%n more</source>
@@ -4785,6 +4777,10 @@ Pallet: %4</source>
     <message>
         <source>Project templates import success!</source>
         <translation>프로젝트 템플릿 가져오기 완료!</translation>
+    </message>
+    <message>
+        <source>the disk takes its archive and another of this export for one</source>
+        <translation>디스크가 이 압축 파일과 이번 내보내기의 다른 압축 파일을 구별하지 못합니다</translation>
     </message>
 </context>
 <context>

@@ -442,12 +442,12 @@
 <context>
     <name>ExchangeTableModel</name>
     <message>
-        <source>chosen</source>
-        <translation>выбрано</translation>
+        <source>ticked</source>
+        <translation>отмечено</translation>
     </message>
     <message>
-        <source>not chosen</source>
-        <translation>не выбрано</translation>
+        <source>not ticked</source>
+        <translation>не отмечено</translation>
     </message>
 </context>
 <context>
@@ -652,45 +652,6 @@
         <source>The last import was taken back.</source>
         <translation>Последний импорт отменён.</translation>
     </message>
-</context>
-<context>
-    <name>ImExportModel</name>
-    <message>
-        <source>pick points</source>
-        <translation>точки захвата</translation>
-    </message>
-    <message>
-        <source>corner posts</source>
-        <translation>угловые стойки</translation>
-    </message>
-    <message>
-        <source>pallet side</source>
-        <translation>сторона паллеты</translation>
-    </message>
-    <message>
-        <source>choice of tool</source>
-        <translation>выбор инструмента</translation>
-    </message>
-    <message>
-        <source>choice of work object</source>
-        <translation>выбор рабочего объекта</translation>
-    </message>
-    <message>
-        <source>automatic layout</source>
-        <translation>автоукладка</translation>
-    </message>
-    <message>
-        <source>margins</source>
-        <translation>отступы</translation>
-    </message>
-    <message>
-        <source>ticked</source>
-        <translation>отмечено</translation>
-    </message>
-    <message>
-        <source>not ticked</source>
-        <translation>не отмечено</translation>
-    </message>
     <message>
         <source>Recipe</source>
         <translation>Рецепт</translation>
@@ -702,46 +663,6 @@
     <message>
         <source>What happens</source>
         <translation>Что произойдёт</translation>
-    </message>
-    <message>
-        <source>(no name)</source>
-        <translation>(без имени)</translation>
-    </message>
-    <message>
-        <source>Is left out</source>
-        <translation>Не берётся</translation>
-    </message>
-    <message>
-        <source>Skipped: row %1 has the name</source>
-        <translation>Пропуск: имя занято строкой %1</translation>
-    </message>
-    <message>
-        <source>Skipped: the name is taken</source>
-        <translation>Пропуск: имя занято</translation>
-    </message>
-    <message>
-        <source>Skipped: row %1 replaces it</source>
-        <translation>Пропуск: заменит строка %1</translation>
-    </message>
-    <message>
-        <source>Row %1 has the name: becomes &quot;%2&quot;</source>
-        <translation>Имя занято строкой %1: станет «%2»</translation>
-    </message>
-    <message>
-        <source>Renamed to &quot;%1&quot;</source>
-        <translation>Переименован в «%1»</translation>
-    </message>
-    <message>
-        <source>Replaces no. %1 and stands at no. %2</source>
-        <translation>Заменит № %1, станет № %2</translation>
-    </message>
-    <message>
-        <source>Usual values for: %1</source>
-        <translation>Обычные значения: %1</translation>
-    </message>
-    <message>
-        <source>New recipe</source>
-        <translation>Новый рецепт</translation>
     </message>
 </context>
 <context>
@@ -2869,6 +2790,77 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>RecipeFates</name>
+    <message>
+        <source>pick points</source>
+        <translation>точки захвата</translation>
+    </message>
+    <message>
+        <source>corner posts</source>
+        <translation>угловые стойки</translation>
+    </message>
+    <message>
+        <source>pallet side</source>
+        <translation>сторона паллеты</translation>
+    </message>
+    <message>
+        <source>choice of tool</source>
+        <translation>выбор инструмента</translation>
+    </message>
+    <message>
+        <source>choice of work object</source>
+        <translation>выбор рабочего объекта</translation>
+    </message>
+    <message>
+        <source>automatic layout</source>
+        <translation>автоукладка</translation>
+    </message>
+    <message>
+        <source>margins</source>
+        <translation>отступы</translation>
+    </message>
+    <message>
+        <source>Is left out</source>
+        <translation>Не берётся</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 has the name</source>
+        <translation>Пропуск: имя занято строкой %1</translation>
+    </message>
+    <message>
+        <source>Skipped: the name is taken</source>
+        <translation>Пропуск: имя занято</translation>
+    </message>
+    <message>
+        <source>Skipped: row %1 replaces it</source>
+        <translation>Пропуск: заменит строка %1</translation>
+    </message>
+    <message>
+        <source>New recipe</source>
+        <translation>Новый рецепт</translation>
+    </message>
+    <message>
+        <source>Row %1 has the name: becomes &quot;%2&quot;</source>
+        <translation>Имя занято строкой %1: станет «%2»</translation>
+    </message>
+    <message>
+        <source>Renamed to &quot;%1&quot;</source>
+        <translation>Переименован в «%1»</translation>
+    </message>
+    <message>
+        <source>Replaces no. %1 and stands at no. %2</source>
+        <translation>Заменит № %1, станет № %2</translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(без имени)</translation>
+    </message>
+    <message>
+        <source>Usual values for: %1</source>
+        <translation>Обычные значения: %1</translation>
+    </message>
+</context>
+<context>
     <name>RecipeFrame</name>
     <message numerus="yes">
         <source>%n more</source>
@@ -4787,6 +4779,10 @@ Pallet: %4</source>
     <message>
         <source>Project templates import success!</source>
         <translation>Шаблоны проекта импортированы!</translation>
+    </message>
+    <message>
+        <source>the disk takes its archive and another of this export for one</source>
+        <translation>диск не различает его архив и другой архив этого экспорта</translation>
     </message>
 </context>
 <context>

@@ -42,14 +42,15 @@ protected:
     void touchRow(int row) const
     {
         auto *table = find<QTableView>("tblProjects");
-        Q_EMIT table->clicked(table->model()->index(row, ExchangeTableModel::kBecomes));
+        Q_EMIT table->clicked(table->model()->index(row, ExchangeTableModel::kName));
     }
     /// "+" for a checked row, and what will happen to it.
     QStringList shown() const
     {
         QStringList rows;
-        for (const ExchangeTableModel::Row &row : dialog->findChild<ExchangeTableModel *>()->rows())
-            rows.append((row.isChecked ? "+ " : "- ") + row.becomes);
+        const auto *model = dialog->findChild<ExchangeTableModel *>();
+        for (int row = 0; row < model->rowCount(); ++row)
+            rows.append((model->rows().at(row).isTicked ? "+ " : "- ") + model->fate(row).text);
         return rows;
     }
     QString told() const { return find<MessageBar>("message")->text(); }

@@ -79,8 +79,7 @@ void eachProjectExchange(const Visit &visit)
 {
     for (const bool isImport : {false, true}) {
         ImExportProjectDialog dialog(isImport, nullptr, QString());
-        QVector<ExchangeTableModel::Row> rows(
-            8, {"Line north.zip", "Line north", QString(), false, QString(), ix::xtheme::State::None});
+        QVector<ExchangeTableModel::Row> rows(8, {{"Line north.zip"}, "Line north", QString(), false});
         dialog.findChild<ExchangeTableModel *>()->setRows(rows);
         dialog.findChild<MessageBar *>()->showUndo(QStringLiteral("Imported: Line north"),
                                                    ix::xtheme::State::Running);

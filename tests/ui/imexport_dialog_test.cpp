@@ -4,8 +4,8 @@
 #include "stack/recipe_import.h"
 #include "support/scripted_files.h"
 #include "support/test_support.h"
+#include "ui/exchange_table_model.h"
 #include "ui/form_checks.h"
-#include "ui/im_export_model.h"
 #include "ui/page_fixture.h"
 #include "workstation/recipe_controller.h"
 
@@ -86,7 +86,7 @@ protected:
     void touchRow(int row) const
     {
         auto *table = child<QTableView>("tblRecipes");
-        Q_EMIT table->clicked(table->model()->index(row, ImExportModel::Name));
+        Q_EMIT table->clicked(table->model()->index(row, ExchangeTableModel::kName));
     }
     /// "[x] name: what happens" of every row
     QStringList rows() const
@@ -97,10 +97,11 @@ protected:
             const auto cell = [&](int column, int role = Qt::DisplayRole) {
                 return model->index(row, column).data(role);
             };
-            const bool ticked = cell(ImExportModel::Tick, Qt::CheckStateRole).toInt() == Qt::Checked;
+            const bool ticked = cell(ExchangeTableModel::kTick, Qt::CheckStateRole).toInt() == Qt::Checked;
             texts << QStringLiteral("[%1] %2: %3")
-                         .arg(ticked ? QStringLiteral("x") : QString(), cell(ImExportModel::Name).toString(),
-                              cell(ImExportModel::Outcome).toString());
+                         .arg(ticked ? QStringLiteral("x") : QString(),
+                              cell(ExchangeTableModel::kName).toString(),
+                              cell(model->columnCount() - 1).toString());
         }
         return texts;
     }
@@ -266,7 +267,7 @@ TEST_F(ImExportDialogTest, WritesTheTemplateAndWhatIsTicked)
     for (const char *name : {"A", "B", "C"})
         addRecipe(name);
     open(false);
-    EXPECT_TRUE(child<QTableView>("tblRecipes")->isColumnHidden(ImExportModel::Outcome));
+    EXPECT_TRUE(child<QTableView>("tblRecipes")->isColumnHidden(3));
     EXPECT_FALSE(child<QWidget>("boxClash")->isVisible());
     touchRow(1);
     choose(path("out.box"));
