@@ -71,23 +71,6 @@ TEST(Arm, KeepsTheFourthJointInAStraightWrist)
     EXPECT_LT(distance(straight, found), 1e-6);
 }
 
-TEST(Arm, RefusesWithTheFigure)
-{
-    const auto refusal = [](double x, double z) {
-        Pose pose = arm::forward(arm::kHome);
-        pose.translation() = Vector(x, 0, z);
-        Joints joints = arm::kHome;
-        QString why;
-        EXPECT_FALSE(arm::inverse(pose, arm::kHome, &joints, &why));
-        EXPECT_EQ(arm::kHome, joints);
-        return why;
-    };
-    EXPECT_EQ("out of reach: the wrist would stand 2700 mm from the shoulder, the arm reaches 2100 mm",
-              refusal(3.0, 0.5));
-    EXPECT_TRUE(refusal(2.3995, 0.5).startsWith(QStringLiteral("joint 3 would stand at -8")))
-        << "the elbow is straight";
-}
-
 TEST(Pose, AnglesComeBackAlsoWhereTheyAreNotUnique)
 {
     std::mt19937 random(9);

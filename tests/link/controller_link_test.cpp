@@ -257,14 +257,11 @@ TEST_F(LinkTest, EachKindOfTroubleIsShownForATimeAndRecordedOnce)
         settle();
     };
     const auto answerTwice = [this](const LinkMessage &message) {
-        if (message.kind != Kind::Request)
-            return false;
         LinkMessage reply;
         reply.kind = Kind::Reply;
         reply.id = message.id;
         controller.send(reply);
         controller.send(reply);
-        return true;
     };
     const struct
     {
@@ -275,7 +272,7 @@ TEST_F(LinkTest, EachKindOfTroubleIsShownForATimeAndRecordedOnce)
          "cannot be read and was left out"},
         {[&] { ask(0); }, "Requests without an answer: 2.", "did not answer"},
         {[&] {
-             controller.onMessage = answerTwice;
+             onRequest(answerTwice);
              ask(-1);
          },
          "Answers that came late or twice: 2.", "too late or twice"},

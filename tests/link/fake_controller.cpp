@@ -210,6 +210,16 @@ void LinkTest::connectLink()
     takeRecords();
 }
 
+void LinkTest::onRequest(std::function<void(const LinkMessage &)> answer)
+{
+    controller.onMessage = [answer = std::move(answer)](const LinkMessage &message) {
+        const bool isRequest = message.kind == LinkMessage::Kind::Request;
+        if (isRequest)
+            answer(message);
+        return isRequest;
+    };
+}
+
 void LinkTest::pass(int ms)
 {
     now += ms;

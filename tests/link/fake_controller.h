@@ -75,6 +75,8 @@ protected:
     void openLink();
     /// Opens and greets.
     void connectLink();
+    /// Requests are answered so; everything else as always.
+    void onRequest(std::function<void(const host::LinkMessage &)> answer);
     /// Turns the clock and lets everything that is due happen.
     void pass(int ms);
     /// Handles what has arrived.

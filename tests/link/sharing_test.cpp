@@ -88,42 +88,6 @@ TEST(Mailbox, ManyWritersLoseNothingAndKeepTheirOrder)
     EXPECT_EQ(box.size(), 0u);
 }
 
-TEST(ReplyBoard, ASecondALateAndAnUnknownReplyAreDropped)
-{
-    Board board;
-    int reply = 1;
-    EXPECT_FALSE(board.deliver(9, reply));
-    board.expect(1);
-    EXPECT_TRUE(board.deliver(1, reply));
-    reply = 2;
-    EXPECT_FALSE(board.deliver(1, reply));
-    int got = 0;
-    board.wait(1, soon(), &got);
-    EXPECT_EQ(got, 1);
-    EXPECT_FALSE(board.deliver(1, reply));
-    board.expect(2);
-    EXPECT_EQ(board.wait(2, Board::Clock::now(), &got), Board::Outcome::Late);
-    EXPECT_FALSE(board.deliver(2, reply));
-    board.expect(3);
-    board.forget(3);
-    EXPECT_FALSE(board.deliver(3, reply));
-}
-
-TEST(ReplyBoard, ABrokenWayEndsWaitingButNotWhatCame)
-{
-    Board board;
-    board.expect(1);
-    board.expect(2);
-    int reply = 7;
-    board.deliver(1, reply);
-    board.breakAll();
-    int got = 0;
-    EXPECT_EQ(board.wait(1, soon(), &got), Board::Outcome::Came);
-    EXPECT_EQ(board.wait(2, soon(), &got), Board::Outcome::Broken);
-    EXPECT_EQ(got, 7);
-    EXPECT_FALSE(board.deliver(2, reply));
-}
-
 TEST(ReplyBoard, EveryThreadGetsItsOwnReply)
 {
     constexpr int kThreads = 4;
