@@ -195,7 +195,7 @@ TEST(ControllerProgram, SurvivesBeingKilledAtAnyTime)
         QElapsedTimer time;
         time.start();
         const int bound =
-            300 + (round == 0 ? 100 : static_cast<int>(random() % 300)); // saving starts at 300 ms
+            300 + (round == 0 ? 100 : static_cast<int>(random() % 500)); // saving starts at 300 ms
         do {
             Node all;
             ++version;

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 using host::LinkMessage;
@@ -169,18 +170,10 @@ void FakeController::take(const LinkMessage &message)
     }
 }
 
-QStringList FakeController::seenTexts(Kind kind) const
-{
-    QStringList texts;
-    for (const LinkMessage &message : seen)
-        if (message.kind == kind)
-            texts.append(QStringLiteral("%1 %2").arg(message.id).arg(message.name));
-    return texts;
-}
-
 int FakeController::count(Kind kind) const
 {
-    return seenTexts(kind).size();
+    return static_cast<int>(
+        std::count_if(seen.begin(), seen.end(), [kind](const LinkMessage &one) { return one.kind == kind; }));
 }
 
 // ---------------------------------------------------------------- the panel

@@ -47,7 +47,6 @@ public:
 
     // --- what it saw
     std::vector<host::LinkMessage> seen; ///< in the order of arrival
-    QStringList seenTexts(Kind kind) const;
     int count(Kind kind) const;
     QString session;
     std::uint64_t taken = 0; ///< last edit
