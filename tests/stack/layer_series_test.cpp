@@ -97,10 +97,10 @@ TEST(LayerSeries, ChosenLayersAreRemovedAndRepeated)
 {
     Recipe recipe("A-B.");
     EXPECT_EQ(palx::repeatLayers(&recipe.root, {0, 1, 2}), 3);
-    EXPECT_EQ(recipe.layers(), QString("A-BA-B.")) << "an empty layer stays the end of the stack";
-    EXPECT_EQ(recipe.offsets(), QString("0120123"));
+    EXPECT_EQ(recipe.layers(), "A-BA-B.") << "an empty layer stays the end of the stack";
+    EXPECT_EQ(recipe.offsets(), "0120123");
     EXPECT_EQ(palx::removeLayers(&recipe.root, {1, 4, 4, 50}), 2);
-    EXPECT_EQ(recipe.layers(), QString("ABAB."));
+    EXPECT_EQ(recipe.layers(), "ABAB.");
 }
 
 TEST(LayerSeries, PatternsTakeTurnsWithSheetsBetween)
@@ -140,7 +140,7 @@ TEST(LayerSeries, WhatCannotBeLaidIsRefusedWhole)
         Recipe recipe("AB");
         EXPECT_EQ(palx::seriesProblem(recipe.root.node(), c.series), QString(c.reason));
         EXPECT_FALSE(palx::laySeries(&recipe.root, c.series));
-        EXPECT_EQ(recipe.layers(), QString("AB"));
+        EXPECT_EQ(recipe.layers(), "AB");
         EXPECT_EQ(palx::seriesLayers(recipe.root.node(), c.series).size(), 0);
     }
     Recipe full(QString(200, 'A'));

@@ -4,13 +4,13 @@
 #include "stack/put_pass.h"
 #include "support/recipe_tree.h"
 #include "support/test_support.h"
-#include "workstation/plugin_node.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <cmath>
 #include <memory>
+#include <vector>
 
 using orba::ModuleObject;
 using orba::Node;
@@ -19,12 +19,7 @@ namespace {
 
 constexpr double kPi = 3.141592653589793;
 using Vec = std::array<double, 3>;
-
-struct At
-{
-    const char *path;
-    Vec trans;
-};
+using Points = std::vector<std::pair<const char *, Vec>>;
 
 Vec transOf(const Node &point)
 {
@@ -52,10 +47,10 @@ void setPoint(ModuleObject *root, const char *path, const QByteArray &json)
     root->node().ensure(orba::Path(path))->assign(nodeFromJson(json));
 }
 
-template <std::size_t count> void expectPoints(ModuleObject *stack, const At (&expected)[count])
+void expectPoints(ModuleObject *stack, const Points &expected)
 {
-    for (const At &one : expected)
-        EXPECT_TRUE(near(trans(stack, one.path), one.trans)) << one.path;
+    for (const auto &[path, at] : expected)
+        EXPECT_TRUE(near(trans(stack, path), at)) << path;
 }
 
 /// An own-calibrated stack: product 300 x 200 x 100 on 1200 x 800, pattern "A" with two items.
@@ -142,7 +137,7 @@ TEST(OwnFrame, PutPointsOfEveryLayer)
     const auto plugin = makePluginTree();
     ModuleObject *stack = ownStack(plugin.get());
     palx::genStackWayPoints(stack);
-    const At expected[] = {
+    const Points expected = {
         // heights of the put node above 0.3
         {"points.put.#0.#0.put_p", {0.15, 0.1, 0.3}},
         {"points.put.#0.#0.enter_p", {1, 2, 1.5}},
@@ -177,7 +172,7 @@ TEST(OwnFrame, PutPointsOfEveryLayer)
     QStringList names;
     for (int i = 0; i < product.size(); ++i)
         names << product.at(i)->name().toString();
-    EXPECT_EQ(names.join(' '), QStringLiteral("enter_p ready_p approach_p put_p retract_p exit_p"));
+    EXPECT_EQ(names.join(' '), "enter_p ready_p approach_p put_p retract_p exit_p");
     EXPECT_EQ(*product.find(u"put_p.near"), nodeFromJson("[1.0,2.0,3.0,4.0,5.0,6.0]"));
     EXPECT_EQ(*product.find(u"put_p.conf"), nodeFromJson("[8.0,7.0,6.0,5.0,4.0,3.0,2.0,1.0]"));
     palx::genStackWayPoints(stack);
@@ -224,11 +219,10 @@ TEST(OwnFrame, SheetLiesInTheMiddleWithOperatorsHeightsEvenOnTop)
         ownStack(plugin.get(),
                  R"({"layers":[{"pattern":"A"},{"pattern":"clapboard"}],"product_cfg.clapboard.height":3})");
     palx::genStackWayPoints(stack);
-    const At expected[] = {{"points.put.#1.#0.put_p", {0.6, 0.4, 0.4}},
-                           {"points.put.#1.#0.ready_p", {0.6, 0.4, 0.45}},
-                           {"points.put.#1.#0.exit_p", {0.6, 0.4, 0.46}},
-                           {"points.put.#0.#0.exit_p", {0.15, 0.1, 0.36}}}; // not the last layer
-    expectPoints(stack, expected);
+    expectPoints(stack, {{"points.put.#1.#0.put_p", {0.6, 0.4, 0.4}},
+                         {"points.put.#1.#0.ready_p", {0.6, 0.4, 0.45}},
+                         {"points.put.#1.#0.exit_p", {0.6, 0.4, 0.46}},
+                         {"points.put.#0.#0.exit_p", {0.15, 0.1, 0.36}}}); // not the last layer
     EXPECT_DOUBLE_EQ(stack->getDouble("points.put.#1.#0.put_p.rot.#2"), 0.4);
 }
 
@@ -239,10 +233,9 @@ TEST(OwnFrame, UntaughtAndShortRecordsReadZero)
         "put.put_p": null, "put.enter_p": {"trans": [1]}, "get.get_p": {"trans": [0.5]}, "get.ready_p": "text",
         "layers": [{"pattern": "B"}, {"pattern": "B"}]})");
     palx::genStackWayPoints(stack);
-    const At expected[] = {{"points.put.#0.#0.put_p", {0.6, 0.4, 0}},
-                           {"points.put.#1.#0.enter_p", {1, 0, 0.1}},
-                           {"get.ready_p", {0.5, 0, 0.1}}};
-    expectPoints(stack, expected);
+    expectPoints(stack, {{"points.put.#0.#0.put_p", {0.6, 0.4, 0}},
+                         {"points.put.#1.#0.enter_p", {1, 0, 0.1}},
+                         {"get.ready_p", {0.5, 0, 0.1}}});
     EXPECT_EQ(stack->r("points.put.#0.#0.put_p.conf")->cmobjCount(), 8);
 }
 

@@ -109,7 +109,7 @@ TEST(RecipeCopy, StandsBehindItsOriginalAndIsItsOwn)
               QStringList({QStringLiteral("A"), QStringLiteral("C"), QStringLiteral("B")}));
     EXPECT_EQ(copy->getInt("points.put.#0.#0.put_p"), 1); // points of the same recipe stay right
     copy->set(nullptr, "layers.#0.pattern", QStringLiteral("Z"));
-    EXPECT_EQ(recipes.stack(0)->getString("layers.#0.pattern"), QStringLiteral("A"));
+    EXPECT_EQ(recipes.stack(0)->getString("layers.#0.pattern"), "A");
 }
 
 TEST(RecipeRemove, UndoBringsItBackToItsPlace)
@@ -125,7 +125,7 @@ TEST(RecipeRemove, UndoBringsItBackToItsPlace)
     const Recipes recipes({QStringLiteral("A"), QStringLiteral("B")});
     const palx::RemovedStack removed = palx::removeStack(recipes.stack(1));
     palx::copyStack(recipes.stack(0), QStringLiteral("B")); // its own name is taken
-    EXPECT_EQ(palx::restoreStack(recipes.stacks(), removed)->getString("name"), QStringLiteral("B1"));
+    EXPECT_EQ(palx::restoreStack(recipes.stacks(), removed)->getString("name"), "B1");
 }
 
 TEST(RecipeKeys, OldRecipesGainWhatTheyLackAndKeepWhatTheyHave)

@@ -6,7 +6,6 @@
 #include "stack/recipe_import.h"
 #include "support/recipe_tree.h"
 
-#include <QFile>
 #include <QSignalSpy>
 
 namespace {
@@ -151,7 +150,7 @@ TEST_F(RecipeExchangeTest, TheListIsAnnouncedOnceAndTheOldRecipeGoesLast)
     ASSERT_TRUE(palx::importRecipes(list(), file, {true, true, false}, RecipeClash::Replace, progress));
     EXPECT_EQ(seen, (QStringList{"B", "A", "C"})); // the new one stood already
     EXPECT_EQ(structure.count(), 1);
-    EXPECT_EQ(list()->getString("#1.desc"), QStringLiteral("from the file"));
+    EXPECT_EQ(list()->getString("#1.desc"), "from the file");
     EXPECT_EQ(file.size(), 3); // is copied
 }
 
@@ -202,18 +201,6 @@ TEST_F(RecipeExchangeTest, TakingBackLeavesWhatTheOperatorMadeMeanwhile)
     EXPECT_EQ(namesOf(list()->node()), (QStringList{"A1", "B", "A"}));
 }
 
-TEST_F(RecipeExchangeTest, AnImportThatAddsNothingLeavesTheLastOne)
-{
-    fill({"A"});
-    const Node first = named({"B"});
-    ASSERT_TRUE(palx::importRecipes(list(), first, all(first), RecipeClash::Rename, progress));
-    const Node second = named({"A"});
-    ASSERT_TRUE(palx::importRecipes(list(), second, all(second), RecipeClash::Discard, progress));
-    ASSERT_TRUE(palx::LastImport::of(list()));
-    palx::LastImport::of(list())->takeBack();
-    EXPECT_EQ(namesOf(list()->node()), QStringList("A"));
-}
-
 // ---------------------------------------------------------------- files
 
 TEST_F(RecipeExchangeTest, TheFileHoldsTheTemplateAndWhatIsTicked)
@@ -232,7 +219,7 @@ TEST_F(RecipeExchangeTest, TheFileHoldsTheTemplateAndWhatIsTicked)
                                         {false, true});
     ASSERT_EQ(own.size(), 2);
     EXPECT_TRUE(own.getBool(u"default.of_the_list"));
-    EXPECT_EQ(own.getString(u"#1.name"), QStringLiteral("B"));
+    EXPECT_EQ(own.getString(u"#1.name"), "B");
 }
 
 TEST_F(RecipeExchangeTest, OlderFilesGetTheSevenSubtreesAndNothingElse)
@@ -293,9 +280,9 @@ TEST_F(RecipeExchangeTest, WhatCannotBeReadLeavesNothingToBeMerged)
 
 TEST_F(RecipeExchangeTest, NamesWithoutTheSuffixGetIt)
 {
-    EXPECT_EQ(palx::exchangeFileName("/a/b"), QStringLiteral("/a/b.xml"));
-    EXPECT_EQ(palx::exchangeFileName("/a.xml/b"), QStringLiteral("/a.xml/b.xml"));
-    EXPECT_EQ(palx::exchangeFileName("b.XML"), QStringLiteral("b.XML"));
+    EXPECT_EQ(palx::exchangeFileName("/a/b"), "/a/b.xml");
+    EXPECT_EQ(palx::exchangeFileName("/a.xml/b"), "/a.xml/b.xml");
+    EXPECT_EQ(palx::exchangeFileName("b.XML"), "b.XML");
     EXPECT_EQ(palx::exchangeFileName(""), QString());
 }
 

@@ -11,17 +11,16 @@ using palx::RecipePlace;
 
 namespace {
 
-/// A recipe whose only product is placed at that height.
-QByteArray recipe(const char *name, double height)
+/// Recipes whose only products are placed at these heights: "A1 B2.5".
+Node recipes(const char *text)
 {
-    return QByteArray(R"({"name": ")") + name +
-           R"(", "desc": "", "get": {}, "points": {"put": [[{"put_p": {"trans": [0, 0, )" +
-           QByteArray::number(height) + "]}}]]}}";
-}
-
-Node recipes(const QList<QByteArray> &list)
-{
-    return nodeFromJson("[" + list.join(',') + "]");
+    Node list = nodeFromJson("[]");
+    for (const QString &word : QString(text).split(' ', Qt::SkipEmptyParts))
+        *list.add() = nodeFromJson(QStringLiteral(R"({"name": "%1", "desc": "", "get": {}, "points": {"put":
+            [[{"put_p": {"trans": [0, 0, %2]}}]]}})")
+                                       .arg(word.left(1), word.mid(1))
+                                       .toUtf8());
+    return list;
 }
 
 std::vector<RecipeSummary> summaries(const Node &list)
@@ -50,40 +49,27 @@ TEST(RecipeMatch, NamesWhatDiffersBetweenTheTwoSides)
 {
     const struct
     {
-        const char *what;
-        QList<QByteArray> panel, controller;
+        const char *panel, *controller;
         QStringList matches;
         int differing;
     } cases[] = {
-        {"other points", {recipe("A", 1)}, {recipe("A", 1.5)}, {"A other 0 0"}, 1},
-        {"missing there",
-         {recipe("A", 1), recipe("B", 2)},
-         {recipe("A", 1)},
-         {"A same 0 0", "B missing 1 -1"},
-         1},
-        {"renamed", {recipe("A", 1)}, {recipe("B", 1)}, {"A missing 0 -1", "B extra -1 0"}, 2},
-        {"other order",
-         {recipe("A", 1), recipe("B", 2)},
-         {recipe("B", 2), recipe("A", 1)},
-         {"A moved 0 1", "B moved 1 0"},
-         2},
-        {"a name twice",
-         {recipe("A", 1), recipe("A", 1)},
-         {recipe("A", 1)},
-         {"A same 0 0", "A missing 1 -1"},
-         1},
+        {"A1", "A1.5", {"A other 0 0"}, 1},
+        {"A1 B2", "A1", {"A same 0 0", "B missing 1 -1"}, 1},
+        {"A1", "B1", {"A missing 0 -1", "B extra -1 0"}, 2},
+        {"A1 B2", "B2 A1", {"A moved 0 1", "B moved 1 0"}, 2},
+        {"A1 A1", "A1", {"A same 0 0", "A missing 1 -1"}, 1},
     };
     for (const auto &each : cases) {
         const auto matches =
             palx::matchRecipes(summaries(recipes(each.panel)), summaries(recipes(each.controller)));
-        EXPECT_EQ(texts(matches), each.matches) << each.what;
-        EXPECT_EQ(palx::countDiffering(matches), each.differing) << each.what;
+        EXPECT_EQ(texts(matches), each.matches) << each.panel;
+        EXPECT_EQ(palx::countDiffering(matches), each.differing) << each.panel;
     }
 }
 
 TEST(RecipeMatch, ADescriptionAndSettingsAreNoPoints)
 {
-    Node panel = recipes({recipe("A", 1)});
+    Node panel = recipes("A1");
     const auto told = summaries(panel);
     panel.at(0)->ensure(u"desc")->setString(QStringLiteral("small"));
     panel.at(0)->ensure(u"product_cfg.product.length")->setInt(7);

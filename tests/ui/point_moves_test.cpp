@@ -3,7 +3,6 @@
 #include "ui/page_fixture.h"
 #include "ui/point_group.h"
 #include "ui/robot_cell.h"
-#include "workstation/plugin_node.h"
 
 #include <QDoubleSpinBox>
 #include <QLabel>
@@ -65,12 +64,11 @@ TEST_F(PointMoves, NothingIsTaughtWhileTheRobotsPlaceIsNotCertain)
     ASSERT_TRUE(xservice()->execCommand(nullptr, QStringLiteral("motion.start"), &move).isOk());
     cell.settle();
     button("grpPutPoint", "btnTeach")->click();
-    EXPECT_EQ(pages.message(), QStringLiteral("The robot is moving. Teach the point when it stands."));
+    EXPECT_EQ(pages.message(), "The robot is moving. Teach the point when it stands.");
     cell.carrier->cut("the cable is pulled");
     cell.settle();
     button("grpPutPoint", "btnTeach")->click();
-    EXPECT_EQ(pages.message(),
-              QStringLiteral("The controller is not connected: where the robot stands is not known."));
+    EXPECT_EQ(pages.message(), "The controller is not connected: where the robot stands is not known.");
     EXPECT_EQ(stack()->node(), before);
 }
 

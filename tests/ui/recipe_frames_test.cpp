@@ -17,7 +17,6 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -69,14 +68,6 @@ struct Directions : ShownFrame<DirectionsFrame>
             words << stack->getString(QStringLiteral("patterns.A.#%1.direction").arg(i));
         return words.join(' ');
     }
-    QString problems() const
-    {
-        QStringList texts;
-        const auto *list = at<QListWidget>("lstProblems");
-        for (int i = 0; i < list->count(); ++i)
-            texts << list->item(i)->text();
-        return texts.join('\n');
-    }
     QStringList pressed() const
     {
         QStringList names;
@@ -117,7 +108,7 @@ TEST(DirectionsFrame, SetsASideForOneForSeveralAndForAll)
     Directions d;
     QSignalSpy edits(&d.frame, &RecipeFrame::edited);
     EXPECT_EQ(d.pressed(), QStringList{"btnAbove"});
-    EXPECT_EQ(d.at<QLabel>("lblChoice")->text(), QString("All products"));
+    EXPECT_EQ(d.at<QLabel>("lblChoice")->text(), "All products");
     d.click("btnRight");
     const QString toRight = d.stack->getString("patterns.A.#0.direction");
     EXPECT_EQ(d.directions(), QStringList({toRight, toRight, toRight}).join(' '));
@@ -140,18 +131,6 @@ TEST(DirectionsFrame, SetsASideForOneForSeveralAndForAll)
         EXPECT_EQ(d.pressed(), QStringList{QLatin1String(name)}) << "pressed again it stays down";
         EXPECT_EQ(edits.count(), before);
     }
-}
-
-TEST(DirectionsFrame, SaysWhichProductHitsWhichUntilSidesAreProposed)
-{
-    Directions d;
-    enter(d.at<QDoubleSpinBox>("spnDx"), 50.0);
-    enter(d.at<QDoubleSpinBox>("spnDy"), 50.0);
-    d.click("btnLeft"); // over those that lie there already
-    EXPECT_TRUE(d.problems().contains(QStringLiteral("Product 2 hits product 1"))) << d.problems();
-    d.editing()->select({});
-    d.click("btnPropose");
-    EXPECT_FALSE(d.problems().contains(QStringLiteral("hits"))) << d.problems();
 }
 
 TEST(DirectionsFrame, ProductsKeepTheirPlaces)
@@ -203,18 +182,6 @@ TEST(LayersFrame, ButtonsActOnTheChosenLayers)
     EXPECT_EQ(l.frame.layers(), (LayerSet{3}));
 }
 
-TEST(LayersFrame, ASheetOnASheetIsRefused)
-{
-    Layers l;
-    l.frame.chooseLayer(0);
-    l.click("btnSheet");
-    QSignalSpy refusals(&l.frame, &RecipeFrame::refused);
-    l.frame.chooseLayer(0);
-    l.click("btnSheet");
-    ASSERT_EQ(refusals.count(), 1);
-    EXPECT_EQ(l.patterns().size(), 5);
-}
-
 TEST(LayersFrame, LaysLayersInTurn)
 {
     Layers l;
@@ -234,26 +201,12 @@ TEST(LayersFrame, LaysLayersInTurn)
     dialog->findChild<QSpinBox *>(QStringLiteral("spnSheet"))->setValue(2);
     dialog->findChild<QSpinBox *>(QStringLiteral("spnCount"))->setValue(200);
     EXPECT_FALSE(ok->isEnabled());
-    EXPECT_TRUE(result->text().contains(QStringLiteral("at most 200"))) << result->text();
+    EXPECT_TRUE(result->text().contains("at most 200")) << result->text();
     dialog->findChild<QSpinBox *>(QStringLiteral("spnCount"))->setValue(3);
-    EXPECT_TRUE(result->text().startsWith(QStringLiteral("Boxes: 5, layers: 4"))) << result->text();
+    EXPECT_TRUE(result->text().startsWith("Boxes: 5, layers: 4")) << result->text();
     EXPECT_EQ(l.patterns().size(), 4) << "nothing is laid before it is confirmed";
     ok->click();
     EXPECT_EQ(l.patterns(), (QStringList{"A", "B", "B_m", "clapboard", "B"}));
-}
-
-TEST(StackFrame, DraggingSidewaysTurnsTheNearSideAlong)
-{
-    const ShownFrame<StackFrame> page;
-    StackView *view = page.frame.findChild<StackPanel *>()->view();
-    const QPoint from = view->rect().center();
-    QTest::mousePress(view, Qt::LeftButton, {}, from);
-    for (const int by : {30, 60}) {
-        QMouseEvent move(QEvent::MouseMove, from + QPoint(by, 0), Qt::NoButton, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(view, &move);
-    }
-    QTest::mouseRelease(view, Qt::LeftButton, {}, from + QPoint(60, 0));
-    EXPECT_EQ(view->drawing().turn(), -30);
 }
 
 TEST(StackFrame, StepsLayBoxesAndLayersAndMarkTheLastInBothPictures)
@@ -277,22 +230,5 @@ TEST(StackFrame, StepsLayBoxesAndLayersAndMarkTheLastInBothPictures)
         EXPECT_TRUE(!step.marked.isSet() || shown == step.marked.layer) << step.button;
     }
     EXPECT_FALSE(page.at<QPushButton>("btnBoxOn")->isEnabled());
-    EXPECT_EQ(page.at<QLabel>("lblPlace")->text(), QStringLiteral("3 of 3: layer 2, box 1"));
-}
-
-TEST(StackFrame, AnEditKeepsTurnStepsAndMark)
-{
-    ShownFrame<StackFrame> page;
-    auto *panel = page.frame.findChild<StackPanel *>();
-    page.click("btnTurnRight");
-    panel->setPieces(2);
-    panel->markPiece({1, 0});
-    page.stack->set(nullptr, "product_cfg.product.height", 120);
-    page.frame.refresh();
-    EXPECT_EQ(panel->view()->drawing().turn(), 15);
-    EXPECT_EQ(panel->pieces(), 2);
-    EXPECT_EQ(panel->marked(), (Piece{1, 0}));
-    page.stack->remove(QStringLiteral("layers.#1"));
-    page.frame.refresh();
-    EXPECT_FALSE(panel->marked().isSet()) << "its layer is gone";
+    EXPECT_EQ(page.at<QLabel>("lblPlace")->text(), "3 of 3: layer 2, box 1");
 }

@@ -8,11 +8,8 @@
 #include "workstation/controller_sync.h"
 #include "workstation/plugin_node.h"
 
-#include <QCoreApplication>
 #include <QDoubleSpinBox>
-#include <QLabel>
 #include <QMenu>
-#include <QPointer>
 #include <QPushButton>
 
 #include <gtest/gtest.h>
@@ -127,7 +124,7 @@ TEST(RecipeWizard, ALayerOnAnEmptyOneKeepsTheWizardOpen)
     w.click("btnNext");
     EXPECT_TRUE(w.wizard->isVisible());
     ASSERT_EQ(w.presenter.asked.size(), 1);
-    EXPECT_TRUE(w.presenter.asked[0].text.contains(QStringLiteral("Layer 3 lies on an empty layer")));
+    EXPECT_TRUE(w.presenter.asked[0].text.contains("Layer 3 lies on an empty layer"));
     EXPECT_EQ(w.presenter.asked[0].rejectText, QString()) << "there is nothing to choose";
     EXPECT_EQ(w.points(), 0);
     EXPECT_EQ(table.take(), 0);

@@ -109,6 +109,15 @@ protected:
         return nullptr;
     }
 
+    /// That the gripper is empty and the piece the right one.
+    void confirm(StartDialog *asked)
+    {
+        partOf<QCheckBox>(*asked, "chkClear")->click();
+        EXPECT_EQ(partOf<QLabel>(*asked, "lblReason")->text(), QString());
+        partOf<QPushButton>(*asked, "btnOk")->click();
+        settle();
+    }
+
     QTemporaryDir workspace;
     RobotCell cell;
     PluginTree tree;
@@ -130,55 +139,47 @@ TEST_F(RunPageTest, MakesAProjectOfTheRecipesWithOneButton)
     make->click();
     settle();
     ASSERT_TRUE(page->hasLine());
-    EXPECT_TRUE(palx::currentProject().startsWith(QStringLiteral("Palletizing_")));
+    EXPECT_TRUE(palx::currentProject().startsWith("Palletizing_"));
     for (const LineSide side : palx::kLineSides) {
         EXPECT_TRUE(page->card(side)->isVisible());
-        EXPECT_EQ(text(side, "lblState"), QStringLiteral("Disabled"));
-        EXPECT_EQ(text(side, "lblBoxes"), QStringLiteral("0 / 45"));
+        EXPECT_EQ(text(side, "lblState"), "Disabled");
+        EXPECT_EQ(text(side, "lblBoxes"), "0 / 45");
     }
     EXPECT_EQ(variable(QStringLiteral("boxHeightL")), 180);
 }
 
-TEST_F(RunPageTest, EnablesASideAndShowsItsStackGrow)
+TEST_F(RunPageTest, EnablesASideAndShowsItsStackGrowUntilThePalletIsFull)
 {
     makeProject();
     openPage();
     press(LineSide::Left, "btnEnable");
     EXPECT_EQ(variable(QStringLiteral("enableStackL")), 1);
-    EXPECT_EQ(child<QPushButton>(LineSide::Left, "btnEnable")->text(), QStringLiteral("Disable"));
-    EXPECT_EQ(text(LineSide::Left, "lblState"), QStringLiteral("Enabled, no program runs"));
+    EXPECT_EQ(child<QPushButton>(LineSide::Left, "btnEnable")->text(), "Disable");
+    EXPECT_EQ(text(LineSide::Left, "lblState"), "Enabled, no program runs");
     ASSERT_TRUE(ask("program.run"));
     run(60);
-    EXPECT_EQ(text(LineSide::Left, "lblState"), QStringLiteral("Stacking"));
-    EXPECT_EQ(look(LineSide::Left), QStringLiteral("running"));
+    EXPECT_EQ(text(LineSide::Left, "lblState"), "Stacking");
+    EXPECT_EQ(look(LineSide::Left), "running");
     const qint64 piled = variable(QStringLiteral("palletCountL"));
     EXPECT_GT(piled, 3);
     EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("%1 / 45").arg(piled));
     EXPECT_EQ(child<StackView>(LineSide::Left, "view")->drawing().pieces(), piled);
-    EXPECT_EQ(text(LineSide::Right, "lblState"), QStringLiteral("Disabled"));
+    EXPECT_EQ(text(LineSide::Right, "lblState"), "Disabled");
     ASSERT_TRUE(ask("program.pause"));
-    EXPECT_TRUE(text(LineSide::Left, "lblState").startsWith(QStringLiteral("Paused")))
-        << text(LineSide::Left, "lblState");
-    EXPECT_EQ(look(LineSide::Left), QStringLiteral("attention"));
-}
-
-TEST_F(RunPageTest, AFullPalletWantsAnother)
-{
-    makeProject();
-    openPage();
-    press(LineSide::Left, "btnEnable");
+    EXPECT_TRUE(text(LineSide::Left, "lblState").startsWith("Paused")) << text(LineSide::Left, "lblState");
+    EXPECT_EQ(look(LineSide::Left), "attention");
     ASSERT_TRUE(ask("program.run"));
-    run(400);
+    run(340);
     EXPECT_EQ(variable(QStringLiteral("flagL")), 1);
-    EXPECT_TRUE(text(LineSide::Left, "lblState").startsWith(QStringLiteral("Pallet full")));
-    EXPECT_EQ(text(LineSide::Left, "lblPallets"), QStringLiteral("1"));
+    EXPECT_TRUE(text(LineSide::Left, "lblState").startsWith("Pallet full"));
+    EXPECT_EQ(text(LineSide::Left, "lblPallets"), "1");
     EXPECT_EQ(child<StackView>(LineSide::Left, "view")->drawing().pieces(), 45);
     cell.presenter.answer(false);
     press(LineSide::Left, "btnReset");
     EXPECT_EQ(variable(QStringLiteral("totalPalletsL")), 1);
     cell.presenter.answer(true);
     press(LineSide::Left, "btnReset");
-    EXPECT_EQ(text(LineSide::Left, "lblPallets"), QStringLiteral("0"));
+    EXPECT_EQ(text(LineSide::Left, "lblPallets"), "0");
 }
 
 TEST_F(RunPageTest, StartsAtAnyPieceThatTheRecipeHas)
@@ -194,13 +195,12 @@ TEST_F(RunPageTest, StartsAtAnyPieceThatTheRecipeHas)
     EXPECT_EQ(piece->maximum(), 9);
     layer->setValue(3);
     piece->setValue(5);
-    EXPECT_EQ(partOf<QLabel>(*start, "lblCount")->text(),
-              QStringLiteral("22 of 45 boxes lie on the pallet."));
+    EXPECT_EQ(partOf<QLabel>(*start, "lblCount")->text(), "22 of 45 boxes lie on the pallet.");
     EXPECT_EQ(start->findChild<StackView *>()->drawing().pieces(), 22);
     partOf<QPushButton>(*start, "btnOk")->click();
     settle();
-    EXPECT_EQ(text(LineSide::Right, "lblLayer"), QStringLiteral("3 / 5"));
-    EXPECT_EQ(text(LineSide::Right, "lblPiece"), QStringLiteral("5 / 9"));
+    EXPECT_EQ(text(LineSide::Right, "lblLayer"), "3 / 5");
+    EXPECT_EQ(text(LineSide::Right, "lblPiece"), "5 / 9");
     EXPECT_EQ(variable(QStringLiteral("currentLayerL")), 1);
 }
 
@@ -216,14 +216,13 @@ TEST_F(RunPageTest, AfterAPowerCutAsksForAnEmptyGripperAndThePiece)
     ASSERT_TRUE(ask("cell.fault", R"({"name":"power-cut","on":false})"));
     StartDialog *asked = dialog();
     ASSERT_NE(asked, nullptr) << "by itself";
-    auto *ok = asked->findChild<QPushButton *>(QStringLiteral("btnOk"));
-    EXPECT_FALSE(ok->isEnabled());
+    EXPECT_FALSE(partOf<QPushButton>(*asked, "btnOk")->isEnabled());
     asked->reject();
     settle();
     EXPECT_EQ(dialog(), nullptr) << "once";
     EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0) << "held back";
-    EXPECT_TRUE(text(LineSide::Left, "lblState").startsWith(QStringLiteral("Broken off")));
-    EXPECT_EQ(look(LineSide::Left), QStringLiteral("attention"));
+    EXPECT_TRUE(text(LineSide::Left, "lblState").startsWith("Broken off"));
+    EXPECT_EQ(look(LineSide::Left), "attention");
 
     press(LineSide::Left, "btnEnable");
     EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0) << "not before the piece is confirmed";
@@ -231,11 +230,7 @@ TEST_F(RunPageTest, AfterAPowerCutAsksForAnEmptyGripperAndThePiece)
     ASSERT_NE(asked, nullptr);
     const palx::PalletPiece lying = palx::currentRunRecovery().sides[0].lying;
     EXPECT_EQ(asked->piece(), lying);
-    asked->findChild<QCheckBox *>(QStringLiteral("chkClear"))->click();
-    ok = asked->findChild<QPushButton *>(QStringLiteral("btnOk"));
-    ASSERT_TRUE(ok->isEnabled()) << asked->findChild<QLabel *>(QStringLiteral("lblReason"))->text();
-    ok->click();
-    settle();
+    confirm(asked);
     EXPECT_EQ(variable(QStringLiteral("enableStackL")), 1);
     EXPECT_EQ(variable(QStringLiteral("currentLayerL")), lying.layer);
     EXPECT_EQ(variable(QStringLiteral("layerCountL")), lying.piece);
@@ -262,27 +257,9 @@ TEST_F(RunPageTest, ASideThatBreaksOffUnseenIsHeldBackAndComesBackWithTheConfirm
     settle();
     StartDialog *asked = dialog();
     ASSERT_NE(asked, nullptr);
-    asked->findChild<QCheckBox *>(QStringLiteral("chkClear"))->click();
-    asked->findChild<QPushButton *>(QStringLiteral("btnOk"))->click();
-    settle();
+    confirm(asked);
     EXPECT_EQ(variable(QStringLiteral("enableStackL")), 1) << "as before";
     EXPECT_EQ(dialog(), nullptr);
-}
-
-TEST_F(RunPageTest, OnlySidesOfTheLayoutAreShown)
-{
-    makeProject();
-    openPage();
-    orba::ModuleObject *record = palx::projectRecord(QStringLiteral("Line"));
-    record->set(nullptr, "scheme_layout", 1);
-    palx::triggerNode()->c("refresh_data")->trigger();
-    settle();
-    EXPECT_FALSE(page->card(LineSide::Left)->isVisible());
-    EXPECT_TRUE(page->card(LineSide::Right)->isVisible());
-    record->set(nullptr, "scheme_layout", 3);
-    palx::triggerNode()->c("refresh_data")->trigger();
-    settle();
-    EXPECT_FALSE(page->hasLine());
 }
 
 TEST_F(RunPageTest, ShowsThatItWaitsAndWhyItWasRefused)
@@ -291,13 +268,13 @@ TEST_F(RunPageTest, ShowsThatItWaitsAndWhyItWasRefused)
     openPage();
     cell.carrier->lose(true);
     child<QPushButton>(LineSide::Left, "btnEnable")->click();
-    EXPECT_EQ(message(), QStringLiteral("Waiting for the controller."));
+    EXPECT_EQ(message(), "Waiting for the controller.");
     EXPECT_FALSE(child<QPushButton>(LineSide::Left, "btnEnable")->isEnabled());
     EXPECT_TRUE(child<QPushButton>(LineSide::Right, "btnEnable")->isEnabled());
     cell.carrier->cut(std::string("the cable is pulled"));
     QCoreApplication::processEvents();
-    EXPECT_TRUE(message().startsWith(QStringLiteral("The controller did not take it"))) << message();
-    EXPECT_EQ(text(LineSide::Left, "lblState"), QStringLiteral("No controller"));
+    EXPECT_TRUE(message().startsWith("The controller did not take it")) << message();
+    EXPECT_EQ(text(LineSide::Left, "lblState"), "No controller");
     EXPECT_FALSE(child<QPushButton>(LineSide::Left, "btnEnable")->isEnabled());
     EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0);
 }
@@ -339,12 +316,12 @@ TEST_F(RunPageTest, AnotherRecipeIsTakenOnlyWhileTheSideIsDisabled)
     };
     choose(1);
     EXPECT_EQ(variable(QStringLiteral("palletIndexL")), 1);
-    EXPECT_EQ(combo->currentText(), QStringLiteral("Second"));
+    EXPECT_EQ(combo->currentText(), "Second");
     press(LineSide::Left, "btnEnable");
     choose(0);
     EXPECT_EQ(variable(QStringLiteral("palletIndexL")), 1);
-    EXPECT_EQ(combo->currentText(), QStringLiteral("Second"));
-    EXPECT_TRUE(message().contains(QStringLiteral("Disable it"))) << message();
+    EXPECT_EQ(combo->currentText(), "Second");
+    EXPECT_TRUE(message().contains("Disable it")) << message();
 }
 
 TEST_F(RunPageTest, FitsASmallPanelAndAFingerInLongLanguages)

