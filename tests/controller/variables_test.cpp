@@ -100,15 +100,3 @@ TEST(Variables, StartAgainWithTheirFirstValuesWhenNotPersistent)
     EXPECT_EQ("5", valueText(kept, "later"));
     EXPECT_EQ("8", valueText(list, "loose")) << "only the copy starts again";
 }
-
-TEST(Variables, BearAnyListThatAPanelMayWrite)
-{
-    for (const char *json : {"null", "[1,2]", R"([{"name":5}])", R"([{"name":"a","pers":true}])",
-                             R"([{"name":"a","pers":true,"type":"int","value":{"x":[]}}])"}) {
-        Node list = nodeFromJson(json);
-        Variables variables;
-        variables.follow(list);
-        EXPECT_NE(QString(), Variables::modify(list, nodeFromJson(R"({"a":1})"))) << json;
-        EXPECT_EQ(nodeFromJson(json), variables.kept(list));
-    }
-}

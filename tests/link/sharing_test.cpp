@@ -1,7 +1,6 @@
 // What threads share: run under the thread sanitizer too, so no Qt in here.
 
 #include "link/mailbox.h"
-#include "link/reply_board.h"
 #include "link/way.h"
 
 #include <gtest/gtest.h>
@@ -12,17 +11,6 @@
 #include <vector>
 
 using host::Mailbox;
-using Board = host::ReplyBoard<int>;
-using namespace std::chrono_literals;
-
-namespace {
-
-Board::Clock::time_point soon()
-{
-    return Board::Clock::now() + 10s; // only reached when something is wrong
-}
-
-} // namespace
 
 TEST(Mailbox, WakesOncePerFilling)
 {
@@ -64,61 +52,6 @@ TEST(Mailbox, ClosingLetsTheRestOutAndNothingIn)
     EXPECT_TRUE(box.pop(&got));
     EXPECT_EQ(got, 3);
     EXPECT_FALSE(box.tryPop(&got));
-}
-
-TEST(Mailbox, ManyWritersLoseNothingAndKeepTheirOrder)
-{
-    constexpr int kWriters = 4;
-    constexpr int kItems = 2000;
-    Mailbox<std::pair<int, int>> box;
-    std::vector<std::thread> writers;
-    for (int w = 0; w < kWriters; ++w)
-        writers.emplace_back([&box, w] {
-            for (int i = 0; i < kItems; ++i)
-                box.push({w, i});
-        });
-    std::vector<int> next(kWriters, 0);
-    for (int n = 0; n < kWriters * kItems; ++n) {
-        std::pair<int, int> got;
-        ASSERT_TRUE(box.popUntil(&got, soon()));
-        ASSERT_EQ(got.second, next[static_cast<std::size_t>(got.first)]++);
-    }
-    for (std::thread &writer : writers)
-        writer.join();
-    EXPECT_EQ(box.size(), 0u);
-}
-
-TEST(ReplyBoard, EveryThreadGetsItsOwnReply)
-{
-    constexpr int kThreads = 4;
-    constexpr int kRounds = 200;
-    Board board;
-    Mailbox<std::uint64_t> asked;
-    std::atomic<std::uint64_t> lastId{0};
-    std::thread answering([&] {
-        std::uint64_t id = 0;
-        while (asked.pop(&id)) {
-            int reply = static_cast<int>(id) * 3;
-            EXPECT_TRUE(board.deliver(id, reply));
-            EXPECT_FALSE(board.deliver(id, reply));
-        }
-    });
-    std::vector<std::thread> askers;
-    for (int t = 0; t < kThreads; ++t)
-        askers.emplace_back([&] {
-            for (int round = 0; round < kRounds; ++round) {
-                const std::uint64_t id = ++lastId;
-                board.expect(id);
-                asked.push(id);
-                int got = 0;
-                ASSERT_EQ(board.wait(id, soon(), &got), Board::Outcome::Came);
-                ASSERT_EQ(got, static_cast<int>(id) * 3);
-            }
-        });
-    for (std::thread &asker : askers)
-        asker.join();
-    asked.close();
-    answering.join();
 }
 
 namespace {
