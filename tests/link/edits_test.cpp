@@ -338,9 +338,10 @@ TEST_F(LinkTest, AfterASwitchTheListsAreThoseOfTheProject)
                                              "quill.project.var._list = [{\"name\":\"b\"}]"}));
 }
 
-TEST_F(LinkTest, ASwitchWithoutALinkBeginsWithEmptyLists)
+TEST_F(LinkTest, ASwitchWithoutALinkBeginsWithEmptyListsAndKeepsThemUntilItIsTaken)
 {
-    controller.state = nodeFromJson(R"([{"path": "quill.project", "value": {"cur_project": "R7/A",
+    controller.state =
+        nodeFromJson(R"([{"path": "quill.project", "value": {"cur_project": "R7/A", "autoload_prj_path": "x",
         "task": {"_list": [{"name": "task0"}]}, "var": {"_list": [{"name": "a"}]}}}])");
     connectLink();
     answerSwitches(&controller, R"([{"name": "kept"}])");
@@ -349,40 +350,25 @@ TEST_F(LinkTest, ASwitchWithoutALinkBeginsWithEmptyLists)
     settle();
     switchTo("R7/B");
     EXPECT_EQ(list->cmobjCount(), 0);
-    EXPECT_EQ(m("quill.project.task._list")->cmobjCount(), 0);
-    addVariable("b");
-    controller.openWay(); // its greeting still tells the lists of the old project
-    settle();
-    EXPECT_TRUE(list);
-    EXPECT_EQ(m("quill.project.cur_project")->getString(), QStringLiteral("R7/B"));
-    EXPECT_EQ(list->cmobjCount(), 1);
-    EXPECT_EQ(list->getString("#0.name"), QStringLiteral("b"));
-    EXPECT_EQ(m("quill.project.task._list")->getString("#0.name"), QStringLiteral("kept"));
-    EXPECT_EQ(controller.edits, QStringList({"switch R7/B", "quill.project.var._list = [{\"name\":\"b\"}]"}));
-}
-
-TEST_F(LinkTest, UntilASwitchIsTakenListsOfTheOldProjectAreNotTaken)
-{
-    const char *const old = R"([{"name": "task0"}])";
-    controller.state =
-        nodeFromJson(R"([{"path": "quill.project", "value": {"cur_project": "R7/A", "autoload_prj_path": "x",
-        "task": {"_list": [{"name": "task0"}]}, "var": {"_list": [{"name": "a"}]}}}])");
-    connectLink();
-    controller.breakWay("pulled");
-    settle();
-    switchTo("R7/B");
     addVariable("b");
     controller.takesLate = true;
-    controller.openWay(); // its greeting tells the state as it was
+    controller.openWay(); // its greeting still tells the lists of the old project
     settle();
-    controller.update("quill.project.task._list", old, 0);
+    controller.update("quill.project.task._list", R"([{"name": "task0"}])", 0);
     controller.update("quill.project.var._list.#0.name", "\"a\"", 0);
     controller.update("quill.project.autoload_prj_path", "\"y\"", 0); // which belongs to no project
     settle();
-    EXPECT_EQ(m("quill.project.cur_project")->getString(), QStringLiteral("R7/B"));
     EXPECT_EQ(m("quill.project.task._list")->cmobjCount(), 0);
-    EXPECT_EQ(m("quill.project.var._list")->getString("#0.name"), QStringLiteral("b"));
     EXPECT_EQ(m("quill.project.autoload_prj_path")->getString(), QStringLiteral("y"));
+    controller.takesLate = false;
+    controller.event("sign.of.life");
+    settle();
+    pass(ControllerLink::kResendMs);
+    EXPECT_EQ(m("quill.project.cur_project")->getString(), QStringLiteral("R7/B"));
+    ASSERT_TRUE(list && list->cmobjCount() == 1);
+    EXPECT_EQ(list->getString("#0.name"), QStringLiteral("b"));
+    EXPECT_EQ(m("quill.project.task._list")->getString("#0.name"), QStringLiteral("kept"));
+    EXPECT_EQ(controller.edits, QStringList({"switch R7/B", "quill.project.var._list = [{\"name\":\"b\"}]"}));
 }
 
 TEST_F(LinkTest, ASwitchThatIsNotAnsweredEndsAfterTheTimeout)
