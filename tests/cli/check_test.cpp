@@ -30,14 +30,12 @@ TEST(Check, SaysWhatItRepairsRefusesAndWarnsOf)
     } cases[] = {
         {setter("product_cfg.product.length", -5), 0, u"repairs",
          "Product length is invalid and is setted to default"},
-        {setter("product_cfg.pallet.width", 100), 0, u"repairs", "Pallet'width is less than product'width"},
         {[](Node &stack) { stack.remove(u"product_cfg.product"); }, 1, u"refusals",
          "Product para is invalid"},
         {setter("layers.#2.pattern", QStringLiteral("empty")), 1, u"refusals",
          "A layer with a pattern follows an \"empty\" layer."},
         {setter("patterns.A.#0.x", 60), 0, u"warnings",
          "Pattern \"A\": Product 1 reaches 60.0 mm over the pallet."},
-        {setter("patterns.A.#1.x", 650), 0, u"warnings", "Pattern \"A\": Products 1 and 2 overlap by "},
         {[](Node &stack) { stack.find(u"get.get_p")->reset(Node::Kind::Null); }, 0, u"warnings",
          "The pick point is not taught."},
     };

@@ -58,15 +58,10 @@ TEST_F(PalxExchange, RecipesComeToAnotherPanelAsTheyAre)
     content.remove(u"default");
     EXPECT_EQ(content, exampleContent("line-left.xml"));
     EXPECT_EQ(outcomes(run({"import", "out.xml"}, "other")), "Line left new Line left 1");
-}
-
-TEST_F(PalxExchange, ATakenNameIsTreatedAsAsked)
-{
-    const QString example = examplePath("line-left.xml");
-    EXPECT_EQ(outcomes(run({"import", example})), "Line left new Line left 1");
-    EXPECT_EQ(outcomes(run({"import", example})), "Line left renamed Line left1 2");
-    EXPECT_EQ(outcomes(run({"import", example, "--on-clash", "discard"})), "Line left skipped  0");
-    EXPECT_EQ(outcomes(run({"import", example, "--on-clash", "replace"})), "Line left replaced Line left 2");
+    for (const auto &[way, outcome] :
+         {std::pair("rename", "Line left renamed Line left1 2"), std::pair("discard", "Line left skipped  0"),
+          std::pair("replace", "Line left replaced Line left 2")})
+        EXPECT_EQ(outcomes(run({"import", example, "--on-clash", way})), outcome);
 }
 
 TEST_F(PalxExchange, RefusalsSayWhyAndLeaveEverything)

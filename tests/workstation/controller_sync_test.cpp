@@ -198,11 +198,11 @@ TEST_F(SyncTest, ARefusedToolChangesNothing)
     setGlobals(kGlobalTool);
     answerWith(-2);
     EXPECT_FALSE(palx::switchToTool());
-    EXPECT_EQ(m("quill.toolpage.toolset")->getString(), QString());
     controller.onMessage = nullptr;
     controller.breakWay("pulled");
     settle();
     EXPECT_FALSE(palx::switchToTool());
+    EXPECT_EQ(m("quill.toolpage.toolset")->getString(), QString());
 }
 
 TEST_F(SyncTest, StacksToolsetGoesUnderItsName)
