@@ -72,7 +72,7 @@ protected:
 
 TEST_F(ExchangeKillTest, NoHalfFileStandsUnderTheNameAndTheOldOneStays)
 {
-    ASSERT_EQ(QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1)
+    ASSERT_EQ(QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1)
         << "only a process of one thread may be forked and go on";
     const Node newer = recipes(kMoments + 1);
     for (const int older : {0, 1, kMoments + 5}) { // no file, a shorter and a longer one

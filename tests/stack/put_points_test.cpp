@@ -122,7 +122,7 @@ TEST(ItemPose, TurnsAndExchangesAxes)
     } cases[] = {{"0", 0},    {"90", -90},  {"-90", 90}, {"180", 180},  {"-180", 180},
                  {"270", 90}, {"450", -90}, {"720", 0},  {"45.9", -45}, {"-450", 90}};
     for (const auto &one : cases) {
-        ModuleObject item(QStringLiteral("item"));
+        ModuleObject item("item");
         item.copyFrom(nodeFromJson(R"({"x":100,"y":150,"r":)" + QByteArray(one.turn) + "}"));
         double x = 7, y = 7, rz = 7;
         palx::calCoordiate(stack, &item, x, y, rz);

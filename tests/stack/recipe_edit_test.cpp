@@ -50,7 +50,7 @@ struct Recipes
 
 TEST(RecipeName, SaysWhyANameIsRefused)
 {
-    const Node stacks = stacksNamed({QStringLiteral("Box"), QStringLiteral("a.b #1")});
+    const Node stacks = stacksNamed({QStringLiteral("Box"), "a.b #1"});
     const struct
     {
         QString name;
@@ -70,7 +70,7 @@ TEST(RecipeName, SaysWhyANameIsRefused)
         EXPECT_EQ(reason.isEmpty(), *c.reason == '\0') << c.name << reason;
         EXPECT_TRUE(reason.contains(QLatin1String(c.reason))) << c.name << reason;
     }
-    EXPECT_EQ(palx::recipeNameProblem(stacks, QStringLiteral("Box"), stacks.at(0)), QString()); // its own
+    EXPECT_EQ(palx::recipeNameProblem(stacks, "Box", stacks.at(0)), QString()); // its own
 }
 
 TEST(RecipeName, ProposesTheNextFreeName)
@@ -82,10 +82,10 @@ TEST(RecipeName, ProposesTheNextFreeName)
         QString wanted;
         QString proposed;
     } cases[] = {
-        {{}, QStringLiteral("  Box "), QStringLiteral("Box")},
-        {{QStringLiteral("Box"), QStringLiteral("Box1")}, QStringLiteral("Box"), QStringLiteral("Box2")},
+        {{}, "  Box ", "Box"},
+        {{QStringLiteral("Box"), "Box1"}, "Box", "Box2"},
         {{digits}, digits, digits + QStringLiteral("1")},
-        {{}, QString(), QStringLiteral("1")},
+        {{}, QString(), "1"},
     };
     for (const auto &c : cases)
         EXPECT_EQ(palx::proposeRecipeName(stacksNamed(c.taken), c.wanted), c.proposed);
@@ -103,28 +103,28 @@ TEST(RecipeName, ProposesTheNextFreeName)
 
 TEST(RecipeCopy, StandsBehindItsOriginalAndIsItsOwn)
 {
-    const Recipes recipes({QStringLiteral("A"), QStringLiteral("B")});
-    ModuleObject *copy = palx::copyStack(recipes.stack(0), QStringLiteral("C"));
+    const Recipes recipes({QStringLiteral("A"), "B"});
+    ModuleObject *copy = palx::copyStack(recipes.stack(0), "C");
     EXPECT_EQ(namesOf(recipes.stacks()),
               QStringList({QStringLiteral("A"), QStringLiteral("C"), QStringLiteral("B")}));
     EXPECT_EQ(copy->getInt("points.put.#0.#0.put_p"), 1); // points of the same recipe stay right
-    copy->set(nullptr, "layers.#0.pattern", QStringLiteral("Z"));
+    copy->set(nullptr, "layers.#0.pattern", "Z");
     EXPECT_EQ(recipes.stack(0)->getString("layers.#0.pattern"), "A");
 }
 
 TEST(RecipeRemove, UndoBringsItBackToItsPlace)
 {
     for (int place = 0; place < 3; ++place) {
-        const Recipes recipes({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
+        const Recipes recipes({QStringLiteral("A"), "B", "C"});
         const Node before = recipes.stacks()->node();
         const palx::RemovedStack removed = palx::removeStack(recipes.stack(place));
         EXPECT_EQ(recipes.stacks()->cmobjCount(), 2);
         palx::restoreStack(recipes.stacks(), removed);
         EXPECT_EQ(recipes.stacks()->node(), before) << place;
     }
-    const Recipes recipes({QStringLiteral("A"), QStringLiteral("B")});
+    const Recipes recipes({QStringLiteral("A"), "B"});
     const palx::RemovedStack removed = palx::removeStack(recipes.stack(1));
-    palx::copyStack(recipes.stack(0), QStringLiteral("B")); // its own name is taken
+    palx::copyStack(recipes.stack(0), "B"); // its own name is taken
     EXPECT_EQ(palx::restoreStack(recipes.stacks(), removed)->getString("name"), "B1");
 }
 

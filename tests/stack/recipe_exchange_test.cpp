@@ -129,7 +129,7 @@ TEST(ImportPlan, ManyEqualNamesAreNumberedInGoodTime)
     const int count = 20000; // trying every number from 1 for each would be 200 million looks
     QStringList names;
     for (int i = 0; i < count; ++i)
-        names.append(QStringLiteral("Box"));
+        names.append("Box");
     const Node file = named(names);
     const std::vector<ImportStep> steps = palx::planImport(Node(), file, all(file), RecipeClash::Rename);
     EXPECT_EQ(steps.back().name, QStringLiteral("Box%1").arg(count - 1));
@@ -146,7 +146,7 @@ TEST_F(RecipeExchangeTest, TheListIsAnnouncedOnceAndTheOldRecipeGoesLast)
                      [&] { seen = namesOf(list()->node()); });
     QSignalSpy structure(list(), &ModuleObject::structureChanged);
     Node file = named({"A", "C", "B"});
-    file.at(0)->ensure(u"desc")->setString(QStringLiteral("from the file"));
+    file.at(0)->ensure(u"desc")->setString("from the file");
     ASSERT_TRUE(palx::importRecipes(list(), file, {true, true, false}, RecipeClash::Replace, progress));
     EXPECT_EQ(seen, (QStringList{"B", "A", "C"})); // the new one stood already
     EXPECT_EQ(structure.count(), 1);

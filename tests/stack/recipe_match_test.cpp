@@ -71,7 +71,7 @@ TEST(RecipeMatch, ADescriptionAndSettingsAreNoPoints)
 {
     Node panel = recipes("A1");
     const auto told = summaries(panel);
-    panel.at(0)->ensure(u"desc")->setString(QStringLiteral("small"));
+    panel.at(0)->ensure(u"desc")->setString("small");
     panel.at(0)->ensure(u"product_cfg.product.length")->setInt(7);
     EXPECT_EQ(palx::countDiffering(palx::matchRecipes(summaries(panel), told)), 0);
     panel.at(0)->ensure(u"get.get_p.trans.#0")->setDouble(1);

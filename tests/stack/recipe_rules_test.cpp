@@ -125,9 +125,9 @@ TEST(RecipeLayers, ASheetNeedsToBeSwitchedOnAndHigh)
 TEST(RecipeLayers, AreInsertedMovedAndRemoved)
 {
     const Recipe recipe("null");
-    palx::insertLayer(recipe.stack, -1, QStringLiteral("A"), 2.5);
-    palx::insertLayer(recipe.stack, 99, QStringLiteral("B"), 4);
-    palx::insertLayer(recipe.stack, 1, QStringLiteral("C"));
+    palx::insertLayer(recipe.stack, -1, "A", 2.5);
+    palx::insertLayer(recipe.stack, 99, "B", 4);
+    palx::insertLayer(recipe.stack, 1, "C");
     EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), "ACB");
     EXPECT_EQ(nodeText(*recipe.stack->node().find(u"layers.#2.h_offset")), nodeText(nodeFromJson("4")));
     EXPECT_TRUE(palx::moveLayer(recipe.stack, 0, 2));
@@ -152,10 +152,10 @@ TEST(RecipePatterns, SaysWhyANameIsRefused)
     } cases[] = {
         {QStringLiteral("a_B-9"), {}},
         {QString(32, QLatin1Char('p')), {}},
-        {QString(33, QLatin1Char('p')), QStringLiteral("Pattern name length is greater than 32!")},
-        {QString(), QStringLiteral("Name is empty!")},
-        {QStringLiteral("A"), QStringLiteral("Name is repeated!")},
-        {QStringLiteral("empty"), QStringLiteral("Name is repeated!")},
+        {QString(33, QLatin1Char('p')), "Pattern name length is greater than 32!"},
+        {QString(), "Name is empty!"},
+        {QStringLiteral("A"), "Name is repeated!"},
+        {QStringLiteral("empty"), "Name is repeated!"},
     };
     for (const auto &c : cases)
         EXPECT_EQ(palx::patternNameProblem(recipe.stack->node(), c.name), c.reason) << c.name;
@@ -166,9 +166,9 @@ TEST(RecipePatterns, SaysWhyANameIsRefused)
 TEST(RecipePatterns, RenamingTakesTheLayersAlong)
 {
     const Recipe recipe(R"([{"pattern": "A"}, {"pattern": "B"}, {"pattern": "A"}])");
-    EXPECT_EQ(palx::patternUse(recipe.stack->node(), QStringLiteral("A")), 2);
-    EXPECT_FALSE(palx::renamePattern(recipe.stack, QStringLiteral("A"), QStringLiteral("B")));
-    EXPECT_TRUE(palx::renamePattern(recipe.stack, QStringLiteral("A"), QStringLiteral("Z")));
+    EXPECT_EQ(palx::patternUse(recipe.stack->node(), "A"), 2);
+    EXPECT_FALSE(palx::renamePattern(recipe.stack, "A", "B"));
+    EXPECT_TRUE(palx::renamePattern(recipe.stack, "A", "Z"));
     EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), "ZBZ");
     EXPECT_EQ(palx::patternNames(recipe.stack->node()).join(QString()), "ZBC");
     EXPECT_EQ(recipe.stack->r("patterns.Z")->cmobjCount(), 2);
@@ -178,43 +178,43 @@ TEST(RecipePatterns, RenamingTakesTheLayersAlong)
 TEST(RecipeItems, FillTheFirstRowAndThenTheNext)
 {
     const Recipe recipe; // 400 wide: two products of 150 side by side
-    const int third = palx::addItem(recipe.stack, QStringLiteral("A"));
+    const int third = palx::addItem(recipe.stack, "A");
     ASSERT_EQ(third, 2);
     EXPECT_EQ(*recipe.stack->node().find(u"patterns.A.#2"),
               nodeFromJson(R"({"x": 75, "y": 300, "w": 150, "h": 200, "r": 0, "index": 3, "orient": 3,
                                "direction": "Top", "dx": 1, "dy": 2, "dz": 3})"));
-    palx::addItem(recipe.stack, QStringLiteral("A"));
+    palx::addItem(recipe.stack, "A");
     EXPECT_EQ(recipe.stack->getDouble("patterns.A.#3.x"), 225);
     for (int i = 0; i < palx::kMaxItems; ++i)
-        EXPECT_EQ(palx::addItem(recipe.stack, QStringLiteral("C")), i);
-    EXPECT_EQ(palx::addItem(recipe.stack, QStringLiteral("C")), -1);
+        EXPECT_EQ(palx::addItem(recipe.stack, "C"), i);
+    EXPECT_EQ(palx::addItem(recipe.stack, "C"), -1);
 }
 
 TEST(RecipeItems, MovingAndRemovingRenumbers)
 {
     const Recipe recipe;
-    palx::addItem(recipe.stack, QStringLiteral("A"));
-    EXPECT_TRUE(palx::moveItem(recipe.stack, QStringLiteral("A"), 2, 0));
+    palx::addItem(recipe.stack, "A");
+    EXPECT_TRUE(palx::moveItem(recipe.stack, "A", 2, 0));
     EXPECT_EQ(numbers(recipe.stack, "index"), QVector<int>({1, 2, 3}));
     EXPECT_EQ(numbers(recipe.stack, "y"), QVector<int>({300, 100, 100}));
-    EXPECT_TRUE(palx::removeItem(recipe.stack, QStringLiteral("A"), 1));
+    EXPECT_TRUE(palx::removeItem(recipe.stack, "A", 1));
     EXPECT_EQ(numbers(recipe.stack, "index"), QVector<int>({1, 2}));
     EXPECT_EQ(numbers(recipe.stack, "x"), QVector<int>({75, 225}));
-    EXPECT_FALSE(palx::removeItem(recipe.stack, QStringLiteral("A"), 2));
-    EXPECT_FALSE(palx::moveItem(recipe.stack, QStringLiteral("A"), 0, 2));
+    EXPECT_FALSE(palx::removeItem(recipe.stack, "A", 2));
+    EXPECT_FALSE(palx::moveItem(recipe.stack, "A", 0, 2));
 }
 
 TEST(RecipeItems, TakeTheSizeOfAChangedProduct)
 {
     const Recipe recipe;
-    EXPECT_EQ(palx::otherSizedItems(recipe.stack->node(), QStringLiteral("A")), 2); // stored without a size
-    palx::applyProductSize(recipe.stack, QStringLiteral("A"));
+    EXPECT_EQ(palx::otherSizedItems(recipe.stack->node(), "A"), 2); // stored without a size
+    palx::applyProductSize(recipe.stack, "A");
     EXPECT_EQ(numbers(recipe.stack, "w"), QVector<int>({150, 150}));
     EXPECT_EQ(numbers(recipe.stack, "h"), QVector<int>({200, 200}));
     recipe.stack->set(nullptr, "product_cfg.product.length", 200.9); // whole millimetres count
-    EXPECT_EQ(palx::otherSizedItems(recipe.stack->node(), QStringLiteral("A")), 0);
+    EXPECT_EQ(palx::otherSizedItems(recipe.stack->node(), "A"), 0);
     recipe.stack->set(nullptr, "product_cfg.product.length", 201);
-    EXPECT_EQ(palx::otherSizedItems(recipe.stack->node(), QStringLiteral("A")), 2);
+    EXPECT_EQ(palx::otherSizedItems(recipe.stack->node(), "A"), 2);
 }
 
 TEST(RecipeFields, RefuseWhatIsOutOfRange)

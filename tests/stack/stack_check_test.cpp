@@ -18,22 +18,19 @@ class CheckTest : public testing::Test
 protected:
     void SetUp() override
     {
-        Node *quill = orba::TreeRegistry::instance().addModule(QStringLiteral("quill"));
+        Node *quill = orba::TreeRegistry::instance().addModule("quill");
         Node *current = quill->ensure(u"log.current");
         current->setString(QString());
         current->setEvent(true);
-        orba::TreeRegistry::instance()
-            .addModule(QStringLiteral("nexo"))
-            ->ensure(u"r.id")
-            ->setString(QStringLiteral("R7"));
+        orba::TreeRegistry::instance().addModule("nexo")->ensure(u"r.id")->setString("R7");
         QObject::connect(m("quill.log.current"), &orba::ModuleObject::changed, &context_,
                          [this](const QVariant &value) { records_.append(value.toString()); });
     }
 
     void TearDown() override
     {
-        orba::TreeRegistry::instance().removeModule(QStringLiteral("quill"));
-        orba::TreeRegistry::instance().removeModule(QStringLiteral("nexo"));
+        orba::TreeRegistry::instance().removeModule("quill");
+        orba::TreeRegistry::instance().removeModule("nexo");
     }
 
     /// Titles of the records so far, forgetting them; also checks what each record holds.

@@ -150,8 +150,8 @@ TEST_F(ControllerDialogTest, TheHomePageShowsTheSignAndOpensIt)
     bwaf::BModule module;
     host::setCenterWidget(&center);
     const auto home = std::make_unique<StackHomePage>(&center, &module);
-    center.addPage(home->wgt(), QStringLiteral("palx_workstation.home_page"));
-    auto *button = home->wgt()->findChild<QPushButton *>(QStringLiteral("btnController"));
+    center.addPage(home->wgt(), "palx_workstation.home_page");
+    auto *button = home->wgt()->findChild<QPushButton *>("btnController");
     ASSERT_NE(button, nullptr);
     const auto shows = [button](const char *sign) {
         return waitUntil([&] { return button->text() == QString::fromUtf8(sign); });
@@ -162,7 +162,7 @@ TEST_F(ControllerDialogTest, TheHomePageShowsTheSignAndOpensIt)
     button->click();
     auto *opened = center.findChild<ControllerDialog *>();
     ASSERT_NE(opened, nullptr);
-    opened->findChild<QPushButton *>(QStringLiteral("btnPush"))->click();
+    opened->findChild<QPushButton *>("btnPush")->click();
     EXPECT_TRUE(shows("= 2"));
     EXPECT_TRUE(button->accessibleDescription().startsWith("The controller holds all 2"))
         << button->accessibleDescription();

@@ -45,7 +45,7 @@ void eachFileDialog(QWidget *panel, const Visit &visit)
     stick.file(QString(QLatin1Char('W')).repeated(60) + QStringLiteral(".xml"));
     const QString filters = QStringLiteral("XML (*.xml);;All files (*)");
     const auto one = [&](FileRequest::Kind kind, const char *where) {
-        FileDialog dialog(stick, kind, QStringLiteral("pallet.xml"), filters, panel);
+        FileDialog dialog(stick, kind, "pallet.xml", filters, panel);
         show(&dialog, where, visit);
     };
     one(FileRequest::Open, "open");
@@ -62,7 +62,7 @@ void eachPatternDialog(const Visit &visit)
     OpenPattern open;
     open.window.resize(1024, 640);
     open.window.show();
-    NewPatternDialog naming(open.stack->r("patterns"), QStringLiteral("A"), &open.window);
+    NewPatternDialog naming(open.stack->r("patterns"), "A", &open.window);
     show(&naming, "pattern name", visit);
     AutomaticStackerDialog stacker(open.stack, &open.scene, &open.window);
     show(&stacker, "stacker", visit);
@@ -80,8 +80,7 @@ void eachProjectExchange(const Visit &visit)
         ImExportProjectDialog dialog(isImport, nullptr, QString());
         QVector<ExchangeTableModel::Row> rows(8, {{"Line north.zip"}, "Line north", QString(), false});
         dialog.findChild<ExchangeTableModel *>()->setRows(rows);
-        dialog.findChild<MessageBar *>()->showUndo(QStringLiteral("Imported: Line north"),
-                                                   ix::xtheme::State::Running);
+        dialog.findChild<MessageBar *>()->showUndo("Imported: Line north", ix::xtheme::State::Running);
         dialog.show();
         dialog.resize(dialog.minimumSizeHint());
         show(&dialog, isImport ? "project import" : "project export", visit);
@@ -99,7 +98,7 @@ void eachDialog(const Visit &visit)
     eachProjectExchange(visit);
     LayerSeriesDialog series(pages.tree.addRecipe("Box"), 0, nullptr);
     show(&series, "layers in turn", visit);
-    LongWorkDialog work(QStringLiteral("Export"), nullptr);
+    LongWorkDialog work("Export", nullptr);
     show(&work, "long work", visit);
     Keypad keypad(KeypadRequest{QStringLiteral("Length"), {}, 0, 1, 0, 0}, &panel);
     show(&keypad, "keypad", visit);
@@ -134,7 +133,7 @@ template <typename PageVisit> void eachWizardPage(PageVisit visit)
 /// The project manager in its views: looking at a project, and adding one.
 void eachProjectView(Pages &pages, const Visit &visit)
 {
-    QWidget *manager = pages.home->subPages()->openSubPage(QStringLiteral("project_manager"));
+    QWidget *manager = pages.home->subPages()->openSubPage("project_manager");
     for (const char *name : {"btnTasks", "btnVariables", "btnParameters", "btnAdd", "btnCancel"}) {
         auto *button = manager->findChild<QAbstractButton *>(QLatin1String(name));
         button->setEnabled(true); // without a controller, too
@@ -180,7 +179,7 @@ TEST(Forms, DialogsFitASmallPanelAFingerAndLongerLanguages)
         expectReadable(dialog, where);
         expectTouchable(dialog, where);
         count += expectNamed(dialog, where);
-        const auto *files = dialog->findChild<QTableView *>(QStringLiteral("tblFiles"));
+        const auto *files = dialog->findChild<QTableView *>("tblFiles");
         EXPECT_FALSE(files && files->isVisible() && files->rowHeight(0) < 56) << where;
     });
     EXPECT_GT(count, 150);
@@ -230,7 +229,7 @@ TEST(Forms, PagesSuitFingersReadersAndLongerLanguages)
     const QSize smallest = pages.home->wgt()->minimumSizeHint();
     EXPECT_LE(smallest.width(), 836); // of 1024 x 640, beside the navigator and above the line of messages
     EXPECT_LE(smallest.height(), 566);
-    expectReadable(pages.home->wgt(), QStringLiteral("home "));
+    expectReadable(pages.home->wgt(), "home ");
     const auto check = [](QWidget *form, const QString &where) {
         expectReadable(form, where);
         expectTouchable(form, where);
@@ -271,7 +270,7 @@ TEST(Forms, KeepWhatIsChosenWhenTheLanguageChanges)
     pages.tree.addRecipe("Box");
     pages.open("Box");
     const Stick stick;
-    const FileDialog file(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
+    const FileDialog file(stick, FileRequest::Save, "pallet.xml");
     const CascadeNestingWizard wizard(pages.setup->stack(), nullptr);
     const auto texts = [&] {
         return QStringList{pages.field<QLabel>("lblTitle")->text(), wizard.windowTitle(),

@@ -146,7 +146,7 @@ TEST(HomePage, SearchFindsNamesAndDescriptions)
     Pages pages;
     pages.tree.addRecipe("Alpha");
     orba::ModuleObject *beta = pages.tree.addRecipe("Beta");
-    beta->set(nullptr, "desc", QStringLiteral("of GAMMA kind"));
+    beta->set(nullptr, "desc", "of GAMMA kind");
     palx::triggerNode()->c("refresh_table")->trigger();
     const struct
     {
@@ -169,7 +169,7 @@ TEST(HomePage, ReloadsOnTheTriggerAndTellsOfOtherNamesOnly)
     TriggerCount combos("refresh_cmb");
     palx::triggerNode()->c("refresh_table")->trigger();
     EXPECT_EQ(combos.take(), 0);
-    stack->set(nullptr, "name", QStringLiteral("B"));
+    stack->set(nullptr, "name", "B");
     EXPECT_EQ(shownNames(pages), QStringList(QStringLiteral("A")));
     palx::triggerNode()->c("refresh_table")->trigger();
     EXPECT_EQ(shownNames(pages), QStringList(QStringLiteral("B")));
@@ -193,7 +193,7 @@ TEST(HomePage, ExportsImportsAndTakesItBack)
     ScriptedFiles files;
     ScriptedPresenter presenter;
     const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("pallet.xml"));
+    const QString file = folder.filePath("pallet.xml");
     const auto length = [&pages] { return pages.setup->stack()->getDouble("product_cfg.product.length"); };
     partOf<QPushButton>(*openExchange(pages, &files, "btnExport", file), "btnOk")->click();
     EXPECT_TRUE(message(pages)->text().startsWith(QStringLiteral("2 recipes were written to ") + file));

@@ -55,7 +55,7 @@ protected:
     {
         Node content;
         content.reset(Node::Kind::List);
-        content.add(orba::Name(u"default"))->ensure(u"name")->setString(QStringLiteral("of the writer"));
+        content.add(orba::Name(u"default"))->ensure(u"name")->setString("of the writer");
         for (const QString &each : names) {
             Node *recipe = content.add();
             recipe->assign(*palx::pluginNode()->node().child(u"default"));
@@ -122,7 +122,7 @@ protected:
 
 TEST_F(ImExportDialogTest, AsksForFilesWhereTheLastOnesWere)
 {
-    m("quill.help.file_path")->set(nullptr, "import", QStringLiteral("/media/one"));
+    m("quill.help.file_path")->set(nullptr, "import", "/media/one");
     open(true);
     choose(file({"C"}));
     ASSERT_EQ(files.asked.size(), 1);
@@ -301,13 +301,13 @@ TEST_F(ImExportDialogTest, SingleRecipesAreFoundRemovedAndMerged)
     for (const char *name : {"A", "B", "A"})
         addRecipe(name);
     open(true);
-    EXPECT_TRUE(dialog->hasNode(QStringLiteral("A")));
-    EXPECT_FALSE(dialog->hasNode(QStringLiteral("a")));
-    dialog->removeNode(QStringLiteral("A"));
+    EXPECT_TRUE(dialog->hasNode("A"));
+    EXPECT_FALSE(dialog->hasNode("a"));
+    dialog->removeNode("A");
     EXPECT_EQ(names(), (QStringList{"B", "A"}));
-    EXPECT_EQ(dialog->getNewName(QStringLiteral("Box007")), "Box8");
+    EXPECT_EQ(dialog->getNewName("Box007"), "Box8");
     orba::ModuleObject stack;
-    stack.ensure("name")->set(nullptr, "", QStringLiteral("B"));
+    stack.ensure("name")->set(nullptr, "", "B");
     dialog->importNode(&stack);
     dialog->importNode(&stack);
     press("optReplace");

@@ -18,7 +18,7 @@ namespace {
 
 KeypadRequest request(double minimum, double maximum, int decimals, double value = 0)
 {
-    return {QStringLiteral("Length"), QStringLiteral("mm"), minimum, maximum, decimals, value};
+    return {QStringLiteral("Length"), "mm", minimum, maximum, decimals, value};
 }
 
 /// Presses keys by the names of their buttons, "1", "Point", "Ok".
@@ -33,7 +33,7 @@ void press(Keypad *keypad, const char *keys)
 
 QString limits(const Keypad &keypad)
 {
-    return keypad.findChild<QLabel *>(QStringLiteral("lblLimits"))->text();
+    return keypad.findChild<QLabel *>("lblLimits")->text();
 }
 
 /// The setting "touch" for the time of a test.
@@ -41,13 +41,10 @@ struct Touch
 {
     explicit Touch(bool on)
     {
-        nexo::SettingManager::instance()->setOverride(QStringLiteral("touch"),
+        nexo::SettingManager::instance()->setOverride("touch",
                                                       on ? QStringLiteral("true") : QStringLiteral("false"));
     }
-    ~Touch()
-    {
-        nexo::SettingManager::instance()->setOverride(QStringLiteral("touch"), QStringLiteral("false"));
-    }
+    ~Touch() { nexo::SettingManager::instance()->setOverride("touch", "false"); }
 };
 
 } // namespace
@@ -102,8 +99,8 @@ struct TouchForm
     TouchForm() : number(new QDoubleSpinBox(&form)), whole(new QSpinBox(&form))
     {
         number->setRange(-10, 200);
-        number->setSuffix(QStringLiteral(" mm"));
-        number->setAccessibleName(QStringLiteral("Width"));
+        number->setSuffix(" mm");
+        number->setAccessibleName("Width");
         auto *layout = new QVBoxLayout(&form);
         layout->addWidget(number);
         layout->addWidget(whole);

@@ -102,7 +102,7 @@ struct FilledPages : Pages
         orba::ModuleObject *stack = tree.addRecipe("R1");
         palx::insertLayer(stack, -1, palx::kSheetPattern);
         palx::stacksNode()->announceStructure(); // the home page lists it anew
-        home->subPages()->openSubPage(QStringLiteral("project_manager"));
+        home->subPages()->openSubPage("project_manager");
         home->subPages()->closeSubPage();
         open("R1");
     }
@@ -156,7 +156,7 @@ TEST(LanguageChange, ReachesEveryTextOfThePagesAndGoesBackToEnglish)
 /// No word of the sources is left, except names that belong to the data.
 TEST(LanguageChange, LeavesNoEnglishWord)
 {
-    const QRegularExpression word(QStringLiteral("[A-Za-z]{3,}"));
+    const QRegularExpression word("[A-Za-z]{3,}");
     for (const char *language : {"ru", "cn", "jp", "kr"}) {
         const Language chosen(language);
         const FilledPages pages;

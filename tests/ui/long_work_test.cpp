@@ -36,7 +36,7 @@ bool workUntil(Progress *progress, const std::function<bool()> &isEnough)
     QElapsedTimer bound;
     bound.start();
     while (!isEnough() && !bound.hasExpired(kBoundMs))
-        progress->step(3, 8, QStringLiteral("паллета 3"));
+        progress->step(3, 8, "паллета 3");
     return isEnough();
 }
 

@@ -21,7 +21,7 @@ namespace {
 
 std::unique_ptr<ModuleObject> tree(const char *json)
 {
-    auto root = std::make_unique<ModuleObject>(QStringLiteral("root"));
+    auto root = std::make_unique<ModuleObject>("root");
     root->node().assign(nodeFromJson(json));
     return root;
 }
@@ -36,11 +36,11 @@ struct Form
         number.setDecimals(1);
         for (const char *name : {"Top", "Left", "Middle"})
             combo.addItem(QStringLiteral("shown ") + QLatin1String(name), QLatin1String(name));
-        binder.bind(&spin, QStringLiteral("int"));
-        binder.bind(&number, QStringLiteral("double"));
-        binder.bind(&combo, QStringLiteral("combo"));
-        binder.bind(&flag, QStringLiteral("flag"));
-        binder.bind(&text, QStringLiteral("text"));
+        binder.bind(&spin, "int");
+        binder.bind(&number, "double");
+        binder.bind(&combo, "combo");
+        binder.bind(&flag, "flag");
+        binder.bind(&text, "text");
     }
     QSpinBox spin;
     QDoubleSpinBox number;
@@ -87,7 +87,7 @@ TEST(NodeBinder, WritesOnlyWhenEditingIsFinished)
     form.binder.setRoot(root.get());
     form.spin.setValue(12);
     form.number.setValue(3.5);
-    form.text.setText(QStringLiteral("new"));
+    form.text.setText("new");
     EXPECT_EQ(root->node(), nodeFromJson(kValues));
     Q_EMIT form.spin.editingFinished();
     Q_EMIT form.number.editingFinished();
@@ -113,7 +113,7 @@ TEST(NodeBinder, AKeyboardEditIsOneEdit)
     const QSignalSpy edits(&form.binder, &NodeBinder::edited);
     form.number.show();
     form.number.selectAll();
-    QTest::keyClicks(&form.number, QStringLiteral("-12.5"));
+    QTest::keyClicks(&form.number, "-12.5");
     EXPECT_EQ(root->getDouble("double"), 1.5);
     QTest::keyClick(&form.number, Qt::Key_Enter);
     Q_EMIT form.number.editingFinished(); // leaving the field after the key
@@ -145,7 +145,7 @@ TEST(NodeBinder, TheFirstWriteMakesAMissingKey)
 {
     QDoubleSpinBox field;
     NodeBinder binder;
-    binder.bind(&field, QStringLiteral("deep.down.value"));
+    binder.bind(&field, "deep.down.value");
     const auto root = tree(R"({"deep": null})");
     binder.setRoot(root.get());
     EXPECT_TRUE(field.isEnabled());
@@ -190,7 +190,7 @@ TEST(NodeBinder, FollowsANodeThatGoesComesBackOrIsReplaced)
     root->set(nullptr, "double", 2.5);
     EXPECT_TRUE(form.number.isEnabled());
     EXPECT_EQ(form.number.value(), 2.5);
-    form.binder.bind(&form.spin, QStringLiteral("sub.value"));
+    form.binder.bind(&form.spin, "sub.value");
     root->ensure("sub")->copyFrom(nodeFromJson(R"({"value": 3})"));
     QCoreApplication::processEvents();
     root->r("sub")->copyFrom(nodeFromJson(R"({"other": 1, "value": 5})"));
@@ -218,7 +218,7 @@ TEST(NodeBinder, AFieldMayEndFirst)
     const auto root = tree(kValues);
     NodeBinder binder;
     auto field = std::make_unique<QSpinBox>();
-    binder.bind(field.get(), QStringLiteral("int"));
+    binder.bind(field.get(), "int");
     binder.setRoot(root.get());
     field.reset();
     root->set(nullptr, "int", 11);

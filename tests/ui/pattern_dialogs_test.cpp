@@ -60,7 +60,7 @@ TYPED_TEST(PatternNameDialogs, TakeOnlyLettersDigitsAndDashes)
     const auto dialog = this->open();
     auto *field = partOf<QLineEdit>(*dialog, "edtName");
     field->clear();
-    QTest::keyClicks(field, QStringLiteral("a b.c/d#1[_-Z9"));
+    QTest::keyClicks(field, "a b.c/d#1[_-Z9");
     EXPECT_EQ(field->text(), "abcd1_-Z9");
     const orba::Node before = this->patterns()->node();
     partOf<QPushButton>(*dialog, "btnCancel")->click();
@@ -176,12 +176,12 @@ TEST(PatternTemplateDialog, ShowsTheFieldsAndThePictureOfItsKind)
         EXPECT_EQ(test.stack->getString("pattern_cfg.template.type"), QLatin1String(c.image));
     }
     auto *settings = nexo::SettingManager::instance();
-    settings->setOverride(QStringLiteral("language"), QStringLiteral("cn")); // has pictures of its own
+    settings->setOverride("language", "cn"); // has pictures of its own
     const TemplateTest chinese;
     const QImage shown = imageOf(partOf<QLabel>(chinese.dialog, "wgtImage"));
-    settings->setOverride(QStringLiteral("language"), QString());
-    EXPECT_TRUE(shown == resourceImage(QStringLiteral("overlap")));
-    EXPECT_FALSE(shown == resourceImage(QStringLiteral("overlap_en")));
+    settings->setOverride("language", QString());
+    EXPECT_TRUE(shown == resourceImage("overlap"));
+    EXPECT_FALSE(shown == resourceImage("overlap_en"));
 }
 
 TEST(PatternTemplateDialog, KeepsWhatWasTypedAlsoWhenItIsCancelled)
@@ -203,7 +203,7 @@ TEST(PatternTemplateDialog, KeepsWhatWasTypedAlsoWhenItIsCancelled)
 TEST(PatternTemplateDialog, AppendsTheItems)
 {
     TemplateTest test;
-    test.scene.addWobjItem(1, 0, {500, 700}, {150, 200}, 0, {}, QStringLiteral("Top"));
+    test.scene.addWobjItem(1, 0, {500, 700}, {150, 200}, 0, {}, "Top");
     test.type("spnNumX", 1);
     test.type("spnNumY", 2);
     partOf<QPushButton>(test.dialog, "btnConfirm")->click();
@@ -319,7 +319,7 @@ TEST(AutomaticStackerDialog, AsksBeforeItOverwrites)
     for (const bool answer : {false, true}) {
         ScriptedPresenter presenter({answer});
         StackerTest test;
-        test.scene.addWobjItem(1, 0, {500, 700}, {150, 200}, 0, {}, QStringLiteral("Top"));
+        test.scene.addWobjItem(1, 0, {500, 700}, {150, 200}, 0, {}, "Top");
         QSignalSpy finished(&test.dialog, &QDialog::finished);
         test.touch(0);
         test.confirm();
@@ -349,7 +349,7 @@ TEST(AutomaticStackerDialog, WithoutAnEffectiveChoiceNothingHappens)
     for (const auto &c : cases) {
         ScriptedPresenter presenter;
         StackerTest test(c.changes);
-        test.scene.addWobjItem(1, 0, {500, 700}, {150, 200}, 0, {}, QStringLiteral("Top"));
+        test.scene.addWobjItem(1, 0, {500, 700}, {150, 200}, 0, {}, "Top");
         QSignalSpy finished(&test.dialog, &QDialog::finished);
         if (*c.facts) {
             EXPECT_EQ(test.preview(c.index)->facts(), QLatin1String(c.facts));

@@ -24,7 +24,7 @@ const char *const kRecipe =
 /// A view of a pattern of three products, shown without a page around it.
 struct Plan
 {
-    Plan() : stack(QStringLiteral("stack"))
+    Plan() : stack("stack")
     {
         stack.copyFrom(nodeFromJson(kRecipe));
         scene.setStack(&stack);

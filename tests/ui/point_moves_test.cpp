@@ -41,7 +41,7 @@ TEST_F(PointMoves, APointIsTaughtWhereTheRobotStandsAndTakenBack)
                       robot.find(u"pose")->find(QString::fromLatin1(list))->number(i));
     for (int i = 0; i < 6; ++i)
         EXPECT_EQ(taught.find(u"near")->number(i), robot.find(u"joints")->number(i));
-    EXPECT_EQ(group("grpPutPoint")->findChild<QDoubleSpinBox *>(QStringLiteral("dspnX"))->value(), 1350);
+    EXPECT_EQ(group("grpPutPoint")->findChild<QDoubleSpinBox *>("dspnX")->value(), 1350);
     EXPECT_EQ(pages.message(), QString());
     pages.setup->undo();
     EXPECT_EQ(stack()->r("put.put_p")->node(), before);
@@ -58,10 +58,10 @@ TEST_F(PointMoves, APointIsTaughtWhereTheRobotStandsAndTakenBack)
 TEST_F(PointMoves, NothingIsTaughtWhileTheRobotsPlaceIsNotCertain)
 {
     const orba::Node before = stack()->node();
-    orba::ModuleObject move(QStringLiteral("move"));
+    orba::ModuleObject move("move");
     move.copyFrom(nodeFromJson(R"({"type": "j", "motion": {"toolset": "no use", "speed": 500},
         "point": {"trans": [1.2, 0.4, 0.8], "rot": [3.141592653589793, 0.0, 0.0]}})"));
-    ASSERT_TRUE(xservice()->execCommand(nullptr, QStringLiteral("motion.start"), &move).isOk());
+    ASSERT_TRUE(xservice()->execCommand(nullptr, "motion.start", &move).isOk());
     cell.settle();
     button("grpPutPoint", "btnTeach")->click();
     EXPECT_EQ(pages.message(), "The robot is moving. Teach the point when it stands.");
@@ -76,9 +76,9 @@ TEST_F(PointMoves, AGeneratedPointIsDrivenToFromTheTable)
 {
     pages.setup->showFrame(OpenRecipe::Points);
     RecipeFrame *frame = pages.setup->frames().at(OpenRecipe::Points);
-    auto *move = frame->findChild<QPushButton *>(QStringLiteral("btnMove"));
-    auto *table = frame->findChild<QTableView *>(QStringLiteral("tblPoints"));
-    frame->findChild<QPushButton *>(QStringLiteral("btnGenerate"))->click();
+    auto *move = frame->findChild<QPushButton *>("btnMove");
+    auto *table = frame->findChild<QTableView *>("tblPoints");
+    frame->findChild<QPushButton *>("btnGenerate")->click();
     EXPECT_FALSE(move->isEnabled());
     const int row = 5 + 6 + 3; // behind the pick side and the first product: "put_p" of the second
     table->selectRow(row);
@@ -86,7 +86,7 @@ TEST_F(PointMoves, AGeneratedPointIsDrivenToFromTheTable)
     move->click();
     cell.settle();
     ASSERT_TRUE(dialog());
-    EXPECT_EQ(dialog()->findChild<QLabel *>(QStringLiteral("lblPoseTarget0"))->text(),
+    EXPECT_EQ(dialog()->findChild<QLabel *>("lblPoseTarget0")->text(),
               QString::number(1000 * stack()->getDouble("points.put.#0.#1.put_p.trans.#0"), 'f', 1));
     table->clearSelection();
     EXPECT_FALSE(move->isEnabled());

@@ -158,7 +158,7 @@ TEST(LayersFrame, SeveralLayersAreEditedAlikeInOneStep)
     for (const int layer : {0, 1, 2, 3})
         EXPECT_EQ(l.stack->getInt(QStringLiteral("layers.#%1.h_offset").arg(layer)), layer == 1 ? 0 : 7);
     auto *pattern = l.at<QComboBox>("cmbPattern");
-    pattern->setCurrentIndex(pattern->findData(QStringLiteral("B")));
+    pattern->setCurrentIndex(pattern->findData("B"));
     Q_EMIT pattern->activated(pattern->currentIndex());
     EXPECT_EQ(l.patterns(), (QStringList{"B", "B", "B", "B"}));
     EXPECT_EQ(edits.count(), 2);
@@ -193,16 +193,16 @@ TEST(LayersFrame, LaysLayersInTurn)
         auto *combo = dialog->findChild<QComboBox *>(QLatin1String(name));
         combo->setCurrentIndex(combo->findData(data));
     };
-    auto *result = dialog->findChild<QLabel *>(QStringLiteral("lblResult"));
-    auto *ok = dialog->findChild<QPushButton *>(QStringLiteral("btnOk"));
-    choose("cmbFirst", QStringLiteral("B"));
+    auto *result = dialog->findChild<QLabel *>("lblResult");
+    auto *ok = dialog->findChild<QPushButton *>("btnOk");
+    choose("cmbFirst", "B");
     choose("cmbSecond", 0); // its mirror image
     choose("cmbWhere", 1);  // from the second layer on
-    dialog->findChild<QSpinBox *>(QStringLiteral("spnSheet"))->setValue(2);
-    dialog->findChild<QSpinBox *>(QStringLiteral("spnCount"))->setValue(200);
+    dialog->findChild<QSpinBox *>("spnSheet")->setValue(2);
+    dialog->findChild<QSpinBox *>("spnCount")->setValue(200);
     EXPECT_FALSE(ok->isEnabled());
     EXPECT_TRUE(result->text().contains("at most 200")) << result->text();
-    dialog->findChild<QSpinBox *>(QStringLiteral("spnCount"))->setValue(3);
+    dialog->findChild<QSpinBox *>("spnCount")->setValue(3);
     EXPECT_TRUE(result->text().startsWith("Boxes: 5, layers: 4")) << result->text();
     EXPECT_EQ(l.patterns().size(), 4) << "nothing is laid before it is confirmed";
     ok->click();

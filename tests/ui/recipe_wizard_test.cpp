@@ -70,19 +70,6 @@ TEST(RecipeWizard, CancelAfterGoingOnSendsTheOldStateAgain)
     EXPECT_EQ(w.points(), 2) << "points of a layer that is gone";
 }
 
-TEST(RecipeWizard, EmptyLayersThatGenerationDropsAreNoEdit)
-{
-    LayerWizard w;
-    palx::insertLayer(w.stack, -1, palx::kEmptyPattern);
-    w.wizard = std::make_unique<CascadeNestingWizard>(w.stack, nullptr);
-    w.wizard->show();
-    w.click("btnNext");
-    ASSERT_EQ(w.stack->r("layers")->cmobjCount(), 2);
-    w.click("btnCancel");
-    EXPECT_FALSE(w.wizard->isVisible());
-    EXPECT_TRUE(w.presenter.asked.isEmpty());
-}
-
 TEST(RecipeWizard, WhatWasEditedIsSentWhenAnotherDialogTakesItsPlace)
 {
     LayerWizard w;
@@ -103,8 +90,8 @@ TEST(RecipeWizard, ForTheSetUpPageItIsOneStep)
     menu->actions().last()->trigger();
     auto *wizard = pages.center.findChild<RecipeWizard *>();
     ASSERT_NE(wizard, nullptr);
-    wizard->findChild<QPushButton *>(QStringLiteral("btnAdd"))->click();
-    wizard->findChild<QPushButton *>(QStringLiteral("btnAdd"))->click();
+    wizard->findChild<QPushButton *>("btnAdd")->click();
+    wizard->findChild<QPushButton *>("btnAdd")->click();
     wizard->next();
     wizard->next();
     EXPECT_FALSE(wizard->isVisible());

@@ -54,7 +54,7 @@ protected:
     void makeProject()
     {
         cell.presenter.answer(true);
-        ASSERT_TRUE(palx::makeFirstProject(QStringLiteral("Line")));
+        ASSERT_TRUE(palx::makeFirstProject("Line"));
         settle();
     }
     void openPage()
@@ -145,7 +145,7 @@ TEST_F(RunPageTest, MakesAProjectOfTheRecipesWithOneButton)
         EXPECT_EQ(text(side, "lblState"), "Disabled");
         EXPECT_EQ(text(side, "lblBoxes"), "0 / 45");
     }
-    EXPECT_EQ(variable(QStringLiteral("boxHeightL")), 180);
+    EXPECT_EQ(variable("boxHeightL"), 180);
 }
 
 TEST_F(RunPageTest, EnablesASideAndShowsItsStackGrowUntilThePalletIsFull)
@@ -153,14 +153,14 @@ TEST_F(RunPageTest, EnablesASideAndShowsItsStackGrowUntilThePalletIsFull)
     makeProject();
     openPage();
     press(LineSide::Left, "btnEnable");
-    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 1);
+    EXPECT_EQ(variable("enableStackL"), 1);
     EXPECT_EQ(child<QPushButton>(LineSide::Left, "btnEnable")->text(), "Disable");
     EXPECT_EQ(text(LineSide::Left, "lblState"), "Enabled, no program runs");
     ASSERT_TRUE(ask("program.run"));
     run(60);
     EXPECT_EQ(text(LineSide::Left, "lblState"), "Stacking");
     EXPECT_EQ(look(LineSide::Left), "running");
-    const qint64 piled = variable(QStringLiteral("palletCountL"));
+    const qint64 piled = variable("palletCountL");
     EXPECT_GT(piled, 3);
     EXPECT_EQ(text(LineSide::Left, "lblBoxes"), QStringLiteral("%1 / 45").arg(piled));
     EXPECT_EQ(child<StackView>(LineSide::Left, "view")->drawing().pieces(), piled);
@@ -170,13 +170,13 @@ TEST_F(RunPageTest, EnablesASideAndShowsItsStackGrowUntilThePalletIsFull)
     EXPECT_EQ(look(LineSide::Left), "attention");
     ASSERT_TRUE(ask("program.run"));
     run(340);
-    EXPECT_EQ(variable(QStringLiteral("flagL")), 1);
+    EXPECT_EQ(variable("flagL"), 1);
     EXPECT_TRUE(text(LineSide::Left, "lblState").startsWith("Pallet full"));
     EXPECT_EQ(text(LineSide::Left, "lblPallets"), "1");
     EXPECT_EQ(child<StackView>(LineSide::Left, "view")->drawing().pieces(), 45);
     cell.presenter.answer(false);
     press(LineSide::Left, "btnReset");
-    EXPECT_EQ(variable(QStringLiteral("totalPalletsL")), 1);
+    EXPECT_EQ(variable("totalPalletsL"), 1);
     cell.presenter.answer(true);
     press(LineSide::Left, "btnReset");
     EXPECT_EQ(text(LineSide::Left, "lblPallets"), "0");
@@ -201,7 +201,7 @@ TEST_F(RunPageTest, StartsAtAnyPieceThatTheRecipeHas)
     settle();
     EXPECT_EQ(text(LineSide::Right, "lblLayer"), "3 / 5");
     EXPECT_EQ(text(LineSide::Right, "lblPiece"), "5 / 9");
-    EXPECT_EQ(variable(QStringLiteral("currentLayerL")), 1);
+    EXPECT_EQ(variable("currentLayerL"), 1);
 }
 
 TEST_F(RunPageTest, AfterAPowerCutAsksForAnEmptyGripperAndThePiece)
@@ -220,20 +220,20 @@ TEST_F(RunPageTest, AfterAPowerCutAsksForAnEmptyGripperAndThePiece)
     asked->reject();
     settle();
     EXPECT_EQ(dialog(), nullptr) << "once";
-    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0) << "held back";
+    EXPECT_EQ(variable("enableStackL"), 0) << "held back";
     EXPECT_TRUE(text(LineSide::Left, "lblState").startsWith("Broken off"));
     EXPECT_EQ(look(LineSide::Left), "attention");
 
     press(LineSide::Left, "btnEnable");
-    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0) << "not before the piece is confirmed";
+    EXPECT_EQ(variable("enableStackL"), 0) << "not before the piece is confirmed";
     asked = dialog();
     ASSERT_NE(asked, nullptr);
     const palx::PalletPiece lying = palx::currentRunRecovery().sides[0].lying;
     EXPECT_EQ(asked->piece(), lying);
     confirm(asked);
-    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 1);
-    EXPECT_EQ(variable(QStringLiteral("currentLayerL")), lying.layer);
-    EXPECT_EQ(variable(QStringLiteral("layerCountL")), lying.piece);
+    EXPECT_EQ(variable("enableStackL"), 1);
+    EXPECT_EQ(variable("currentLayerL"), lying.layer);
+    EXPECT_EQ(variable("layerCountL"), lying.piece);
     EXPECT_FALSE(palx::needsConfirmation(palx::currentRunRecovery(), 0));
     ASSERT_TRUE(ask("program.run"));
     run(400);
@@ -250,7 +250,7 @@ TEST_F(RunPageTest, ASideThatBreaksOffUnseenIsHeldBackAndComesBackWithTheConfirm
     run(60);
     page->hide();
     ASSERT_TRUE(ask("program.stop"));
-    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0);
+    EXPECT_EQ(variable("enableStackL"), 0);
     EXPECT_EQ(dialog(), nullptr);
     ASSERT_TRUE(ask("cell.gripper", R"({"action":"clear"})"));
     page->show();
@@ -258,7 +258,7 @@ TEST_F(RunPageTest, ASideThatBreaksOffUnseenIsHeldBackAndComesBackWithTheConfirm
     StartDialog *asked = dialog();
     ASSERT_NE(asked, nullptr);
     confirm(asked);
-    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 1) << "as before";
+    EXPECT_EQ(variable("enableStackL"), 1) << "as before";
     EXPECT_EQ(dialog(), nullptr);
 }
 
@@ -276,7 +276,7 @@ TEST_F(RunPageTest, ShowsThatItWaitsAndWhyItWasRefused)
     EXPECT_TRUE(message().startsWith("The controller did not take it")) << message();
     EXPECT_EQ(text(LineSide::Left, "lblState"), "No controller");
     EXPECT_FALSE(child<QPushButton>(LineSide::Left, "btnEnable")->isEnabled());
-    EXPECT_EQ(variable(QStringLiteral("enableStackL")), 0);
+    EXPECT_EQ(variable("enableStackL"), 0);
 }
 
 TEST_F(RunPageTest, ChangesAreTakenTogetherOrNotAtAll)
@@ -290,21 +290,18 @@ TEST_F(RunPageTest, ChangesAreTakenTogetherOrNotAtAll)
         });
         settle();
     };
-    change({{QStringLiteral("currentLayerL"), QStringLiteral("2")},
-            {QStringLiteral("cycleTimeL"), QStringLiteral("1.5")}});
-    change({{QStringLiteral("currentLayerL"), QStringLiteral("3")},
-            {QStringLiteral("noSuch"), QStringLiteral("1")}});
-    change({{QStringLiteral("currentLayerL"), QStringLiteral("4")},
-            {QStringLiteral("clock0"), QStringLiteral("1")}});
+    change({{QStringLiteral("currentLayerL"), "2"}, {QStringLiteral("cycleTimeL"), "1.5"}});
+    change({{QStringLiteral("currentLayerL"), "3"}, {QStringLiteral("noSuch"), "1"}});
+    change({{QStringLiteral("currentLayerL"), "4"}, {QStringLiteral("clock0"), "1"}});
     EXPECT_EQ(answers,
               QStringList({QStringLiteral("done"), QStringLiteral("The project has no such variable: noSuch"),
                            QStringLiteral("The project has no such variable: clock0")}));
-    EXPECT_EQ(variable(QStringLiteral("currentLayerL")), 2);
+    EXPECT_EQ(variable("currentLayerL"), 2);
 }
 
 TEST_F(RunPageTest, AnotherRecipeIsTakenOnlyWhileTheSideIsDisabled)
 {
-    palx::copyStack(palx::stacksNode()->cmobj(0), QStringLiteral("Second"));
+    palx::copyStack(palx::stacksNode()->cmobj(0), "Second");
     makeProject();
     openPage();
     auto *combo = child<QComboBox>(LineSide::Left, "cmbRecipe");
@@ -315,11 +312,11 @@ TEST_F(RunPageTest, AnotherRecipeIsTakenOnlyWhileTheSideIsDisabled)
         settle();
     };
     choose(1);
-    EXPECT_EQ(variable(QStringLiteral("palletIndexL")), 1);
+    EXPECT_EQ(variable("palletIndexL"), 1);
     EXPECT_EQ(combo->currentText(), "Second");
     press(LineSide::Left, "btnEnable");
     choose(0);
-    EXPECT_EQ(variable(QStringLiteral("palletIndexL")), 1);
+    EXPECT_EQ(variable("palletIndexL"), 1);
     EXPECT_EQ(combo->currentText(), "Second");
     EXPECT_TRUE(message().contains("Disable it")) << message();
 }
@@ -334,16 +331,16 @@ TEST_F(RunPageTest, FitsASmallPanelAndAFingerInLongLanguages)
     page->resize(room);
     settle();
     EXPECT_EQ(page->size(), room);
-    expectReadable(page.get(), QStringLiteral("run "));
-    expectTouchable(page.get(), QStringLiteral("run "));
-    expectNamed(page.get(), QStringLiteral("run "));
+    expectReadable(page.get(), "run ");
+    expectTouchable(page.get(), "run ");
+    expectNamed(page.get(), "run ");
     for (const char *button : {"btnEnable", "btnStartAt", "btnReset"})
         EXPECT_GE(child<QPushButton>(LineSide::Left, button)->height(), 96) << button;
     press(LineSide::Left, "btnStartAt");
     ASSERT_NE(dialog(), nullptr);
-    expectReadable(dialog(), QStringLiteral("start "));
-    expectTouchable(dialog(), QStringLiteral("start "));
-    expectNamed(dialog(), QStringLiteral("start "));
+    expectReadable(dialog(), "start ");
+    expectTouchable(dialog(), "start ");
+    expectNamed(dialog(), "start ");
     EXPECT_LE(dialog()->width(), 1024);
     EXPECT_LE(dialog()->height(), 640);
 }

@@ -118,7 +118,7 @@ TEST(SetupPage, EveryNumberFieldWritesItsOwnNode)
 TEST(SetupPage, ChoicesReachTheirNodes)
 {
     SetupPage page;
-    page.choose(Product, "cmbDirection", QStringLiteral("TopLeft"));
+    page.choose(Product, "cmbDirection", "TopLeft");
     EXPECT_EQ(page.stack()->getString("product_cfg.product.direction"), "TopLeft");
     enter(page.at<QSpinBox>(Product, "spnOrient"), 2);
     EXPECT_EQ(page.stack()->getInt("product_cfg.product.orient"), 2);
@@ -131,10 +131,10 @@ TEST(SetupPage, ChoicesReachTheirNodes)
     for (const char *path :
          {"product_cfg.clapboard.enabled", "bollard.enabled", "use_global_tool", "use_global_wobj"})
         EXPECT_TRUE(page.stack()->getBool(path)) << path;
-    page.choose(Layers, "cmbPattern", QStringLiteral("clapboard"));
+    page.choose(Layers, "cmbPattern", "clapboard");
     EXPECT_EQ(patternsOf(page.stack()), "cB");
     auto *desc = page.at<QLineEdit>(Product, "edtDesc");
-    desc->setText(QStringLiteral("bottles"));
+    desc->setText("bottles");
     Q_EMIT desc->editingFinished();
     EXPECT_EQ(page.stack()->getString("desc"), "bottles");
 }
@@ -165,7 +165,7 @@ TEST(SetupPage, AFieldInEditCountsBeforeUndo)
     length->setFocus();
     ASSERT_TRUE(waitUntil([&] { return length->hasFocus(); }));
     length->selectAll();
-    QTest::keyClicks(length, QStringLiteral("321"));
+    QTest::keyClicks(length, "321");
     page.setup->undo();
     EXPECT_EQ(page.stack()->getDouble("product_cfg.product.length"), 200);
     page.setup->redo();
@@ -289,8 +289,8 @@ TEST(WaypointsFrame, PointsAreShownAndWrittenInMillimetresAndDegrees)
 {
     SetupPage page(Waypoints);
     auto *group = page.at<PointGroup>(Waypoints, "grpPutPoint");
-    auto *x = group->findChild<QDoubleSpinBox *>(QStringLiteral("dspnX"));
-    auto *c = group->findChild<QDoubleSpinBox *>(QStringLiteral("dspnC"));
+    auto *x = group->findChild<QDoubleSpinBox *>("dspnX");
+    auto *c = group->findChild<QDoubleSpinBox *>("dspnC");
     EXPECT_DOUBLE_EQ(x->value(), 500);
     const orba::Node before = page.stack()->node();
     enter(x, 600.0);
@@ -331,7 +331,7 @@ TEST(PointsFrame, GeneratesListsFiltersAndCopies)
     page.click(Points, "btnGenerate");
     EXPECT_EQ(table->model()->rowCount(), 5 + 3 * 6);
     page.choose(Points, "cmbLayer", 1);
-    page.choose(Points, "cmbPoint", QStringLiteral("put_p"));
+    page.choose(Points, "cmbPoint", "put_p");
     ASSERT_EQ(table->model()->rowCount(), 1);
     ScriptedPresenter presenter;
     page.click(Points, "btnCopy");
@@ -353,7 +353,7 @@ TEST(PointsFrame, SaysWhenPointsAreOutOfDate)
     page.stack()->r("put.put_p")->copyFrom(orba::Node());
     page.setup->pageDateRefresh();
     EXPECT_TRUE(state->text().contains("not taught")) << state->text();
-    page.stack()->set(nullptr, "layers.#1.pattern", QStringLiteral("empty"));
+    page.stack()->set(nullptr, "layers.#1.pattern", "empty");
     page.setup->pageDateRefresh();
     page.click(Points, "btnGenerate");
     EXPECT_EQ(patternsOf(page.stack()), "A");

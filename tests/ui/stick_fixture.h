@@ -17,14 +17,14 @@ inline const QString kFilter = QStringLiteral("XML (*.xml)");
 /// A machine with one disk, mounted at a place with blanks and letters of another script.
 struct Stick
 {
-    Stick() : root(machine.addFolder(QStringLiteral("ДИСК 上海")))
+    Stick() : root(machine.addFolder("ДИСК 上海"))
     {
         machine.addStick();
         mount();
     }
     void mount(const char *options = "rw", const char *fileSystem = "vfat")
     {
-        machine.setMounts({FakeMachine::mount(QStringLiteral("8:17"), root, options, fileSystem)});
+        machine.setMounts({FakeMachine::mount("8:17", root, options, fileSystem)});
     }
     QString file(const QString &name, const QByteArray &bytes = "x") const
     {
@@ -41,8 +41,7 @@ struct FileDialog : xFileDialog
 {
     FileDialog(const Stick &stick, FileRequest::Kind kind, const QString &start = QString(),
                const QString &filter = kFilter, QWidget *parent = nullptr)
-        : xFileDialog({kind, QStringLiteral("Open XML file"), start, filter}, quick(stick.machine.places()),
-                      parent)
+        : xFileDialog({kind, "Open XML file", start, filter}, quick(stick.machine.places()), parent)
     {
     }
     static palx::MediaPlaces quick(palx::MediaPlaces places)

@@ -10,22 +10,22 @@
 TEST(XFileDialog, OpensAFileOfAFolder)
 {
     const Stick stick;
-    const QString wanted = stick.file(QStringLiteral("Рецепты/паллета 1.xml"));
-    stick.file(QStringLiteral("Рецепты/b.txt"));
-    stick.file(QStringLiteral(".hidden.xml"));
+    const QString wanted = stick.file("Рецепты/паллета 1.xml");
+    stick.file("Рецепты/b.txt");
+    stick.file(".hidden.xml");
     FileDialog dialog(stick, FileRequest::Open);
     dialog.show();
     EXPECT_EQ(dialog.names(), QStringList(QStringLiteral("Рецепты")));
     EXPECT_FALSE(dialog.canConfirm());
-    dialog.touch(QStringLiteral("Рецепты"));
+    dialog.touch("Рецепты");
     EXPECT_EQ(dialog.names(), QStringList(QStringLiteral("паллета 1.xml")));
-    dialog.touch(QStringLiteral("паллета 1.xml"));
+    dialog.touch("паллета 1.xml");
     dialog.press("btnOk");
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_EQ(dialog.chosen(), QStringList(wanted));
 
-    const QString other = stick.file(QStringLiteral("c.xml"));
-    stick.file(QStringLiteral("b.xml"));
+    const QString other = stick.file("c.xml");
+    stick.file("b.xml");
     FileDialog several(stick, FileRequest::OpenSeveral);
     several.show();
     for (const char *name : {"b.xml", "c.xml", "b.xml"}) // the second touch lets go
@@ -37,7 +37,7 @@ TEST(XFileDialog, OpensAFileOfAFolder)
 TEST(XFileDialog, BeginsWhereItWasLastAndGoesNoHigherThanTheDisk)
 {
     const Stick stick;
-    stick.file(QStringLiteral("Рецепты/2026/a.xml"));
+    stick.file("Рецепты/2026/a.xml");
     const QString last = stick.root + QStringLiteral("/Рецепты/2026");
     FileDialog dialog(stick, FileRequest::Open, last);
     EXPECT_EQ(dialog.text("lblPath"), "ДИСК 上海 \u203a Рецепты \u203a 2026");
@@ -46,7 +46,7 @@ TEST(XFileDialog, BeginsWhereItWasLastAndGoesNoHigherThanTheDisk)
     dialog.press("btnUp");
     EXPECT_EQ(dialog.text("lblPath"), "ДИСК 上海");
     EXPECT_FALSE(partOf<QPushButton>(dialog, "btnUp")->isEnabled());
-    const FileDialog elsewhere(stick, FileRequest::Open, QStringLiteral("/etc"));
+    const FileDialog elsewhere(stick, FileRequest::Open, "/etc");
     EXPECT_EQ(elsewhere.text("lblPath"), "ДИСК 上海");
 }
 
@@ -64,7 +64,7 @@ TEST(XFileDialog, SavesUnderANameThatTheDiskCanKeep)
         {QString(252, QLatin1Char('x')), nullptr, "The name is too long: 256 of 255 characters."},
         {QString(), nullptr, "The file needs a name."}};
     for (const auto &c : cases) {
-        FileDialog dialog(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
+        FileDialog dialog(stick, FileRequest::Save, "pallet.xml");
         dialog.type(c.typed);
         EXPECT_EQ(dialog.text(), QString::fromUtf8(c.text));
         dialog.press("btnOk");
@@ -77,10 +77,10 @@ TEST(XFileDialog, SavesUnderANameThatTheDiskCanKeep)
 TEST(XFileDialog, AsksBeforeItReplacesAFile)
 {
     const Stick stick;
-    const QString there = stick.file(QStringLiteral("pallet.xml"));
+    const QString there = stick.file("pallet.xml");
     for (const bool answer : {false, true}) {
         ScriptedPresenter presenter({answer});
-        FileDialog dialog(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
+        FileDialog dialog(stick, FileRequest::Save, "pallet.xml");
         dialog.press("btnOk");
         ASSERT_EQ(presenter.asked.size(), 1);
         EXPECT_EQ(messageText(presenter.asked.first()),
@@ -92,31 +92,31 @@ TEST(XFileDialog, AsksBeforeItReplacesAFile)
 TEST(XFileDialog, AWriteProtectedDiskIsOnlyRead)
 {
     Stick stick;
-    stick.file(QStringLiteral("a.xml"));
+    stick.file("a.xml");
     stick.mount("ro");
     for (const auto kind : {FileRequest::Save, FileRequest::Folder}) {
-        const FileDialog dialog(stick, kind, QStringLiteral("pallet.xml"));
+        const FileDialog dialog(stick, kind, "pallet.xml");
         EXPECT_EQ(dialog.text(), "The disk is write-protected. Nothing can be saved on it.");
         EXPECT_FALSE(dialog.canConfirm());
         EXPECT_FALSE(partOf<QPushButton>(dialog, "btnNewFolder")->isEnabled());
     }
     FileDialog dialog(stick, FileRequest::Open);
     dialog.show();
-    dialog.touch(QStringLiteral("a.xml"));
+    dialog.touch("a.xml");
     EXPECT_TRUE(dialog.canConfirm());
 }
 
 TEST(XFileDialog, MakesAFolderAndChoosesIt)
 {
     const Stick stick;
-    stick.file(QStringLiteral("a.xml"));
+    stick.file("a.xml");
     FileDialog dialog(stick, FileRequest::Folder);
     QTimer::singleShot(0, &dialog, [&] {
         auto *naming = dialog.findChild<NameDialog *>();
-        naming->setName(QStringLiteral("a:"));
+        naming->setName("a:");
         naming->accept(); // refused
         EXPECT_EQ(partOf<QLabel>(*naming, "lblReason")->text(), "This disk cannot keep a name with :.");
-        naming->setName(QStringLiteral("Проекты 2026"));
+        naming->setName("Проекты 2026");
         naming->accept();
     });
     dialog.press("btnNewFolder");
@@ -128,7 +128,7 @@ TEST(XFileDialog, MakesAFolderAndChoosesIt)
 TEST(XFileDialog, FollowsTheDisk)
 {
     Stick stick;
-    stick.file(QStringLiteral("a.xml"));
+    stick.file("a.xml");
     stick.machine.setMounts({});
     FileDialog dialog(stick, FileRequest::Open);
     dialog.show();
@@ -138,7 +138,7 @@ TEST(XFileDialog, FollowsTheDisk)
     stick.mount();
     EXPECT_TRUE(waitUntil([&] { return !body->isVisible(); }));
     EXPECT_EQ(dialog.names(), QStringList(QStringLiteral("a.xml")));
-    dialog.touch(QStringLiteral("a.xml"));
+    dialog.touch("a.xml");
     EXPECT_TRUE(dialog.canConfirm());
     stick.machine.setMounts({});
     EXPECT_TRUE(waitUntil([&] { return body->isVisible(); }));
@@ -149,9 +149,9 @@ TEST(XFileDialog, FollowsTheDisk)
 TEST(XFileDialog, ADiskThatIsPulledLastIsNotWrittenTo)
 {
     Stick stick;
-    stick.file(QStringLiteral("pallet.xml"));
-    stick.machine.addStick(QStringLiteral("sdc"), QStringLiteral("8:33"));
-    const QString other = stick.machine.addFolder(QStringLiteral("other"));
+    stick.file("pallet.xml");
+    stick.machine.addStick("sdc", "8:33");
+    const QString other = stick.machine.addFolder("other");
     struct Puller : nexo::MessagePresenter
     {
         bool ask(const nexo::Message &) override
@@ -162,9 +162,9 @@ TEST(XFileDialog, ADiskThatIsPulledLastIsNotWrittenTo)
         void notify(const QString &, const QString &) override {}
         std::function<void()> pull;
     } puller;
-    puller.pull = [&] { stick.machine.setMounts({FakeMachine::mount(QStringLiteral("8:33"), other)}); };
+    puller.pull = [&] { stick.machine.setMounts({FakeMachine::mount("8:33", other)}); };
     nexo::ManagerHelper::instance()->setPresenter(&puller);
-    FileDialog dialog(stick, FileRequest::Save, QStringLiteral("pallet.xml"));
+    FileDialog dialog(stick, FileRequest::Save, "pallet.xml");
     dialog.press("btnOk");
     nexo::ManagerHelper::instance()->setPresenter(nullptr);
     EXPECT_EQ(dialog.chosen(), QStringList()) << "the other disk was not asked about";
@@ -176,8 +176,8 @@ TEST(XFileDialog, SaysWhetherTheDiskMayBePulled)
 {
     const Stick stick;
     auto *settings = nexo::SettingManager::instance();
-    settings->setOverride(QStringLiteral("removable"), stick.root);
-    const QString path = stick.file(QStringLiteral("a.xml"));
+    settings->setOverride("removable", stick.root);
+    const QString path = stick.file("a.xml");
     const QString elsewhere = stick.machine.path();
     EXPECT_TRUE(xFileDialog::SystemFileSync(path));
     EXPECT_FALSE(xFileDialog::SystemFileSync(path + QStringLiteral(".gone")));
@@ -185,5 +185,5 @@ TEST(XFileDialog, SaysWhetherTheDiskMayBePulled)
     EXPECT_EQ(xFileDialog::removalText(path, false),
               "Do not pull out the disk ДИСК 上海 yet: it has not taken everything.");
     EXPECT_EQ(xFileDialog::removalText(elsewhere, true), QString());
-    settings->setOverride(QStringLiteral("removable"), QString());
+    settings->setOverride("removable", QString());
 }
