@@ -64,7 +64,6 @@ public:
                 ->setString(QStringLiteral("variable%1").arg(i));
         orba::ModuleManager::writeToXmlFile(variables, project() + QStringLiteral("/var.xml"));
     }
-    ~Cell() { palx::forgetLastImport(); }
 
     QString project() const { return folder_.filePath(QStringLiteral("workspace/SIM-0001/%1").arg(kName)); }
     QString disk() const { return folder_.filePath(QStringLiteral("disk")); }

@@ -7,6 +7,7 @@
 #include "project/rules/project_recovery.h"
 #include "project/rules/staged_folder.h"
 #include "workstation/hidden_project.h"
+#include "workstation/plugin_node.h"
 #include "workstation/workspace.h"
 
 #include <QDir>
@@ -45,6 +46,17 @@ bool undoChange(const ImportUndo::Change &change)
 } // namespace
 
 ImportUndo::ImportUndo() : robotFolder_(robotFolder()) {}
+
+ImportUndo *ImportUndo::last()
+{
+    return pluginNode()->findChild<ImportUndo *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+void ImportUndo::keep(std::unique_ptr<ImportUndo> undo)
+{
+    delete last();
+    undo.release()->setParent(pluginNode());
+}
 
 bool ImportUndo::isOfThisRobot() const
 {

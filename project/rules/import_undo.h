@@ -4,6 +4,7 @@
 #include "project/rules/template_exchange.h"
 #include "project/rules/work_folder.h"
 
+#include <QObject>
 #include <QStringList>
 
 #include <memory>
@@ -12,9 +13,11 @@
 
 namespace palx {
 
-/// What an import did, one change after the other, to be undone until the next one or the end of the program.
-class ImportUndo
+/// What an import did, one change after the other, to be undone until the next one or the end of the session.
+class ImportUndo : public QObject
 {
+    Q_OBJECT
+
 public:
     /// An imported project is in its place now.
     struct Change
@@ -26,6 +29,11 @@ public:
     };
 
     ImportUndo();
+
+    /// That of the last import; null for none. It ends with the plug-in's node.
+    static ImportUndo *last();
+    /// Makes this the last one. `last` owns it then.
+    static void keep(std::unique_ptr<ImportUndo> undo);
 
     /// Whether the robot is the one whose projects were imported.
     bool isOfThisRobot() const;

@@ -26,9 +26,6 @@ using orba::Node;
 
 namespace {
 
-/// Until the next import or the end of the program.
-std::unique_ptr<ImportUndo> lastImport;
-
 enum class Outcome { Imported, Refused, Cancelled, GiveUp };
 
 bool explain(QString *why, const QString &reason)
@@ -255,20 +252,21 @@ bool importProjects(const ImportRequest &request, Progress *progress)
         recordCfgLog(ProjectText::tr("What was imported may be lost when the power fails: %1").arg(why),
                      true);
     if (!undo->names().isEmpty())
-        lastImport = std::move(undo);
+        ImportUndo::keep(std::move(undo));
     return isDone;
 }
 
 void recoverExchange(const QString &programFolder)
 {
     recoverProjects();
-    if (!lastImport)
+    if (!ImportUndo::last())
         TemplateChange::recover(programFolder);
 }
 
 QStringList lastImported()
 {
-    return lastImport && lastImport->isOfThisRobot() ? lastImport->names() : QStringList();
+    const ImportUndo *last = ImportUndo::last();
+    return last && last->isOfThisRobot() ? last->names() : QStringList();
 }
 
 bool undoLastImport()
@@ -276,15 +274,15 @@ bool undoLastImport()
     if (lastImported().isEmpty())
         return false;
     recoverProjects();
-    if (!lastImport->undo())
+    if (!ImportUndo::last()->undo())
         return false;
-    lastImport.reset();
+    forgetLastImport();
     return true;
 }
 
 void forgetLastImport()
 {
-    lastImport.reset();
+    delete ImportUndo::last();
 }
 
 } // namespace palx

@@ -51,13 +51,13 @@ PALX_API bool importProjects(const ImportRequest &request, Progress *progress);
 /// `recoverProjects`.
 PALX_API void recoverExchange(const QString &programFolder);
 
-/// What the last import of this process made; empty when there is nothing to undo, or
+/// What the last import of this session made; empty when there is nothing to undo, or
 /// another robot is connected now.
 PALX_API QStringList lastImported();
 /// Puts everything back that the last import changed, projects and templates. False, after the message, when a
 /// folder could not be moved.
 PALX_API bool undoLastImport();
-/// Removes what was kept to undo the last import.
+/// Removes what is kept to undo the last import, as the end of the session does.
 PALX_API void forgetLastImport();
 
 } // namespace palx

@@ -22,11 +22,7 @@ protected:
         putProject(QStringLiteral("P"));
         putProject(QStringLiteral("Q"));
     }
-    void TearDown() override
-    {
-        dialog.reset();
-        palx::forgetLastImport();
-    }
+    void TearDown() override { dialog.reset(); }
     void open()
     {
         dialog = std::make_unique<ImExportProjectDialog>(true, nullptr, programs());
