@@ -62,11 +62,10 @@ TEST_P(Fill, PalletsWithTheTemplatesOfItsKind)
     line.start();
     EXPECT_EQ(setup.hasLift ? 6 : 5, line.station().tree().find(u"nexo.cell.tasks")->size());
     expectFullPallets(line, setup, 1);
-    if (setup.scheme == 2 && !setup.hasLift) {
-        line.exchangePallet(0);
-        line.exchangePallet(1);
-        expectFullPallets(line, setup, 2);
-    }
+    for (const int side : {0, 1})
+        if (isStacked(setup, side))
+            line.exchangePallet(side);
+    expectFullPallets(line, setup, 2);
     EXPECT_EQ(controller::Runner::State::Running, line.runner().state());
 }
 

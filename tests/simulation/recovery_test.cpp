@@ -12,8 +12,8 @@ using controller::Runner;
 constexpr int kMoments = 5;
 constexpr int kColumnMoments = 2;
 #else
-constexpr int kMoments = 25;
-constexpr int kColumnMoments = 6;
+constexpr int kMoments = 50;
+constexpr int kColumnMoments = 10;
 #endif
 constexpr double kCycle = 7;       // [s] a little more than one
 constexpr double kColumnTime = 14; // [s] that it needs to rise, with its drive's switching
