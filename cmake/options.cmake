@@ -19,6 +19,6 @@ endif()
 # For what the tests run longest: compiled without optimising it costs more than it saves under the sanitizers.
 function(palx_hot TARGET)
   if(PALX_SANITIZE)
-    target_compile_options(${TARGET} PRIVATE -O1)
+    target_compile_options(${TARGET} PRIVATE -O2)
   endif()
 endfunction()
