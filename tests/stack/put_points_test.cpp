@@ -60,9 +60,8 @@ const char *const kOwnStack = R"({
     "put.ready_h": 50, "put.approach_h": 30, "put.retract_h": 40, "put.exit_h": 60,
     "get.ready_h": 100, "get.approach_h": 20, "get.retract_h": 10,
     "patterns": {
-        "A": [{"x": 100, "y": 150, "w": 200, "h": 300, "r": 0, "index": 1, "direction": "Middle"},
-              {"x": 250.5, "y": 350, "w": 200, "h": 300, "r": 90, "index": 2, "direction": "TopRight",
-               "dx": 10, "dy": 20, "dz": 5}],
+        "A": [{"x": 100, "y": 150, "r": 0, "direction": "Middle"},
+              {"x": 250.5, "y": 350, "r": 90, "direction": "TopRight", "dx": 10, "dy": 20, "dz": 5}],
         "B": [{"x": 400, "y": 600, "r": 180, "direction": "Left", "dx": 7, "dy": 8}]},
     "layers": [{"pattern": "A", "h_offset": 0}, {"pattern": "B", "h_offset": 2}, {"pattern": "A", "h_offset": 0}]
 })";
@@ -329,9 +328,8 @@ TEST(OnePoint, OriginPutAndEnterPointsOfEverySide)
 
 TEST(OnePoint, HeightsOfTheSidePersistAndTheSecondToLastLayerDiffers)
 {
-    const Side side{0, 0, 1};
-    const auto plugin = globalPlugin(side);
-    ModuleObject *stack = globalStack(plugin.get(), side);
+    const auto plugin = globalPlugin({0, 0, 1});
+    ModuleObject *stack = globalStack(plugin.get(), {0, 0, 1});
     palx::genStackWayPoints(stack);
     const auto above = [&](const QByteArray &layer) { // over its own put point, in whole millimetres
         const double z = trans(stack, (layer + ".put_p").constData())[2];
@@ -370,33 +368,32 @@ TEST(GlobalPick, FollowsConveyorCornerAndProduct)
     for (const auto &one : cases) {
         const Side side{one.towards, one.towards, 0};
         const auto plugin = globalPlugin(side);
-        plugin->set(nullptr, "global_tool.#2.incoming_settings.origin_position", one.origin);
-        plugin->set(nullptr, "global_tool.#2.incoming_settings.incoming_product_direction", one.product);
-        plugin->set(nullptr, "global_tool.#2.incoming_settings.incoming_conveyor_line_direction",
-                    one.conveyor);
+        Node &incoming = *plugin->node().find(u"global_tool.#2.incoming_settings");
+        incoming.set(u"origin_position", one.origin);
+        incoming.set(u"incoming_product_direction", one.product);
+        incoming.set(u"incoming_conveyor_line_direction", one.conveyor);
         ModuleObject *stack = globalStack(plugin.get(), side, R"({"use_global_tool":true})");
         palx::genStackWayPoints(stack);
         EXPECT_TRUE(near(trans(stack, "get.get_p"), one.get)) << one.origin << one.product << one.conveyor;
         EXPECT_DOUBLE_EQ(stack->getDouble("get.get_p.rot.#2"), one.c);
-        EXPECT_TRUE(
-            near(trans(stack, "get.enter_p"), {one.get[0] + 0.1, one.get[1] - 0.2, one.get[2] + 0.3}));
+        const auto &[x, y, z] = one.get;
+        expectPoints(stack,
+                     {{"get.enter_p", {x + 0.1, y - 0.2, z + 0.3}}, {"get.approach_p", {x, y, z + 0.115}}});
         EXPECT_EQ(stack->getDouble("get.approach_h"), 115);
-        EXPECT_TRUE(near(trans(stack, "get.approach_p"), {one.get[0], one.get[1], one.get[2] + 0.115}));
     }
 }
 
 TEST(GlobalPick, EnterRisesAboveAHighPalletOriginAndSurvivesMissingSettings)
 {
-    const Side side{0, 0, 0};
-    auto plugin = globalPlugin(side);
+    auto plugin = globalPlugin({0, 0, 0});
     plugin->set(nullptr, "global_wobj.#0.left_origin_point.trans.#2", 0.9);
-    ModuleObject *stack = globalStack(plugin.get(), side, R"({"use_global_tool":true})");
+    ModuleObject *stack = globalStack(plugin.get(), {0, 0, 0}, R"({"use_global_tool":true})");
     palx::genStackWayPoints(stack);
     EXPECT_NEAR(trans(stack, "get.enter_p")[2], 1.2, 1e-12);
 
     plugin = makePluginTree(); // both global lists empty
     stack = ownStack(plugin.get(), R"({"use_global_tool":true})");
     palx::genStackWayPoints(stack);
-    EXPECT_TRUE(near(trans(stack, "get.get_p"), {0.15, 0.1, 0.1}));
+    expectPoints(stack, {{"get.get_p", {0.15, 0.1, 0.1}}});
     EXPECT_EQ(stack->getDouble("get.approach_h"), 100);
 }
