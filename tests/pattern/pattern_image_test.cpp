@@ -37,20 +37,6 @@ TEST(PatternImage, AMirroredCopyIsMadeOnceAndFoundAgain)
     EXPECT_EQ(recipe.root.getInt("patterns.A_m.#1.index"), 2);
 }
 
-TEST(PatternImage, EachImageHasANameOfItsOwn)
-{
-    Recipe recipe;
-    const QString first = palx::imageOfPattern(&recipe.root, "A", PatternImage::LeftRight);
-    const QString second = palx::imageOfPattern(&recipe.root, "A", PatternImage::FrontBack);
-    EXPECT_EQ(second, QString("A_m2"));
-    const QString longest(palx::kMaxPatternName, QChar('x'));
-    palx::addPattern(&recipe.root, longest, "A");
-    palx::removePattern(&recipe.root, "A");
-    palx::removePattern(&recipe.root, first);
-    const QString copy = palx::imageOfPattern(&recipe.root, longest, PatternImage::LeftRight);
-    EXPECT_EQ(copy, longest.left(palx::kMaxPatternName - 2) + "_m");
-}
-
 TEST(PatternImage, LayersOfProductsGetTheirImages)
 {
     Recipe recipe;
@@ -58,7 +44,6 @@ TEST(PatternImage, LayersOfProductsGetTheirImages)
     const QString expected[] = {"A_m", "clapboard", "B_m", "empty", "A", "Z", "", "A_m"};
     for (int layer = 0; layer < 8; ++layer)
         EXPECT_EQ(recipe.patternOf(layer), expected[layer]) << layer;
-    EXPECT_EQ(palx::imageOfPattern(&recipe.root, "Z", PatternImage::LeftRight), QString());
 }
 
 TEST(PatternImage, ASeriesTakesTurnsWithTheImage)

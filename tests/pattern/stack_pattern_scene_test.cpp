@@ -8,7 +8,6 @@
 #include <memory>
 
 using orba::ModuleObject;
-using palx::LayerKind;
 
 namespace {
 
@@ -20,34 +19,6 @@ std::unique_ptr<ModuleObject> stackObject()
 }
 
 } // namespace
-
-TEST(StackPatternScene, ShowsWhatTheLayerNames)
-{
-    StackPatternScene scene;
-    scene.setStack(planRecipe());
-    EXPECT_EQ(scene.layerCount(), 8);
-    struct
-    {
-        int layer, items;
-        LayerKind kind;
-        const char *message;
-    } const cases[] = {
-        {0, 2, LayerKind::Products, ""},
-        {1, 0, LayerKind::Sheet, "Separator sheet 1180 x 780 x 3 mm"},
-        {2, 1, LayerKind::Products, ""},
-        {3, 0, LayerKind::Empty, "Empty layer: it is left out"},
-        {5, 0, LayerKind::MissingPattern, "The recipe has no pattern \"Z\""},
-        {6, 0, LayerKind::Blank, "No pattern is chosen for this layer: the stack ends below it"},
-        {7, 0, LayerKind::Unreached, "Not placed: the stack ends at a layer below"},
-        {-1, 0, LayerKind::Blank, "There is no layer 0; the recipe has 8"},
-    };
-    for (const auto &one : cases) {
-        scene.setLayer(one.layer);
-        EXPECT_EQ(scene.shownItems().size(), one.items) << one.layer;
-        EXPECT_EQ(scene.layerPlan().kind, one.kind) << one.layer;
-        EXPECT_EQ(scene.message(), QString::fromUtf8(one.message)) << one.layer;
-    }
-}
 
 TEST(StackPatternScene, WritesToThePatternOfItsLayer)
 {
@@ -68,19 +39,4 @@ TEST(StackPatternScene, WritesToThePatternOfItsLayer)
         scene.clearItems();
     }
     EXPECT_EQ(stack->node(), before);
-}
-
-TEST(StackPatternScene, FollowsTheRecipe)
-{
-    const auto stack = stackObject();
-    StackPatternScene scene;
-    scene.setStack(stack.get());
-    stack->set(nullptr, "layers.#0.pattern", QStringLiteral("B"));
-    EXPECT_EQ(scene.shownItems().size(), 1);
-    stack->r("layers")->move(1, 0);
-    EXPECT_EQ(scene.layerPlan().kind, LayerKind::Sheet);
-    stack->r("layers")->clear();
-    EXPECT_EQ(scene.message(), QStringLiteral("This recipe has no layers"));
-    stack->copyFrom(planRecipe()); // everything is replaced at once
-    EXPECT_EQ(scene.shownItems().size(), 2);
 }
