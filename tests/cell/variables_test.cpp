@@ -68,35 +68,3 @@ TEST(ProgramVariables, PutBackWhatProgramsChanged)
     EXPECT_EQ(3, back.z);
     EXPECT_NEAR(180, std::abs(back.a), 1e-6);
 }
-
-TEST(ProgramVariables, FollowThePanel)
-{
-    Node list = listOfVariables();
-    ProgramVariables variables(list);
-    EXPECT_FALSE(variables.reload(list));
-    list.at(0)->find(u"value.#0")->setString(QStringLiteral("9"));
-    EXPECT_TRUE(variables.reload(list));
-    EXPECT_EQ(script::Value(std::int64_t{9}), variables.value(0));
-    list.removeAt(0);
-    list.removeAt(6);
-    variables.set(0, std::int64_t{10});
-    EXPECT_FALSE(variables.reload(list)) << "what is gone keeps its value";
-    EXPECT_EQ(script::Value(std::int64_t{10}), variables.value(0));
-    variables.flush(&list);
-}
-
-TEST(TargetText, GoesThereAndBack)
-{
-    const Target targets[] = {{1234.5, -0.25, 1e-3, 180, 0, -90}, {1, 2, 3, 10, 20, 30}};
-    for (const Target &target : targets) {
-        const QString text = QString::fromStdString(targetText(target));
-        EXPECT_TRUE(isTargetText(text)) << text;
-        const Target back = targetOfText(text);
-        EXPECT_EQ(target.x, back.x);
-        EXPECT_EQ(target.z, back.z);
-        EXPECT_NEAR(0, std::remainder(target.a - back.a, 360), 1e-9);
-        EXPECT_NEAR(target.b, back.b, 1e-9);
-        EXPECT_NEAR(0, std::remainder(target.c - back.c, 360), 1e-9);
-    }
-    EXPECT_EQ(Target(), targetOfText(QStringLiteral("p:{{1,2,3}}")));
-}

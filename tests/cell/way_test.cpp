@@ -72,15 +72,6 @@ TEST_F(WayTest, GoesThroughAFinePointAndRoundsAZone)
     EXPECT_LT(fastest, 1.05) << "asked for 1 m/s, and no more where two moves overlap";
 }
 
-TEST_F(WayTest, ReachesAMoveInsideItsZone)
-{
-    add(leg(1.0, 0.5, 0.8, 0.1));
-    while (!way.isReached())
-        way.advance(0.01);
-    EXPECT_TRUE(way.isMoving());
-    EXPECT_NEAR(0.1, (at() - Vector(1.0, 0.5, 0.8)).norm(), 0.012) << "one tick at 1 m/s";
-}
-
 TEST_F(WayTest, CutsZonesToHalfOfAMove)
 {
     add(leg(1.0, 0, 0.86, 0.2));
@@ -107,21 +98,6 @@ TEST_F(WayTest, GoesOnFromWhereItWasPutMeanwhile)
     EXPECT_LT((at() - Vector(1.3, -0.3, 1.0)).norm(), 0.1) << "no jump";
     run(4);
     EXPECT_NEAR(0, (at() - Vector(1.0, 0.5, 0.8)).norm(), 1e-9);
-}
-
-TEST_F(WayTest, ForgetsWhatIsLeft)
-{
-    add(leg(1.0, 0.5, 0.8));
-    run(0.4);
-    way.drop();
-    run(1);
-    EXPECT_TRUE(way.isEmpty());
-    EXPECT_FALSE(way.isMoving());
-    const Vector rest = at();
-    EXPECT_LT(rest.y(), 0.45);
-    add(leg(1.0, 0.2, 0.8));
-    run(3);
-    EXPECT_NEAR(0, (at() - Vector(1.0, 0.2, 0.8)).norm(), 1e-9);
 }
 
 TEST_F(WayTest, RefusesWhatIsOutOfReachAndTakesThreeMoves)
