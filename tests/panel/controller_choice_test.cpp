@@ -44,20 +44,18 @@ TEST(ControllerChoice, IsReadFromTheCommandLine)
     }
 }
 
-TEST(ControllerChoice, AProgramThatCannotBeStartedIsTold)
+TEST(PanelOptions, AreHandedToTheSessionOrRefused)
 {
-    const QTemporaryDir folder;
-    host::SessionOptions options;
-    options.pages = false;
-    ControllerChoice choice;
-    choice.kind = ControllerChoice::Spawn;
-    options.carrier = panel::carrierFactory(choice, folder.path(), folder.path());
-    host::HostSession session(options);
-    session.start();
-    const host::ControllerLink *link = host::ControllerLink::current();
-    ASSERT_TRUE(link);
-    EXPECT_TRUE(waitUntil([link] { return link->stateText().contains(QStringLiteral("cannot be started")); }))
-        << link->stateText();
+    const auto parse = [](const char *arguments) {
+        const QString line = QStringLiteral("palx_panel ") + QLatin1String(arguments);
+        return panel::parseOptions(line.split(QLatin1Char(' ')), QStringLiteral("/none"));
+    };
+    const host::SessionOptions session =
+        parse("--data /d --workspace /w --language ru --plugin a.so").session;
+    EXPECT_EQ(session.dataFolder + session.workspaceFolder + session.language, QStringLiteral("/d/wru"));
+    EXPECT_EQ(session.pluginFiles, QStringList(QStringLiteral("a.so")));
+    for (const char *wrong : {"--language xx", "--speed 3", "file.xml", "--data"})
+        EXPECT_NE(parse(wrong).refusal, QString()) << wrong;
 }
 
 TEST(ControllerChoice, AProcessThatDiesIsStartedAgain)

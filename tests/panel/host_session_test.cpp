@@ -2,7 +2,6 @@
 #include "controller/in_process_carrier.h"
 #include "core/store.h"
 #include "fixtures.h"
-#include "nexo/setting_manager.h"
 #include "orba/tree_registry.h"
 #include "shell/host_session.h"
 #include "support/test_support.h"
@@ -11,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QSemaphore>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QThreadPool>
 
@@ -30,10 +28,6 @@ protected:
         given.workspaceFolder = folder.filePath(QStringLiteral("space"));
         given.pluginFiles = plugins;
         return given;
-    }
-    static QString setting(const char *key)
-    {
-        return nexo::SettingManager::instance()->getStr(QLatin1String(key));
     }
     static QString texts(const host::HostSession &session)
     {
@@ -57,7 +51,6 @@ TEST_F(HostSessionTest, DrivesAPluginThroughItsLifeAndEndsInOrder)
     EXPECT_EQ(takeSampleNotes().join(QLatin1Char(' ')), QStringLiteral("init setup"));
     EXPECT_EQ(session.module(QStringLiteral("sample_plugin")), session.modules().value(0));
     EXPECT_EQ(session.centerWidget()->pageKeys(), QStringList(QStringLiteral("sample_plugin.page")));
-    EXPECT_EQ(m("ix.nav")->getString("#0.nav"), QStringLiteral("sample_plugin.page"));
     session.render();
     session.idle();
     session.idle();
@@ -73,37 +66,12 @@ TEST_F(HostSessionTest, DrivesAPluginThroughItsLifeAndEndsInOrder)
 TEST_F(HostSessionTest, OneBadPluginDoesNotKeepTheOthersOut)
 {
     host::HostSession session(options({fixtureFile("no_entry"), good, good, fixtureFile("no_module")}));
-    QSignalSpy told(&session, &host::HostSession::problemFound);
     EXPECT_FALSE(session.start());
     EXPECT_EQ(session.modules().size(), 1);
     ASSERT_EQ(session.problems().size(), 3) << texts(session);
     EXPECT_TRUE(session.problems().at(0).why.contains(QStringLiteral("orba_plugin_api")));
     EXPECT_TRUE(session.problems().at(1).why.contains(QStringLiteral("is there already")));
     EXPECT_TRUE(session.problems().at(2).why.contains(QStringLiteral("made no module")));
-    EXPECT_EQ(told.size(), 3);
-    EXPECT_EQ(told.at(0).at(0).toString(), session.problems().at(0).text());
-}
-
-TEST_F(HostSessionTest, OptionsBecomeSettingsForItsTime)
-{
-    host::SessionOptions given = options({});
-    given.language = QStringLiteral("jp");
-    given.touch = true;
-    {
-        host::HostSession session(given);
-        EXPECT_TRUE(session.start()) << texts(session);
-        EXPECT_EQ(setting("data") + setting("language"), given.dataFolder + QStringLiteral("jp"));
-        EXPECT_EQ(m("nexo.setting.workspace")->getString(), given.workspaceFolder);
-        EXPECT_TRUE(QDir(given.workspaceFolder).exists());
-        nexo::SettingManager::instance()->setStr(QStringLiteral("language"), QStringLiteral("cn"));
-    }
-    EXPECT_EQ(setting("data") + setting("language") + setting("touch"), QString());
-    given.language.clear();
-    given.workspaceFolder.clear();
-    host::HostSession again(given);
-    EXPECT_TRUE(again.start()) << texts(again);
-    EXPECT_EQ(setting("language"), QStringLiteral("cn")); // kept in the settings file
-    EXPECT_EQ(setting("workspace"), given.dataFolder + QStringLiteral("/workspace"));
 }
 
 TEST_F(HostSessionTest, ADataFolderThatAnotherProcessHoldsIsLeftAlone)
@@ -119,28 +87,6 @@ TEST_F(HostSessionTest, ADataFolderThatAnotherProcessHoldsIsLeftAlone)
     EXPECT_EQ(session.problems().first().what, QStringLiteral("The stored data cannot be used"));
     EXPECT_EQ(session.problems().first().where, data);
     EXPECT_TRUE(session.save()); // there is nothing to save to
-}
-
-TEST_F(HostSessionTest, HandsExamplesToThePluginAndTellsWhatFailed)
-{
-    host::SessionOptions given = options({good});
-    given.examples = QStringList({QStringLiteral("a.xml"), QStringLiteral("bad.xml")});
-    host::HostSession session(given);
-    EXPECT_FALSE(session.start());
-    EXPECT_EQ(takeSampleNotes().join(QLatin1Char('|')), QStringLiteral("examples a.xml,bad.xml|init|setup"));
-    EXPECT_EQ(texts(session), QStringLiteral("bad.xml"));
-}
-
-TEST_F(HostSessionTest, TwoSessionsAtOnceAreRefused)
-{
-    host::HostSession first(options({good}));
-    ASSERT_TRUE(first.start()) << texts(first);
-    host::HostSession second(options({good}));
-    EXPECT_FALSE(second.start());
-    EXPECT_FALSE(second.isRunning());
-    second.stop();
-    EXPECT_EQ(first.modules().size(), 1);
-    EXPECT_FALSE(m("nexo.r.id")->isEmptyMobj());
 }
 
 /// saveAllToRC(true) hands a task to the thread pool; at the end of the panel it must still reach the controller.

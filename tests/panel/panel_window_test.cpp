@@ -9,7 +9,6 @@
 #include "support/test_support.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -138,52 +137,4 @@ TEST_F(PanelWindowTest, DialogsAnswerByTheirButtons)
         EXPECT_EQ(shown, QStringList({QStringLiteral("Delete"), QStringLiteral("<b>A</b>?")}));
     }
     qApp->setStyleSheet(QString());
-}
-
-TEST_F(PanelWindowTest, ItsTextsFollowTheLanguageThatTheOperatorChooses)
-{
-    start({fixtureFile("good_plugin"), fixtureFile("no_entry")});
-    auto *choice = child<QComboBox>("languageChoice");
-    const struct
-    {
-        const char *key, *title, *category, *log, *controller, *problemTitle;
-    } languages[] = {
-        {"kr", "로봇 패널", "패키지", "로그", "컨트롤러 없음", "패널이 완전히 시작되지 않았습니다"},
-        {"en", "Robot panel", "Packages", "Log", "No controller", "The panel did not start completely"}};
-    for (const auto &language : languages) {
-        Q_EMIT choice->activated(choice->findData(QLatin1String(language.key)));
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // what the navigator gave up
-        EXPECT_EQ(nexo::SettingManager::instance()->getStr(QStringLiteral("language")),
-                  QLatin1String(language.key));
-        const QStringList shown{
-            window->windowTitle(), child<QWidget>("navigator")->findChild<QLabel *>()->text(),
-            child<QPushButton>("nav.panel.notices")->text(), child<QPushButton>("controllerState")->text(),
-            child<QWidget>("problemPage")->findChild<QLabel *>("problemText")->text()};
-        EXPECT_EQ(shown, QStringList({QString::fromUtf8(language.title), QString::fromUtf8(language.category),
-                                      QString::fromUtf8(language.log), QString::fromUtf8(language.controller),
-                                      QString::fromUtf8(language.problemTitle)}));
-    }
-}
-
-TEST_F(PanelWindowTest, TheNavigatorIsAsWideAsItsTitlesNeed)
-{
-    start({fixtureFile("good_plugin")});
-    window->show();
-    auto *navigator = child<QWidget>("navigator");
-    const int usual = navigator->width();
-    m("ix.nav")->cmobj(0)->set(nullptr, "title", QStringLiteral("A title with two words"), true);
-    QCoreApplication::sendPostedEvents();
-    const auto *button = child<QPushButton>("nav.sample_plugin.page");
-    EXPECT_GT(navigator->width(), usual);
-    EXPECT_GE(button->width(), button->sizeHint().width());
-    m("ix.nav")->cmobj(0)->set(nullptr, "title", QString(200, QLatin1Char('x')), true);
-    EXPECT_LT(navigator->width(), 300);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // what the navigator gave up
-    const auto *cut = child<QPushButton>("nav.sample_plugin.page");
-    EXPECT_LE(cut->sizeHint().width(), navigator->width());
-    EXPECT_TRUE(cut->text().endsWith(QChar(0x2026)));
-    EXPECT_EQ(cut->accessibleName(), QString(200, QLatin1Char('x')));
-    m("ix.nav")->cmobj(0)->set(nullptr, "title", QStringLiteral("Sample"), true);
-    EXPECT_EQ(navigator->width(), usual);
 }

@@ -1,5 +1,4 @@
 #include "fixtures.h"
-#include "orba/managers.h"
 #include "shell/plugin_loader.h"
 #include "support/test_support.h"
 
@@ -61,16 +60,4 @@ TEST(PluginLoader, RefusesWhatIsNoPluginWithFileAndReason)
         EXPECT_EQ(problem.what, QStringLiteral("The plug-in cannot be loaded"));
         EXPECT_TRUE(problem.why.contains(QLatin1String(each.why))) << problem.text();
     }
-}
-
-TEST(PluginLoader, LoadsAPluginAndAgainWithoutRegisteringTwice)
-{
-    host::Problem problem;
-    const orba::PluginApi *api = host::loadPlugin(fixtureFile("good_plugin"), &problem);
-    ASSERT_NE(api, nullptr) << problem.text();
-    EXPECT_STREQ(api->name, "sample_plugin");
-    EXPECT_EQ(orba::pluginManager().create(QStringLiteral("sample_plugin")), 3);
-    const int count = orba::registrations().size();
-    EXPECT_EQ(host::loadPlugin(fixtureFile("good_plugin"), &problem), api);
-    EXPECT_EQ(orba::registrations().size(), count);
 }

@@ -1,13 +1,9 @@
-#include "panel/quit_signals.h"
 #include "support/test_support.h"
 
-#include <QCoreApplication>
-#include <QDialog>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -18,25 +14,6 @@ namespace {
 constexpr int kBoundMs = 60000; // a sanitized start on a busy machine
 
 } // namespace
-
-TEST(QuitSignals, EndTheMainLoopAndTheLoopOfADialog)
-{
-    for (const int signal : {SIGTERM, SIGINT}) {
-        const panel::QuitSignals signals;
-        ASSERT_TRUE(signals.works());
-        bool dialogEnded = false;
-        QTimer::singleShot(0, &signals, [&dialogEnded, signal] {
-            QDialog dialog;
-            QTimer::singleShot(0, &dialog, [signal] { ::raise(signal); });
-            dialog.exec();
-            dialogEnded = true;
-        });
-        EXPECT_FALSE(signals.came());
-        EXPECT_EQ(QCoreApplication::exec(), 0);
-        EXPECT_TRUE(dialogEnded);
-        EXPECT_TRUE(signals.came());
-    }
-}
 
 /// The program itself: the signal comes while it starts, before the delay after which changes are saved.
 TEST(QuitSignals, ThePanelSavesAndEndsWithoutFault)
