@@ -2,14 +2,11 @@
 
 #include "support/fake_machine.h"
 #include "support/test_support.h"
-#include "workstation/medium_choice.h"
+#include "workstation/medium_names.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-using palx::EntryOrder;
-using palx::FolderEntry;
 
 /// A folder with files and folders of the names, "a/" is a folder; its topmost one is a medium's.
 struct Disk
@@ -23,35 +20,11 @@ struct Disk
                 FakeMachine::write(path(name), "x");
     }
     QString path(const QString &name) const { return root + QLatin1Char('/') + name; }
-    QStringList shown(const QString &filter) const
-    {
-        auto contents = palx::readFolder(root, root, palx::parseFilters(filter).first());
-        palx::sortEntries(&contents.entries, EntryOrder::Name, Qt::AscendingOrder);
-        QStringList names;
-        for (const FolderEntry &entry : contents.entries)
-            names.append(entry.isFolder ? entry.name + QLatin1Char('/') : entry.name);
-        return names;
-    }
     FakeMachine machine;
     QString root;
 };
 
 } // namespace
-
-TEST(MediumFolder, ShowsFoldersAndTheFilesOfTheFilter)
-{
-    const Disk disk({QStringLiteral("паллета 1.xml"), QStringLiteral("B.XML"), QStringLiteral("c.txt"),
-                     QStringLiteral(".hidden.xml"), QStringLiteral(".trash/"), QStringLiteral("上海/"),
-                     QStringLiteral("folder.xml/")});
-    const struct
-    {
-        const char *filter;
-        QStringList shown;
-    } cases[] = {{"XML (*.xml)", {"folder.xml/", "上海/", "B.XML", "паллета 1.xml"}},
-                 {"", {"folder.xml/", "上海/", "B.XML", "c.txt", "паллета 1.xml"}}};
-    for (const auto &c : cases)
-        EXPECT_EQ(disk.shown(QLatin1String(c.filter)), c.shown) << c.filter;
-}
 
 TEST(MediumFolder, LinksThatLeadOutOfTheMediumAreNotShown)
 {
@@ -61,8 +34,12 @@ TEST(MediumFolder, LinksThatLeadOutOfTheMediumAreNotShown)
     QFile::link(other.path(QStringLiteral("b.xml")), disk.path(QStringLiteral("out.xml")));
     QFile::link(disk.path(QStringLiteral("in")), disk.path(QStringLiteral("inside")));
     QFile::link(disk.path(QStringLiteral("gone")), disk.path(QStringLiteral("nowhere.xml")));
-    EXPECT_EQ(disk.shown(QString()),
-              QStringList({QStringLiteral("in/"), QStringLiteral("inside/"), QStringLiteral("a.xml")}));
+    QStringList names;
+    for (const palx::FolderEntry &entry :
+         palx::readFolder(disk.root, disk.root, palx::parseFilters(QString()).first()).entries)
+        names.append(entry.name);
+    names.sort();
+    EXPECT_EQ(names, QStringList({QStringLiteral("a.xml"), QStringLiteral("in"), QStringLiteral("inside")}));
 }
 
 TEST(MediumFolder, NobodyGetsAboveTheMedium)
@@ -75,75 +52,43 @@ TEST(MediumFolder, NobodyGetsAboveTheMedium)
     {
         QString path;
         QString folder; // below the root
-    } cases[] = {{QString(), QString()},
-                 {disk.path(QStringLiteral("Рецепты/2026")), QStringLiteral("/Рецепты/2026")},
-                 {disk.path(QStringLiteral("Рецепты/2026/gone/b.xml")), QStringLiteral("/Рецепты/2026")},
-                 {disk.path(QStringLiteral("Рецепты/..")), QString()},
-                 {disk.path(QStringLiteral("..")), QString()},
-                 {disk.path(QStringLiteral("out/x")), QString()},
-                 {disk.path(QStringLiteral("link/2026")), QStringLiteral("/Рецепты/2026")},
-                 {disk.root + QStringLiteral("x"), QString()},
-                 {QStringLiteral("/"), QString()},
-                 {QStringLiteral("relative"), QString()}};
+    } cases[] = {
+        {disk.path(QStringLiteral("Рецепты/2026")), QStringLiteral("/Рецепты/2026")},
+        {disk.path(QStringLiteral("Рецепты/..")), QString()},
+        {disk.path(QStringLiteral("out/x")), QString()},
+        {disk.path(QStringLiteral("link/2026")), QStringLiteral("/Рецепты/2026")},
+        {disk.root + QStringLiteral("x"), QString()},
+        {QStringLiteral("/"), QString()},
+    };
     for (const auto &c : cases)
         EXPECT_EQ(palx::folderOfMedium(disk.root, c.path), disk.root + c.folder) << c.path;
 }
 
-TEST(MediumFolder, SortsAsAPersonDoes)
+TEST(MediumNames, AFileSystemKeepsOnlyWhatItCan)
 {
-    const QDateTime noon(QDate(2026, 1, 1), QTime(12, 0));
-    const QVector<FolderEntry> all{{QStringLiteral("b10"), false, 5, noon.addDays(8)},
-                                   {QStringLiteral("Z"), true, 4096, noon.addDays(9)},
-                                   {QStringLiteral("B2"), false, 5, noon.addDays(7)},
-                                   {QStringLiteral("a"), true, 1, noon},
-                                   {QStringLiteral("c1"), false, 9, noon.addDays(2)}};
+    const QString letter = QString::fromUtf8("п"); // two bytes
     const struct
     {
-        EntryOrder order;
-        Qt::SortOrder direction;
-        const char *names;
-    } cases[] = {{EntryOrder::Name, Qt::AscendingOrder, "a Z B2 b10 c1"},
-                 {EntryOrder::Date, Qt::AscendingOrder, "a Z c1 B2 b10"},
-                 {EntryOrder::Size, Qt::DescendingOrder, "a Z c1 b10 B2"}};
-    for (const auto &c : cases) {
-        QVector<FolderEntry> entries = all;
-        palx::sortEntries(&entries, c.order, c.direction);
-        QStringList names;
-        for (const FolderEntry &entry : entries)
-            names.append(entry.name);
-        EXPECT_EQ(names.join(QLatin1Char(' ')), QLatin1String(c.names));
-    }
-}
-
-TEST(MediumChoice, SaysWhyNothingCanBeWritten)
-{
-    const Disk disk({QStringLiteral("there.xml"), QStringLiteral("folder/")});
-    const struct
-    {
-        const char *what;
-        bool isReadOnly;
-        QString folder;
         QString name;
-        const char *file; // null: may be written
-        const char *newFolder;
-    } cases[] = {
-        {"new", false, disk.root, QStringLiteral("a.xml"), nullptr, nullptr},
-        {"replaces", false, disk.root, QStringLiteral("there.xml"), nullptr, "There is a file of that name."},
-        {"a folder", false, disk.root, QStringLiteral("folder"), "There is a folder of that name.",
-         "There is a folder of that name."},
-        {"a bad name", false, disk.root, QStringLiteral("a:b"), "This disk cannot keep a name with :.",
-         "This disk cannot keep a name with :."},
-        {"protected", true, disk.root, QStringLiteral("a.xml"),
-         "The disk is write-protected. Nothing can be saved on it.",
-         "The disk is write-protected. Nothing can be saved on it."},
-        {"gone", false, disk.path(QStringLiteral("gone")), QStringLiteral("a.xml"),
-         "The folder is not there any more.", "The folder is not there any more."}};
+        const char *onFat; // what the refusal holds; null: the name is kept
+        const char *onLinux;
+    } cases[] = {{QString::fromUtf8("上海 паллета №1.xml"), nullptr, nullptr},
+                 {QStringLiteral("a:b"), "with :", nullptr},
+                 {QStringLiteral("a/b"), "with /", "with /"},
+                 {QStringLiteral("a."), "dot or a blank", nullptr},
+                 {QStringLiteral("Com1.xml"), "named Com1.xml", nullptr},
+                 {QStringLiteral(".xml"), "begin with a dot", "begin with a dot"},
+                 {QStringLiteral("a\nb"), "cannot be seen", "cannot be seen"},
+                 {QString(255, QLatin1Char('x')), nullptr, nullptr},
+                 {letter.repeated(128), nullptr, "256 of 255 bytes"},
+                 {letter.repeated(256), "256 of 255 characters", "512 of 255 bytes"}};
     for (const auto &c : cases) {
-        palx::Medium medium;
-        medium.root = disk.root;
-        medium.fileSystem = QStringLiteral("vfat");
-        medium.isReadOnly = c.isReadOnly;
-        EXPECT_EQ(palx::fileRefusal(medium, c.folder, c.name), QLatin1String(c.file)) << c.what;
-        EXPECT_EQ(palx::newFolderRefusal(medium, c.folder, c.name), QLatin1String(c.newFolder)) << c.what;
+        for (const char *system : {"vfat", "ext4"}) {
+            const char *part = QByteArray(system) == "ext4" ? c.onLinux : c.onFat;
+            const QString refusal = palx::nameRefusal(c.name, QLatin1String(system));
+            EXPECT_EQ(refusal.isEmpty(), !part) << c.name << " on " << system << ": " << refusal;
+            EXPECT_TRUE(refusal.contains(QLatin1String(part)))
+                << c.name << " on " << system << ": " << refusal;
+        }
     }
 }

@@ -41,11 +41,9 @@ protected:
         return count;
     }
 
-    orba::Node held;     ///< the recipes that the controller has
-    QString refusal;     ///< not empty: why requests are refused
-    orba::Node nonsense; ///< not null: the list that it tells instead
-    int toolResult = 0;  ///< of "sys.toolset"
-    bool answersLists = true;
+    orba::Node held;    ///< the recipes that the controller has
+    QString refusal;    ///< not empty: why requests are refused
+    int toolResult = 0; ///< of "sys.toolset"
 
 private:
     bool answer(const host::LinkMessage &message)
@@ -59,8 +57,7 @@ private:
         reply.status = refusal.isEmpty() ? host::status::kDone : host::status::kRefused;
         if (refusal.isEmpty())
             carryOut(message, &reply.payload);
-        if (answersLists || message.name != QLatin1String("pallet.get.list"))
-            controller.send(reply);
+        controller.send(reply);
         return true;
     }
     void carryOut(const host::LinkMessage &request, orba::Node *result)
@@ -68,7 +65,7 @@ private:
         if (request.name == QLatin1String("pallet.data"))
             held = request.payload;
         else if (request.name == QLatin1String("pallet.get.list"))
-            *result = nonsense.isNull() ? summaries() : nonsense;
+            *result = summaries();
         else if (request.name == QLatin1String("sys.toolset"))
             result->setInt(toolResult);
     }
