@@ -62,15 +62,6 @@ protected:
 
 } // namespace
 
-TEST_F(LifeCycleTest, StepsRunOnEveryModuleBeforeTheNextStep)
-{
-    const std::unique_ptr<Recorder> a(make("a")), b(make("b"));
-    LifeCycle::advance({a.get(), b.get()}, Step::AfterSetup);
-    EXPECT_EQ(
-        taken(),
-        QStringLiteral("a.init b.init a.afterInit b.afterInit a.setup b.setup a.afterSetup b.afterSetup"));
-}
-
 TEST_F(LifeCycleTest, NoStepRunsTwice)
 {
     const std::unique_ptr<Recorder> a(make("a"));
@@ -123,18 +114,4 @@ TEST_F(LifeCycleTest, AModuleThatEndsInAStepIsLeftOut)
     a->addSubmodule(page);
     delete page;
     EXPECT_TRUE(a->submodules().isEmpty());
-}
-
-TEST_F(LifeCycleTest, RefusesCirclesAndNothing)
-{
-    const std::unique_ptr<Recorder> a(make("a"));
-    Recorder *b = make("b");
-    a->addSubmodule(b);
-    a->addSubmodule(b);
-    b->addSubmodule(a.get());
-    a->addSubmodule(a.get());
-    a->addSubmodule(nullptr);
-    EXPECT_EQ(a->submodules(), QList<BModule *>({b}));
-    EXPECT_TRUE(b->submodules().isEmpty());
-    EXPECT_EQ(b->parentModule(), a.get());
 }

@@ -85,18 +85,6 @@ TEST_F(LogKeeperTest, RecordsSurviveARestartEqualOnesToo)
                      QString::fromUtf8("error: Коробка\n\"A\""), QStringLiteral("warning: later")}));
 }
 
-TEST_F(LogKeeperTest, WhoClearsTheListClearsTheFile)
-{
-    keeper->keepIn(file);
-    host::publishRecord(QStringLiteral("info"), QStringLiteral("old"));
-    m("quill.log.list")->clear();
-    restart();
-    EXPECT_EQ(titles(), QStringList());
-    host::publishRecord(QStringLiteral("info"), QStringLiteral("new"));
-    restart();
-    EXPECT_EQ(titles(), QStringList(QStringLiteral("info: new")));
-}
-
 TEST_F(LogKeeperTest, ListAndFileStayBounded)
 {
     keeper->keepIn(file);
@@ -124,8 +112,6 @@ TEST_F(LogKeeperTest, WhatAPowerCutLeftHarmsNoOtherRecord)
         const char *left;
         QStringList read;
     } cases[] = {
-        {"", {}},
-        {"\n\n", {}},
         {R"({"level":"info","title":"A"}
 {"level":"info","ti)",
          {"info: A"}},

@@ -40,26 +40,6 @@ void chooseLanguage(const QString &language)
 
 } // namespace
 
-TEST(ManagerHelper, OffersARefusalUnlessToldOtherwise)
-{
-    const struct
-    {
-        const char *given;
-        const char *offered;
-    } cases[] = {{"_", ""}, {"", "Cancel"}, {"Keep", "Keep"}};
-    for (const auto &each : cases) {
-        ScriptedPresenter presenter({true, false});
-        auto *helper = nexo::ManagerHelper::instance();
-        EXPECT_TRUE(
-            helper->execMsgOk(QStringLiteral("T"), QStringLiteral("text"), QLatin1String(each.given)));
-        EXPECT_FALSE(
-            helper->execMsgOk(QStringLiteral("T"), QStringLiteral("text"), QLatin1String(each.given)));
-        EXPECT_EQ(presenter.asked.at(0).title, QStringLiteral("T"));
-        EXPECT_EQ(presenter.asked.at(0).text, QStringLiteral("text"));
-        EXPECT_EQ(presenter.asked.at(0).rejectText, QLatin1String(each.offered));
-    }
-}
-
 TEST(ManagerHelper, WithoutAPresenterPrintsAndRefusesWhatCanBeRefused)
 {
     StderrCapture console;

