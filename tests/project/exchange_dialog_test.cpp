@@ -9,6 +9,7 @@
 #include "ui/message_bar.h"
 
 #include <QAbstractButton>
+#include <QDir>
 #include <QTableView>
 
 namespace {
@@ -23,9 +24,9 @@ protected:
         putProject(QStringLiteral("Q"));
     }
     void TearDown() override { dialog.reset(); }
-    void open()
+    void open(bool isImport)
     {
-        dialog = std::make_unique<ImExportProjectDialog>(true, nullptr, programs());
+        dialog = std::make_unique<ImExportProjectDialog>(isImport, nullptr, programs());
         dialog->show();
     }
     template <typename T> T *find(const char *name) const
@@ -63,7 +64,7 @@ TEST_F(ExchangeDialogTest, ImportsWhatIsChosenAndTakesItBack)
     putArchive(QStringLiteral("bad.zip"), {{"../a", "1", 0, 0, 0, {}, {}, 0}});
     takeMessages();
     ScriptedFiles files({{onDisk("P.zip"), onDisk("N.zip"), onDisk("bad.zip")}});
-    open();
+    open(true);
     click("btnFiles");
     EXPECT_EQ(m("quill.help.file_path")->getString("project_import"), disk());
     const QString problem = QStringLiteral("- the entry \"../a\" leads out of the folder");
@@ -80,9 +81,33 @@ TEST_F(ExchangeDialogTest, ImportsWhatIsChosenAndTakesItBack)
                                            "info: " + onDisk("N.zip") + " import success!"}));
     EXPECT_EQ(palx::projectNames(), QStringList({"N", "P", "Q"}));
     EXPECT_EQ(told(), QStringLiteral("Imported: P, N"));
-    open(); // still known to another one
+    open(true); // still known to another one
     presenter.answer(true);
     click("btnAction");
     EXPECT_EQ(told(), QStringLiteral("The last import was taken back."));
     EXPECT_EQ(this->files(), before);
+}
+
+TEST_F(ExchangeDialogTest, ExportsWhatIsTickedAndSaysWhatItReplaces)
+{
+    putProject(QStringLiteral("R"));
+    putArchive(QStringLiteral("Q.zip"), {{"old", "1", 0, 0, 0, {}, {}, 0}});
+    ScriptedFiles files({{disk()}});
+    open(false);
+    click("btnTarget");
+    touchRow(0);
+    touchRow(1);
+    const QStringList plan = shown();
+    ASSERT_EQ(plan.size(), 3);
+    EXPECT_EQ(plan.at(0), QStringLiteral("+ New file P.zip"));
+    EXPECT_TRUE(plan.at(1).startsWith(QStringLiteral("+ Replaces Q.zip of "))) << plan.at(1);
+    EXPECT_EQ(plan.at(2), QStringLiteral("- Not exported"));
+    click("btnWork");
+    EXPECT_EQ(takeMessages(), QStringList("info: Export to " + disk() + " success!"));
+    EXPECT_TRUE(told().startsWith(QStringLiteral("Exported."))) << told();
+    EXPECT_EQ(names(disk()), QStringList({"P.zip", "Q.zip"}));
+    for (const char *project : {"P", "Q"})
+        ASSERT_TRUE(QDir(place(QLatin1String(project))).removeRecursively());
+    EXPECT_TRUE(import({"P.zip", "Q.zip"}, palx::OnClash::Replace));
+    EXPECT_NE(content("Q/task0/main.mod"), QByteArray("(no file)")) << "not the old archive any more";
 }

@@ -56,15 +56,6 @@ bool ExchangeTest::import(const QStringList &names, palx::OnClash onClash, palx:
     return palx::importProjects(request, progress ? progress : &nobody);
 }
 
-palx::ImportRequest ExchangeTest::templatesRequest(palx::TemplateAction action, const QString &name) const
-{
-    palx::ImportRequest request;
-    request.templates = action;
-    request.templateArchive = name.isEmpty() ? QString() : onDisk(name);
-    request.programFolder = programs();
-    return request;
-}
-
 QString ExchangeTest::record(const QString &name)
 {
     const orba::ModuleObject *found = palx::projectRecord(name);

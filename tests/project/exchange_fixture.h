@@ -42,7 +42,6 @@ protected:
 
     bool exportNames(const QStringList &names, palx::Progress *progress = nullptr) const;
     bool import(const QStringList &names, palx::OnClash onClash, palx::Progress *progress = nullptr) const;
-    palx::ImportRequest templatesRequest(palx::TemplateAction action, const QString &name = QString()) const;
     static QString record(const QString &name);
     static void setRecord(const QString &name, const char *parameters);
     /// Everything below the folder for archives, or any other.

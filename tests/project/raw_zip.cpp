@@ -30,26 +30,9 @@ void putCommon(QByteArray *bytes, const RawEntry &entry)
     put(bytes, 0, 2);
 }
 
-/// A part of a packed stream that ends at a byte.
-QByteArray packedZeros(int size)
-{
-    const QByteArray plain(size, '\0');
-    QByteArray packed(size / 100 + 1000, Qt::Uninitialized);
-    z_stream stream{};
-    deflateInit2(&stream, 9, Z_DEFLATED, -MAX_WBITS, 8, Z_DEFAULT_STRATEGY);
-    stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(plain.constData()));
-    stream.avail_in = uInt(size);
-    stream.next_out = reinterpret_cast<Bytef *>(packed.data());
-    stream.avail_out = uInt(packed.size());
-    deflate(&stream, Z_FULL_FLUSH);
-    packed.chop(int(stream.avail_out));
-    deflateEnd(&stream);
-    return packed;
-}
-
 } // namespace
 
-QByteArray rawZip(const std::vector<RawEntry> &entries, const QByteArray &comment)
+QByteArray rawZip(const std::vector<RawEntry> &entries)
 {
     QByteArray bytes;
     QByteArray list;
@@ -74,25 +57,16 @@ QByteArray rawZip(const std::vector<RawEntry> &entries, const QByteArray &commen
     put(&bytes, std::uint32_t(entries.size()), 2);
     put(&bytes, std::uint32_t(list.size()), 4);
     put(&bytes, at, 4);
-    put(&bytes, std::uint32_t(comment.size()), 2);
-    return bytes + comment;
+    put(&bytes, 0, 2);
+    return bytes;
 }
 
-RawEntry zeros(const QByteArray &name, qint64 size)
+RawEntry zeros(const QByteArray &name, int size)
 {
-    constexpr int kPiece = 1 << 20;
+    const QByteArray plain(size, '\0');
     RawEntry entry{name, QByteArray(), 0100644, 0, 8, std::uint32_t(size), 0, 0};
-    const QByteArray piece = packedZeros(kPiece); // pieces that stand for themselves can be strung together
-    const auto pieceSum =
-        crc32(0, reinterpret_cast<const Bytef *>(QByteArray(kPiece, '\0').constData()), kPiece);
-    auto sum = crc32(0, nullptr, 0);
-    for (qint64 i = 0; i < size / kPiece; ++i) {
-        entry.data += piece;
-        sum = crc32_combine(sum, pieceSum, kPiece);
-    }
-    const QByteArray rest(int(size % kPiece), '\0');
-    entry.data += packedZeros(rest.size()) + QByteArray("\3\0", 2); // an empty block is the end
+    entry.data = qCompress(plain).mid(6).chopped(4); // without the length and the frame around the stream
     entry.checksum =
-        std::uint32_t(crc32(sum, reinterpret_cast<const Bytef *>(rest.constData()), uInt(rest.size())));
+        std::uint32_t(crc32(0, reinterpret_cast<const Bytef *>(plain.constData()), uInt(size)));
     return entry;
 }

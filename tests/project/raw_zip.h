@@ -20,7 +20,7 @@ struct RawEntry
 };
 
 /// An archive byte by byte, as somebody writes it who means no good.
-QByteArray rawZip(const std::vector<RawEntry> &entries, const QByteArray &comment = QByteArray());
+QByteArray rawZip(const std::vector<RawEntry> &entries);
 
 /// Zeros, packed; with their checksum.
-RawEntry zeros(const QByteArray &name, qint64 size);
+RawEntry zeros(const QByteArray &name, int size);
