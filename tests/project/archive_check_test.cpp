@@ -42,21 +42,6 @@ std::vector<RawEntry> many(int count)
     return entries;
 }
 
-/// Unpacks into a folder "to" beside the archive; the reason, or "fine".
-QString unpacked(const QTemporaryDir &folder, const std::vector<RawEntry> &entries)
-{
-    QFile archive(folder.filePath("a.zip"));
-    EXPECT_TRUE(archive.open(QIODevice::WriteOnly));
-    archive.write(rawZip(entries));
-    archive.close();
-    EXPECT_TRUE(QDir().mkpath(folder.filePath("to")));
-    QString why;
-    palx::NoProgress nobody;
-    return palx::unpackArchive(archive.fileName(), folder.filePath("to"), &why, &nobody)
-               ? QStringLiteral("fine")
-               : why;
-}
-
 } // namespace
 
 TEST(ArchiveCheck, RefusesWhatCannotBeUnpackedAsItIsListed)
@@ -82,7 +67,6 @@ TEST(ArchiveCheck, RefusesWhatCannotBeUnpackedAsItIsListed)
         {{file("C:a")}, "the entry \"C:a\" has an absolute name"},
         {{file("a\\b")}, "the entry \"a\\b\" has a backslash in its name"},
         {{file("a//b")}, "the entry \"a//b\" has a name that is no path"},
-        {{file("./a")}, "the entry \"./a\" has a name that is no path"},
         {{file("\xff")}, "the entry \"\xef\xbf\xbd\" has a name that is no text in UTF-8"},
         {{file("a\nb")}, "the entry \"a?b\" has a control character in its name"},
         {{file(longName.constData())}, "has too long a name"},
@@ -142,22 +126,18 @@ TEST(ArchiveCheck, RefusesADamagedByteOfContentOrReadsTheSame)
     }
 }
 
-TEST(ArchiveUnpack, UnpacksWhatItListed)
-{
-    const QTemporaryDir folder;
-    ASSERT_EQ(unpacked(folder, {file("deep/er/.hidden", "1"), zeros("zeros", 100000), file("empty", "")}),
-              QStringLiteral("fine"));
-    EXPECT_EQ(QFileInfo(folder.filePath("to/zeros")).size(), 100000);
-    EXPECT_EQ(palx::recursiveAllFiles(folder.filePath("to")).size(), 5);
-    EXPECT_TRUE(palx::chmodFiles(palx::recursiveAllFiles(folder.filePath("to"))));
-    EXPECT_EQ(int(QFileInfo(folder.filePath("to/deep/er/.hidden")).permissions()), 0x7777);
-}
-
 TEST(ArchiveUnpack, WritesNothingOfARefusedArchive)
 {
     const QTemporaryDir folder;
-    EXPECT_EQ(unpacked(folder, {file("good"), file("../evil")}),
-              QStringLiteral("the entry \"../evil\" leads out of the folder"));
+    QFile archive(folder.filePath("a.zip"));
+    ASSERT_TRUE(archive.open(QIODevice::WriteOnly));
+    archive.write(rawZip({file("good"), file("../evil")}));
+    archive.close();
+    ASSERT_TRUE(QDir(folder.path()).mkdir("to"));
+    QString why;
+    palx::NoProgress nobody;
+    EXPECT_FALSE(palx::unpackArchive(archive.fileName(), folder.filePath("to"), &why, &nobody));
+    EXPECT_EQ(why, QStringLiteral("the entry \"../evil\" leads out of the folder"));
     EXPECT_TRUE(QDir(folder.filePath("to")).isEmpty());
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList({"a.zip", "to"}));

@@ -6,22 +6,10 @@
 #include <QDirIterator>
 #include <QFile>
 
-void CountingProgress::step(int, int, const QString &)
-{
-    if (steps++ == at && act)
-        act();
-}
-
 ExchangeTest::ExchangeTest()
 {
     QDir().mkpath(disk());
     QDir().mkpath(programs());
-}
-
-void ExchangeTest::startAlone()
-{
-    startWithoutController();
-    m("nexo.r.id")->set(nullptr, "", QStringLiteral("SIM-0001"), true);
 }
 
 void ExchangeTest::putArchive(const QString &name, const std::vector<RawEntry> &entries) const

@@ -12,7 +12,11 @@
 class CountingProgress : public palx::Progress
 {
 public:
-    void step(int done, int total, const QString &text) override;
+    void step(int, int, const QString &) override
+    {
+        if (steps++ == at && act)
+            act();
+    }
     bool isCancelled() override { return isCancelled_; }
     bool enterLastPart() override { return !isCancelled_; }
 
@@ -30,8 +34,6 @@ class ExchangeTest : public ProjectTest
 {
 protected:
     ExchangeTest();
-    /// Robot and session without a controller.
-    void startAlone();
 
     QString disk() const { return outside_.filePath(QStringLiteral("disk")); }
     QString onDisk(const QString &name) const { return disk() + QLatin1Char('/') + name; }

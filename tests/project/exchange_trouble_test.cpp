@@ -11,10 +11,10 @@
 #include "workstation/hidden_project.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QScopeGuard>
 
-#include <chrono>
 #include <csignal>
 #include <limits>
 #include <random>
@@ -46,17 +46,15 @@ class ExchangeTroubleTest : public ExchangeTest
 protected:
     void SetUp() override
     {
-        startAlone();
+        startWithoutController();
+        m("nexo.r.id")->set(nullptr, "", QStringLiteral("SIM-0001"), true);
         putProject(QStringLiteral("P"), kVariables);
         putFile(QStringLiteral("P/data/noise.bin"), noise(kNoise));
         for (int i = 0; i < 8; ++i) // each is a step
             putFile(QStringLiteral("P/data/%1.mod").arg(i), "small");
         setRecord(QStringLiteral("P"), R"({"scheme_layout": 2})");
         ASSERT_TRUE(exportNames({"P"}));
-        putFile(QStringLiteral("P/old.mod"), "old");
-        setRecord(QStringLiteral("P"), R"({"scheme_layout": 1})");
-        palx::saveDataToHiddenProject();
-        before_ = files();
+        makeOld();
         archive_ = fileContent(onDisk(QStringLiteral("P.zip")));
         takeMessages();
     }
@@ -89,10 +87,9 @@ protected:
         EXPECT_EQ(files(), before_);
         EXPECT_EQ(record(QStringLiteral("P")), QStringLiteral("P 1 0 0 0 0 0 0"));
     }
-    void makeNewAgain()
+    void makeOld()
     {
         palx::forgetLastImport();
-        QFile::remove(place("P/var.xml"));
         putFile(QStringLiteral("P/var.xml"), kVariables);
         putFile(QStringLiteral("P/old.mod"), "old");
         setRecord(QStringLiteral("P"), R"({"scheme_layout": 1})");
@@ -122,15 +119,14 @@ protected:
     /// How long it takes at least [us]; others may use the machine too.
     static long duration(const std::function<void()> &work)
     {
-        long shortest = std::numeric_limits<long>::max();
+        qint64 shortest = std::numeric_limits<qint64>::max();
         for (int i = 0; i < 3; ++i) {
-            const auto start = std::chrono::steady_clock::now();
+            QElapsedTimer timer;
+            timer.start();
             killed(work, kNever);
-            shortest = std::min(shortest, long(std::chrono::duration_cast<std::chrono::microseconds>(
-                                                   std::chrono::steady_clock::now() - start)
-                                                   .count()));
+            shortest = std::min(shortest, timer.nsecsElapsed());
         }
-        return shortest;
+        return long(shortest / 1000);
     }
 
     std::map<std::string, std::string> before_;
@@ -141,36 +137,34 @@ protected:
 
 } // namespace
 
-TEST_F(ExchangeTroubleTest, ACancelledExportLeavesTheDiskAsItWas)
+TEST_F(ExchangeTroubleTest, ACancelledExportOrAPulledDiskLeavesNoHalfArchive)
 {
     CountingProgress counting;
     ASSERT_TRUE(exportNames({"P"}, &counting));
     ASSERT_GE(counting.steps, names(place(QStringLiteral("P"))).size());
-    for (int at = 0; at < counting.steps - 3; ++at) {
+    for (int at = 0; at < counting.steps; ++at) {
+        SCOPED_TRACE(at);
         CountingProgress cancelling;
         cancelling.at = at;
         cancelling.act = [&cancelling] { cancelling.cancel(); };
         const bool isExported = exportNames({"P"}, &cancelling);
-        EXPECT_TRUE(!isExported || cancelling.steps <= at) << at;
+        EXPECT_TRUE(!isExported || at >= counting.steps - 3) << "the last steps come too late";
         EXPECT_EQ(names(disk()), QStringList("P.zip"));
         EXPECT_TRUE(isWhole(onDisk(QStringLiteral("P.zip"))));
         expectOld();
+        CountingProgress pulling;
+        pulling.at = at;
+        pulling.act = [this] { QDir().rename(disk(), disk() + "-gone"); };
+        exportNames({"P"}, &pulling);
+        if (QDir(disk() + "-gone").exists()) {
+            QDir(disk()).removeRecursively();
+            ASSERT_TRUE(QDir().rename(disk() + "-gone", disk()));
+        }
+        EXPECT_TRUE(isWhole(onDisk(QStringLiteral("P.zip"))));
+        expectOld();
     }
-}
-
-TEST_F(ExchangeTroubleTest, CancellingEndsThePackingOfALargeProject)
-{
-    putFile(QStringLiteral("P/data/large.bin"), noise(4000000));
-    putFile(QStringLiteral("P/tail/large.bin"), noise(4000000));
-    before_ = files();
-    CountingProgress cancelling;
-    cancelling.at = names(place(QStringLiteral("P"))).size() + 2; // all is copied, and the archive grows
-    cancelling.act = [&cancelling] { cancelling.cancel(); };
-    EXPECT_FALSE(exportNames({"P"}, &cancelling));
-    EXPECT_GT(cancelling.steps, cancelling.at);
+    EXPECT_TRUE(exportNames({"P"}));
     EXPECT_EQ(names(disk()), QStringList("P.zip"));
-    EXPECT_EQ(fileContent(onDisk(QStringLiteral("P.zip"))), archive_);
-    expectOld();
 }
 
 TEST_F(ExchangeTroubleTest, ACancelledImportLeavesEverythingAsItWas)
@@ -187,26 +181,6 @@ TEST_F(ExchangeTroubleTest, ACancelledImportLeavesEverythingAsItWas)
             palx::undoLastImport(); // the last steps come too late
         expectOld();
     }
-}
-
-TEST_F(ExchangeTroubleTest, ADiskThatIsPulledGetsNoHalfArchive)
-{
-    CountingProgress counting;
-    ASSERT_TRUE(exportNames({"P"}, &counting));
-    for (int at = 0; at < counting.steps; ++at) {
-        CountingProgress pulling;
-        pulling.at = at;
-        pulling.act = [this] { QDir().rename(disk(), disk() + "-gone"); };
-        exportNames({"P"}, &pulling);
-        if (QDir(disk() + "-gone").exists()) {
-            QDir(disk()).removeRecursively();
-            ASSERT_TRUE(QDir().rename(disk() + "-gone", disk()));
-        }
-        EXPECT_TRUE(isWhole(onDisk(QStringLiteral("P.zip")))) << at;
-        expectOld();
-    }
-    EXPECT_TRUE(exportNames({"P"}));
-    EXPECT_EQ(names(disk()), QStringList("P.zip"));
 }
 
 TEST_F(ExchangeTroubleTest, AFullDiskGetsNoHalfArchiveAndNoHalfProject)
@@ -259,7 +233,7 @@ TEST_F(ExchangeTroubleTest, AKilledImportLeavesTheOldOrTheNewProject)
     const long whole = duration(work);
     palx::recoverExchange(programs());
     ASSERT_TRUE(import({"P.zip"}, OnClash::Replace)); // here too
-    makeNewAgain();
+    makeOld();
     for (int i = 0; i < kKills; ++i) {
         SCOPED_TRACE(i);
         killed(work, i < kKills - 3 ? whole * i / (kKills - 6) : kNever);
@@ -268,7 +242,7 @@ TEST_F(ExchangeTroubleTest, AKilledImportLeavesTheOldOrTheNewProject)
         expectOldOrNew();
         EXPECT_EQ(names(workspace()).filter("staging"), QStringList());
         if (content("P/old.mod") != "old")
-            makeNewAgain();
+            makeOld();
     }
     EXPECT_GT(old_, 5);
     EXPECT_GT(new_, 0);

@@ -13,34 +13,6 @@
 
 namespace {
 
-using palx::TemplateChoice;
-
-/// What made projects do not show.
-const struct
-{
-    const char *task;
-    const char *file;
-    TemplateChoice choice; ///< scheme, bollard, towards left, towards right
-    const char *path;
-} kCases[] = {
-    {"task1", "anything", {3, 1, 1, 1}, "/semi_static/conveyor_belt_inspection.mod"},
-    {"task5", "Helper", {0, 0, 0, 0}, "/helper/bollard_helper.mod"},
-    {"task9", "main", {2, 0, 0, 0}, "/motion/main/main_single_both.mod"},
-    {"task0", "main", {3, 0, 0, 0}, ""},
-    {"task0", "ZuoMaduo", {0, 0, 0, 0}, "/motion/left/ZuoMaDuo_single_suction_bollard_no_clapboard.mod"},
-    {"task0", "ZuoMaDuo", {0, 0, 0, 0}, ""}, // the file's name is spelled otherwise
-    {"task0", "YouMaduo", {1, 2, 0, 0}, "/motion/right/YouMaDuo_single_suction_no_bollard_no_clapboard.mod"},
-    {"task0", "BackHome", {2, 1, 0, 1}, "/motion/back_home/BackHome_Backwards_both.mod"},
-    {"task0", "BackHome", {3, 1, 1, 0}, ""},
-};
-
-TEST(ProgramTemplate, isChosenByTaskFileAndParameters)
-{
-    for (const auto &c : kCases)
-        EXPECT_EQ(palx::programTemplate(QLatin1String(c.task), QLatin1String(c.file), c.choice), c.path)
-            << c.task << " " << c.file << " scheme " << c.choice.schemeLayout;
-}
-
 /// A copy of `palx` in a folder of its own, with the templates beside it except one.
 class MissingTemplate : public ::testing::Test
 {

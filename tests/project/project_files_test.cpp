@@ -3,12 +3,9 @@
 #include "project_fixture.h"
 
 #include "orba/module_manager.h"
-#include "project/rules/project_files.h"
 #include "project/rules/project_place.h"
 #include "project/rules/project_record.h"
 #include "project/rules/project_variables.h"
-#include "support/cell_variables.h"
-#include "workstation/plugin_node.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,23 +15,11 @@
 
 using orba::Node;
 
-TEST_F(ProjectTest, AProgramThatCannotBeWrittenIsTold)
-{
-    add(QStringLiteral("P"));
-    putFile(QStringLiteral("P/blocked"), "no folder");
-    EXPECT_FALSE(palx::createMod(nullptr, "main", "blocked", true));
-    EXPECT_EQ(takeMessages(), QStringList("error: Cannot create task folder: blocked"));
-    EXPECT_FALSE(palx::createMod(nullptr, "main", "blocked", false));
-    EXPECT_EQ(takeMessages(), QStringList());
-    EXPECT_TRUE(palx::createMod(nullptr, "main", "task1", false)); // over the one that is there
-}
-
 TEST_F(ProjectTest, AClonedProjectIsACopyWithItsNewName)
 {
     add(QStringLiteral("Old"), R"({"scheme_layout": 2, "bollard": 1})");
     putFile("Old/.rlprog",
             "{\"project_name\":  \"Old\", \"x\": \"\xff\", \n\"project_name\":\"a\", \"other\": \"Old\"}");
-    putFile("Old/deep/er/.rlprog", "{\"project_name\": \"\"}");
     putFile("Old/deep/.hidden", QByteArray("\0\1\2", 3));
     putFile("Old/project.rlprog", "{\"project_name\": \"Old\"}");
     QFile::link("../task0", place("Old/link"));
@@ -46,7 +31,6 @@ TEST_F(ProjectTest, AClonedProjectIsACopyWithItsNewName)
     const QByteArray field = "\"project_name\": \"N\\u0022ew\"";
     EXPECT_EQ(content(name + "/.rlprog"),
               "{" + field + ", \"x\": \"\xff\", \n" + field + ", \"other\": \"Old\"}");
-    EXPECT_EQ(content(name + "/deep/er/.rlprog"), "{" + field + "}");
     for (const char *file : {"deep/.hidden", "project.rlprog", "task0/main.mod", "task0/YouMaduo.mod"})
         EXPECT_EQ(content(name + '/' + file), content(QStringLiteral("Old/") + file)) << file;
     EXPECT_TRUE(QFileInfo(place(name + "/link")).isSymLink());
@@ -68,37 +52,6 @@ TEST_F(ProjectTest, ACopyThatFailsLeavesNothing)
         EXPECT_EQ(files(), before);
         EXPECT_TRUE(palx::projectRecord("New")->isEmptyMobj());
     }
-    EXPECT_FALSE(palx::copyDirectory(place("Old"), place("Old/inside"), "x"));
-    EXPECT_EQ(files(), before);
-}
-
-TEST_F(ProjectTest, VariablesAreThoseOfTheProgramsInTheirOrder)
-{
-    add(QStringLiteral("P"));
-    const orba::ModuleObject *list = m("quill.project.var._list");
-    const Node before = list->node();
-    QMap<QString, QString> values;
-    QStringList names;
-    for (const orba::ModuleObject *each : list->cmobjs()) {
-        names.append(each->getString("name"));
-        values[names.last()] = each->getString("value.[0][0][0]") + QLatin1Char(' ') +
-                               each->getString("type") + QLatin1Char(' ') + each->getString("pers");
-    }
-    QStringList wanted;
-    for (const auto &variable : cellVariables())
-        wanted.append(QString::fromStdString(variable.name));
-    EXPECT_EQ(names, wanted);
-    for (const auto &[name, value] :
-         {std::pair("enableStackR", "false bool true"), std::pair("currentLayerL", "1 int true"),
-          std::pair("boxHeightR", "300 int true"), std::pair("SetZ", "700 int true"),
-          std::pair("MaxZ", "1000 int true"), std::pair("Margin", "400 int true"),
-          std::pair("liftHeight", "550 int true"), std::pair("rise", "1 int true"),
-          std::pair("cycleTimeL", "0.0 double true"), std::pair("clock0", " clock false"),
-          std::pair("flag", "false bool false")})
-        EXPECT_EQ(values[name], QLatin1String(value)) << name;
-    palx::createProjectVariables(); // again
-    palx::createVar("SetZ", QString(), "int", "1");
-    EXPECT_EQ(list->node(), before);
 }
 
 TEST_F(ProjectTest, VariablesAreKeptInFilesAsTheSoftwareWants)
@@ -115,9 +68,4 @@ TEST_F(ProjectTest, VariablesAreKeptInFilesAsTheSoftwareWants)
     EXPECT_EQ(monitored.size(), 33);
     EXPECT_EQ(*monitored.at(32),
               nodeFromJson(R"({"name": "more", "description": "one more", "type": "int", "marker": 3})"));
-    start("2.5.0");
-    add(QStringLiteral("Q"));
-    EXPECT_FALSE(QFileInfo::exists(place("Q/var.json")));
-    EXPECT_FALSE(QFileInfo::exists(place("Q/var_monitor.json")));
-    EXPECT_EQ(m("quill.project.var._list")->cmobjCount(), 38);
 }

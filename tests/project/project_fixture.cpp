@@ -3,8 +3,6 @@
 #include "controller/in_process_carrier.h"
 #include "core/controller_link.h"
 #include "orba/module_manager.h"
-#include "project/rules/project_record.h"
-#include "project/rules/project_variables.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -15,36 +13,19 @@
 
 using orba::Node;
 
-void ScriptedSteps::saveParameters(const QString &name)
-{
-    palx::writeProjectParameters(name, parameters);
-}
-
-void ScriptedSteps::becameCurrent()
-{
-    palx::createProjectVariables();
-    told.append(QStringLiteral("current"));
-}
-
-void ScriptedSteps::showProgress(bool isRunning)
-{
-    told.append(isRunning ? QStringLiteral("progress") : QStringLiteral("progress over"));
-}
-
 ProjectTest::ProjectTest()
 {
     ::chmod(folder_.path().toLocal8Bit().constData(),
             0755); // tests of read-only folders lay down the rights of root
 }
 
-void ProjectTest::start(const char *version)
+void ProjectTest::start()
 {
     if (session_)
         settle();
     session_.reset();
-    if (version_ != QLatin1String(version)) {
+    if (!controller_) {
         controller::StationOptions options;
-        options.version = version_ = QLatin1String(version);
         options.workspaceFolder = workspace();
         controller_ = std::make_shared<controller::Controller>(options);
     }
@@ -63,7 +44,6 @@ void ProjectTest::startWithoutController()
 {
     session_.reset();
     controller_.reset();
-    version_.clear();
     open(false);
 }
 
@@ -149,7 +129,6 @@ void ProjectTest::add(const QString &name, const char *parameters)
     EXPECT_TRUE(palx::addProject(name, std::nullopt, &steps)) << takeMessages().join(QLatin1Char('|'));
     settle(); // the controller builds it
     takeMessages();
-    steps.told.clear();
 }
 
 QStringList ProjectTest::tasks()

@@ -3,6 +3,8 @@
 #include "controller/controller.h"
 #include "controller/faulty_carrier.h"
 #include "project/rules/project_commit.h"
+#include "project/rules/project_record.h"
+#include "project/rules/project_variables.h"
 #include "shell/host_session.h"
 #include "support/test_support.h"
 
@@ -13,17 +15,16 @@
 #include <map>
 #include <memory>
 
-/// Stands in for the page: has the parameters, and remembers what it was told.
+/// Stands in for the page: has the parameters.
 class ScriptedSteps : public palx::ProjectSteps
 {
 public:
-    void saveParameters(const QString &name) override;
-    void becameCurrent() override;
-    void projectsChanged() override { told.append(QStringLiteral("changed")); }
-    void showProgress(bool isRunning) override;
+    void saveParameters(const QString &name) override { palx::writeProjectParameters(name, parameters); }
+    void becameCurrent() override { palx::createProjectVariables(); }
+    void projectsChanged() override {}
+    void showProgress(bool) override {}
 
     orba::Node parameters;
-    QStringList told;
 };
 
 /// The plug-in in a session without pages, linked to a simulated controller of this process; everything in a temporary
@@ -35,7 +36,7 @@ protected:
     void SetUp() override { start(); }
 
     /// Ends a running session first. The controller goes on, and tells the new session what it knows.
-    void start(const char *version = "2.3.0");
+    void start();
     void startWithoutController();
     /// Waits until the controller has taken every edit and told what came of it.
     static void settle();
@@ -69,5 +70,4 @@ private:
     std::shared_ptr<controller::Controller> controller_;
     controller::FaultyCarrier *way_ = nullptr; ///< of the session
     std::unique_ptr<host::HostSession> session_;
-    QString version_;
 };

@@ -66,7 +66,6 @@ RawEntry zeros(const QByteArray &name, int size)
     const QByteArray plain(size, '\0');
     RawEntry entry{name, QByteArray(), 0100644, 0, 8, std::uint32_t(size), 0, 0};
     entry.data = qCompress(plain).mid(6).chopped(4); // without the length and the frame around the stream
-    entry.checksum =
-        std::uint32_t(crc32(0, reinterpret_cast<const Bytef *>(plain.constData()), uInt(size)));
+    entry.checksum = std::uint32_t(crc32(0, reinterpret_cast<const Bytef *>(plain.constData()), uInt(size)));
     return entry;
 }

@@ -64,7 +64,8 @@ TEST_F(TemplateExchangeTest, BuiltInTemplatesGoOutAndComeBackAsFiles)
 TEST_F(TemplateExchangeTest, ARefusedArchiveLeavesTheTemplates)
 {
     putTemplate(QStringLiteral("/old.mod"), "old");
-    putArchive(QStringLiteral("t.zip"), {{"a.mod", "text", 0, 0, 0, {}, {}, 0}, {"../b.mod", "text", 0, 0, 0, {}, {}, 0}});
+    putArchive(QStringLiteral("t.zip"),
+               {{"a.mod", "text", 0, 0, 0, {}, {}, 0}, {"../b.mod", "text", 0, 0, 0, {}, {}, 0}});
     for (const char *name : {"t.zip", "none.zip"}) {
         EXPECT_FALSE(run(TemplateAction::Custom, QLatin1String(name)));
         EXPECT_EQ(takeMessages().last(), QStringLiteral("warning: Import project templates failed!"));
