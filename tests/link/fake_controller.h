@@ -40,8 +40,6 @@ public:
     bool takesEdits = true;  ///< takes Writes and Triggers and says so
     bool answers = true;     ///< answers Requests with status 0
     int losesFrames = 0;     ///< so many of the next frames from the panel
-    int losesEvery = 0;      ///< and every n-th; 0: none
-    int framesSoFar = 0;     ///< as counted for that
     bool takesLate = false;  ///< frames after the greeting are not dealt with
     std::function<bool(const host::LinkMessage &)> onMessage; ///< true: the test dealt with it
 
@@ -72,13 +70,11 @@ protected:
     void SetUp() override { ASSERT_TRUE(host::buildGlobalNodes()); }
 
     void openLink();
-    /// Opens and greets.
     void connectLink();
     /// Requests are answered so; everything else as always.
     void onRequest(std::function<void(const host::LinkMessage &)> answer);
     /// Turns the clock and lets everything that is due happen.
     void pass(int ms);
-    /// Handles what has arrived.
     void settle();
     /// Lets the event loop come to rest once, so that edits are found.
     void rest();
