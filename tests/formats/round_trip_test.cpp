@@ -6,11 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstring>
 
 using orba::FormatError;
 using orba::ModuleManager;
-using orba::Name;
 using orba::Node;
 
 namespace {
@@ -23,17 +21,7 @@ struct Format
     bool (*read)(const QByteArray &, Node *, FormatError *, const orba::ReadLimits &);
 };
 
-void PrintTo(const Format &format, std::ostream *out)
-{
-    *out << format.name;
-}
-
-QByteArray writeCompact(const Node &node, FormatError *error)
-{
-    return ModuleManager::toJson(node, true, error);
-}
-
-QByteArray writePretty(const Node &node, FormatError *error)
+QByteArray writeJson(const Node &node, FormatError *error)
 {
     return ModuleManager::toJson(node, false, error);
 }
@@ -41,7 +29,7 @@ QByteArray writePretty(const Node &node, FormatError *error)
 class RoundTrip : public ::testing::TestWithParam<Format>
 {
 protected:
-    Node throughText(const Node &node)
+    void expectSame(const Node &node)
     {
         FormatError error;
         text_ = GetParam().write(node, &error);
@@ -49,11 +37,6 @@ protected:
         Node back;
         EXPECT_TRUE(GetParam().read(text_, &back, &error, orba::ReadLimits())) << error.text() << "\n"
                                                                                << text_.constData();
-        return back;
-    }
-    void expectSame(const Node &node)
-    {
-        const Node back = throughText(node);
         EXPECT_TRUE(back == node) << text_.constData();
     }
     QByteArray text_;
@@ -68,30 +51,6 @@ TEST_P(RoundTrip, RandomTrees)
         bytes_ += text_.size();
     }
     EXPECT_GT(bytes_, 160000); // the trees are not all small
-}
-
-TEST_P(RoundTrip, EveryStringOfOneCodeUnit)
-{
-    Node list;
-    list.reset(Node::Kind::List);
-    for (unsigned unit = 0; unit <= 0xffff; ++unit)
-        list.add()->setString(QString(QChar(static_cast<ushort>(unit))));
-    expectSame(list);
-}
-
-TEST_P(RoundTrip, NumbersComeBackPackedAndExact)
-{
-    const double doubles[] = {1.0, -0.0, 0.1, 1e22, 5e-324};
-    const qint64 ints[] = {std::numeric_limits<qint64>::min(), 0, std::numeric_limits<qint64>::max()};
-    Node map;
-    map.ensure(u"trans")->setDoubles(doubles, 5);
-    map.ensure(u"counts")->setInts(ints, 3);
-    const Node back = throughText(map);
-    const Node *trans = back.find(u"trans");
-    ASSERT_TRUE(trans->isPackedDoubles());
-    EXPECT_EQ(std::memcmp(trans->packedDoubles(), doubles, sizeof doubles), 0);
-    ASSERT_NE(back.find(u"counts")->packedInts(), nullptr);
-    EXPECT_EQ(std::memcmp(back.find(u"counts")->packedInts(), ints, sizeof ints), 0);
 }
 
 TEST_P(RoundTrip, DeepestTreeAllowed)
@@ -136,8 +95,6 @@ TEST_P(RoundTrip, TruncationAtEveryByteChangesNothing)
     sample.reset(Node::Kind::Map);
     sample.ensure(u"points.trans")->setDoubles(std::vector<double>{0.5, -1.25e-9, 3.0}.data(), 3);
     sample.ensure(u"name")->setString(QStringLiteral("Короб <1>\u0001 \U0001F4E6"));
-    sample.ensure(u"list")->add(Name(u"named"))->setBool(true);
-    sample.ensure(u"list")->add()->setInt(-5);
     const QByteArray text = GetParam().write(sample, nullptr).trimmed();
     Node target = nodeFromJson(R"({"kept": 1})");
     const Node before = target;
@@ -152,29 +109,8 @@ TEST_P(RoundTrip, TruncationAtEveryByteChangesNothing)
     EXPECT_TRUE(target == sample);
 }
 
-/// A byte changed anywhere gives a tree or a refusal, never a crash.
-TEST_P(RoundTrip, EveryByteChanged)
-{
-    Node sample;
-    for (unsigned seed = 0; seed < 8; ++seed)
-        sample.add()->assign(RandomTree(seed).make());
-    const QByteArray text = GetParam().write(sample, nullptr);
-    ASSERT_GT(text.size(), 1000);
-    Node target;
-    for (int at = 0; at < std::min(text.size(), 1500); at += 2) {
-        for (const char mask : {'\x01', '\x20', '\x80', '\xff'}) {
-            QByteArray changed = text;
-            changed[at] = static_cast<char>(changed[at] ^ mask);
-            FormatError error;
-            const bool read = GetParam().read(changed, &target, &error, orba::ReadLimits());
-            ASSERT_NE(read, error.isSet());
-        }
-    }
-}
-
 INSTANTIATE_TEST_SUITE_P(Formats, RoundTrip,
-                         ::testing::Values(Format{"json", writeCompact, ModuleManager::fromJson},
-                                           Format{"prettyJson", writePretty, ModuleManager::fromJson},
+                         ::testing::Values(Format{"json", writeJson, ModuleManager::fromJson},
                                            Format{"xml", ModuleManager::toXml, ModuleManager::fromXml}),
                          [](const auto &format) { return std::string(format.param.name); });
 

