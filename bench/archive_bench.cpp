@@ -45,7 +45,7 @@ public:
 class Cell
 {
 public:
-    explicit Cell(int files)
+    Cell(int files, int lines)
     {
         host::SessionOptions options;
         options.workspaceFolder = folder_.filePath(QStringLiteral("workspace"));
@@ -57,7 +57,7 @@ public:
         m("nexo.r.id")->set(nullptr, "", QStringLiteral("SIM-0001"), true);
         QDir().mkpath(disk());
         for (int i = 0; i < files; ++i)
-            putProgram(QStringLiteral("%1/task%2/program%3.mod").arg(project()).arg(i % 6).arg(i), i);
+            putProgram(QStringLiteral("%1/task%2/program%3.mod").arg(project()).arg(i % 6).arg(i), i, lines);
         orba::Node variables; // as the controller writes them
         for (int i = 0; i < 40; ++i)
             variables.ensure(QStringLiteral("#%1.name").arg(i))
@@ -88,12 +88,12 @@ public:
 
 private:
     /// Packs about as well as programs do.
-    static void putProgram(const QString &name, int seed)
+    static void putProgram(const QString &name, int seed, int lines)
     {
         QDir().mkpath(QFileInfo(name).path());
         QFile file(name);
         file.open(QIODevice::WriteOnly);
-        for (int line = 0; line < 250; ++line)
+        for (int line = 0; line < lines; ++line)
             file.write(QStringLiteral("  MoveL(Offs(place%1, 0, 0, %2), v%3, z%4, tool%5)\n")
                            .arg(qHash(line * 31 + seed) % 1000)
                            .arg(qHash(line + seed * 17) % 900)
@@ -158,7 +158,7 @@ void compare(benchmark::State &state, const std::function<void()> &ours, const s
 
 void exportProject(benchmark::State &state)
 {
-    Cell cell(int(state.range(0)));
+    Cell cell(int(state.range(0)), int(state.range(1)));
     compare(
         state, [&] { cell.sendOut(); },
         [&] {
@@ -168,16 +168,17 @@ void exportProject(benchmark::State &state)
         });
 }
 BENCHMARK(exportProject)
-    ->Arg(20)
-    ->Arg(200)
-    ->Arg(2000)
+    ->Args({15, 60}) // as the templates make one
+    ->Args({20, 250})
+    ->Args({200, 250})
+    ->Args({2000, 250})
     ->Iterations(25)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 
 void importProject(benchmark::State &state)
 {
-    Cell cell(int(state.range(0)));
+    Cell cell(int(state.range(0)), int(state.range(1)));
     cell.sendOut();
     compare(
         state, [&] { cell.bringIn(); },
@@ -188,9 +189,10 @@ void importProject(benchmark::State &state)
         });
 }
 BENCHMARK(importProject)
-    ->Arg(20)
-    ->Arg(200)
-    ->Arg(2000)
+    ->Args({15, 60}) // as the templates make one
+    ->Args({20, 250})
+    ->Args({200, 250})
+    ->Args({2000, 250})
     ->Iterations(25)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
