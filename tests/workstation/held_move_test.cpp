@@ -161,6 +161,74 @@ TEST_F(HeldMoveTest, TheRobotsOwnEndEndsTheHold)
     }
 }
 
+TEST_F(HeldMoveTest, TheArrivalOfAnotherMoveIsNotItsOwn)
+{
+    connectLink();
+    robot(R"({"moving": false, "arrived": true, "progress": 1.0, "fault": "", "move": 3})");
+    make();
+    EXPECT_EQ(move->state(), State::Ready);
+    EXPECT_EQ(move->progress(), 0);
+    answersStarts = false;
+    press();
+    reply(last["start"], host::status::kDone, "4"); // what came before the answer was lost
+    settle();
+    EXPECT_EQ(move->state(), State::Stopped);
+    EXPECT_FALSE(move->isHeld());
+    EXPECT_TRUE(requests.contains("stop"));
+}
+
+TEST_F(HeldMoveTest, WaitsWhileTheRobotBrakesBeforeIt)
+{
+    connectLink();
+    make();
+    answersStarts = false;
+    robot(R"({"moving": true, "arrived": false, "progress": 0.5, "fault": "", "move": 3})");
+    press();
+    reply(last["start"], host::status::kDone, "4");
+    settle();
+    EXPECT_EQ(move->state(), State::Moving);
+    EXPECT_EQ(move->progress(), 0);
+    robot(kMoving);
+    EXPECT_EQ(move->state(), State::Moving);
+    robot(kThere);
+    EXPECT_EQ(move->state(), State::Arrived);
+}
+
+TEST_F(HeldMoveTest, ARefusedStartEndsTheHold)
+{
+    connectLink();
+    make();
+    answersStarts = false;
+    press();
+    EXPECT_EQ(move->state(), State::Starting);
+    reply(last["start"], host::status::kRefused, "null", "the robot is moving already");
+    settle();
+    EXPECT_EQ(move->state(), State::Refused);
+    EXPECT_EQ(move->reason(), QStringLiteral("the robot is moving already"));
+    EXPECT_FALSE(move->isHeld());
+    EXPECT_EQ(requests, (QStringList{"check", "start", "stop"}));
+}
+
+TEST_F(HeldMoveTest, AnAnswerToAnEarlierPressIsNotTakenForThisOne)
+{
+    connectLink();
+    make();
+    answersStarts = false;
+    press();
+    const host::LinkMessage first = last["start"];
+    move->release();
+    press();
+    EXPECT_EQ(requests, (QStringList{"check", "start", "stop", "start"}));
+    reply(first, host::status::kRefused, "null", "too late");
+    settle();
+    EXPECT_EQ(move->state(), State::Starting);
+    EXPECT_TRUE(move->isHeld());
+    controller.update("nexo.robot", kMoving);
+    reply(last["start"], host::status::kDone, "4");
+    settle();
+    EXPECT_EQ(move->state(), State::Moving);
+}
+
 TEST_F(HeldMoveTest, AStartWithoutAnAnswerEndsTheHoldInTime)
 {
     connectLink();
