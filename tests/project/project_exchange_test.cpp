@@ -68,6 +68,24 @@ TEST_F(ProjectExchangeTest, AnExportedProjectComesBackWithItsParameters)
     EXPECT_EQ(variables("Line 1.2(1)/var.xml").size(), 8);
 }
 
+TEST_F(ProjectExchangeTest, RenamingTakesTheFirstFreeNumber)
+{
+    putProject(QStringLiteral("P"));
+    ASSERT_TRUE(exportNames({"P"}));
+    ASSERT_TRUE(import({"P.zip"}, OnClash::Rename));
+    ASSERT_TRUE(import({"P.zip"}, OnClash::Rename));
+    EXPECT_EQ(palx::projectNames(), QStringList({"P", "P(1)", "P(2)"}));
+    QDir(place(QStringLiteral("P(1)"))).removeRecursively();
+    ASSERT_TRUE(import({"P.zip", "P.zip"}, OnClash::Rename));
+    EXPECT_EQ(palx::projectNames(), QStringList({"P", "P(1)", "P(2)", "P(3)"}));
+    QDir(place(QStringLiteral("P"))).removeRecursively();
+    for (const OnClash onClash : {OnClash::Rename, OnClash::Replace}) {
+        ASSERT_TRUE(import({"P.zip"}, onClash));
+        EXPECT_EQ(palx::projectNames(), QStringList({"P", "P(1)", "P(2)", "P(3)"}));
+        QDir(place(QStringLiteral("P"))).removeRecursively();
+    }
+}
+
 TEST_F(ProjectExchangeTest, RefusedArchivesChangeNothing)
 {
     putProject(QStringLiteral("P"));

@@ -61,6 +61,28 @@ TEST_F(TemplateExchangeTest, BuiltInTemplatesGoOutAndComeBackAsFiles)
     EXPECT_EQ(palx::programTemplateRoot(programs()), QStringLiteral(":/palx_workstation/mod"));
 }
 
+TEST_F(TemplateExchangeTest, TheContentsOfASingleFolderMoveUp)
+{
+    putTemplate(QStringLiteral("/old.mod"), "old");
+    putArchive(QStringLiteral("t.zip"),
+               {{"top/a.mod", "a", 0, 0, 0, {}, {}, 0}, {"top/deep/b.mod", "b", 0, 0, 0, {}, {}, 0}});
+    ASSERT_TRUE(run(TemplateAction::Custom, QStringLiteral("t.zip")));
+    EXPECT_EQ(names(mod()), QStringList({"a.mod", "deep", "deep/b.mod"}));
+    palx::forgetLastImport();
+    EXPECT_EQ(QDir(programs()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList("mod"));
+}
+
+TEST_F(TemplateExchangeTest, ResetGoesBackToTheBuiltInOnes)
+{
+    putTemplate(QStringLiteral("/old.mod"), "old");
+    ASSERT_TRUE(run(TemplateAction::Reset));
+    EXPECT_EQ(takeMessages(), QStringList("info: Reset project templates success!"));
+    EXPECT_EQ(palx::programTemplateRoot(programs()), QStringLiteral(":/palx_workstation/mod"));
+    ASSERT_TRUE(palx::undoLastImport());
+    EXPECT_EQ(text(QStringLiteral("/old.mod")), QByteArray("old"));
+}
+
 TEST_F(TemplateExchangeTest, ARefusedArchiveLeavesTheTemplates)
 {
     putTemplate(QStringLiteral("/old.mod"), "old");
