@@ -62,15 +62,6 @@ TEST(Arm, InverseLeadsBackToThePoseAndStaysNearWhereItComesFrom)
     }
 }
 
-TEST(Arm, KeepsTheFourthJointInAStraightWrist)
-{
-    const Joints straight{0.2, 0.3, -0.4, 0.7, 0, 0.1};
-    Joints found;
-    QString why;
-    ASSERT_TRUE(arm::inverse(arm::forward(straight), straight, &found, &why)) << why;
-    EXPECT_LT(distance(straight, found), 1e-6);
-}
-
 TEST(Pose, AnglesComeBackAlsoWhereTheyAreNotUnique)
 {
     std::mt19937 random(9);

@@ -24,50 +24,27 @@ Joints postureAt(const Pose &pose)
     return joints;
 }
 
-/// The largest speed and acceleration that a value showed, from its samples.
-class Peaks
-{
-public:
-    void add(double value)
-    {
-        if (count_ > 0) {
-            const double speed = (value - last_) / kTick;
-            if (count_ > 1)
-                acceleration = std::max(acceleration, std::abs(speed - lastSpeed_) / kTick);
-            topSpeed = std::max(topSpeed, std::abs(speed));
-            lastSpeed_ = speed;
-        }
-        last_ = value;
-        ++count_;
-    }
-    double topSpeed = 0;
-    double acceleration = 0;
-
-private:
-    double last_ = 0;
-    double lastSpeed_ = 0;
-    int count_ = 0;
-};
-
 /// Runs a plan and checks every limit on the way.
 void expectWithinLimits(const MotionPlan &plan, double speed)
 {
-    Peaks joints[6];
-    Vector last = Vector::Zero();
     const Trapezoid &profile = plan.profile();
-    for (double t = 0; t <= profile.duration() + kTick; t += kTick) {
-        const Joints now = plan.jointsAt(profile.position(t));
-        for (std::size_t i = 0; i < now.size(); ++i)
-            joints[i].add(now[i]);
-        const Vector tool = (arm::forward(now) * plan.wish().tool).translation();
-        if (t > 0) {
-            EXPECT_LE((tool - last).norm() / kTick, speed * 1.001) << "at " << t << " s";
+    std::vector<Joints> way;
+    for (double t = 0; t <= profile.duration() + kTick; t += kTick)
+        way.push_back(plan.jointsAt(profile.position(t)));
+    const auto toolAt = [&](std::size_t n) -> Vector {
+        return (arm::forward(way[n]) * plan.wish().tool).translation();
+    };
+    for (std::size_t n = 1; n < way.size(); ++n) {
+        EXPECT_LE((toolAt(n) - toolAt(n - 1)).norm() / kTick, speed * 1.001) << "at " << n * kTick << " s";
+        for (std::size_t i = 0; i < 6; ++i) {
+            const double step = way[n][i] - way[n - 1][i];
+            EXPECT_LE(std::abs(step) / kTick, arm::kAxes[i].maxSpeed) << "joint " << i + 1;
+            if (n > 1) {
+                const double change = step - (way[n - 1][i] - way[n - 2][i]);
+                EXPECT_LE(std::abs(change) / (kTick * kTick), arm::kAxes[i].maxAcceleration)
+                    << "joint " << i + 1;
+            }
         }
-        last = tool;
-    }
-    for (std::size_t i = 0; i < 6; ++i) {
-        EXPECT_LE(joints[i].topSpeed, arm::kAxes[i].maxSpeed) << "joint " << i + 1;
-        EXPECT_LE(joints[i].acceleration, arm::kAxes[i].maxAcceleration) << "joint " << i + 1;
     }
 }
 

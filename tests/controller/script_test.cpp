@@ -148,9 +148,7 @@ void change(const Script &script, ScriptRecorder *world, const Script::Event &ev
     ADD_FAILURE() << event.name;
 }
 
-class ScriptFile : public testing::TestWithParam<std::string>
-{
-};
+using ScriptFile = testing::TestWithParam<std::string>;
 
 TEST_P(ScriptFile, doesWhatItSays)
 {
@@ -177,11 +175,7 @@ std::vector<std::string> scriptFiles()
     return names;
 }
 
-std::string testName(const testing::TestParamInfo<std::string> &test)
-{
-    return test.param.substr(0, test.param.find('.'));
-}
-
-INSTANTIATE_TEST_SUITE_P(Scripts, ScriptFile, testing::ValuesIn(scriptFiles()), testName);
+INSTANTIATE_TEST_SUITE_P(Scripts, ScriptFile, testing::ValuesIn(scriptFiles()),
+                         [](const auto &test) { return test.param.substr(0, test.param.find('.')); });
 
 } // namespace

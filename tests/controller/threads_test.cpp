@@ -8,7 +8,6 @@
 
 #include <QTemporaryDir>
 
-#include <atomic>
 #include <thread>
 
 using namespace controller;
@@ -53,30 +52,6 @@ TEST(Threads, SeveralThreadsSendAndEveryRequestIsAnsweredOnce)
     EXPECT_EQ(kThreads, panel.ask("pallet.get.list").payload.size());
 }
 
-TEST(Threads, WaysComeAndGoWhileTheControllerWorks)
-{
-    const auto machine = std::make_shared<Controller>(StationOptions());
-    std::vector<std::thread> threads;
-    for (int t = 0; t < 4; ++t)
-        threads.emplace_back([&machine, t] {
-            for (int i = 0; i < 50; ++i) {
-                RawPanel panel(std::make_unique<InProcessCarrier>(machine));
-                if (!panel.waitForWay(true))
-                    return;
-                host::LinkMessage hello;
-                hello.kind = Kind::Hello;
-                hello.payload.ensure(u"session")->setString(QString::number(t));
-                EXPECT_TRUE(panel.send(hello));
-                RawPanel::Arrival arrival;
-                if (i % 2 == 0) { // else it goes before it is answered
-                    EXPECT_TRUE(panel.next(&arrival));
-                }
-            }
-        });
-    for (std::thread &thread : threads)
-        thread.join();
-}
-
 TEST(Threads, WhatWasSentBeforeTheEndIsWorkedOffAndKept)
 {
     QTemporaryDir folder;
@@ -91,43 +66,4 @@ TEST(Threads, WhatWasSentBeforeTheEndIsWorkedOffAndKept)
     RawPanel panel(newCarrier(options));
     panel.greet("two");
     EXPECT_EQ(20, panel.ask("pallet.get.list").payload.size());
-}
-
-TEST(Threads, TheRobotStopsInRealTimeWhenTheButtonIsReleasedByALostWay)
-{
-    const auto machine = std::make_shared<Controller>(StationOptions());
-    {
-        RawPanel panel(std::make_unique<InProcessCarrier>(machine));
-        panel.greet("one");
-        const host::LinkMessage reply =
-            panel.ask("motion.start", nodeFromJson(R"({"type":"l","motion":{"toolset":"no use","speed":100},
-                "point":{"trans":[1.2,0.4,0.8],"rot":[3.141592653589793,0,0]}})"));
-        EXPECT_EQ(host::status::kDone, reply.status) << reply.text;
-        EXPECT_TRUE(panel.nextOf(Kind::Update).payload.getBool(u"moving"));
-    }
-    RawPanel panel(std::make_unique<InProcessCarrier>(machine));
-    host::LinkMessage told = panel.greet("two");
-    for (Node last = *told.payload.find(u"state.#1.value"); last.getBool(u"moving"); last = told.payload)
-        told = panel.nextOf(Kind::Update);
-    const QString fault = panel.greet("two").payload.find(u"state.#1.value")->getString(u"fault");
-    EXPECT_TRUE(fault.startsWith("stopped: "))
-        << fault; // the lost way, or on a busy machine the button before it
-}
-
-TEST(FaultyWay, BreaksInTheMiddleOfAFrameAndIsPluggedInAgain)
-{
-    Faults faults;
-    faults.cutEvery = 2;
-    auto faulty = std::make_unique<FaultyCarrier>(newCarrier(), faults);
-    FaultyCarrier *carrier = faulty.get();
-    RawPanel panel(std::move(faulty));
-    panel.greet("one");
-    panel.request(1, "pallet.set.one", makeRecipe("A", 1, 1));
-    EXPECT_TRUE(panel.waitForWay(false));
-    EXPECT_TRUE(carrier->isCut());
-    EXPECT_FALSE(panel.send(host::LinkMessage()));
-    carrier->setFaults(Faults());
-    carrier->restore();
-    panel.greet("one");
-    EXPECT_EQ(0, panel.ask("pallet.get.list").payload.size()) << "half a message is none";
 }
