@@ -68,6 +68,37 @@ const QVector<DeskButton> &deskButtons()
     return buttons;
 }
 
+namespace {
+
+/// A word of the controller and what the operator reads for it.
+struct ShownWord
+{
+    const char *word;
+    const char *text;
+};
+
+QString shownWord(const QVector<ShownWord> &known, const QString &word)
+{
+    for (const ShownWord &each : known)
+        if (word == QLatin1String(each.word))
+            return Text::tr(each.text);
+    return word;
+}
+
+/// The states of CiA 402.
+QString driveStateText(const QString &state)
+{
+    static const QVector<ShownWord> known{
+        {"switch on disabled", QT_TRANSLATE_NOOP("panel::CellPage", "switch on disabled")},
+        {"ready to switch on", QT_TRANSLATE_NOOP("panel::CellPage", "ready to switch on")},
+        {"switched on", QT_TRANSLATE_NOOP("panel::CellPage", "switched on")},
+        {"operation enabled", QT_TRANSLATE_NOOP("panel::CellPage", "operation enabled")},
+        {"fault", QT_TRANSLATE_NOOP("panel::CellPage", "fault")}};
+    return shownWord(known, state);
+}
+
+} // namespace
+
 QStringList machineTexts(const Node &cell)
 {
     const double ahead = cell.getDouble(u"conveyor.ahead");
@@ -81,25 +112,20 @@ QStringList machineTexts(const Node &cell)
     return {Text::tr("Conveyor: %1").arg(conveyor), Text::tr("Gripper: %1").arg(gripper),
             Text::tr("Lift column: %1 mm, %2")
                 .arg(qRound(cell.getDouble(u"column.height")))
-                .arg(cell.getString(u"column.state"))};
+                .arg(driveStateText(cell.getString(u"column.state")))};
 }
 
 QString faultText(const QString &name)
 {
-    const struct
-    {
-        const char *name, *text;
-    } known[] = {{"no-vacuum", QT_TRANSLATE_NOOP("panel::CellPage", "No vacuum")},
-                 {"lost-box", QT_TRANSLATE_NOOP("panel::CellPage", "Lost box")},
-                 {"conveyor-jam", QT_TRANSLATE_NOOP("panel::CellPage", "Conveyor jam")},
-                 {"pallet-pulled", QT_TRANSLATE_NOOP("panel::CellPage", "Pallet pulled")},
-                 {"e-stop", QT_TRANSLATE_NOOP("panel::CellPage", "Emergency stop")},
-                 {"collision", QT_TRANSLATE_NOOP("panel::CellPage", "Collision")},
-                 {"power-cut", QT_TRANSLATE_NOOP("panel::CellPage", "Power cut")}};
-    for (const auto &each : known)
-        if (name == QLatin1String(each.name))
-            return Text::tr(each.text);
-    return name;
+    static const QVector<ShownWord> known{
+        {"no-vacuum", QT_TRANSLATE_NOOP("panel::CellPage", "No vacuum")},
+        {"lost-box", QT_TRANSLATE_NOOP("panel::CellPage", "Lost box")},
+        {"conveyor-jam", QT_TRANSLATE_NOOP("panel::CellPage", "Conveyor jam")},
+        {"pallet-pulled", QT_TRANSLATE_NOOP("panel::CellPage", "Pallet pulled")},
+        {"e-stop", QT_TRANSLATE_NOOP("panel::CellPage", "Emergency stop")},
+        {"collision", QT_TRANSLATE_NOOP("panel::CellPage", "Collision")},
+        {"power-cut", QT_TRANSLATE_NOOP("panel::CellPage", "Power cut")}};
+    return shownWord(known, name);
 }
 
 QString clockText(double seconds)

@@ -1828,6 +1828,26 @@
         <source>Bodies</source>
         <translation>物体</translation>
     </message>
+    <message>
+        <source>switch on disabled</source>
+        <translation>禁止接通</translation>
+    </message>
+    <message>
+        <source>ready to switch on</source>
+        <translation>准备接通</translation>
+    </message>
+    <message>
+        <source>switched on</source>
+        <translation>已接通</translation>
+    </message>
+    <message>
+        <source>operation enabled</source>
+        <translation>运行使能</translation>
+    </message>
+    <message>
+        <source>fault</source>
+        <translation>故障</translation>
+    </message>
 </context>
 <context>
     <name>panel::CellTable</name>

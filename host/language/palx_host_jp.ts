@@ -1828,6 +1828,26 @@
         <source>Bodies</source>
         <translation>物体</translation>
     </message>
+    <message>
+        <source>switch on disabled</source>
+        <translation>スイッチオン無効</translation>
+    </message>
+    <message>
+        <source>ready to switch on</source>
+        <translation>スイッチオン準備完了</translation>
+    </message>
+    <message>
+        <source>switched on</source>
+        <translation>スイッチオン</translation>
+    </message>
+    <message>
+        <source>operation enabled</source>
+        <translation>運転有効</translation>
+    </message>
+    <message>
+        <source>fault</source>
+        <translation>故障</translation>
+    </message>
 </context>
 <context>
     <name>panel::CellTable</name>

@@ -1828,6 +1828,26 @@
         <source>Bodies</source>
         <translation>물체</translation>
     </message>
+    <message>
+        <source>switch on disabled</source>
+        <translation>스위치 온 금지</translation>
+    </message>
+    <message>
+        <source>ready to switch on</source>
+        <translation>스위치 온 준비</translation>
+    </message>
+    <message>
+        <source>switched on</source>
+        <translation>스위치 온</translation>
+    </message>
+    <message>
+        <source>operation enabled</source>
+        <translation>운전 허용</translation>
+    </message>
+    <message>
+        <source>fault</source>
+        <translation>고장</translation>
+    </message>
 </context>
 <context>
     <name>panel::CellTable</name>

@@ -1828,6 +1828,26 @@
         <source>Bodies</source>
         <translation>Тела</translation>
     </message>
+    <message>
+        <source>switch on disabled</source>
+        <translation>включение запрещено</translation>
+    </message>
+    <message>
+        <source>ready to switch on</source>
+        <translation>готов к включению</translation>
+    </message>
+    <message>
+        <source>switched on</source>
+        <translation>включён</translation>
+    </message>
+    <message>
+        <source>operation enabled</source>
+        <translation>работа разрешена</translation>
+    </message>
+    <message>
+        <source>fault</source>
+        <translation>неисправность</translation>
+    </message>
 </context>
 <context>
     <name>panel::CellTable</name>
