@@ -63,6 +63,20 @@ TEST_F(RobotTest, StopsWhenTheButtonGivesNoSignInRealTime)
     }
 }
 
+TEST_F(RobotTest, AMoveThatWaitsIsGivenUpWhenTheButtonGivesNoSign)
+{
+    start(R"({"type":"l","motion":{"toolset":"no use","speed":2500},
+        "point":{"trans":[1.2,0.4,0.8],"rot":[3.141592653589793,0,0]}})");
+    run(0.3);
+    robot.stop(QString());
+    start();
+    run(0.305, false, 0.1); // the arm, ten times slower, brakes still
+    EXPECT_TRUE(robot.isMoving());
+    run(5, true, 1);
+    EXPECT_EQ(1, state().getInt(u"move"));
+    EXPECT_FALSE(robot.isMoving());
+}
+
 TEST_F(RobotTest, BrakesWithoutAJump)
 {
     start();

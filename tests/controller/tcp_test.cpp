@@ -39,6 +39,34 @@ TEST(TcpServer, NonsenseIsAnsweredAndHungUpOn)
     EXPECT_TRUE(waitUntil([&] { return server.peerCount() == 0; }));
 }
 
+TEST(TcpServer, APeerThatReadsNothingIsDropped)
+{
+    Controller machine{StationOptions()};
+    TcpServer server(&machine);
+    QString why;
+    ASSERT_TRUE(server.listen(0, &why)) << why;
+    QTcpSocket socket;
+    socket.setReadBufferSize(1);
+    socket.connectToHost("127.0.0.1", server.port());
+    host::LinkMessage hello;
+    hello.kind = Kind::Hello;
+    hello.payload.ensure(u"session")->setString("raw");
+    std::string sent = host::encodeFrame(hello);
+    Node recipe = makeRecipe("A", 0, 0);
+    recipe.set(u"desc", QString(1 << 20, QLatin1Char('x')));
+    host::LinkMessage request;
+    request.kind = Kind::Request;
+    request.name = "pallet.set.one";
+    sent += host::encodeFrame(request, recipe);
+    request.name = "pallet.get.list";
+    for (int i = 0; i < 40; ++i) // 1 MB of answer each, to nobody
+        sent += host::encodeFrame(request);
+    ASSERT_TRUE(waitUntil([&] { return socket.state() == QAbstractSocket::ConnectedState; }));
+    socket.write(sent.data(), static_cast<qint64>(sent.size()));
+    EXPECT_TRUE(waitUntil([&] { return server.peerCount() == 1; }));
+    EXPECT_TRUE(waitUntil([&] { return server.peerCount() == 0; }, 60000));
+}
+
 TEST(ControllerProgram, AFolderThatAnotherOneUsesIsRefused)
 {
     const ControllerProcess other;

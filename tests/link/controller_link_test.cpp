@@ -203,6 +203,20 @@ TEST_F(LinkTest, TheTemplatesNodesOutliveAControllerThatLacksThem)
     EXPECT_EQ(controller.count(Kind::Write) + controller.count(Kind::Trigger), 0);
 }
 
+TEST_F(LinkTest, OlderAndDoubleUpdatesAreDropped)
+{
+    connectLink();
+    controller.update("quill.body.toolset", "\"new\"");
+    settle();
+    for (int i = 0; i < 2; ++i) {
+        controller.lastUpdate = 0; // the same number again
+        controller.update("quill.body.toolset", "\"old\"");
+    }
+    settle();
+    EXPECT_EQ(m("quill.body.toolset")->getString(), QStringLiteral("new"));
+    EXPECT_EQ(link->figures().droppedUpdates, 2);
+}
+
 TEST_F(LinkTest, AMissingUpdateIsMadeGoodByTheWholeState)
 {
     for (const bool isLast : {true, false}) {
