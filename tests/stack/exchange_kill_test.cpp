@@ -102,13 +102,6 @@ TEST_F(ExchangeKillTest, CancellingAtAnyMomentLeavesNothingBehind)
         EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
                   QStringList());
     }
-    write(list);
-    for (const int moment : {1, kMoments / 3}) {
-        ScriptedProgress stopped(moment);
-        const palx::ExchangeFile read = palx::readExchangeFile(path(), Node(), stopped);
-        EXPECT_TRUE(read.isCancelled);
-        EXPECT_TRUE(read.content.isNull() && read.error.isEmpty());
-    }
 }
 
 } // namespace

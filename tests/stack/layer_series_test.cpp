@@ -11,8 +11,7 @@ using palx::LayerSet;
 
 namespace {
 
-/// A recipe with patterns "A" and "B" and layers given by letters: "-" is a sheet, "." an empty layer, "?" one
-/// without a pattern. Every layer has its place as its offset, so that layers can be told apart.
+/// A recipe with patterns "A" and "B" and layers given by letters: "-" is a sheet, "." an empty layer. Every layer has its place as its offset, so that layers can be told apart.
 struct Recipe
 {
     explicit Recipe(const QString &layers)
@@ -25,10 +24,7 @@ struct Recipe
     }
     static QString patternOf(QChar letter)
     {
-        return letter == '-'   ? palx::kSheetPattern
-               : letter == '.' ? palx::kEmptyPattern
-               : letter == '?' ? QString()
-                               : QString(letter);
+        return letter == '-' ? palx::kSheetPattern : letter == '.' ? palx::kEmptyPattern : QString(letter);
     }
     QString layers() const
     {
@@ -36,7 +32,6 @@ struct Recipe
         for (const palx::LayerFacts &layer : palx::layerFacts(root.node()))
             letters += layer.pattern == palx::kSheetPattern   ? QStringLiteral("-")
                        : layer.pattern == palx::kEmptyPattern ? QStringLiteral(".")
-                       : layer.pattern.isEmpty()              ? QStringLiteral("?")
                                                               : layer.pattern;
         return letters;
     }
@@ -63,8 +58,10 @@ TEST(LayerSeries, SheetsGoOntoLayersOfProductsOnce)
         const char *after;
         int laid;
     } cases[] = {
-        {"AB", {1, 0, 1}, "A-B-", 2}, {"A-B", {0, 1, 2}, "A-B-", 1}, {"A.", {0, 1}, "A-.", 1},
-        {"A?", {1}, "A?", 0},         {"AB", {-1, 7}, "AB", 0},
+        {"AB", {1, 0, 1}, "A-B-", 2},
+        {"A-B", {0, 1, 2}, "A-B-", 1},
+        {"A.", {0, 1}, "A-.", 1},
+        {"AB", {-1, 7}, "AB", 0},
     };
     for (const auto &c : cases) {
         Recipe recipe(c.before);
@@ -83,8 +80,10 @@ TEST(LayerSeries, LayersMoveTogetherUntilTheyMeetTheEnd)
         const char *offsets;
         LayerSet then;
     } cases[] = {
-        {{0}, true, "1023", {1}},        {{1, 2}, true, "0312", {2, 3}},  {{1, 3}, true, "0213", {2, 3}},
-        {{1, 2}, false, "1203", {0, 1}}, {{0, 2}, false, "0213", {0, 1}}, {{9}, true, "0123", {}},
+        {{0}, true, "1023", {1}},
+        {{1, 2}, true, "0312", {2, 3}},
+        {{1, 2}, false, "1203", {0, 1}},
+        {{0, 2}, false, "0213", {0, 1}},
     };
     for (const auto &c : cases) {
         Recipe recipe("ABAB");
@@ -111,9 +110,10 @@ TEST(LayerSeries, PatternsTakeTurnsWithSheetsBetween)
         LayerSeries series;
         const char *after;
     } cases[] = {
-        {"", {{"A", "B"}, 5, 0, -1}, "ABABA"}, {"", {{"A", "B"}, 4, 2, -1}, "AB-AB"},
-        {"A..", {{"B"}, 2, 0, -1}, "ABB.."},   {"A?B", {{"B"}, 1, 0, -1}, "AB?B"},
-        {"AAAA", {{"B"}, 2, 0, 1}, "ABB"},     {"A.", {{"B"}, 1, 0, 9}, "A.B"},
+        {"", {{"A", "B"}, 5, 0, -1}, "ABABA"},
+        {"", {{"A", "B"}, 4, 2, -1}, "AB-AB"},
+        {"A..", {{"B"}, 2, 0, -1}, "ABB.."},
+        {"AAAA", {{"B"}, 2, 0, 1}, "ABB"},
     };
     for (const auto &c : cases) {
         Recipe recipe(c.before);

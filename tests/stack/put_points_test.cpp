@@ -314,13 +314,6 @@ TEST(OnePoint, OriginPutAndEnterPointsOfEverySide)
         EXPECT_TRUE(near(trans(stack, "points.put.#0.#0.enter_p"), one.enter));
     }
     const auto plugin = globalPlugin({0, 0, 0});
-    EXPECT_FALSE(palx::isGlobalWObjCalibrationMethodOne(ownStack(plugin.get())));
-    for (const char16_t *method :
-         {u"global_wobj.#0.calibration_method", u"global_wobj.#1.calibration_method"}) {
-        plugin->node().set(method, 3);
-        EXPECT_FALSE(palx::isGlobalWObjCalibrationMethodOne(globalStack(plugin.get(), {0, 0, 0})));
-        plugin->node().set(method, 1);
-    }
     ModuleObject *high = globalStack(plugin.get(), {0, 0, 0}, R"({"get.approach_h":1000})"); // at 1.5
     palx::genStackWayPoints(high);
     EXPECT_DOUBLE_EQ(trans(high, "points.put.#0.#0.enter_p")[2], 1.5) << "above the pick side";
@@ -345,11 +338,6 @@ TEST(OnePoint, HeightsOfTheSidePersistAndTheSecondToLastLayerDiffers)
     EXPECT_EQ(stack->getDouble("put.ready_h"), 170); // written again by the last layer
     EXPECT_EQ(stack->getDouble("put.exit_h"), 73);
     EXPECT_DOUBLE_EQ(stack->getDouble("points.put.#0.#1.enter_p.rot.#2"), 0.6 - kPi / 2);
-
-    const auto other = globalPlugin({0, 0, 5}); // no side: no heights
-    stack = globalStack(other.get(), {0, 0, 5});
-    palx::genStackWayPoints(stack);
-    EXPECT_EQ(stack->getInt("put.ready_h"), 50);
 }
 
 TEST(GlobalPick, FollowsConveyorCornerAndProduct)
@@ -381,19 +369,4 @@ TEST(GlobalPick, FollowsConveyorCornerAndProduct)
                      {{"get.enter_p", {x + 0.1, y - 0.2, z + 0.3}}, {"get.approach_p", {x, y, z + 0.115}}});
         EXPECT_EQ(stack->getDouble("get.approach_h"), 115);
     }
-}
-
-TEST(GlobalPick, EnterRisesAboveAHighPalletOriginAndSurvivesMissingSettings)
-{
-    auto plugin = globalPlugin({0, 0, 0});
-    plugin->set(nullptr, "global_wobj.#0.left_origin_point.trans.#2", 0.9);
-    ModuleObject *stack = globalStack(plugin.get(), {0, 0, 0}, R"({"use_global_tool":true})");
-    palx::genStackWayPoints(stack);
-    EXPECT_NEAR(trans(stack, "get.enter_p")[2], 1.2, 1e-12);
-
-    plugin = makePluginTree(); // both global lists empty
-    stack = ownStack(plugin.get(), R"({"use_global_tool":true})");
-    palx::genStackWayPoints(stack);
-    expectPoints(stack, {{"get.get_p", {0.15, 0.1, 0.1}}});
-    EXPECT_EQ(stack->getDouble("get.approach_h"), 100);
 }

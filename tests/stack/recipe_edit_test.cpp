@@ -3,8 +3,6 @@
 #include "support/recipe_tree.h"
 #include "support/test_support.h"
 
-#include <QSignalSpy>
-
 #include <gtest/gtest.h>
 
 using orba::ModuleObject;
@@ -19,14 +17,6 @@ Node stacksNamed(const QStringList &names)
     for (const QString &name : names)
         stacks.add()->ensure(u"name")->setString(name);
     return stacks;
-}
-
-QStringList namesOf(const ModuleObject *stacks)
-{
-    QStringList names;
-    for (int i = 0; i < stacks->cmobjCount(); ++i)
-        names << stacks->getString(QStringLiteral("#%1.name").arg(i));
-    return names;
 }
 
 /// A plugin tree with recipes of these names, each with one layer and a point.
@@ -73,45 +63,6 @@ TEST(RecipeName, SaysWhyANameIsRefused)
     EXPECT_EQ(palx::recipeNameProblem(stacks, "Box", stacks.at(0)), QString()); // its own
 }
 
-TEST(RecipeName, ProposesTheNextFreeName)
-{
-    const QString digits(20, QLatin1Char('9')); // more than a number holds
-    const struct
-    {
-        QStringList taken;
-        QString wanted;
-        QString proposed;
-    } cases[] = {
-        {{}, "  Box ", "Box"},
-        {{QStringLiteral("Box"), "Box1"}, "Box", "Box2"},
-        {{digits}, digits, digits + QStringLiteral("1")},
-        {{}, QString(), "1"},
-    };
-    for (const auto &c : cases)
-        EXPECT_EQ(palx::proposeRecipeName(stacksNamed(c.taken), c.wanted), c.proposed);
-
-    const QString longest(palx::kMaxRecipeName, QLatin1Char('8'));
-    QStringList taken{longest};
-    for (const QString &wanted : {longest, QString(300, QLatin1Char('w')), QString()}) {
-        for (int i = 0; i < 12; ++i) { // whatever is proposed is accepted
-            const QString name = palx::proposeRecipeName(stacksNamed(taken), wanted);
-            EXPECT_EQ(palx::recipeNameProblem(stacksNamed(taken), name), QString()) << name;
-            taken << name;
-        }
-    }
-}
-
-TEST(RecipeCopy, StandsBehindItsOriginalAndIsItsOwn)
-{
-    const Recipes recipes({QStringLiteral("A"), "B"});
-    ModuleObject *copy = palx::copyStack(recipes.stack(0), "C");
-    EXPECT_EQ(namesOf(recipes.stacks()),
-              QStringList({QStringLiteral("A"), QStringLiteral("C"), QStringLiteral("B")}));
-    EXPECT_EQ(copy->getInt("points.put.#0.#0.put_p"), 1); // points of the same recipe stay right
-    copy->set(nullptr, "layers.#0.pattern", "Z");
-    EXPECT_EQ(recipes.stack(0)->getString("layers.#0.pattern"), "A");
-}
-
 TEST(RecipeRemove, UndoBringsItBackToItsPlace)
 {
     for (int place = 0; place < 3; ++place) {
@@ -156,24 +107,16 @@ TEST(RecipeKeys, OldRecipesGainWhatTheyLackAndKeepWhatTheyHave)
     EXPECT_FALSE(palx::ensureRecipeKeys(stack, *plugin->node().child(u"default")));
 }
 
-namespace {
-
-/// Edits of every sort that undo must take back.
-const char *const kEdits[] = {
-    R"({"product_cfg.product.direction": "Top", "use_global_tool": true, "desc": "x"})",
-    R"({"layers": [{"pattern": "A", "h_offset": 0}, {"pattern": "B", "h_offset": 3}]})",
-    R"({"layers": null})",
-    R"({"patterns": {"A": [{"x": 1, "y": 2}], "B": []}})",
-    R"({"put.put_p": {"trans": [0.1, 0.2, 0.3], "rot": [0.0, 0.0, 0.0], "near": [], "conf": []}})",
-    R"({"get": null})",
-    R"({"own_key": {"deep": [1, [2, {"x": "y"}]]}})",
-};
-
-} // namespace
-
 TEST(RecipeContent, RestoringTakesEveryEditBack)
 {
-    for (const char *edit : kEdits) {
+    const char *const edits[] = {
+        R"({"product_cfg.product.direction": "Top", "use_global_tool": true, "desc": "x"})",
+        R"({"layers": [{"pattern": "A", "h_offset": 0}, {"pattern": "B", "h_offset": 3}]})",
+        R"({"layers": null, "get": null})",
+        R"({"put.put_p": {"trans": [0.1, 0.2, 0.3], "rot": [0.0, 0.0, 0.0], "near": [], "conf": []}})",
+        R"({"own_key": {"deep": [1, [2, {"x": "y"}]]}})",
+    };
+    for (const char *edit : edits) {
         const Recipes recipes({QStringLiteral("A")});
         ModuleObject *stack = recipes.stack(0);
         const Node whole = stack->node();
@@ -200,20 +143,4 @@ TEST(RecipeContent, PatternsKeepTheirOrderAndGeneratedPointsStay)
     palx::restoreContent(stack, content);
     EXPECT_EQ(palx::recipeContent(stack->node()), content);
     EXPECT_EQ(stack->getInt("points.put.#0.#0.put_p"), 2);
-}
-
-TEST(RecipeContent, NodesThatStayTellTheirValueOnce)
-{
-    const Recipes recipes({QStringLiteral("A")});
-    ModuleObject *stack = recipes.stack(0);
-    const Node content = palx::recipeContent(stack->node());
-    ModuleObject *length = stack->r("product_cfg.product.length");
-    ModuleObject *width = stack->r("product_cfg.product.width");
-    stack->set(nullptr, "product_cfg.product.length", 250);
-    const QSignalSpy lengthChanges(length, &ModuleObject::changed);
-    const QSignalSpy widthChanges(width, &ModuleObject::changed);
-    palx::restoreContent(stack, content);
-    EXPECT_EQ(lengthChanges.size(), 1);
-    EXPECT_EQ(widthChanges.size(), 0);
-    EXPECT_EQ(stack->r("product_cfg.product.length"), length);
 }

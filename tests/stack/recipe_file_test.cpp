@@ -50,10 +50,8 @@ TEST(RecipeShape, TheFirstFaultIsNamedWithItsPath)
         const char *fault;
     } cases[] = {
         {R"({"product_cfg": null, "patterns": {}, "further": [1, {"x": "y"}]})", ""},
-        {R"({"bollard": {"height": "12.5"}, "use_global_tool": "true", "name": 7})", ""},
         {R"({"get": {"get_p": {"trans": [0, 0, 0], "rot": [0, 0, 0], "near": [], "conf": [1, 2]}}})", ""},
         {R"({"patterns": {"A": [{"x": 1}, null]}, "layers": [{"pattern": "A"}, null]})", ""},
-        {R"({"points": {"put": "is made anew"}, "toolset": {"end": {}}})", ""},
         {R"([1])", "recipe: is a list, expected a group"},
         {R"({"product_cfg": {"product": {"direction": ["Top"]}}})",
          "product_cfg.product.direction: is a list, expected a text"},
@@ -62,32 +60,10 @@ TEST(RecipeShape, TheFirstFaultIsNamedWithItsPath)
         {R"({"get": {"get_p": {"trans": [0, "up", 0], "rot": [0, 0, 0]}}})",
          "get.get_p.trans.#1: is the text \"up\", expected a number"},
         {R"({"layers": [1, 2]})", "layers: is a list of numbers, expected a list of groups"},
-        {R"({"layers": [{"pattern": {}}]})", "layers.#0.pattern: is a group, expected a text"},
         {R"({"patterns": {"A": {"first": {"r": []}}}})", "patterns.A.first.r: is a list, expected a number"},
     };
     for (const auto &given : cases)
         EXPECT_EQ(palx::recipeFault(nodeFromJson(given.json), templateStack()), given.fault);
-}
-
-TEST(RecipeShape, GlobalListsAreJudgedWhereGenerationReadsThem)
-{
-    EXPECT_EQ(palx::globalToolFault(
-                  nodeFromJson(R"([{}, {}, {}, {"waypoint_settings": {"put": {"left_offsets": 3}}}])")),
-              "global_tool.#3.waypoint_settings.put.left_offsets: is a number, expected a group");
-    EXPECT_EQ(palx::globalWobjFault(nodeFromJson(R"([{"left_origin_point": "here"}])")),
-              "global_wobj.#0.left_origin_point: is the text \"here\", expected a point");
-}
-
-TEST_F(RecipeFileTest, TheTemplateOfAnExchangeFileIsLeftOut)
-{
-    const char *const xml =
-        R"(<node type="list"><node name="default" type="map"><node name="name" type="string">T</node></node>
-           <node type="map"><node name="name" type="string">S</node></node></node>)";
-    const palx::RecipeFile recipes = palx::readRecipeFile(file("x", xml), pluginTemplate());
-    EXPECT_EQ(recipes.error, QString());
-    ASSERT_EQ(recipes.content.child(u"stacks")->size(), 1);
-    EXPECT_EQ(recipes.content.getString(u"stacks.#0.name"), "S");
-    EXPECT_EQ(recipes.content.getDouble(u"stacks.#0.product_cfg.product.length"), 200);
 }
 
 TEST_F(RecipeFileTest, APluginNodeKeepsWhatBelongsToTheRunningOne)

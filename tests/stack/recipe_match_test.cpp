@@ -5,29 +5,21 @@
 #include <gtest/gtest.h>
 
 using host::RecipeSummary;
-using orba::Node;
 using palx::RecipeMatch;
 using palx::RecipePlace;
 
 namespace {
 
-/// Recipes whose only products are placed at these heights: "A1 B2.5".
-Node recipes(const char *text)
-{
-    Node list = nodeFromJson("[]");
-    for (const QString &word : QString(text).split(' ', Qt::SkipEmptyParts))
-        *list.add() = nodeFromJson(QStringLiteral(R"({"name": "%1", "desc": "", "get": {}, "points": {"put":
-            [[{"put_p": {"trans": [0, 0, %2]}}]]}})")
-                                       .arg(word.left(1), word.mid(1))
-                                       .toUtf8());
-    return list;
-}
-
-std::vector<RecipeSummary> summaries(const Node &list)
+/// Of recipes whose only products are placed at these heights: "A1 B2.5".
+std::vector<RecipeSummary> summaries(const char *text)
 {
     std::vector<RecipeSummary> result;
-    for (int i = 0; i < list.size(); ++i)
-        result.push_back(host::summaryOf(*list.at(i)));
+    for (const QString &word : QString(text).split(' ', Qt::SkipEmptyParts))
+        result.push_back(host::summaryOf(nodeFromJson(
+            QStringLiteral(
+                R"({"name": "%1", "get": {}, "points": {"put": [[{"put_p": {"trans": [0, 0, %2]}}]]}})")
+                .arg(word.left(1), word.mid(1))
+                .toUtf8())));
     return result;
 }
 
@@ -60,22 +52,10 @@ TEST(RecipeMatch, NamesWhatDiffersBetweenTheTwoSides)
         {"A1 A1", "A1", {"A same 0 0", "A missing 1 -1"}, 1},
     };
     for (const auto &each : cases) {
-        const auto matches =
-            palx::matchRecipes(summaries(recipes(each.panel)), summaries(recipes(each.controller)));
+        const auto matches = palx::matchRecipes(summaries(each.panel), summaries(each.controller));
         EXPECT_EQ(texts(matches), each.matches) << each.panel;
         EXPECT_EQ(palx::countDiffering(matches), each.differing) << each.panel;
     }
-}
-
-TEST(RecipeMatch, ADescriptionAndSettingsAreNoPoints)
-{
-    Node panel = recipes("A1");
-    const auto told = summaries(panel);
-    panel.at(0)->ensure(u"desc")->setString("small");
-    panel.at(0)->ensure(u"product_cfg.product.length")->setInt(7);
-    EXPECT_EQ(palx::countDiffering(palx::matchRecipes(summaries(panel), told)), 0);
-    panel.at(0)->ensure(u"get.get_p.trans.#0")->setDouble(1);
-    EXPECT_EQ(palx::countDiffering(palx::matchRecipes(summaries(panel), told)), 1);
 }
 
 TEST(RecipeMatch, RefusesWhatIsNoListOfRecipes)

@@ -43,46 +43,7 @@ QStringList patternsOfLayers(const Node &stack)
     return names;
 }
 
-QVector<int> numbers(const ModuleObject *stack, const char *key)
-{
-    QVector<int> values;
-    const Node *pattern = stack->node().find(u"patterns.A");
-    for (int i = 0; i < pattern->size(); ++i)
-        values << int(pattern->at(i)->getInt(orba::Path(key)));
-    return values;
-}
-
 } // namespace
-
-TEST(RecipeLayers, HeightsRunUpAsGenerationLaysThem)
-{
-    const Recipe recipe(R"([{"pattern": "A", "h_offset": 10}, {"pattern": "clapboard", "h_offset": 0},
-                            {"pattern": "empty", "h_offset": 99}, {"pattern": "B", "h_offset": -1},
-                            {"pattern": "", "h_offset": 50}, {"pattern": "A", "h_offset": 0}])");
-    const QVector<palx::LayerFacts> layers = palx::layerFacts(recipe.stack->node());
-    const struct
-    {
-        int products;
-        double bottom, top;
-        bool reached;
-    } expected[] = {{2, 10, 110, true},  {0, 110, 115, true},  {0, 115, 115, true},
-                    {1, 114, 214, true}, {0, 214, 214, false}, {2, 214, 214, false}};
-    ASSERT_EQ(layers.size(), 6);
-    for (int i = 0; i < layers.size(); ++i) {
-        EXPECT_EQ(layers[i].products, expected[i].products) << i;
-        EXPECT_EQ(layers[i].bottomMm, expected[i].bottom) << i;
-        EXPECT_EQ(layers[i].topMm, expected[i].top) << i;
-        EXPECT_EQ(layers[i].reached, expected[i].reached) << i;
-    }
-    const palx::RecipeTotals totals = palx::recipeTotals(recipe.stack->node());
-    EXPECT_EQ(totals.layers, 2);
-    EXPECT_EQ(totals.sheets, 1);
-    EXPECT_EQ(totals.products, 3);
-    EXPECT_EQ(totals.heightMm - totals.loadHeightMm, 150);
-    EXPECT_EQ(totals.heightMm, 214 + 150);
-    EXPECT_DOUBLE_EQ(totals.loadWeightKg, 3 * 2.5 + 0.5);
-    EXPECT_DOUBLE_EQ(totals.weightKg, 28);
-}
 
 TEST(RecipeLayers, SaysWhatIsWrongWithTheSequence)
 {
@@ -109,37 +70,6 @@ TEST(RecipeLayers, SaysWhatIsWrongWithTheSequence)
             EXPECT_TRUE(problems[i].startsWith(c.words[i]) || problems[i].contains(c.words[i]))
                 << problems[i];
     }
-}
-
-TEST(RecipeLayers, ASheetNeedsToBeSwitchedOnAndHigh)
-{
-    const Recipe recipe(R"([{"pattern": "A"}, {"pattern": "clapboard"}])");
-    for (const char *path : {"product_cfg.clapboard.height", "product_cfg.clapboard.enabled"}) {
-        const int good = recipe.stack->getInt(path);
-        recipe.stack->set(nullptr, path, 0);
-        EXPECT_EQ(palx::layerProblems(recipe.stack->node()).size(), 1) << path;
-        recipe.stack->set(nullptr, path, good);
-    }
-}
-
-TEST(RecipeLayers, AreInsertedMovedAndRemoved)
-{
-    const Recipe recipe("null");
-    palx::insertLayer(recipe.stack, -1, "A", 2.5);
-    palx::insertLayer(recipe.stack, 99, "B", 4);
-    palx::insertLayer(recipe.stack, 1, "C");
-    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), "ACB");
-    EXPECT_EQ(nodeText(*recipe.stack->node().find(u"layers.#2.h_offset")), nodeText(nodeFromJson("4")));
-    EXPECT_TRUE(palx::moveLayer(recipe.stack, 0, 2));
-    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), "CBA");
-    EXPECT_TRUE(palx::removeLayer(recipe.stack, 1));
-    EXPECT_EQ(patternsOfLayers(recipe.stack->node()).join(QString()), "CA");
-    for (const int outside : {-1, 2}) {
-        EXPECT_FALSE(palx::removeLayer(recipe.stack, outside));
-        EXPECT_FALSE(palx::moveLayer(recipe.stack, outside, 0));
-        EXPECT_FALSE(palx::moveLayer(recipe.stack, 0, outside));
-    }
-    EXPECT_EQ(palx::layerFacts(recipe.stack->node()).size(), 2);
 }
 
 TEST(RecipePatterns, SaysWhyANameIsRefused)
@@ -190,33 +120,6 @@ TEST(RecipeItems, FillTheFirstRowAndThenTheNext)
     EXPECT_EQ(palx::addItem(recipe.stack, "C"), -1);
 }
 
-TEST(RecipeItems, MovingAndRemovingRenumbers)
-{
-    const Recipe recipe;
-    palx::addItem(recipe.stack, "A");
-    EXPECT_TRUE(palx::moveItem(recipe.stack, "A", 2, 0));
-    EXPECT_EQ(numbers(recipe.stack, "index"), QVector<int>({1, 2, 3}));
-    EXPECT_EQ(numbers(recipe.stack, "y"), QVector<int>({300, 100, 100}));
-    EXPECT_TRUE(palx::removeItem(recipe.stack, "A", 1));
-    EXPECT_EQ(numbers(recipe.stack, "index"), QVector<int>({1, 2}));
-    EXPECT_EQ(numbers(recipe.stack, "x"), QVector<int>({75, 225}));
-    EXPECT_FALSE(palx::removeItem(recipe.stack, "A", 2));
-    EXPECT_FALSE(palx::moveItem(recipe.stack, "A", 0, 2));
-}
-
-TEST(RecipeItems, TakeTheSizeOfAChangedProduct)
-{
-    const Recipe recipe;
-    EXPECT_EQ(palx::otherSizedItems(recipe.stack->node(), "A"), 2); // stored without a size
-    palx::applyProductSize(recipe.stack, "A");
-    EXPECT_EQ(numbers(recipe.stack, "w"), QVector<int>({150, 150}));
-    EXPECT_EQ(numbers(recipe.stack, "h"), QVector<int>({200, 200}));
-    recipe.stack->set(nullptr, "product_cfg.product.length", 200.9); // whole millimetres count
-    EXPECT_EQ(palx::otherSizedItems(recipe.stack->node(), "A"), 0);
-    recipe.stack->set(nullptr, "product_cfg.product.length", 201);
-    EXPECT_EQ(palx::otherSizedItems(recipe.stack->node(), "A"), 2);
-}
-
 TEST(RecipeFields, RefuseWhatIsOutOfRange)
 {
     const Recipe recipe;
@@ -240,52 +143,31 @@ TEST(RecipeFields, RefuseWhatIsOutOfRange)
     EXPECT_NE(palx::fieldProblem(recipe.stack->node(), u"wobj_margin.right", 1), QString());
 }
 
-TEST(RecipeFields, WarnsOfAProductThatOverhangsInBothTurns)
-{
-    const Recipe recipe;
-    EXPECT_EQ(palx::sizeWarning(recipe.stack->node()), QString());
-    recipe.stack->set(nullptr, "product_cfg.product.length", 401);
-    EXPECT_EQ(palx::sizeWarning(recipe.stack->node()), QString()); // fits along the pallet
-    recipe.stack->set(nullptr, "product_cfg.product.width", 401);
-    EXPECT_NE(palx::sizeWarning(recipe.stack->node()), QString());
-}
-
 TEST(RecipePoints, NamesWhatGenerationWillMiss)
 {
     const QByteArray point = pointJson(0.1, 0, 0);
     const auto with = [&](const char *json) { return QByteArray(json).replace('P', point); };
+    const char *const shared = R"({"use_global_wobj": true, "get.get_p": P, "get.enter_p": P})";
+    const char *const oneSide =
+        R"({"global_wobj": [{"calibration_method": 1, "left_origin_point": P}, {"calibration_method": 1}]})";
     const struct
     {
-        QByteArray stack, plugin;
+        const char *stack, *plugin;
         int missing;
     } cases[] = {
         {"{}", "{}", 4},
-        {with(R"({"put.put_p": P, "put.enter_p": P, "get.get_p": P, "get.enter_p": P})"), "{}", 0},
-        {with(R"({"put.put_p": P, "put.enter_p": P, "use_global_tool": true})"), "{}", 1},
-        {with(R"({"use_global_wobj": true, "get.get_p": P, "get.enter_p": P})"),
-         R"({"global_wobj": [{"calibration_method": 1}, {"calibration_method": 1}]})", 1},
-        {with(R"({"use_global_wobj": true, "get.get_p": P, "get.enter_p": P})"),
-         with(
-             R"({"global_wobj": [{"calibration_method": 1, "left_origin_point": P}, {"calibration_method": 1}]})"),
-         0},
-        {with(R"({"use_global_wobj": true, "get.get_p": P, "get.enter_p": P, "pallet_position": 2})"),
-         R"({"global_wobj": [{"calibration_method": 1}, {"calibration_method": 1}]})", 1},
+        {R"({"put.put_p": P, "put.enter_p": P, "get.get_p": P, "get.enter_p": P})", "{}", 0},
+        {R"({"put.put_p": P, "put.enter_p": P, "use_global_tool": true})", "{}", 1},
+        {shared, R"({"global_wobj": [{"calibration_method": 1}, {"calibration_method": 1}]})", 1},
+        {shared, oneSide, 0},
     };
     for (const auto &c : cases) {
         const std::unique_ptr<ModuleObject> plugin = makePluginTree();
-        ModuleObject *stack = addTestStack(plugin.get(), c.stack.constData());
-        applyPaths(plugin->node(), c.plugin.constData());
+        ModuleObject *stack = addTestStack(plugin.get(), with(c.stack).constData());
+        applyPaths(plugin->node(), with(c.plugin).constData());
         const QStringList texts = palx::untaughtPoints(stack->node(), plugin->node());
-        EXPECT_EQ(texts.size(), c.missing) << c.stack.constData() << texts.join(QLatin1Char('|'));
+        EXPECT_EQ(texts.size(), c.missing) << c.stack << texts.join(QLatin1Char('|'));
     }
-}
-
-TEST(RecipePoints, AZeroRecordIsNotTaught)
-{
-    const Node zero = nodeFromJson(R"({"trans": [0, 0, 0], "rot": [0, 0, 0], "near": [1], "conf": [1]})");
-    EXPECT_FALSE(palx::isTaught(&zero));
-    const Node turned = nodeFromJson(R"({"trans": [0, 0, 0], "rot": [0, 0, 0.1]})");
-    EXPECT_TRUE(palx::isTaught(&turned));
 }
 
 TEST(RecipePoints, AreTaughtWhereTheRobotStands)
@@ -302,21 +184,4 @@ TEST(RecipePoints, AreTaughtWhereTheRobotStands)
         EXPECT_FALSE(palx::teachPoint(point, nodeFromJson(robot))) << robot;
         EXPECT_EQ(point, before);
     }
-}
-
-TEST(RecipePatterns, TheLayersThatUseAPatternAreNamed)
-{
-    orba::ModuleObject stack;
-    stack.node() = nodeFromJson(R"({"patterns":{"A":[],"B":[],"C":[]},"layers":[{"pattern":"A"}]})");
-    for (int i = 0; i < 11; ++i)
-        palx::insertLayer(&stack, -1, i % 5 == 0 && i < 10 ? QStringLiteral("C") : QStringLiteral("B"));
-    const struct
-    {
-        const char *pattern, *problem;
-    } cases[] = {{"A", "Pattern \"A\" is used by layer 1."},
-                 {"C", "Pattern \"C\" is used by the layers 2, 7."},
-                 {"B", "Pattern \"B\" is used by 9 layers: 3, 4, 5, 6, 8, 9, 10, 11, ..."},
-                 {"D", ""}};
-    for (const auto &c : cases)
-        EXPECT_EQ(palx::patternRemovalProblem(stack.node(), c.pattern), QString(c.problem));
 }
