@@ -1,6 +1,5 @@
 #include "ui/controller_dialog.h"
 
-#include "shell/center_provider.h"
 #include "ui/page_fixture.h"
 #include "workstation/controller_recipes.h"
 #include "workstation/recipe_controller.h"
@@ -141,33 +140,4 @@ TEST_F(ControllerDialogTest, SwitchesTheSharedToolOrARecipesOwn)
     click("btnTool");
     EXPECT_TRUE(message().startsWith("The controller did not take the tool.")) << message();
     EXPECT_EQ(text("lblTool"), "Active tool: B");
-}
-
-TEST_F(ControllerDialogTest, TheHomePageShowsTheSignAndOpensIt)
-{
-    recipes.reset();
-    bwaf::CenterWidget center;
-    bwaf::BModule module;
-    host::setCenterWidget(&center);
-    const auto home = std::make_unique<StackHomePage>(&center, &module);
-    center.addPage(home->wgt(), "palx_workstation.home_page");
-    auto *button = home->wgt()->findChild<QPushButton *>("btnController");
-    ASSERT_NE(button, nullptr);
-    const auto shows = [button](const char *sign) {
-        return waitUntil([&] { return button->text() == QString::fromUtf8(sign); });
-    };
-    EXPECT_TRUE(shows("–"));
-    openLink();
-    EXPECT_TRUE(shows("≠ 2"));
-    button->click();
-    auto *opened = center.findChild<ControllerDialog *>();
-    ASSERT_NE(opened, nullptr);
-    opened->findChild<QPushButton *>("btnPush")->click();
-    EXPECT_TRUE(shows("= 2"));
-    EXPECT_TRUE(button->accessibleDescription().startsWith("The controller holds all 2"))
-        << button->accessibleDescription();
-    button->click(); // a second one takes the place of the first
-    EXPECT_EQ(center.findChildren<ControllerDialog *>().size(), 1);
-    center.clearPages();
-    host::setCenterWidget(nullptr);
 }

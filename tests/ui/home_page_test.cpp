@@ -11,7 +11,6 @@
 #include <QListView>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -139,49 +138,6 @@ TEST(HomePage, TheOpenRecipeStaysOpenWhenRenamedAndClosesWhenDeleted)
     click(pages, "btnDelete");
     EXPECT_EQ(pages.setup->stack(), nullptr);
     EXPECT_EQ(currentRecipe(&pages.module)->value(), QString());
-}
-
-TEST(HomePage, SearchFindsNamesAndDescriptions)
-{
-    Pages pages;
-    pages.tree.addRecipe("Alpha");
-    orba::ModuleObject *beta = pages.tree.addRecipe("Beta");
-    beta->set(nullptr, "desc", "of GAMMA kind");
-    palx::triggerNode()->c("refresh_table")->trigger();
-    const struct
-    {
-        const char *search;
-        const char *found;
-    } cases[] = {{"alp", "Alpha"}, {"gamma", "Beta"}, {"a", "Alpha Beta"}, {"[", ""}};
-    for (const auto &c : cases) {
-        pages.field<QLineEdit>("edtSearch")->setText(QLatin1String(c.search));
-        EXPECT_EQ(shownNames(pages).join(' '), QLatin1String(c.found)) << c.search;
-    }
-    EXPECT_FALSE(pages.field<QPushButton>("btnOpen")->isEnabled());
-    pages.field<QToolButton>("btnClear")->click();
-    EXPECT_EQ(shownNames(pages).size(), 2);
-}
-
-TEST(HomePage, ReloadsOnTheTriggerAndTellsOfOtherNamesOnly)
-{
-    Pages pages;
-    orba::ModuleObject *stack = pages.tree.addRecipe("A");
-    TriggerCount combos("refresh_cmb");
-    palx::triggerNode()->c("refresh_table")->trigger();
-    EXPECT_EQ(combos.take(), 0);
-    stack->set(nullptr, "name", "B");
-    EXPECT_EQ(shownNames(pages), QStringList(QStringLiteral("A")));
-    palx::triggerNode()->c("refresh_table")->trigger();
-    EXPECT_EQ(shownNames(pages), QStringList(QStringLiteral("B")));
-    EXPECT_EQ(combos.take(), 1);
-}
-
-TEST(HomePage, WithoutRecipesOnlyNewIsOffered)
-{
-    Pages pages;
-    for (const char *button : {"btnCopy", "btnRename", "btnDelete", "btnOpen"})
-        EXPECT_FALSE(pages.field<QPushButton>(button)->isEnabled()) << button;
-    EXPECT_TRUE(pages.field<QPushButton>("btnNew")->isEnabled());
 }
 
 // What came, went and came back by files, and what the set-up page shows of it.

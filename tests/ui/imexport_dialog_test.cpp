@@ -1,11 +1,9 @@
 #include "ui/imexportdialog.h"
 
 #include "orba/module_manager.h"
-#include "stack/recipe_import.h"
 #include "support/scripted_files.h"
 #include "support/test_support.h"
 #include "ui/exchange_table_model.h"
-#include "ui/form_checks.h"
 #include "ui/page_fixture.h"
 #include "workstation/recipe_controller.h"
 
@@ -13,7 +11,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTableView>
@@ -120,29 +117,6 @@ protected:
     QPointer<ImExportDialog> dialog;
 };
 
-TEST_F(ImExportDialogTest, AsksForFilesWhereTheLastOnesWere)
-{
-    m("quill.help.file_path")->set(nullptr, "import", "/media/one");
-    open(true);
-    choose(file({"C"}));
-    ASSERT_EQ(files.asked.size(), 1);
-    EXPECT_EQ(files.asked[0].kind, FileRequest::Open);
-    EXPECT_EQ(files.asked[0].caption, "Open XML file");
-    EXPECT_EQ(files.asked[0].start, "/media/one");
-    EXPECT_EQ(files.asked[0].filter, "XML (*.xml)");
-    EXPECT_EQ(m("quill.help.file_path.import")->getString(), folder.path());
-    EXPECT_EQ(m("quill.help.file_path.export")->getString(), QString());
-    open(false);
-    choose(path("out"));
-    choose(QString()); // refused: everything stays
-    ASSERT_EQ(files.asked.size(), 3);
-    EXPECT_EQ(files.asked[1].kind, FileRequest::Save);
-    EXPECT_EQ(files.asked[1].caption, "Save XML file");
-    EXPECT_EQ(files.asked[1].start, "pallet.xml");
-    EXPECT_EQ(files.asked[2].start, folder.path() + QStringLiteral("/pallet.xml"));
-    EXPECT_EQ(child<QLineEdit>("edtPath")->text(), path("out.xml"));
-}
-
 TEST_F(ImExportDialogTest, EveryRowFollowsTheOptionAndTheTicks)
 {
     addRecipe("A");
@@ -167,23 +141,8 @@ TEST_F(ImExportDialogTest, EveryRowFollowsTheOptionAndTheTicks)
     EXPECT_EQ(rows().mid(0, 2), (QStringList{"[] C: Is left out", "[x] B: Skipped: the name is taken"}));
     EXPECT_EQ(child<QLabel>("lblCount")->text(), "4 of 5 ticked");
     press("btnNone");
-    EXPECT_EQ(rows().filter("[] ").size(), 5);
     EXPECT_FALSE(isOn("btnOk"));
-    press("btnAll");
-    EXPECT_EQ(rows().filter("[x]").size(), 5);
-    EXPECT_TRUE(isOn("btnOk"));
     EXPECT_EQ(names(), (QStringList{"A", "B"})); // nothing was merged so far
-}
-
-TEST_F(ImExportDialogTest, OlderRecipesSayWhatTheyGetFromTheTemplate)
-{
-    open(true);
-    choose(rawFile("<node type='list'><node type='map'><node name='name' type='string'>Old</node>"
-                   "<node name='get' type='null'/><node name='bollard' type='null'/>"
-                   "<node name='pallet_position' type='int'>1</node>"
-                   "<node name='use_global_tool' type='bool'>true</node>"
-                   "<node name='automatic_stacker' type='null'/></node></node>"));
-    EXPECT_EQ(rows(), QStringList("[x] Old: New recipe. Usual values for: choice of work object, margins"));
 }
 
 TEST_F(ImExportDialogTest, MergesWhatIsTickedRecordsItAndSendsEverything)
@@ -206,14 +165,6 @@ TEST_F(ImExportDialogTest, MergesWhatIsTickedRecordsItAndSendsEverything)
     EXPECT_EQ(worked[0][0].toString(), "Imported: 2 new recipes, 0 of them replace others.");
     EXPECT_TRUE(worked[0][1].toBool());
     EXPECT_FALSE(dialog->isVisible());
-    open(true);
-    choose(file({"A", "C"}));
-    press("optDiscard");
-    QSignalSpy nothing(dialog, &ImExportDialog::worked);
-    press("btnOk");
-    ASSERT_EQ(nothing.count(), 1);
-    EXPECT_EQ(nothing[0][0].toString(), "Imported: 0 new recipes, 0 of them replace others.");
-    EXPECT_FALSE(nothing[0][1].toBool()); // the import before is not what was just done
 }
 
 TEST_F(ImExportDialogTest, TheLastImportIsTakenBackAfterAQuestionAndSentAgain)
@@ -255,6 +206,8 @@ TEST_F(ImExportDialogTest, AFileThatCannotBeReadEmptiesTheTable)
     EXPECT_EQ(records, QStringList("error: " + message()));
     dialog->work();
     EXPECT_EQ(names(), QStringList("A"));
+    EXPECT_EQ(m("quill.help.file_path.import")->getString(),
+              folder.path()); // where the next one is looked for
 }
 
 TEST_F(ImExportDialogTest, WritesTheTemplateAndWhatIsTicked)
@@ -294,45 +247,6 @@ TEST_F(ImExportDialogTest, AnEmptyPathAndADiskThatIsGoneAreRefused)
     EXPECT_TRUE(message().startsWith(path("stick/out.xml") + QStringLiteral(": cannot be written")))
         << message();
     EXPECT_TRUE(dialog->isVisible());
-}
-
-TEST_F(ImExportDialogTest, SingleRecipesAreFoundRemovedAndMerged)
-{
-    for (const char *name : {"A", "B", "A"})
-        addRecipe(name);
-    open(true);
-    EXPECT_TRUE(dialog->hasNode("A"));
-    EXPECT_FALSE(dialog->hasNode("a"));
-    dialog->removeNode("A");
-    EXPECT_EQ(names(), (QStringList{"B", "A"}));
-    EXPECT_EQ(dialog->getNewName("Box007"), "Box8");
-    orba::ModuleObject stack;
-    stack.ensure("name")->set(nullptr, "", "B");
-    dialog->importNode(&stack);
-    dialog->importNode(&stack);
-    press("optReplace");
-    dialog->importNode(&stack);
-    press("optDiscard");
-    dialog->importNode(&stack);
-    EXPECT_EQ(names(), (QStringList{"A", "B1", "B2", "B"}));
-}
-
-TEST_F(ImExportDialogTest, FitsASmallPanelAFingerAndLongerLanguages)
-{
-    const Looks looks;
-    addRecipe("A");
-    const LongLanguage language;
-    for (const bool import : {true, false}) {
-        const QString where = import ? QStringLiteral("import ") : QStringLiteral("export ");
-        open(import);
-        choose(file({"A", "B", ""}));
-        QCoreApplication::processEvents();
-        expectReadable(dialog, where);
-        expectTouchable(dialog, where);
-        EXPECT_GT(expectNamed(dialog, where), 6);
-        EXPECT_LE(dialog->width(), 1024);
-        EXPECT_LE(dialog->height(), 640);
-    }
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "ui/long_work.h"
 
-#include "ui/dialog_fixture.h"
 #include "ui/long_work_dialog.h"
+#include "ui/page_fixture.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,6 +1,5 @@
 #include "ui/movetodialog.h"
 
-#include "ui/form_checks.h"
 #include "ui/hold_button.h"
 #include "ui/move_to_point.h"
 #include "ui/page_fixture.h"
@@ -261,21 +260,4 @@ TEST_F(MoveDialogTest, ClosesWithItsPoint)
     EXPECT_FALSE(cell.isMoving());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(dialog);
-}
-
-TEST_F(MoveDialogTest, IsMadeForFingersAndLongerLanguages)
-{
-    const Looks looks;
-    open();
-    const LongLanguage language;
-    QCoreApplication::processEvents();
-    dialog->adjustSize();
-    EXPECT_GE(hold()->height(), 96);
-    EXPECT_GE(child<QPushButton>("btnClose")->height(), 96);
-    for (const QWidget *control : dialog->findChildren<QPushButton *>())
-        EXPECT_GE(control->width(), control->minimumSizeHint().width()) << control->objectName();
-    expectTouchable(dialog, QString());
-    EXPECT_GT(expectNamed(dialog, QString()), 4);
-    EXPECT_LE(dialog->width(), 1024);
-    EXPECT_LE(dialog->height(), 640);
 }

@@ -105,23 +105,6 @@ TEST(NodeBinder, WritesOnlyWhenEditingIsFinished)
     EXPECT_EQ(whole->node(), nodeFromJson(R"({"double": 25, "flag": 1})"));
 }
 
-TEST(NodeBinder, AKeyboardEditIsOneEdit)
-{
-    Form form;
-    const auto root = tree(kValues);
-    form.binder.setRoot(root.get());
-    const QSignalSpy edits(&form.binder, &NodeBinder::edited);
-    form.number.show();
-    form.number.selectAll();
-    QTest::keyClicks(&form.number, "-12.5");
-    EXPECT_EQ(root->getDouble("double"), 1.5);
-    QTest::keyClick(&form.number, Qt::Key_Enter);
-    Q_EMIT form.number.editingFinished(); // leaving the field after the key
-    EXPECT_EQ(root->getDouble("double"), -12.5);
-    EXPECT_EQ(edits.size(), 1);
-    EXPECT_EQ(edits.first().at(1).toString(), "double");
-}
-
 TEST(NodeBinder, AVisitWritesNothing)
 {
     // More digits than the field shows, a value beyond its range, an unknown word.
@@ -139,22 +122,6 @@ TEST(NodeBinder, AVisitWritesNothing)
     EXPECT_EQ(root->node(), nodeFromJson(values));
     root->set(nullptr, "int", 10);
     EXPECT_EQ(form.spin.maximum(), 1000); // the range is the field's own again
-}
-
-TEST(NodeBinder, TheFirstWriteMakesAMissingKey)
-{
-    QDoubleSpinBox field;
-    NodeBinder binder;
-    binder.bind(&field, "deep.down.value");
-    const auto root = tree(R"({"deep": null})");
-    binder.setRoot(root.get());
-    EXPECT_TRUE(field.isEnabled());
-    EXPECT_FALSE(root->has("deep.down"));
-    field.setValue(4);
-    Q_EMIT field.editingFinished();
-    EXPECT_EQ(root->getDouble("deep.down.value"), 4);
-    root->set(nullptr, "deep.down.value", 6);
-    EXPECT_EQ(field.value(), 6);
 }
 
 TEST(NodeBinder, RefusesWithAReasonAndShowsTheNodeAgain)
@@ -211,17 +178,4 @@ TEST(NodeBinder, ARootThatEndsClearsTheForm)
     EXPECT_FALSE(form.spin.isEnabled());
     form.spin.setValue(3);
     Q_EMIT form.spin.editingFinished(); // nowhere to write
-}
-
-TEST(NodeBinder, AFieldMayEndFirst)
-{
-    const auto root = tree(kValues);
-    NodeBinder binder;
-    auto field = std::make_unique<QSpinBox>();
-    binder.bind(field.get(), "int");
-    binder.setRoot(root.get());
-    field.reset();
-    root->set(nullptr, "int", 11);
-    binder.setRoot(nullptr);
-    QCoreApplication::processEvents();
 }

@@ -1,21 +1,14 @@
 // The page of patterns: edits of products on the plan, and the dialogs that produce patterns.
 
 #include "stack/recipe_edit.h"
-#include "ui/automatic_stacker_dialog.h"
-#include "ui/dialog_fixture.h"
 #include "ui/page_fixture.h"
-#include "ui/pattern_name_dialog.h"
 #include "ui/pattern_template_dialog.h"
 #include "ui/pattern_view.h"
-#include "ui/patterns_frame.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
-#include <QDoubleSpinBox>
-#include <QLabel>
 #include <QListWidget>
 #include <QSpinBox>
-#include <QTableView>
 
 #include <gtest/gtest.h>
 
@@ -28,11 +21,7 @@ namespace {
 /// spacing 1 mm.
 struct PatternPage : OpenRecipe
 {
-    PatternPage()
-        : OpenRecipe(Patterns), frame(static_cast<PatternsFrame *>(setup->frames().at(Patterns))),
-          view(at<PatternView>("view"))
-    {
-    }
+    PatternPage() : OpenRecipe(Patterns), view(at<PatternView>("view")) {}
     template <typename T> T *at(const char *name) const { return OpenRecipe::at<T>(Patterns, name); }
     void click(const char *name) const { at<QAbstractButton>(name)->click(); }
     ModuleObject *pattern() const { return stack()->r("patterns.A"); }
@@ -77,7 +66,6 @@ struct PatternPage : OpenRecipe
         enter(partOf<QSpinBox>(*opened<PatternTemplateDialog>(), "spnNumY"), y);
     }
     int itemCount(const char *pattern) const { return stack()->r("patterns")->c(pattern)->cmobjCount(); }
-    PatternsFrame *frame;
     PatternView *view;
 };
 
@@ -123,27 +111,6 @@ TEST(PatternPage, ButtonsEditAndUndoTakesBack)
     }
 }
 
-TEST(PatternPage, SwitchesEnteredAngleAndCopies)
-{
-    PatternPage page;
-    page.view->editing()->select({0});
-    page.click("btnStep");
-    EXPECT_EQ(page.at<QAbstractButton>("btnStep")->text(), "10 mm");
-    page.click("btnNudgeDown");
-    page.at<QSpinBox>("spnAngle")->setValue(-30);
-    page.click("btnTurnBy");
-    EXPECT_EQ(page.places(), "75,110/330 225,100/0");
-    page.click("btnSnap");
-    EXPECT_FALSE(page.view->dragTool()->isSnapping());
-    page.click("btnSelectAll");
-    EXPECT_FALSE(page.at<QWidget>("btnSpaceAcross")->isEnabled()); // needs three
-    page.click("btnCopyItems");
-    page.frame->choosePattern("B");
-    page.click("btnPasteItems");
-    EXPECT_EQ(page.stack()->r("patterns.B")->cmobjCount(), 3);
-    EXPECT_EQ(page.stack()->getInt("patterns.B.#2.index"), 3);
-}
-
 // Every kind of edit in turn, far more steps than one would count.
 TEST(PatternPage, AHundredStepsAreTakenBackAndDoneAgain)
 {
@@ -185,48 +152,6 @@ TEST(PatternPage, ListsProblemsAndChoosesTheirProducts)
     auto *list = page.at<QListWidget>("lstProblems");
     Q_EMIT list->itemClicked(list->item(1));
     EXPECT_EQ(page.view->editing()->selection(), (Selection{0}));
-    page.stack()->set(nullptr, "wobj_margin.top", 0);
-    page.pattern()->set(nullptr, "#1.x", 226);
-    page.pattern()->set(nullptr, "#1.dy", 40);
-    page.pattern()->set(nullptr, "#1.direction", "Right"); // which comes from the left here
-    QCoreApplication::processEvents();
-    EXPECT_EQ(page.problems(), QStringList("Product 2 hits product 1 on its way in, by 39.0 mm."));
-    page.click("btnSides");
-    EXPECT_EQ(page.problems(), QStringList());
-    EXPECT_EQ(page.at<QLabel>("lblResult")->text(), "Nothing is wrong with the pattern.");
-}
-
-TEST(PatternPage, NumbersByTappingAsOneStep)
-{
-    PatternPage page;
-    page.click("btnAddItem");
-    const std::string before = page.places();
-    page.click("btnTap");
-    page.view->orderTool()->press(QPointF(375, 100), 1, false);
-    EXPECT_EQ(page.at<QLabel>("lblStep")->text(), "Tap product 2 of 3");
-    EXPECT_EQ(page.places(), before);
-    page.click("btnTap");
-    EXPECT_EQ(page.places(), "375,100/0 75,100/0 225,100/0");
-    page.setup->undo();
-    EXPECT_EQ(page.places(), before);
-}
-
-TEST(PatternPage, FieldsAndTableFollowTheChoice)
-{
-    PatternPage page;
-    const auto *x = page.at<QDoubleSpinBox>("spnX");
-    EXPECT_EQ(x->value(), 75);
-    page.view->editing()->select({1});
-    EXPECT_EQ(x->value(), 225);
-    EXPECT_EQ(page.at<QTableView>("tblItems")->currentIndex().row(), 1);
-    page.at<QTableView>("tblItems")->selectRow(0);
-    EXPECT_EQ(page.view->editing()->selection(), (Selection{0}));
-    page.click("btnNudgeRight");
-    EXPECT_EQ(x->value(), 76);
-    page.view->editing()->select({0, 1});
-    EXPECT_FALSE(x->isEnabled());
-    EXPECT_EQ(page.at<QLabel>("lblItem")->text(), "2 products chosen");
-    EXPECT_TRUE(page.at<QLabel>("lblProblems")->text().startsWith("2 products, 299 x 200 mm"));
 }
 
 TEST(PatternPage, ATemplateIsOneStep)
@@ -243,23 +168,6 @@ TEST(PatternPage, ATemplateIsOneStep)
     EXPECT_FALSE(page.hasUndo());
     page.setup->redo();
     EXPECT_EQ(page.itemCount("A"), 8);
-    page.click("btnTemplate"); // what was typed is there again
-    EXPECT_EQ(partOf<QSpinBox>(*page.opened<PatternTemplateDialog>(), "spnNumY")->value(), 3);
-}
-
-TEST(PatternPage, ARecipeWithoutPatternsGetsItsFirstOneBefore)
-{
-    const PatternPage page;
-    page.stack()->remove("patterns");
-    page.setup->pageDateRefresh();
-    page.click("btnTemplate");
-    EXPECT_EQ(page.opened<PatternTemplateDialog>(), nullptr);
-    page.confirm<AddPatternDialog>("btnOk");
-    EXPECT_EQ(page.frame->pattern(), "A");
-    ASSERT_NE(page.opened<PatternTemplateDialog>(), nullptr);
-    page.setTemplate(1, 1);
-    page.confirm<PatternTemplateDialog>("btnConfirm");
-    EXPECT_EQ(page.itemCount("A"), 1);
 }
 
 TEST(PatternPage, ARecipeThatEndsClosesWhatIsOpen)

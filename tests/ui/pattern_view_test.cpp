@@ -11,8 +11,6 @@
 
 #include <cmath>
 
-using palx::Selection;
-
 namespace {
 
 const char *const kRecipe =
@@ -47,12 +45,6 @@ struct Plan
         QMouseEvent event(QEvent::MouseMove, at(x, y), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(view.viewport(), &event);
     }
-    void click(double x, double y, Qt::KeyboardModifiers keys = {})
-    {
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, keys, at(x, y));
-    }
-    void key(Qt::Key code, Qt::KeyboardModifiers keys = {}) { QTest::keyClick(&view, code, keys); }
-    Selection chosen() const { return view.editing()->selection(); }
     /// "x,y" of the stored products.
     std::string places() const
     {
@@ -87,70 +79,6 @@ TEST(PatternView, TheMouseDrags)
     EXPECT_NEAR(y, 800, 2 / plan.view.zoom().pixelsPerMm()); // a pixel at either end
     EXPECT_EQ(y, std::round(y));
     EXPECT_EQ(plan.stack.getDouble("patterns.A.#1.x"), 400);
-}
-
-TEST(PatternView, EscapeDropsADrag)
-{
-    Plan plan;
-    plan.press(400, 300);
-    plan.drag(400, 800);
-    EXPECT_TRUE(plan.scene.hasPreview());
-    plan.key(Qt::Key_Escape);
-    EXPECT_EQ(plan.scene.shownItems()[1].y, 300);
-    plan.drag(400, 900);
-    plan.release(400, 900);
-    EXPECT_EQ(plan.places(), kPlaces);
-    EXPECT_EQ(plan.chosen(), (Selection{1}));
-    plan.key(Qt::Key_Escape);
-    EXPECT_EQ(plan.chosen(), Selection());
-}
-
-TEST(PatternView, KeysEdit)
-{
-    Plan plan;
-    plan.click(400, 300);
-    struct
-    {
-        Qt::Key key;
-        Qt::KeyboardModifiers keys;
-        const char *places;
-    } const cases[] = {
-        {Qt::Key_Left, {}, "150,300 399,300 650,300"},
-        {Qt::Key_Down, {}, "150,300 399,301 650,300"},
-        {Qt::Key_Right, Qt::ShiftModifier, "150,300 409,301 650,300"},
-        {Qt::Key_Up, Qt::ShiftModifier, "150,300 409,291 650,300"},
-        {Qt::Key_R, {}, "150,300 409,291 650,300"},
-        {Qt::Key_C, Qt::ControlModifier, "150,300 409,291 650,300"},
-        {Qt::Key_V, Qt::ControlModifier, "150,300 409,291 650,300 409,393"},
-        {Qt::Key_Delete, {}, "150,300 409,291 650,300"},
-        {Qt::Key_A, Qt::ControlModifier, "150,300 409,291 650,300"},
-        {Qt::Key_Right, {}, "151,300 410,291 651,300"},
-    };
-    for (const auto &one : cases) {
-        plan.key(one.key, one.keys);
-        EXPECT_EQ(plan.places(), one.places) << one.key;
-    }
-    EXPECT_EQ(plan.stack.getInt("patterns.A.#1.r"), 90);
-}
-
-TEST(PatternView, AKeyThatIsHeldDownMakesOneStepMore)
-{
-    Plan plan;
-    int edits = 0;
-    QObject::connect(plan.view.editing(), &palx::PatternEditing::edited, [&] { ++edits; });
-    plan.click(400, 300);
-    QTest::keyPress(&plan.view, Qt::Key_Right);
-    for (int i = 0; i < 30; ++i) {
-        QKeyEvent again(QEvent::KeyPress, Qt::Key_Right, {}, QString(), true);
-        QApplication::sendEvent(&plan.view, &again);
-        QKeyEvent up(QEvent::KeyRelease, Qt::Key_Right, {}, QString(), true);
-        QApplication::sendEvent(&plan.view, &up);
-    }
-    EXPECT_EQ(edits, 1);
-    EXPECT_EQ(plan.scene.shownItems()[1].x, 431);
-    QTest::keyRelease(&plan.view, Qt::Key_Right);
-    EXPECT_EQ(edits, 2);
-    EXPECT_EQ(plan.places(), "150,300 431,300 650,300");
 }
 
 TEST(PatternView, AFingerDragsAndTwoEnlarge)

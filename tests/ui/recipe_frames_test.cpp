@@ -1,31 +1,22 @@
 // Frames of the set-up page and the wizards over a recipe, without a page around them.
 
 #include "pattern/pattern_editing.h"
-#include "pattern/stackpatternscene.h"
 #include "stack/recipe_layers.h"
-#include "ui/dialog_fixture.h"
 #include "ui/directions_frame.h"
-#include "ui/layer_series_dialog.h"
 #include "ui/layers_frame.h"
 #include "ui/page_fixture.h"
 #include "ui/pattern_view.h"
-#include "ui/stack_frame.h"
-#include "ui/stack_panel.h"
-#include "ui/stack_view.h"
 
-#include <QAction>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QSpinBox>
 #include <QtTest/QTest>
 
 #include <gtest/gtest.h>
 
 using palx::LayerSet;
-using palx::Piece;
 
 namespace {
 
@@ -123,14 +114,6 @@ TEST(DirectionsFrame, SetsASideForOneForSeveralAndForAll)
     const QString toTop = d.stack->getString("patterns.A.#0.direction");
     EXPECT_EQ(d.directions(), QStringList({toTop, toTop, toRight}).join(' '));
     EXPECT_EQ(edits.count(), 3) << "one step each";
-    for (const char *name : kPad) {
-        d.click(name);
-        EXPECT_EQ(d.pressed(), QStringList{QLatin1String(name)});
-        const int before = edits.count();
-        d.click(name);
-        EXPECT_EQ(d.pressed(), QStringList{QLatin1String(name)}) << "pressed again it stays down";
-        EXPECT_EQ(edits.count(), before);
-    }
 }
 
 TEST(DirectionsFrame, ProductsKeepTheirPlaces)
@@ -163,72 +146,4 @@ TEST(LayersFrame, SeveralLayersAreEditedAlikeInOneStep)
     EXPECT_EQ(l.patterns(), (QStringList{"B", "B", "B", "B"}));
     EXPECT_EQ(edits.count(), 2);
     EXPECT_EQ(l.frame.layers(), (LayerSet{0, 2, 3}));
-}
-
-TEST(LayersFrame, ButtonsActOnTheChosenLayers)
-{
-    Layers l;
-    l.several({0, 1});
-    l.click("btnSheet");
-    EXPECT_EQ(l.patterns(), (QStringList{"A", "clapboard", "B", "clapboard", "A", "B"}));
-    l.several({2, 3});
-    l.click("btnDown");
-    EXPECT_EQ(l.patterns(), (QStringList{"A", "clapboard", "A", "B", "clapboard", "B"}));
-    EXPECT_EQ(l.frame.layers(), (LayerSet{3, 4}));
-    l.click("btnRepeat");
-    EXPECT_EQ(l.patterns().mid(6), (QStringList{"B", "clapboard"}));
-    l.click("btnRemove");
-    EXPECT_EQ(l.patterns(), (QStringList{"A", "clapboard", "A", "B", "B", "clapboard"}));
-    EXPECT_EQ(l.frame.layers(), (LayerSet{3}));
-}
-
-TEST(LayersFrame, LaysLayersInTurn)
-{
-    Layers l;
-    l.frame.chooseLayer(1);
-    l.at<QAction>("actSeries")->trigger();
-    auto *dialog = l.frame.window()->findChild<LayerSeriesDialog *>();
-    ASSERT_NE(dialog, nullptr);
-    const auto choose = [dialog](const char *name, const QVariant &data) {
-        auto *combo = dialog->findChild<QComboBox *>(QLatin1String(name));
-        combo->setCurrentIndex(combo->findData(data));
-    };
-    auto *result = dialog->findChild<QLabel *>("lblResult");
-    auto *ok = dialog->findChild<QPushButton *>("btnOk");
-    choose("cmbFirst", "B");
-    choose("cmbSecond", 0); // its mirror image
-    choose("cmbWhere", 1);  // from the second layer on
-    dialog->findChild<QSpinBox *>("spnSheet")->setValue(2);
-    dialog->findChild<QSpinBox *>("spnCount")->setValue(200);
-    EXPECT_FALSE(ok->isEnabled());
-    EXPECT_TRUE(result->text().contains("at most 200")) << result->text();
-    dialog->findChild<QSpinBox *>("spnCount")->setValue(3);
-    EXPECT_TRUE(result->text().startsWith("Boxes: 5, layers: 4")) << result->text();
-    EXPECT_EQ(l.patterns().size(), 4) << "nothing is laid before it is confirmed";
-    ok->click();
-    EXPECT_EQ(l.patterns(), (QStringList{"A", "B", "B_m", "clapboard", "B"}));
-}
-
-TEST(StackFrame, StepsLayBoxesAndLayersAndMarkTheLastInBothPictures)
-{
-    const ShownFrame<StackFrame> page;
-    const auto *panel = page.frame.findChild<StackPanel *>();
-    const struct
-    {
-        const char *button;
-        int pieces;
-        Piece marked;
-    } steps[] = {{"btnLayerDown", 2, {0, 1}}, {"btnBoxBack", 1, {0, 0}}, {"btnLayerDown", 0, {}},
-                 {"btnBoxOn", 1, {0, 0}},     {"btnLayerUp", 2, {0, 1}}, {"btnLayerUp", 3, {1, 0}}};
-    ASSERT_EQ(panel->pieces(), 3);
-    for (const auto &step : steps) {
-        page.click(step.button);
-        EXPECT_EQ(panel->pieces(), step.pieces) << step.button;
-        EXPECT_EQ(panel->view()->drawing().pieces(), step.pieces);
-        EXPECT_EQ(panel->marked(), step.marked) << step.button;
-        const int shown = page.frame.findChild<StackPatternScene *>()->layer();
-        EXPECT_TRUE(!step.marked.isSet() || shown == step.marked.layer) << step.button;
-    }
-    EXPECT_FALSE(page.at<QPushButton>("btnBoxOn")->isEnabled());
-    EXPECT_EQ(page.at<QLabel>("lblPlace")->text(), "3 of 3: layer 2, box 1");
 }

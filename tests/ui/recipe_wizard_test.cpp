@@ -3,7 +3,6 @@
 #include "stack/recipe_edit.h"
 #include "stack/recipe_layers.h"
 #include "support/test_support.h"
-#include "ui/layers_frame.h"
 #include "ui/page_fixture.h"
 #include "workstation/controller_sync.h"
 #include "workstation/plugin_node.h"
@@ -115,12 +114,4 @@ TEST(RecipeWizard, ALayerOnAnEmptyOneKeepsTheWizardOpen)
     EXPECT_EQ(w.presenter.asked[0].rejectText, QString()) << "there is nothing to choose";
     EXPECT_EQ(w.points(), 0);
     EXPECT_EQ(table.take(), 0);
-}
-
-TEST(RecipeWizard, EndsWithItsRecipe)
-{
-    LayerWizard w;
-    w.stack->remove();
-    EXPECT_FALSE(w.wizard->isVisible());
-    EXPECT_TRUE(w.presenter.asked.isEmpty());
 }

@@ -176,22 +176,6 @@ TEST(SetupPage, AFieldInEditCountsBeforeUndo)
     EXPECT_EQ(length->value(), 999);
 }
 
-TEST(SetupPage, APresetWritesTheSizeAndAnOwnSizeLeavesIt)
-{
-    SetupPage page(Pallet);
-    auto *preset = page.at<QComboBox>(Pallet, "cmbSpecification");
-    EXPECT_EQ(preset->currentIndex(), 0); // 1000 x 800 is nobody's
-    preset->setCurrentIndex(5);
-    Q_EMIT preset->activated(5);
-    EXPECT_EQ(page.stack()->getDouble("product_cfg.pallet.length"), 1200);
-    EXPECT_EQ(page.stack()->getInt("product_cfg.pallet.specification"), 5);
-    enter(page.at<QDoubleSpinBox>(Pallet, "spnLength"), 1199.0);
-    EXPECT_EQ(page.stack()->getInt("product_cfg.pallet.specification"), 0);
-    EXPECT_EQ(preset->currentIndex(), 0);
-    page.setup->undo();
-    EXPECT_EQ(preset->currentIndex(), 5);
-}
-
 TEST(SetupPage, RefusesMarginsWithoutRoomAndASmallerPalletResetsThemInOneStep)
 {
     SetupPage page(Pallet);
@@ -206,33 +190,6 @@ TEST(SetupPage, RefusesMarginsWithoutRoomAndASmallerPalletResetsThemInOneStep)
     EXPECT_EQ(resets.take(), 1);
     page.setup->undo();
     EXPECT_EQ(palx::recipeContent(page.stack()->node()), before);
-}
-
-TEST(SetupPage, TellsOthersWhatWasChanged)
-{
-    const struct
-    {
-        int frame;
-        const char *field;
-        int data, pallet, margin;
-    } cases[] = {{Product, "spnHeight", 1, 0, 0},
-                 {Pallet, "spnWeight", 0, 1, 0},
-                 {Pallet, "spnTop", 0, 0, 1},
-                 {Waypoints, "spnPutExit", 1, 0, 0},
-                 {Layers, "spnOffset", 0, 0, 0}};
-    SetupPage page;
-    TriggerCount data("refresh_data");
-    TriggerCount pallet("refresh_pallet_data");
-    TriggerCount margin("refresh_margin_data");
-    for (const auto &c : cases) {
-        page.setup->showFrame(c.frame);
-        enter(page.at<QDoubleSpinBox>(c.frame, c.field), 12.0);
-        EXPECT_EQ(data.take(), c.data) << c.field;
-        EXPECT_EQ(pallet.take(), c.pallet) << c.field;
-        EXPECT_EQ(margin.take(), c.margin) << c.field;
-        page.setup->undo();
-        EXPECT_EQ(data.take() + pallet.take() + margin.take(), c.data + c.pallet + c.margin) << c.field;
-    }
 }
 
 TEST(SetupPage, LeavingAnEditedFrameMakesThePointsAnew)

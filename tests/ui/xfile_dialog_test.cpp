@@ -1,9 +1,6 @@
 #include "ui/stick_fixture.h"
 
 #include "nexo/setting_manager.h"
-#include "ui/name_dialog.h"
-
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -32,22 +29,6 @@ TEST(XFileDialog, OpensAFileOfAFolder)
         several.touch(QLatin1String(name));
     several.press("btnOk");
     EXPECT_EQ(several.chosen(), QStringList(other));
-}
-
-TEST(XFileDialog, BeginsWhereItWasLastAndGoesNoHigherThanTheDisk)
-{
-    const Stick stick;
-    stick.file("Рецепты/2026/a.xml");
-    const QString last = stick.root + QStringLiteral("/Рецепты/2026");
-    FileDialog dialog(stick, FileRequest::Open, last);
-    EXPECT_EQ(dialog.text("lblPath"), "ДИСК 上海 \u203a Рецепты \u203a 2026");
-    EXPECT_EQ(dialog.names(), QStringList(QStringLiteral("a.xml")));
-    dialog.press("btnUp");
-    dialog.press("btnUp");
-    EXPECT_EQ(dialog.text("lblPath"), "ДИСК 上海");
-    EXPECT_FALSE(partOf<QPushButton>(dialog, "btnUp")->isEnabled());
-    const FileDialog elsewhere(stick, FileRequest::Open, "/etc");
-    EXPECT_EQ(elsewhere.text("lblPath"), "ДИСК 上海");
 }
 
 TEST(XFileDialog, SavesUnderANameThatTheDiskCanKeep)
@@ -104,25 +85,6 @@ TEST(XFileDialog, AWriteProtectedDiskIsOnlyRead)
     dialog.show();
     dialog.touch("a.xml");
     EXPECT_TRUE(dialog.canConfirm());
-}
-
-TEST(XFileDialog, MakesAFolderAndChoosesIt)
-{
-    const Stick stick;
-    stick.file("a.xml");
-    FileDialog dialog(stick, FileRequest::Folder);
-    QTimer::singleShot(0, &dialog, [&] {
-        auto *naming = dialog.findChild<NameDialog *>();
-        naming->setName("a:");
-        naming->accept(); // refused
-        EXPECT_EQ(partOf<QLabel>(*naming, "lblReason")->text(), "This disk cannot keep a name with :.");
-        naming->setName("Проекты 2026");
-        naming->accept();
-    });
-    dialog.press("btnNewFolder");
-    EXPECT_EQ(dialog.text(), "ДИСК 上海 \u203a Проекты 2026");
-    dialog.press("btnOk");
-    EXPECT_EQ(dialog.chosen(), QStringList(stick.root + QStringLiteral("/Проекты 2026")));
 }
 
 TEST(XFileDialog, FollowsTheDisk)
