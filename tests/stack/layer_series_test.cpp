@@ -92,16 +92,6 @@ TEST(LayerSeries, LayersMoveTogetherUntilTheyMeetTheEnd)
     }
 }
 
-TEST(LayerSeries, ChosenLayersAreRemovedAndRepeated)
-{
-    Recipe recipe("A-B.");
-    EXPECT_EQ(palx::repeatLayers(&recipe.root, {0, 1, 2}), 3);
-    EXPECT_EQ(recipe.layers(), "A-BA-B.") << "an empty layer stays the end of the stack";
-    EXPECT_EQ(recipe.offsets(), "0120123");
-    EXPECT_EQ(palx::removeLayers(&recipe.root, {1, 4, 4, 50}), 2);
-    EXPECT_EQ(recipe.layers(), "ABAB.");
-}
-
 TEST(LayerSeries, PatternsTakeTurnsWithSheetsBetween)
 {
     const struct

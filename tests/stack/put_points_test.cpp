@@ -317,6 +317,8 @@ TEST(OnePoint, OriginPutAndEnterPointsOfEverySide)
     ModuleObject *high = globalStack(plugin.get(), {0, 0, 0}, R"({"get.approach_h":1000})"); // at 1.5
     palx::genStackWayPoints(high);
     EXPECT_DOUBLE_EQ(trans(high, "points.put.#0.#0.enter_p")[2], 1.5) << "above the pick side";
+    plugin->node().set(u"global_wobj.#1.calibration_method", 3);
+    EXPECT_FALSE(palx::isGlobalWObjCalibrationMethodOne(high));
 }
 
 TEST(OnePoint, HeightsOfTheSidePersistAndTheSecondToLastLayerDiffers)
@@ -369,4 +371,13 @@ TEST(GlobalPick, FollowsConveyorCornerAndProduct)
                      {{"get.enter_p", {x + 0.1, y - 0.2, z + 0.3}}, {"get.approach_p", {x, y, z + 0.115}}});
         EXPECT_EQ(stack->getDouble("get.approach_h"), 115);
     }
+}
+
+TEST(GlobalPick, EnterRisesAboveAHighPalletOrigin)
+{
+    const auto plugin = globalPlugin({0, 0, 0});
+    plugin->set(nullptr, "global_wobj.#0.left_origin_point.trans.#2", 0.9);
+    ModuleObject *stack = globalStack(plugin.get(), {0, 0, 0}, R"({"use_global_tool":true})");
+    palx::genStackWayPoints(stack);
+    EXPECT_NEAR(trans(stack, "get.enter_p")[2], 1.2, 1e-12);
 }

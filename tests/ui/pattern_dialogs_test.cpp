@@ -17,82 +17,60 @@
 
 namespace {
 
-/// Both dialogs do the same.
-template <typename Dialog> class PatternNameDialogs : public testing::Test
+/// Over the patterns "A" and "C".
+struct NamingTest
 {
-public:
-    explicit PatternNameDialogs(const char *patterns = R"({"A": [{"x": 1}, {"x": 2}], "C": []})")
+    explicit NamingTest(const char *current = "A")
     {
-        tree.node().ensure(u"patterns")->assign(nodeFromJson(patterns));
+        tree.node() = nodeFromJson(R"({"patterns": {"A": [{"x": 1}, {"x": 2}], "C": []}})");
+        dialog = std::make_unique<NewPatternDialog>(patterns(), QLatin1String(current), nullptr);
     }
-    orba::ModuleObject *patterns() { return tree.r("patterns"); }
-    std::unique_ptr<Dialog> open(const char *current = "A")
+    orba::ModuleObject *patterns() const { return tree.r("patterns"); }
+    void confirm(const QString &name) const
     {
-        return std::make_unique<Dialog>(patterns(), QLatin1String(current), nullptr);
+        partOf<QLineEdit>(*dialog, "edtName")->setText(name);
+        partOf<QPushButton>(*dialog, "btnOk")->click();
     }
-    static void enterName(const Dialog &dialog, const QString &name)
-    {
-        partOf<QLineEdit>(dialog, "edtName")->setText(name);
-    }
-    static void confirm(const Dialog &dialog) { partOf<QPushButton>(dialog, "btnOk")->click(); }
 
     orba::ModuleObject tree;
+    std::unique_ptr<NewPatternDialog> dialog;
 };
-using Dialogs = testing::Types<AddPatternDialog, NewPatternDialog>;
-TYPED_TEST_SUITE(PatternNameDialogs, Dialogs);
 
 } // namespace
 
-TYPED_TEST(PatternNameDialogs, RefuseAndStayOpen)
+TEST(PatternNameDialog, RefusesAndStaysOpen)
 {
-    const struct
-    {
-        QString name;
-        const char *reason;
-    } cases[] = {{QString(), "Name is empty!"},
-                 {QString(33, QLatin1Char('x')), "Pattern name length is greater than 32!"},
-                 {QStringLiteral("clapboard"), "Name is repeated!"}};
-    const orba::Node before = this->patterns()->node();
-    for (const auto &c : cases) {
-        ScriptedPresenter presenter;
-        const auto dialog = this->open();
-        QSignalSpy finished(dialog.get(), &QDialog::finished);
-        QSignalSpy added(dialog.get(), &PatternNameDialog::patternAdded);
-        this->enterName(*dialog, c.name);
-        this->confirm(*dialog);
-        ASSERT_EQ(presenter.asked.size(), 1) << c.name;
-        EXPECT_EQ(messageText(presenter.asked.first()), plainWarning(c.reason)) << c.name;
-        EXPECT_EQ(finished.count() + added.count(), 0);
-        EXPECT_EQ(dialog->getPatternName(), QString());
+    const ScriptedPresenter presenter;
+    const NamingTest test;
+    const orba::Node before = test.patterns()->node();
+    QSignalSpy finished(test.dialog.get(), &QDialog::finished);
+    test.confirm("clapboard");
+    ASSERT_EQ(presenter.asked.size(), 1);
+    EXPECT_EQ(messageText(presenter.asked.first()), plainWarning("Name is repeated!"));
+    EXPECT_EQ(finished.count(), 0);
+    EXPECT_EQ(test.dialog->getPatternName(), QString());
+    EXPECT_EQ(test.patterns()->node(), before);
+}
+
+TEST(PatternNameDialog, MakesAnEmptyPatternOrAClone)
+{
+    for (const bool isClone : {false, true}) {
+        const NamingTest test;
+        QSignalSpy added(test.dialog.get(), &PatternNameDialog::patternAdded);
+        partOf<QCheckBox>(*test.dialog, "chbClone")->setChecked(isClone);
+        test.confirm("New");
+        EXPECT_EQ(test.dialog->result(), QDialog::Accepted);
+        EXPECT_EQ(test.dialog->getPatternName(), "New");
+        EXPECT_EQ(test.dialog->isClone(), isClone);
+        ASSERT_EQ(added.count(), 1);
+        EXPECT_EQ(added.first().first().toString(), "New");
+        EXPECT_EQ(test.patterns()->cmobjCount(), 3);
+        EXPECT_EQ(test.patterns()->c("New")->node(),
+                  nodeFromJson(isClone ? R"([{"x": 1}, {"x": 2}])" : "[]"));
+        EXPECT_EQ(test.patterns()->c("A")->cmobjCount(), 2);
     }
-    EXPECT_EQ(this->patterns()->node(), before);
-}
-
-TYPED_TEST(PatternNameDialogs, MakeAnEmptyPattern)
-{
-    const QString name(32, QLatin1Char('y'));
-    const auto dialog = this->open();
-    QSignalSpy added(dialog.get(), &PatternNameDialog::patternAdded);
-    this->enterName(*dialog, name);
-    this->confirm(*dialog);
-    EXPECT_EQ(dialog->result(), QDialog::Accepted);
-    EXPECT_EQ(dialog->getPatternName(), name);
-    EXPECT_FALSE(dialog->isClone());
-    ASSERT_EQ(added.count(), 1);
-    EXPECT_EQ(added.first().first().toString(), name);
-    EXPECT_EQ(this->patterns()->cmobjCount(), 3);
-    EXPECT_EQ(this->patterns()->c(name)->node(), nodeFromJson("[]"));
-}
-
-TYPED_TEST(PatternNameDialogs, CloneThePresentPattern)
-{
-    const auto dialog = this->open();
-    partOf<QCheckBox>(*dialog, "chbClone")->click();
-    this->confirm(*dialog);
-    EXPECT_TRUE(dialog->isClone());
-    EXPECT_EQ(this->patterns()->c("B")->node(), nodeFromJson(R"([{"x": 1}, {"x": 2}])"));
-    EXPECT_EQ(this->patterns()->c("A")->node(), nodeFromJson(R"([{"x": 1}, {"x": 2}])"));
-    EXPECT_FALSE(partOf<QCheckBox>(*this->open(""), "chbClone")->isEnabled()); // nothing to clone
+    const NamingTest nothing("");
+    EXPECT_FALSE(partOf<QCheckBox>(*nothing.dialog, "chbClone")->isEnabled());
 }
 
 namespace {
