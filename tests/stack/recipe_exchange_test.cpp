@@ -59,6 +59,21 @@ QStringList namesOf(const Node &list)
 
 } // namespace
 
+TEST(NextRecipeName, CountsTheNumberAtTheEnd)
+{
+    const struct
+    {
+        const char *name;
+        const char *next;
+    } cases[] = {
+        {"Box", "Box1"},     {"Box9", "Box10"}, {"Box007", "Box8"},
+        {"", "1"},           {"-9", "-10"},     {"Box18446744073709551615", "Box18446744073709551616"},
+        {"Ящик٣", "Ящик٣1"}, // digits of other scripts are letters here
+    };
+    for (const auto &each : cases)
+        EXPECT_EQ(palx::nextRecipeName(QString::fromUtf8(each.name)), QString::fromUtf8(each.next));
+}
+
 TEST(ImportPlan, SaysWhatBecomesOfEveryRecipe)
 {
     const QStringList present{"A", "Box", "Box1", "B"};
