@@ -132,7 +132,8 @@ public:
     /// Leaves no archive.
     void giveUp()
     {
-        zip_.close();
+        if (zip_.isOpen())
+            zip_.close();
         file_.remove();
     }
 
