@@ -31,8 +31,10 @@ void MessageBar::showUndo(const QString &text, xtheme::State state)
 
 void MessageBar::show(const QString &text, xtheme::State state, bool undo)
 {
-    const bool calm = state == xtheme::State::None || state == xtheme::State::Stopped;
-    const auto glyph = calm ? xtheme::Glyph::Info : xtheme::Glyph::Warning;
+    const bool isTrouble = state == xtheme::State::Fault || state == xtheme::State::Attention;
+    const auto glyph = isTrouble                         ? xtheme::Glyph::Warning
+                       : state == xtheme::State::Running ? xtheme::Glyph::Check
+                                                         : xtheme::Glyph::Info;
     xtheme::setState(this, state);
     ui_->lblIcon->setPixmap(xtheme::pixmap(glyph, 32, xtheme::textColor(state)));
     ui_->lblText->setText(text);
