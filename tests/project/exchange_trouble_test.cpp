@@ -28,7 +28,7 @@ namespace {
 
 constexpr int kKills = 50; // of exports, and as many of imports
 constexpr int kFullDisks = 25;
-constexpr int kNoise = 60000;
+constexpr int kNoise = 150000; // packed in several pieces, between which it can be cancelled
 const QByteArray kVariables("<node type=\"list\"/>\n");
 
 /// What does not pack well, so that an archive takes its time.
