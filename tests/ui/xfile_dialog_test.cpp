@@ -4,6 +4,22 @@
 
 #include <gtest/gtest.h>
 
+TEST(XFileDialog, BeginsWhereItWasLastAndGoesNoHigherThanTheDisk)
+{
+    const Stick stick;
+    stick.file("Рецепты/2026/a.xml");
+    const QString last = stick.root + QStringLiteral("/Рецепты/2026");
+    FileDialog dialog(stick, FileRequest::Open, last);
+    EXPECT_EQ(dialog.text("lblPath"), "ДИСК 上海 \u203a Рецепты \u203a 2026");
+    EXPECT_EQ(dialog.names(), QStringList(QStringLiteral("a.xml")));
+    dialog.press("btnUp");
+    dialog.press("btnUp");
+    EXPECT_EQ(dialog.text("lblPath"), "ДИСК 上海");
+    EXPECT_FALSE(partOf<QPushButton>(dialog, "btnUp")->isEnabled());
+    const FileDialog elsewhere(stick, FileRequest::Open, "/etc");
+    EXPECT_EQ(elsewhere.text("lblPath"), "ДИСК 上海");
+}
+
 TEST(XFileDialog, OpensAFileOfAFolder)
 {
     const Stick stick;
