@@ -381,3 +381,19 @@ TEST(GlobalPick, EnterRisesAboveAHighPalletOrigin)
     palx::genStackWayPoints(stack);
     EXPECT_NEAR(trans(stack, "get.enter_p")[2], 1.2, 1e-12);
 }
+
+TEST(GlobalPick, EnterRisesAboveAHighPalletOriginAndSurvivesMissingSettings)
+{
+    const Side side{0, 0, 0};
+    auto plugin = globalPlugin(side);
+    plugin->set(nullptr, "global_wobj.#0.left_origin_point.trans.#2", 0.9);
+    ModuleObject *stack = globalStack(plugin.get(), side, R"({"use_global_tool":true})");
+    palx::genStackWayPoints(stack);
+    EXPECT_NEAR(trans(stack, "get.enter_p")[2], 1.2, 1e-12);
+
+    plugin = makePluginTree(); // both global lists empty
+    stack = ownStack(plugin.get(), R"({"use_global_tool":true})");
+    palx::genStackWayPoints(stack);
+    EXPECT_TRUE(near(trans(stack, "get.get_p"), {0.15, 0.1, 0.1}));
+    EXPECT_EQ(stack->getDouble("get.approach_h"), 100);
+}

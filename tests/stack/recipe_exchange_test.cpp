@@ -271,3 +271,22 @@ TEST_F(RecipeExchangeTest, RandomRecipesComeBackValueForValue)
             ASSERT_EQ(list()->node().at(i)->name(), before.at(i)->name());
     }
 }
+
+TEST_F(RecipeExchangeTest, TheFileHoldsTheTemplateAndWhatIsTicked)
+{
+    fill({"A", "B", "C"});
+    const Node tempList = palx::makeTempList(
+        list()->node(), palx::templateStackOf(list()->node(), plugin->node()), {true, false, true});
+    EXPECT_EQ(tempList.name(), Name(u"temp_list"));
+    ASSERT_EQ(tempList.size(), 3);
+    EXPECT_EQ(tempList.at(0)->name(), Name(u"default"));
+    EXPECT_EQ(*tempList.at(0), *plugin->node().child(u"default"));
+    EXPECT_EQ(*tempList.at(2), *list()->node().at(2));
+
+    list()->node().insert(1, Name(u"default"))->ensure(u"of_the_list")->setBool(true);
+    const Node own = palx::makeTempList(list()->node(), palx::templateStackOf(list()->node(), plugin->node()),
+                                        {false, true});
+    ASSERT_EQ(own.size(), 2);
+    EXPECT_TRUE(own.getBool(u"default.of_the_list"));
+    EXPECT_EQ(own.getString(u"#1.name"), "B");
+}

@@ -43,6 +43,15 @@ QStringList patternsOfLayers(const Node &stack)
     return names;
 }
 
+QVector<int> numbers(const ModuleObject *stack, const char *key)
+{
+    QVector<int> values;
+    const Node *pattern = stack->node().find(u"patterns.A");
+    for (int i = 0; i < pattern->size(); ++i)
+        values << int(pattern->at(i)->getInt(orba::Path(key)));
+    return values;
+}
+
 } // namespace
 
 TEST(RecipeLayers, SaysWhatIsWrongWithTheSequence)
@@ -184,4 +193,18 @@ TEST(RecipePoints, AreTaughtWhereTheRobotStands)
         EXPECT_FALSE(palx::teachPoint(point, nodeFromJson(robot))) << robot;
         EXPECT_EQ(point, before);
     }
+}
+
+TEST(RecipeItems, MovingAndRemovingRenumbers)
+{
+    const Recipe recipe;
+    palx::addItem(recipe.stack, "A");
+    EXPECT_TRUE(palx::moveItem(recipe.stack, "A", 2, 0));
+    EXPECT_EQ(numbers(recipe.stack, "index"), QVector<int>({1, 2, 3}));
+    EXPECT_EQ(numbers(recipe.stack, "y"), QVector<int>({300, 100, 100}));
+    EXPECT_TRUE(palx::removeItem(recipe.stack, "A", 1));
+    EXPECT_EQ(numbers(recipe.stack, "index"), QVector<int>({1, 2}));
+    EXPECT_EQ(numbers(recipe.stack, "x"), QVector<int>({75, 225}));
+    EXPECT_FALSE(palx::removeItem(recipe.stack, "A", 2));
+    EXPECT_FALSE(palx::moveItem(recipe.stack, "A", 0, 2));
 }

@@ -290,3 +290,21 @@ TEST(Forms, KeepWhatIsChosenWhenTheLanguageChanges)
     QCoreApplication::processEvents();
     EXPECT_EQ(title(), before);
 }
+
+TEST(Forms, TheLongestFileNameIsShownWhole)
+{
+    const Looks looks;
+    const Stick stick;
+    QWidget panel;
+    panel.resize(1024, 640);
+    FileDialog dialog(stick, FileRequest::Save, QString(), kFilter, &panel);
+    dialog.show();
+    for (const char *letter : {"W", "上"}) {
+        dialog.type(QString::fromUtf8(letter).repeated(251));
+        QCoreApplication::processEvents();
+        const auto *label = partOf<QLabel>(dialog, "lblState");
+        EXPECT_EQ(dialog.text().size(), 255);
+        EXPECT_GE(label->height(), label->heightForWidth(label->width())) << letter;
+        EXPECT_LE(dialog.height(), 640) << letter;
+    }
+}

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTableView>
@@ -250,3 +251,26 @@ TEST_F(ImExportDialogTest, AnEmptyPathAndADiskThatIsGoneAreRefused)
 }
 
 } // namespace
+
+TEST_F(ImExportDialogTest, AsksForFilesWhereTheLastOnesWere)
+{
+    m("quill.help.file_path")->set(nullptr, "import", "/media/one");
+    open(true);
+    choose(file({"C"}));
+    ASSERT_EQ(files.asked.size(), 1);
+    EXPECT_EQ(files.asked[0].kind, FileRequest::Open);
+    EXPECT_EQ(files.asked[0].caption, "Open XML file");
+    EXPECT_EQ(files.asked[0].start, "/media/one");
+    EXPECT_EQ(files.asked[0].filter, "XML (*.xml)");
+    EXPECT_EQ(m("quill.help.file_path.import")->getString(), folder.path());
+    EXPECT_EQ(m("quill.help.file_path.export")->getString(), QString());
+    open(false);
+    choose(path("out"));
+    choose(QString()); // refused: everything stays
+    ASSERT_EQ(files.asked.size(), 3);
+    EXPECT_EQ(files.asked[1].kind, FileRequest::Save);
+    EXPECT_EQ(files.asked[1].caption, "Save XML file");
+    EXPECT_EQ(files.asked[1].start, "pallet.xml");
+    EXPECT_EQ(files.asked[2].start, folder.path() + QStringLiteral("/pallet.xml"));
+    EXPECT_EQ(child<QLineEdit>("edtPath")->text(), path("out.xml"));
+}
