@@ -63,7 +63,7 @@ public:
     {
         bool isDone = whole_.isEmpty();
         if (!isDone)
-            runBeside(progress, {ProjectText::tr("Writing to the disk"), {}},
+            runBeside(progress, ProjectText::tr("Writing to the disk"),
                       [&] { isDone = writeThrough(why) && nameAll(why) && syncFileSystem(target_, why); });
         return isDone;
     }
