@@ -101,7 +101,8 @@ public:
     bool add(const PackedEntry &entry)
     {
         told_ = ProjectText::tr("Packing %1").arg(entry.name);
-        QuaZipNewInfo info(entry.name);
+        QuaZipNewInfo info(now_);
+        info.name = entry.name;
         if (const QDateTime changed = entry.file.lastModified();
             changed.isValid()) // a resource may have none
             info.dateTime = changed;
@@ -116,7 +117,8 @@ public:
 
     bool add(const QString &name, QByteArray content)
     {
-        QuaZipNewInfo info(name);
+        QuaZipNewInfo info(now_);
+        info.name = name;
         info.setPermissions(kReadAndWrite | QFile::ReadGroup | QFile::ReadOther);
         QBuffer buffer(&content);
         return buffer.open(QIODevice::ReadOnly) && write(info, &buffer);
@@ -157,23 +159,24 @@ private:
 
     bool copy(QIODevice *source, QIODevice *entry)
     {
-        for (;;) {
+        qint64 size = 0;
+        do {
             progress_->step(int(done_ / 1024), int(bytes_ / 1024), told_);
             if (progress_->isCancelled())
                 return false;
-            const qint64 size = source->read(piece_.data(), piece_.size());
+            size = source->read(piece_.data(), piece_.size());
             if (size < 0)
                 return refuse(why_, QStringLiteral("%1: %2").arg(told_, source->errorString()));
-            if (size == 0)
-                return true;
             if (entry->write(piece_.constData(), size) != size)
                 return refuseArchive();
             done_ += size;
-        }
+        } while (size == piece_.size()); // a file's last piece is shorter
+        return true;
     }
 
     QFile file_;
     QuaZip zip_;
+    const QuaZipNewInfo now_{QString()}; ///< asking for the time for each entry is slow
     QByteArray piece_ = QByteArray(64 * 1024, Qt::Uninitialized);
     qint64 done_ = 0;
     qint64 bytes_;
