@@ -228,4 +228,10 @@ bool checkArchive(const QString &name, ArchiveContent *content, QString *why, Pr
     return isFile(name, why) && judge(&file, content, why, progress, limits);
 }
 
+bool isWholeArchive(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) && hasWholeEnd(&file);
+}
+
 } // namespace palx

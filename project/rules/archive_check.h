@@ -42,6 +42,9 @@ PALX_API bool checkArchive(QIODevice *device, ArchiveContent *content, QString *
 PALX_API bool checkArchive(const QString &file, ArchiveContent *content, QString *why, Progress *progress,
                            const ArchiveLimits &limits = ArchiveLimits());
 
+/// Whether the file ends as an archive does that was written to its end; cheap, says nothing of its entries.
+PALX_API bool isWholeArchive(const QString &file);
+
 /// What is wrong with the name of an entry; empty for nothing. A folder's name may end with "/".
 PALX_API QString entryNameProblem(const QString &name, const ArchiveLimits &limits = ArchiveLimits());
 

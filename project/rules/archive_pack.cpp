@@ -3,24 +3,23 @@
 #include "project/rules/archive_check.h"
 #include "project/rules/archive_names.h"
 #include "project/rules/project_messages.h"
+#include "project/rules/run_beside.h"
+#include "project/rules/staged_folder.h"
 
-#include <QBuffer>
-#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QVector>
 
-#include <quazip.h>
-#include <quazipfile.h>
-#include <quazipnewinfo.h>
+#include <JlCompress.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace palx {
 
 namespace {
 
 constexpr auto kEverything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-// What every entry has, because whoever unpacks it would else have a resource's, that nobody may write to.
-constexpr auto kReadAndWrite = QFile::ReadOwner | QFile::WriteOwner;
-constexpr auto kUseFolder = kReadAndWrite | QFile::ExeOwner;
 
 bool refuse(QString *why, const QString &reason)
 {
@@ -81,129 +80,46 @@ private:
     qint64 bytes_ = 0;
 };
 
-/// Writes an archive entry by entry.
-class Packer
+/// Makes what is packed, each folder before what is in it.
+class Mirror
 {
 public:
-    /// `bytes` is about what the files have together, for the progress.
-    Packer(const QString &archive, qint64 bytes, QString *why, Progress *progress)
-        : file_(archive), zip_(&file_), bytes_(bytes), why_(why), progress_(progress)
-    {
-        zip_.setAutoClose(false);
-        zip_.setUtf8Enabled(true);
-    }
+    Mirror(QString root, QString *why) : root_(std::move(root)), why_(why) {}
 
-    bool open()
+    bool add(const PackedEntry &entry) const
     {
-        return (file_.open(QIODevice::WriteOnly) && zip_.open(QuaZip::mdCreate)) || refuseArchive();
-    }
-
-    bool add(const PackedEntry &entry)
-    {
-        told_ = ProjectText::tr("Packing %1").arg(entry.name);
-        QuaZipNewInfo info(now_);
-        info.name = entry.name;
-        if (const QDateTime changed = entry.file.lastModified();
-            changed.isValid()) // a resource may have none
-            info.dateTime = changed;
-        info.setPermissions(entry.file.permissions() | (entry.file.isDir() ? kUseFolder : kReadAndWrite));
+        const QString path = root_ + QLatin1Char('/') + entry.name;
+        const QByteArray name = QFile::encodeName(path);
         if (entry.file.isDir())
-            return write(info, nullptr);
-        QFile file(entry.file.filePath());
-        if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-            return refuse(why_, QStringLiteral("%1: %2").arg(file.fileName(), file.errorString()));
-        return write(info, &file);
-    }
-
-    bool add(const QString &name, QByteArray content)
-    {
-        QuaZipNewInfo info(now_);
-        info.name = name;
-        info.setPermissions(kReadAndWrite | QFile::ReadGroup | QFile::ReadOther);
-        QBuffer buffer(&content);
-        return buffer.open(QIODevice::ReadOnly) && write(info, &buffer);
-    }
-
-    /// The list of all entries is written last.
-    bool close()
-    {
-        zip_.close();
-        return (zip_.getZipError() == ZIP_OK && file_.flush()) || refuseArchive();
-    }
-
-    /// Leaves no archive.
-    void giveUp()
-    {
-        if (zip_.isOpen())
-            zip_.close();
-        file_.remove();
+            return ::mkdir(name.constData(), 0777) == 0 ||
+                   refuse(why_, ProjectText::tr("Cannot create path: %1").arg(path));
+        const QByteArray file =
+            QFile::encodeName(entry.file.filePath()); // a resource's is no name on the disk
+        return ::link(file.constData(), name.constData()) == 0 || copy(entry.file.filePath(), path);
     }
 
 private:
-    bool refuseArchive()
+    bool copy(const QString &file, const QString &path) const
     {
-        return refuse(why_, ProjectText::tr("the archive cannot be written: %1").arg(file_.fileName()));
+        QFile source(file);
+        if (source.copy(path))
+            return QFile::setPermissions(path, source.permissions() | QFile::ReadOwner | QFile::WriteOwner);
+        return refuse(why_, QStringLiteral("%1: %2").arg(file, source.errorString()));
     }
 
-    /// Without a source the entry is empty.
-    bool write(const QuaZipNewInfo &info, QIODevice *source)
-    {
-        QuaZipFile entry(&zip_);
-        if (!entry.open(QIODevice::WriteOnly, info))
-            return refuseArchive();
-        if (source && !copy(source, &entry))
-            return false;
-        entry.close();
-        return entry.getZipError() == ZIP_OK || refuseArchive();
-    }
-
-    bool copy(QIODevice *source, QIODevice *entry)
-    {
-        qint64 size = 0;
-        do {
-            progress_->step(int(done_ / 1024), int(bytes_ / 1024), told_);
-            if (progress_->isCancelled())
-                return false;
-            size = source->read(piece_.data(), piece_.size());
-            if (size < 0)
-                return refuse(why_, QStringLiteral("%1: %2").arg(told_, source->errorString()));
-            if (entry->write(piece_.constData(), size) != size)
-                return refuseArchive();
-            done_ += size;
-        } while (size == piece_.size()); // a file's last piece is shorter
-        return true;
-    }
-
-    QFile file_;
-    QuaZip zip_;
-    const QuaZipNewInfo now_{QString()}; ///< asking for the time for each entry is slow
-    QByteArray piece_ = QByteArray(64 * 1024, Qt::Uninitialized);
-    qint64 done_ = 0;
-    qint64 bytes_;
-    QString told_;
+    QString root_;
     QString *why_;
-    Progress *progress_;
 };
 
-bool packAll(const QVector<PackedEntry> &entries, QHash<QString, QByteArray> instead, Packer *packer)
+/// What the archive library itself calls for each entry's name; set once for all, before another thread uses it.
+void useUtf8Names()
 {
-    for (const PackedEntry &entry : entries) {
-        const auto given = instead.find(entry.name);
-        const bool isAdded = given == instead.end() ? packer->add(entry) : packer->add(entry.name, *given);
-        if (!isAdded)
-            return false;
-        if (given != instead.end())
-            instead.erase(given);
-    }
-    for (auto given = instead.cbegin(); given != instead.cend(); ++given)
-        if (!packer->add(given.key(), given.value()))
-            return false;
-    return packer->close();
+    QuaZip::setDefaultFileNameCodec("UTF-8");
 }
 
-/// The library takes a quarter of a megabyte for each entry and frees it again, and the heap would give it back to the
-/// system each time, which costs a third of the packing of small files. When a block is freed that is larger than what the heap
-/// keeps, it keeps as much from then on.
+/// The library takes a quarter of a megabyte for each entry and frees it, and the heap of a thread would give it back to the
+/// system each time, which costs a third of the packing of small files. Whoever frees a block that is larger than what is kept
+/// makes the heap keep more from then on.
 void keepFreedMemory()
 {
     QByteArray(2 * 1024 * 1024, Qt::Uninitialized);
@@ -211,19 +127,48 @@ void keepFreedMemory()
 
 } // namespace
 
-bool packFolder(const PackedFolder &folder, const QString &archive, QString *why, Progress *progress)
+bool mirrorForArchive(const QString &source, const QString &mirror, qint64 *bytes, QString *why,
+                      Progress *progress)
 {
     why->clear();
-    if (!QFileInfo(folder.path).isDir())
-        return refuse(why, ProjectText::tr("there is no folder %1").arg(folder.path));
-    PackList list(folder.path, why);
+    if (!QFileInfo(source).isDir())
+        return refuse(why, ProjectText::tr("there is no folder %1").arg(source));
+    PackList list(source, why);
     if (!list.list())
         return false;
-    keepFreedMemory();
-    Packer packer(archive, list.bytes(), why, progress);
-    if (packer.open() && packAll(list.entries(), folder.instead, &packer))
+    *bytes = list.bytes();
+    if (!QDir().mkpath(mirror))
+        return refuse(why, ProjectText::tr("Cannot create path: %1").arg(mirror));
+    const Mirror made(mirror, why);
+    for (const PackedEntry &entry : list.entries()) {
+        progress->step(0, 0, ProjectText::tr("Packing %1").arg(entry.name));
+        if (progress->isCancelled() || !made.add(entry))
+            return false;
+    }
+    return true;
+}
+
+bool packFolder(const QString &folder, qint64 bytes, const QString &archive, QString *why, Progress *progress)
+{
+    constexpr qint64 kSoonDone = 2 * 1024 * 1024; // a few hundredths of a second, less than a thread is worth
+    why->clear();
+    useUtf8Names();
+    bool isPacked = false;
+    const auto pack = [&] { isPacked = JlCompress::compressDir(archive, folder, true, QDir::Hidden); };
+    const QString text = ProjectText::tr("Packing %1").arg(QFileInfo(archive).fileName());
+    progress->step(0, 0, text);
+    if (bytes > kSoonDone) {
+        keepFreedMemory();
+        runBeside(progress, {text, [&folder] { removeFolder(folder); }}, pack);
+    } else {
+        pack();
+    }
+    isPacked = isPacked && isWholeArchive(archive);
+    if (!progress->isCancelled() && isPacked)
         return true;
-    packer.giveUp();
+    if (!progress->isCancelled())
+        *why = ProjectText::tr("the archive cannot be written: %1").arg(archive);
+    QFile::remove(archive);
     return false;
 }
 

@@ -10,12 +10,14 @@
 #include "project/rules/project_recovery.h"
 #include "project/rules/run_beside.h"
 #include "project/rules/staged_folder.h"
+#include "project/rules/work_folder.h"
 #include "workstation/config_log.h"
 #include "workstation/file_sync.h"
 #include "workstation/workspace.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 #include <cstdio>
 #include <unistd.h>
@@ -63,7 +65,7 @@ public:
     {
         bool isDone = whole_.isEmpty();
         if (!isDone)
-            runBeside(progress, ProjectText::tr("Writing to the disk"),
+            runBeside(progress, {ProjectText::tr("Writing to the disk"), {}},
                       [&] { isDone = writeThrough(why) && nameAll(why) && syncFileSystem(target_, why); });
         return isDone;
     }
@@ -109,9 +111,22 @@ bool warn(const QString &text, const QString &why)
     return reportProject("warning", text);
 }
 
-/// The list of variables as it is in the archive; the project's own file stays as it is whatever happens.
-bool variablesWithParameters(const QString &project, const QString &file, QByteArray *text, QString *why)
+/// Replaces a name in the mirror; the project's file, which may share its content, stays. Nothing is flushed, because the
+/// mirror goes when it is packed.
+bool writeBeside(const QString &name, const QByteArray &text, QString *why)
 {
+    QFile::remove(name);
+    QFile file(name);
+    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush())
+        return true;
+    *why = QStringLiteral("%1: %2").arg(name, file.errorString());
+    return false;
+}
+
+/// The mirror that is packed gets a "var.xml" of its own, so that the project's stays whatever happens.
+bool addParametersTo(const QString &mirror, const QString &project, QString *why)
+{
+    const QString file = mirror + QStringLiteral("/var.xml");
     Node fixed{Name(u"fixed_var_list")};
     if (!readVariableList(file, &fixed, why))
         return false;
@@ -119,21 +134,37 @@ bool variablesWithParameters(const QString &project, const QString &file, QByteA
     temporary.assign(fixed);
     addParameterVariables(projectRecord(project)->node(), &temporary);
     orba::FormatError error;
-    *text = orba::ModuleManager::toXml(temporary, &error);
+    const QByteArray text = orba::ModuleManager::toXml(temporary, &error);
     *why = error.text();
-    return !error.isSet();
+    return !error.isSet() && writeBeside(file, text, why);
 }
 
 bool exportProject(const QString &name, const QString &archive, QString *why, Progress *progress)
 {
-    PackedFolder folder{projectFolder(name), {}};
-    if (folder.path.isEmpty() || !QFileInfo(folder.path).isDir()) {
+    const QString folder = projectFolder(name);
+    if (folder.isEmpty() || !QFileInfo(folder).isDir()) {
         *why = ProjectText::tr("there is no such project");
         return false;
     }
-    const QString file = QStringLiteral("var.xml");
-    return variablesWithParameters(name, QDir(folder.path).filePath(file), &folder.instead[file], why) &&
-           packFolder(folder, archive, why, progress);
+    const WorkFolder work(robotFolder(), QStringLiteral("export"));
+    if (work.path().isEmpty()) {
+        *why = ProjectText::tr("there is no room beside the robot's folder");
+        return false;
+    }
+    const QString mirror = work.filePath(QStringLiteral("mirror"));
+    qint64 bytes = 0;
+    return mirrorForArchive(folder, mirror, &bytes, why, progress) && addParametersTo(mirror, name, why) &&
+           packFolder(mirror, bytes, archive, why, progress);
+}
+
+/// Built-in templates are copied to files first: a folder in the archive would else be one that cannot be written to.
+bool exportTemplates(const QString &programFolder, const QString &archive, QString *why, Progress *progress)
+{
+    const QTemporaryDir work;
+    const QString mirror = work.filePath(kTemplates);
+    qint64 bytes = 0;
+    return mirrorForArchive(programTemplateRoot(programFolder), mirror, &bytes, why, progress) &&
+           packFolder(mirror, bytes, archive, why, progress);
 }
 
 bool exportAll(const ExportRequest &request, ArchiveDesk *desk, Progress *progress)
@@ -146,8 +177,8 @@ bool exportAll(const ExportRequest &request, ArchiveDesk *desk, Progress *progre
     }
     if (!request.hasTemplates)
         return true;
-    const PackedFolder templates{programTemplateRoot(request.programFolder), {}};
-    if (!desk->begin(kTemplates, &archive, &why) || !packFolder(templates, archive, &why, progress))
+    if (!desk->begin(kTemplates, &archive, &why) ||
+        !exportTemplates(request.programFolder, archive, &why, progress))
         return progress->isCancelled() || warn(ProjectText::tr("Export Project templates failed!"), why);
     desk->noteWhole(kTemplates);
     return true;

@@ -45,7 +45,7 @@ struct Unpacked
 bool flush(const QString &folder, QString *why, Progress *progress)
 {
     bool isDone = false;
-    runBeside(progress, ProjectText::tr("Writing to the disk"),
+    runBeside(progress, {ProjectText::tr("Writing to the disk"), {}},
               [&] { isDone = syncFileSystem(folder, why); });
     return isDone;
 }

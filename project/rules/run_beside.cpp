@@ -5,12 +5,18 @@
 
 namespace palx {
 
-void runBeside(Progress *progress, const QString &text, const std::function<void()> &work)
+void runBeside(Progress *progress, const BesideTold &told, const std::function<void()> &work)
 {
     constexpr std::chrono::milliseconds kTellEvery(20);
     const std::future<void> running = std::async(std::launch::async, work);
-    while (running.wait_for(kTellEvery) != std::future_status::ready)
-        progress->step(0, 0, text);
+    bool isPrevented = false;
+    while (running.wait_for(kTellEvery) != std::future_status::ready) {
+        progress->step(0, 0, told.text);
+        if (!isPrevented && told.prevent && progress->isCancelled()) {
+            isPrevented = true;
+            told.prevent();
+        }
+    }
 }
 
 } // namespace palx
