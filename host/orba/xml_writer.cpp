@@ -1,7 +1,6 @@
 #include "orba/file_writer.h"
 #include "orba/format_detail.h"
 
-#include <QBuffer>
 #include <QXmlStreamWriter>
 
 #include <algorithm>
@@ -13,7 +12,7 @@ namespace {
 
 enum class Place { Text, Attribute };
 
-constexpr int kPiece = 64 * 1024; // bytes that are kept before they are written
+constexpr int kPiece = 64 * 1024; // characters that are kept before they are written
 
 /// XML has no form for most control characters and half surrogate pairs, and readers turn line ends into "\n" and, in
 /// attributes, white space into blanks.
@@ -26,9 +25,16 @@ bool isHeldByXml(const QString &text, Place place)
     return allHeld && text.isValidUtf16();
 }
 
+/// Whether there is more than single blanks between words.
 bool isWhiteSpaceMeant(const QString &text)
 {
-    return text != text.simplified();
+    bool isAfterSpace = true;
+    for (const QChar c : text) {
+        if (c.isSpace() && (isAfterSpace || c != QLatin1Char(' ')))
+            return true;
+        isAfterSpace = c.isSpace();
+    }
+    return isAfterSpace && !text.isEmpty();
 }
 
 bool isOfDoubles(const Node &list)
@@ -50,20 +56,21 @@ qint64 countNodes(const Node &node)
     return count;
 }
 
-/// Takes over what the writer has put into the buffer.
+/// Takes over what the writer has put into the text.
 class Drain
 {
 public:
     virtual ~Drain() = default;
     /// Called after every node; false ends the writing.
-    virtual bool take(QBuffer *buffer) = 0;
+    virtual bool take(QString *text) = 0;
 };
 
+/// Into a text, because the library encodes and hands over every few characters when it writes into a device.
 class XmlOut
 {
 public:
-    XmlOut(QBuffer *out, const Node &root, Drain *drain = nullptr)
-        : writer_(out), buffer_(out), root_(root), drain_(drain)
+    XmlOut(QString *out, const Node &root, Drain *drain = nullptr)
+        : writer_(out), out_(out), root_(root), drain_(drain)
     {
         writer_.setAutoFormatting(true);
         writer_.setAutoFormattingIndent(1);
@@ -71,7 +78,7 @@ public:
 
     bool document()
     {
-        writer_.writeStartDocument();
+        *out_ = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
         const bool done = element(root_);
         writer_.writeEndDocument();
         return done;
@@ -89,11 +96,11 @@ private:
         what_ = refusal(why, node, root_);
         return false;
     }
-    void type(const char *type) { writer_.writeAttribute(type_, QLatin1String(type)); }
+    void type(const QString &type) { writer_.writeAttribute(type_, type); }
     void value(const QString &text) { writer_.writeCharacters(text); }
 
     QXmlStreamWriter writer_;
-    QBuffer *buffer_;
+    QString *out_;
     const Node &root_;
     Drain *drain_;
     const QString element_ = QStringLiteral("node"); // made once, not per element
@@ -112,18 +119,18 @@ bool XmlOut::element(const Node &node)
     bool done = true;
     switch (node.kind()) {
     case Node::Kind::Null:
-        type("null");
+        type(QStringLiteral("null"));
         break;
     case Node::Kind::Bool:
-        type("bool");
+        type(QStringLiteral("bool"));
         value(node.toBool() ? QStringLiteral("true") : QStringLiteral("false"));
         break;
     case Node::Kind::Int:
-        type("int");
+        type(QStringLiteral("int"));
         value(QString::number(node.toInt()));
         break;
     case Node::Kind::Double: {
-        type("double");
+        type(QStringLiteral("double"));
         char buffer[kNumberLength];
         value(QString::fromLatin1(buffer, static_cast<int>(writeShortest(buffer, node.toDouble()) - buffer)));
         done = std::isfinite(node.toDouble()) || refuse(Texts::tr("a number is not finite"), node);
@@ -136,7 +143,7 @@ bool XmlOut::element(const Node &node)
         done = container(node);
     }
     writer_.writeEndElement();
-    return done && (!drain_ || drain_->take(buffer_));
+    return done && (!drain_ || drain_->take(out_));
 }
 
 void XmlOut::name(const QString &name)
@@ -151,7 +158,7 @@ void XmlOut::name(const QString &name)
 
 void XmlOut::text(const QString &text)
 {
-    type("string");
+    type(QStringLiteral("string"));
     if (!isHeldByXml(text, Place::Text)) {
         writer_.writeAttribute(QStringLiteral("encoding"), QStringLiteral("base64"));
         value(QString::fromLatin1(toBase64(text)));
@@ -170,7 +177,7 @@ bool XmlOut::container(const Node &node)
     if (isOfDoubles(node)) {
         done = doubles(node);
     } else {
-        type(node.kind() == Node::Kind::List ? "list" : "map");
+        type(node.kind() == Node::Kind::List ? QStringLiteral("list") : QStringLiteral("map"));
         const qint64 *ints = node.packedInts();
         for (int i = 0; i < node.size() && done; ++i) {
             if (!ints) {
@@ -178,7 +185,7 @@ bool XmlOut::container(const Node &node)
                 continue;
             }
             writer_.writeStartElement(element_);
-            type("int");
+            type(QStringLiteral("int"));
             value(QString::number(ints[i]));
             writer_.writeEndElement();
         }
@@ -189,7 +196,7 @@ bool XmlOut::container(const Node &node)
 
 bool XmlOut::doubles(const Node &list)
 {
-    type("doubles");
+    type(QStringLiteral("doubles"));
     numbers_.clear();
     for (int i = 0; i < list.size(); ++i) {
         const double number = list.number(i);
@@ -212,19 +219,20 @@ public:
         : file_(file), limits_(limits), watch_(watch), total_(total)
     {
     }
-    bool take(QBuffer *buffer) override
+    bool take(QString *text) override
     {
         ++done_;
-        return buffer->pos() < kPiece || flush(buffer);
+        return text->size() < kPiece || flush(text);
     }
-    bool flush(QBuffer *buffer)
+    bool flush(QString *text)
     {
-        bytes_ += buffer->pos();
+        const QByteArray bytes = text->toUtf8();
+        bytes_ += bytes.size();
         if (bytes_ > limits_.maxBytes)
             return format::failTooLarge(&error_);
-        if (!file_->write(buffer->data().constData(), buffer->pos(), &error_))
+        if (!file_->write(bytes.constData(), bytes.size(), &error_))
             return false;
-        buffer->seek(0);
+        text->resize(0); // keeps its room
         return !watch_ || watch_(done_, total_) || format::failStopped(&error_);
     }
     /// Why it ended the writing.
@@ -244,20 +252,21 @@ private:
 
 bool writeXml(const Node &node, QByteArray *out, FormatError *error)
 {
-    QBuffer buffer(out);
-    buffer.open(QIODevice::WriteOnly);
-    XmlOut xml(&buffer, node);
-    return xml.document() || fail(error, xml.what());
+    QString text;
+    XmlOut xml(&text, node);
+    const bool done = xml.document();
+    *out = text.toUtf8();
+    return done || fail(error, xml.what());
 }
 
 bool writeXml(const Node &node, FileWriter *out, const ReadLimits &limits, const Watch &watch,
               FormatError *error)
 {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
+    QString text;
+    text.reserve(kPiece);
     FileDrain drain(out, limits, watch, watch ? countNodes(node) : 0);
-    XmlOut xml(&buffer, node, &drain);
-    if (xml.document() && drain.flush(&buffer))
+    XmlOut xml(&text, node, &drain);
+    if (xml.document() && drain.flush(&text))
         return true;
     if (!drain.error().isSet())
         return fail(error, xml.what());
