@@ -20,6 +20,8 @@ public:
     virtual bool isCancelled() = 0;
     /// From here on the work runs to its end, because half of it would be worse. False when it was cancelled before.
     virtual bool enterLastPart() = 0;
+    /// Whether it has to be told and asked even while a single long call runs, because a window must not stand still.
+    virtual bool mustAnswer() const { return true; }
 };
 
 /// For whoever does not want to know.
@@ -29,6 +31,7 @@ public:
     void step(int, int, const QString &) override {}
     bool isCancelled() override { return false; }
     bool enterLastPart() override { return true; }
+    bool mustAnswer() const override { return false; }
 };
 
 } // namespace palx

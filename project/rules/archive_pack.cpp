@@ -7,8 +7,8 @@
 #include "project/rules/staged_folder.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
-#include <QVector>
 
 #include <JlCompress.h>
 
@@ -30,7 +30,7 @@ bool refuse(QString *why, const QString &reason)
 struct PackedEntry
 {
     QString name; ///< in the archive; a folder's ends with "/"
-    QFileInfo file;
+    bool isFolder;
 };
 
 /// What an archive is to hold, one folder after the other, with what an archive may hold in sight.
@@ -47,25 +47,29 @@ private:
     /// `inside` is the path of a folder below the root, with "/" at its end, or empty for the root.
     bool listFolder(const QString &inside)
     {
-        for (const QFileInfo &file : QDir(root_ + QLatin1Char('/') + inside).entryInfoList(kEverything)) {
-            const QString name = inside + file.fileName() + (file.isDir() ? QStringLiteral("/") : QString());
-            if (!add(file, name) || (file.isDir() && !listFolder(name)))
+        QDirIterator files(root_ + QLatin1Char('/') + inside, kEverything);
+        while (files.hasNext()) {
+            files.next();
+            const QFileInfo file = files.fileInfo();
+            const bool isFolder = file.isDir();
+            const QString name = inside + files.fileName() + (isFolder ? QStringLiteral("/") : QString());
+            if (!add(file, name, isFolder) || (isFolder && !listFolder(name)))
                 return false;
         }
         return true;
     }
 
-    bool add(const QFileInfo &file, const QString &name)
+    bool add(const QFileInfo &file, const QString &name, bool isFolder)
     {
         QString problem = entryNameProblem(name);
         if (file.isSymLink())
             problem = ProjectText::tr("is a link");
-        else if (!file.isDir() && !file.isFile())
+        else if (!isFolder && !file.isFile())
             problem = ProjectText::tr("is neither a file nor a folder");
         if (problem.isEmpty())
             problem = names_.add(name);
-        bytes_ += file.isDir() ? 0 : file.size();
-        entries_.append({name, file});
+        bytes_ += isFolder ? 0 : file.size();
+        entries_.append({name, isFolder});
         if (problem.isEmpty() && (entries_.size() > limits_.entries || bytes_ > limits_.bytes))
             problem = ProjectText::tr("makes the project too large for an archive");
         return problem.isEmpty() ||
@@ -78,37 +82,6 @@ private:
     EntryNames names_;
     QVector<PackedEntry> entries_;
     qint64 bytes_ = 0;
-};
-
-/// Makes what is packed, each folder before what is in it.
-class Mirror
-{
-public:
-    Mirror(QString root, QString *why) : root_(std::move(root)), why_(why) {}
-
-    bool add(const PackedEntry &entry) const
-    {
-        const QString path = root_ + QLatin1Char('/') + entry.name;
-        const QByteArray name = QFile::encodeName(path);
-        if (entry.file.isDir())
-            return ::mkdir(name.constData(), 0777) == 0 ||
-                   refuse(why_, ProjectText::tr("Cannot create path: %1").arg(path));
-        const QByteArray file =
-            QFile::encodeName(entry.file.filePath()); // a resource's is no name on the disk
-        return ::link(file.constData(), name.constData()) == 0 || copy(entry.file.filePath(), path);
-    }
-
-private:
-    bool copy(const QString &file, const QString &path) const
-    {
-        QFile source(file);
-        if (source.copy(path))
-            return QFile::setPermissions(path, source.permissions() | QFile::ReadOwner | QFile::WriteOwner);
-        return refuse(why_, QStringLiteral("%1: %2").arg(file, source.errorString()));
-    }
-
-    QString root_;
-    QString *why_;
 };
 
 /// What the archive library itself calls for each entry's name; set once for all, before another thread uses it.
@@ -127,8 +100,17 @@ void keepFreedMemory()
 
 } // namespace
 
-bool mirrorForArchive(const QString &source, const QString &mirror, qint64 *bytes, QString *why,
-                      Progress *progress)
+ArchiveMirror::ArchiveMirror(QString folder) : folder_(std::move(folder)) {}
+
+/// By the names that were made, which costs a third of looking for them.
+ArchiveMirror::~ArchiveMirror()
+{
+    for (auto made = made_.crbegin(); made != made_.crend(); ++made)
+        made->isFolder ? ::rmdir(made->path.constData()) : ::unlink(made->path.constData());
+    removeFolder(folder_);
+}
+
+bool ArchiveMirror::fill(const QString &source, QString *why, Progress *progress)
 {
     why->clear();
     if (!QFileInfo(source).isDir())
@@ -136,30 +118,66 @@ bool mirrorForArchive(const QString &source, const QString &mirror, qint64 *byte
     PackList list(source, why);
     if (!list.list())
         return false;
-    *bytes = list.bytes();
-    if (!QDir().mkpath(mirror))
-        return refuse(why, ProjectText::tr("Cannot create path: %1").arg(mirror));
-    const Mirror made(mirror, why);
+    bytes_ = list.bytes();
+    if (!QDir().mkpath(folder_))
+        return refuse(why, ProjectText::tr("Cannot create path: %1").arg(folder_));
     for (const PackedEntry &entry : list.entries()) {
         progress->step(0, 0, ProjectText::tr("Packing %1").arg(entry.name));
-        if (progress->isCancelled() || !made.add(entry))
+        if (progress->isCancelled())
+            return false;
+        if (!(entry.isFolder ? makeFolder(entry.name, why)
+                             : shareFile(source + QLatin1Char('/') + entry.name, entry.name, why)))
             return false;
     }
     return true;
 }
 
-bool packFolder(const QString &folder, qint64 bytes, const QString &archive, QString *why, Progress *progress)
+bool ArchiveMirror::makeFolder(const QString &name, QString *why)
+{
+    made_.append({QFile::encodeName(filePath(name)), true});
+    return ::mkdir(made_.last().path.constData(), 0777) == 0 ||
+           refuse(why, ProjectText::tr("Cannot create path: %1").arg(filePath(name)));
+}
+
+bool ArchiveMirror::shareFile(const QString &file, const QString &name, QString *why)
+{
+    made_.append({QFile::encodeName(filePath(name)), false});
+    const QByteArray source = QFile::encodeName(file); // a resource's is no name on the disk
+    return ::link(source.constData(), made_.last().path.constData()) == 0 || copyFile(file, name, why);
+}
+
+bool ArchiveMirror::copyFile(const QString &file, const QString &name, QString *why) const
+{
+    QFile source(file);
+    if (!source.copy(filePath(name)))
+        return refuse(why, QStringLiteral("%1: %2").arg(file, source.errorString()));
+    return QFile::setPermissions(filePath(name),
+                                 source.permissions() | QFile::ReadOwner | QFile::WriteOwner);
+}
+
+bool ArchiveMirror::putFile(const QString &name, const QByteArray &content, QString *why)
+{
+    const QString path = filePath(name);
+    made_.append({QFile::encodeName(path), false});
+    ::unlink(made_.last().path.constData()); // it may share its content
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush())
+        return true;
+    return refuse(why, QStringLiteral("%1: %2").arg(path, file.errorString()));
+}
+
+bool ArchiveMirror::pack(const QString &archive, QString *why, Progress *progress) const
 {
     constexpr qint64 kSoonDone = 2 * 1024 * 1024; // a few hundredths of a second, less than a thread is worth
     why->clear();
     useUtf8Names();
     bool isPacked = false;
-    const auto pack = [&] { isPacked = JlCompress::compressDir(archive, folder, true, QDir::Hidden); };
+    const auto pack = [&] { isPacked = JlCompress::compressDir(archive, folder_, true, QDir::Hidden); };
     const QString text = ProjectText::tr("Packing %1").arg(QFileInfo(archive).fileName());
     progress->step(0, 0, text);
-    if (bytes > kSoonDone) {
+    if (bytes_ > kSoonDone) {
         keepFreedMemory();
-        runBeside(progress, {text, [&folder] { removeFolder(folder); }}, pack);
+        runBeside(progress, {text, [this] { removeFolder(folder_); }}, pack);
     } else {
         pack();
     }

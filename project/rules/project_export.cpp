@@ -111,24 +111,12 @@ bool warn(const QString &text, const QString &why)
     return reportProject("warning", text);
 }
 
-/// Replaces a name in the mirror; the project's file, which may share its content, stays. Nothing is flushed, because the
-/// mirror goes when it is packed.
-bool writeBeside(const QString &name, const QByteArray &text, QString *why)
-{
-    QFile::remove(name);
-    QFile file(name);
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush())
-        return true;
-    *why = QStringLiteral("%1: %2").arg(name, file.errorString());
-    return false;
-}
-
 /// The mirror that is packed gets a "var.xml" of its own, so that the project's stays whatever happens.
-bool addParametersTo(const QString &mirror, const QString &project, QString *why)
+bool addParametersTo(ArchiveMirror *mirror, const QString &project, QString *why)
 {
-    const QString file = mirror + QStringLiteral("/var.xml");
+    const QString file = QStringLiteral("var.xml");
     Node fixed{Name(u"fixed_var_list")};
-    if (!readVariableList(file, &fixed, why))
+    if (!readVariableList(mirror->filePath(file), &fixed, why))
         return false;
     Node temporary{Name(u"temp_var_list")};
     temporary.assign(fixed);
@@ -136,7 +124,7 @@ bool addParametersTo(const QString &mirror, const QString &project, QString *why
     orba::FormatError error;
     const QByteArray text = orba::ModuleManager::toXml(temporary, &error);
     *why = error.text();
-    return !error.isSet() && writeBeside(file, text, why);
+    return !error.isSet() && mirror->putFile(file, text, why);
 }
 
 bool exportProject(const QString &name, const QString &archive, QString *why, Progress *progress)
@@ -151,20 +139,18 @@ bool exportProject(const QString &name, const QString &archive, QString *why, Pr
         *why = ProjectText::tr("there is no room beside the robot's folder");
         return false;
     }
-    const QString mirror = work.filePath(QStringLiteral("mirror"));
-    qint64 bytes = 0;
-    return mirrorForArchive(folder, mirror, &bytes, why, progress) && addParametersTo(mirror, name, why) &&
-           packFolder(mirror, bytes, archive, why, progress);
+    ArchiveMirror mirror(work.path());
+    return mirror.fill(folder, why, progress) && addParametersTo(&mirror, name, why) &&
+           mirror.pack(archive, why, progress);
 }
 
 /// Built-in templates are copied to files first: a folder in the archive would else be one that cannot be written to.
 bool exportTemplates(const QString &programFolder, const QString &archive, QString *why, Progress *progress)
 {
     const QTemporaryDir work;
-    const QString mirror = work.filePath(kTemplates);
-    qint64 bytes = 0;
-    return mirrorForArchive(programTemplateRoot(programFolder), mirror, &bytes, why, progress) &&
-           packFolder(mirror, bytes, archive, why, progress);
+    ArchiveMirror mirror(work.path());
+    return mirror.fill(programTemplateRoot(programFolder), why, progress) &&
+           mirror.pack(archive, why, progress);
 }
 
 bool exportAll(const ExportRequest &request, ArchiveDesk *desk, Progress *progress)

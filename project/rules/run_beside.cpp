@@ -7,6 +7,8 @@ namespace palx {
 
 void runBeside(Progress *progress, const BesideTold &told, const std::function<void()> &work)
 {
+    if (!progress->mustAnswer())
+        return work();
     constexpr std::chrono::milliseconds kTellEvery(20);
     const std::future<void> running = std::async(std::launch::async, work);
     bool isPrevented = false;

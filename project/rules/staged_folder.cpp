@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include <filesystem>
+#include <unistd.h>
 
 namespace palx {
 
@@ -56,8 +57,10 @@ bool isTaken(const QString &path)
 
 bool removeFolder(const QString &folder)
 {
+    const QByteArray name = QFile::encodeName(folder);
     std::error_code error;
-    std::filesystem::remove_all(QFile::encodeName(folder).constData(), error);
+    if (::rmdir(name.constData()) != 0) // an empty one is soon removed
+        std::filesystem::remove_all(name.constData(), error);
     return !error;
 }
 

@@ -13,11 +13,11 @@ namespace palx {
 
 namespace {
 
-const QString kPrefix = QStringLiteral(".work-"); // followed by the process; no robot's id begins with a dot
+const QString kPrefix = QStringLiteral(".work-"); // followed by the process and a name; no robot's id begins with a dot
 
 bool isAlive(const QString &folder)
 {
-    const qint64 process = folder.mid(kPrefix.size()).toLongLong();
+    const qint64 process = folder.mid(kPrefix.size()).section(QLatin1Char('-'), 0, 0).toLongLong();
     return process > 0 && (::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM);
 }
 
@@ -25,7 +25,7 @@ bool isAlive(const QString &folder)
 
 WorkFolder::WorkFolder(const QString &robotFolder, const QString &name)
 {
-    const QString path = QStringLiteral("%1/%2%3/%4")
+    const QString path = QStringLiteral("%1/%2%3-%4")
                              .arg(stagingFolder(robotFolder), kPrefix)
                              .arg(QCoreApplication::applicationPid())
                              .arg(name);
@@ -38,9 +38,7 @@ WorkFolder::~WorkFolder()
     if (path_.isEmpty())
         return;
     removeFolder(path_);
-    const QDir ofProcess(QFileInfo(path_).path());
-    if (QDir().rmdir(ofProcess.path()))
-        QDir().rmdir(QFileInfo(ofProcess.path()).path());
+    QDir().rmdir(QFileInfo(path_).path()); // unless there are others
 }
 
 void removeAbandonedWork(const QString &robotFolder)
