@@ -1,6 +1,7 @@
 #include "controller/station.h"
 
 #include "controller/texts.h"
+#include "controller/tree_depth.h"
 #include "orba/module_manager.h"
 
 #include <QDir>
@@ -14,8 +15,6 @@ namespace {
 constexpr double kPublishTime = 0.02; // [s] a moving robot is told 50 times a second
 constexpr QStringView kProject = u"quill.project";
 constexpr int kMaxPath = 1000; // characters
-constexpr int kMaxDepth =
-    100; // levels of what the panel writes; with the path far below what a message may have
 
 /// What the panel is told before anything happened. "built" says of a part of the project that it is in use as it stands.
 constexpr const char *kTree = R"({
@@ -36,16 +35,6 @@ Node templateTree()
     Node tree;
     orba::ModuleManager::fromJson(kTree, &tree);
     return tree;
-}
-
-bool isShallow(const Node &node, int levels)
-{
-    if (levels == 0)
-        return false;
-    for (int i = 0; !node.isPacked() && i < node.size(); ++i)
-        if (!isShallow(*node.at(i), levels - 1))
-            return false;
-    return true;
 }
 
 QStringList folderNames(const QString &folder)
@@ -84,7 +73,7 @@ Station::Station(StationOptions options)
     setTexts(tree_.find(u"nexo.r.report"), reports_);
     for (const QString &report : std::as_const(reports_))
         notice("warning", report);
-    refreshProjects();
+    listProjects();
     publishRobot();
     publishCellNodes();
 }
@@ -112,7 +101,7 @@ void Station::restore(const Node &kept)
     const QString startUp = autoload.section(QLatin1Char('/'), 0, 0);
     project().set(u"cur_project",
                   startUp.isEmpty() ? kept.getString(u"current") : id + QLatin1Char('/') + startUp);
-    projects_.exchange();
+    exchangeLists();
     if (const Node *tools = kept.child(QStringView(u"tools")))
         tools_.restore(*tools);
     if (const Node *joints = kept.child(QStringView(u"joints")))
@@ -173,7 +162,7 @@ bool Station::write(const QString &path, Node &payload, QString *why)
     const bool isInside = path == kProject || path.startsWith(kProject.toString() + QLatin1Char('.'));
     if (!isInside || (path == kProject && payload.kind() != Node::Kind::Map))
         *why = Texts::tr("the panel does not write \"%1\"").arg(path.left(100));
-    else if (path.size() > kMaxPath || !isShallow(payload, kMaxDepth))
+    else if (path.size() > kMaxPath || !isShallow(payload))
         *why = Texts::tr("what was written at \"%1\" is nested too deep").arg(path.left(100));
     else {
         if (path == kProject)
@@ -201,11 +190,38 @@ void Station::written(const QString &path)
 void Station::switchProject()
 {
     desk_.leaveProject(&projects_.variableList());
-    projects_.exchange();
+    exchangeLists();
     setBuilt(false);
-    refreshProjects();
+    listProjects();
     tellLists();
     publishAll();
+}
+
+/// A folder that is in use and cannot be read is told when it is built as well.
+void Station::exchangeLists()
+{
+    const QString key = project().getString(u"cur_project");
+    const QString why = projects_.exchange(ProjectFolder(folderOf(key)));
+    if (!why.isEmpty())
+        notice("error", Texts::tr("The project %1 cannot be read: %2").arg(key, why));
+}
+
+/// Another folder may have taken the place of the current project's. What runs goes on with what it has. False, and the operator
+/// is told, when the lists in the tree are not those that count.
+bool Station::followFolder()
+{
+    const ProjectFolder folder(projectFolder());
+    if (!projects_.isReplaced(folder))
+        return true;
+    if (desk_.runner().state() == Runner::State::Stopped)
+        switchProject();
+    else
+        notice("warning",
+               Texts::tr(
+                   "The folder of the project %1 was exchanged while its program runs; what is in it counts "
+                   "when the program is stopped and started again")
+                   .arg(projects_.current()));
+    return !projects_.isReplaced(folder);
 }
 
 void Station::tellLists()
@@ -229,34 +245,52 @@ bool Station::trigger(const QString &path, QString *why)
 
 void Station::refreshProjects()
 {
+    listProjects();
+    followFolder();
+}
+
+void Station::listProjects()
+{
     Node *list = project().ensure(u"_list");
     if (list && !options_.workspaceFolder.isEmpty())
         setTexts(list, folderNames(QDir(options_.workspaceFolder).filePath(robotId())));
 }
 
-/// The folder of the current project; empty when its key leads out of the workspace.
-QString Station::projectFolder() const
+/// The folder of a project; empty when its key leads out of the workspace.
+QString Station::folderOf(const QString &key) const
 {
     const QString workspace = QDir::cleanPath(options_.workspaceFolder) + QLatin1Char('/');
-    const QString folder = QDir::cleanPath(workspace + projects_.current());
+    const QString folder = QDir::cleanPath(workspace + key);
     return !options_.workspaceFolder.isEmpty() && folder.startsWith(workspace) ? folder : QString();
 }
 
 /// Takes the current project into use. Without one there is nothing to build.
 void Station::buildProject()
 {
-    const QString &key = projects_.current();
+    const QString key = projects_.current();
     const QString folder = projectFolder();
     const bool isThere = !folder.isEmpty() && QDir(folder).exists();
-    setBuilt(key.isEmpty() || isThere);
-    refreshProjects();
-    if (isThere) {
+    const bool isReady = isThere && followFolder();
+    setBuilt(key.isEmpty() || isReady);
+    listProjects();
+    if (isReady) {
+        writeLists();
         desk_.check(projectInUse());
         publishAll();
     }
     if (!key.isEmpty() && !isThere)
         notice("error", Texts::tr("The project %1 cannot be built: it has no folder in the workspace \"%2\"")
                             .arg(key, options_.workspaceFolder));
+}
+
+/// So that a copy of the folder is a copy of the project.
+void Station::writeLists()
+{
+    desk_.flushVariables(&projects_.variableList());
+    const QString why = projects_.writeTo(ProjectFolder(projectFolder()));
+    if (!why.isEmpty())
+        notice("warning", Texts::tr("The folder of the project %1 does not take its tasks and variables: %2")
+                              .arg(projects_.current(), why));
 }
 
 void Station::setBuilt(bool built)

@@ -99,8 +99,13 @@ private:
     void restoreJoints(const orba::Node &kept);
     void written(const QString &path);
     void tellLists();
-    QString projectFolder() const;
+    QString folderOf(const QString &key) const;
+    QString projectFolder() const { return folderOf(projects_.current()); }
+    void exchangeLists();
+    bool followFolder();
     void buildProject();
+    void writeLists();
+    void listProjects();
     void refreshProjects();
     void setBuilt(bool built);
     void switchProject();

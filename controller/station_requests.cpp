@@ -47,6 +47,8 @@ Station::Handler Station::handlerOf(const QString &name)
 Station::Answer Station::request(const QString &name, Node &payload)
 {
     if (CellDesk::knows(name)) {
+        if (name == QLatin1String("program.run") && desk_.runner().state() == Runner::State::Stopped)
+            followFolder();
         Answer answer{desk_.request(name, payload, projectInUse()), Node()};
         followCell();
         return answer;

@@ -998,6 +998,30 @@
         <source>this is no file</source>
         <translation>这不是文件</translation>
     </message>
+    <message>
+        <source>%1: this is no file</source>
+        <translation>%1：这不是文件</translation>
+    </message>
+    <message>
+        <source>%1: it is nested too deep</source>
+        <translation>%1：嵌套过深</translation>
+    </message>
+    <message>
+        <source>%1: there is no list</source>
+        <translation>%1：没有列表</translation>
+    </message>
+    <message>
+        <source>The project %1 cannot be read: %2</source>
+        <translation>无法读取项目 %1：%2</translation>
+    </message>
+    <message>
+        <source>The folder of the project %1 does not take its tasks and variables: %2</source>
+        <translation>项目 %1 的文件夹无法写入其任务和变量：%2</translation>
+    </message>
+    <message>
+        <source>The folder of the project %1 was exchanged while its program runs; what is in it counts when the program is stopped and started again</source>
+        <translation>项目 %1 的文件夹在其程序运行时被替换；停止并重新启动程序后，文件夹中的内容才生效</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>

@@ -998,6 +998,30 @@
         <source>this is no file</source>
         <translation>ファイルではありません</translation>
     </message>
+    <message>
+        <source>%1: this is no file</source>
+        <translation>%1: ファイルではありません</translation>
+    </message>
+    <message>
+        <source>%1: it is nested too deep</source>
+        <translation>%1: 入れ子が深すぎます</translation>
+    </message>
+    <message>
+        <source>%1: there is no list</source>
+        <translation>%1: リストがありません</translation>
+    </message>
+    <message>
+        <source>The project %1 cannot be read: %2</source>
+        <translation>プロジェクト %1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>The folder of the project %1 does not take its tasks and variables: %2</source>
+        <translation>プロジェクト %1 のフォルダーにタスクと変数を書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>The folder of the project %1 was exchanged while its program runs; what is in it counts when the program is stopped and started again</source>
+        <translation>プロジェクト %1 のフォルダーがプログラムの実行中に入れ替えられました。プログラムを停止して再び開始すると、その内容が有効になります</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>

@@ -998,6 +998,30 @@
         <source>this is no file</source>
         <translation>파일이 아닙니다</translation>
     </message>
+    <message>
+        <source>%1: this is no file</source>
+        <translation>%1: 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>%1: it is nested too deep</source>
+        <translation>%1: 중첩이 너무 깊습니다</translation>
+    </message>
+    <message>
+        <source>%1: there is no list</source>
+        <translation>%1: 목록이 없습니다</translation>
+    </message>
+    <message>
+        <source>The project %1 cannot be read: %2</source>
+        <translation>프로젝트 %1을(를) 읽을 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>The folder of the project %1 does not take its tasks and variables: %2</source>
+        <translation>프로젝트 %1의 폴더에 작업과 변수를 쓸 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>The folder of the project %1 was exchanged while its program runs; what is in it counts when the program is stopped and started again</source>
+        <translation>프로그램 실행 중에 프로젝트 %1의 폴더가 교체되었습니다. 프로그램을 정지했다가 다시 시작하면 그 내용이 적용됩니다</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>

@@ -998,6 +998,30 @@
         <source>this is no file</source>
         <translation>это не файл</translation>
     </message>
+    <message>
+        <source>%1: this is no file</source>
+        <translation>%1: это не файл</translation>
+    </message>
+    <message>
+        <source>%1: it is nested too deep</source>
+        <translation>%1: слишком глубокая вложенность</translation>
+    </message>
+    <message>
+        <source>%1: there is no list</source>
+        <translation>%1: нет списка</translation>
+    </message>
+    <message>
+        <source>The project %1 cannot be read: %2</source>
+        <translation>Проект %1 не читается: %2</translation>
+    </message>
+    <message>
+        <source>The folder of the project %1 does not take its tasks and variables: %2</source>
+        <translation>В папку проекта %1 не удаётся записать его задачи и переменные: %2</translation>
+    </message>
+    <message>
+        <source>The folder of the project %1 was exchanged while its program runs; what is in it counts when the program is stopped and started again</source>
+        <translation>Папка проекта %1 была заменена во время работы его программы; её содержимое вступит в силу, когда программу остановят и запустят снова</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>

@@ -28,10 +28,10 @@ ProjectBackup::~ProjectBackup()
 {
     if (isDone_)
         return;
-    restoreNodes();
     if (!newFolder_.isEmpty())
         removeFolder(newFolder_);
     staged_.putBack();
+    restoreNodes(); // which has the controller look at the folder
 }
 
 void ProjectBackup::noteNewFolder(const QString &name, const QString &folder)

@@ -57,13 +57,14 @@ TEST_F(ProjectTest, AnAddedProjectHasItsPartsEverywhere)
     EXPECT_EQ(palx::projectRecord("P")->node(),
               nodeFromJson(R"({"name": "P", "scheme_layout": 1, "palletizing_type": 1,
         "type_of_sucker": 1, "bollard": 1, "clapboard": 1, "left_stack_recipe": 2, "right_stack_recipe": 3})"));
+    settle(); // the controller builds it
     QStringList paths;
     for (const auto &each : files())
         paths.append(QString::fromStdString(each.first).section('/', 2));
     EXPECT_EQ(paths.join(' '),
-              QStringLiteral("  task0/ task0/BackHome.mod task0/Init.mod task0/YouMaduo.mod task0/main.mod "
-                             "task1/ task1/main.mod task2/ task2/main.mod task3/ task3/main.mod "
-                             "task4/ task4/main.mod var.json var_monitor.json"));
+              QStringLiteral("  .rlprog task0/ task0/BackHome.mod task0/Init.mod task0/YouMaduo.mod "
+                             "task0/main.mod task1/ task1/main.mod task2/ task2/main.mod task3/ "
+                             "task3/main.mod task4/ task4/main.mod var.json var.xml var_monitor.json"));
     start(); // what the controller knows
     EXPECT_EQ(current(), QStringLiteral("SIM-0001/P"));
     EXPECT_EQ(m("quill.project.autoload_prj_path")->getString(), QStringLiteral("P/_build/P.prj"));

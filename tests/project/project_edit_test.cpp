@@ -73,6 +73,7 @@ TEST_F(ProjectTest, ARenamedProjectLeavesNothingOfItsOldName)
     steps.parameters = nodeFromJson(kBoth);
     ASSERT_TRUE(palx::editProject(QStringLiteral("Q"), QStringLiteral("P"), &steps));
     EXPECT_EQ(takeMessages(), QStringList("ask: Are you sure to update and switch to project Q?"));
+    settle(); // the controller builds it
     ASSERT_TRUE(palx::removeFolder(place(QStringLiteral("Q"))));
     EXPECT_EQ(files(), other);
     EXPECT_TRUE(palx::projectRecord("P")->isEmptyMobj());
@@ -86,7 +87,6 @@ TEST_F(ProjectTest, AFailedCommitLeavesTheOldProjectWhole)
 {
     add(QStringLiteral("Other"), kBoth);
     add(QStringLiteral("P"));
-    putFile(QStringLiteral("P/.rlprog"), "{}");
     ASSERT_TRUE(palx::setDefaultProject(QStringLiteral("P")));
     takeMessages();
     const struct

@@ -1,0 +1,126 @@
+#include "controller/project_folder.h"
+
+#include "controller/texts.h"
+#include "controller/tree_depth.h"
+#include "orba/module_manager.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QFileInfo>
+
+namespace controller {
+
+using orba::FormatError;
+using orba::ModuleManager;
+using orba::Node;
+
+namespace {
+
+constexpr const char *kTasks = ".rlprog";
+constexpr const char *kVariables = "var.xml";
+constexpr const char *kMonitored = "var_monitor.json";
+constexpr qint64 kMaxFile = 4 * 1024 * 1024; // bytes; a hundred times those of a project from the templates
+
+orba::ReadLimits limits()
+{
+    orba::ReadLimits limits;
+    limits.maxBytes = kMaxFile;
+    return limits;
+}
+
+/// Nothing of what is no file, which might be waited for, and not more than is read of it.
+QByteArray content(const QString &name)
+{
+    QFile file(name);
+    return QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly) ? file.read(kMaxFile + 1)
+                                                                      : QByteArray();
+}
+
+using ReadFile = bool (*)(const QString &, Node *, FormatError *, const orba::ReadLimits &);
+
+/// An absent file leaves the node as it is.
+bool readFile(const QString &name, ReadFile read, Node *node, QString *why)
+{
+    const QFileInfo file(name);
+    if (!file.exists() && !file.isSymLink())
+        return true;
+    FormatError error;
+    if (!file.isFile())
+        *why = Texts::tr("%1: this is no file").arg(name);
+    else if (!read(name, node, &error, limits()))
+        *why = error.text();
+    else if (!isShallow(*node))
+        *why = Texts::tr("%1: it is nested too deep").arg(name);
+    return why->isEmpty();
+}
+
+/// The children of a node, whatever they were called.
+bool takeList(const Node *from, const QString &name, Node *list, QString *why)
+{
+    list->reset(Node::Kind::List);
+    if (from && from->isContainer() && !from->isPacked())
+        for (int i = 0; i < from->size(); ++i)
+            list->add()->assign(*from->at(i));
+    else if (from && !from->isNull())
+        *why = Texts::tr("%1: there is no list").arg(name);
+    return why->isEmpty();
+}
+
+/// Replaces a file whole, so that a copy never has half of it.
+bool replace(const QString &name, const QByteArray &text,
+             bool (*save)(const Node &, const QString &, FormatError *), const Node &node, QString *why)
+{
+    FormatError error;
+    if (content(name) != text && !save(node, name, &error))
+        *why = error.text();
+    return why->isEmpty();
+}
+
+} // namespace
+
+QString ProjectFolder::mark() const
+{
+    const QByteArray tasks = path_.isEmpty() ? QByteArray() : content(filePath(kTasks));
+    if (tasks.isEmpty())
+        return QString();
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    hash.addData(tasks);
+    hash.addData("\0", 1);
+    hash.addData(content(filePath(kVariables)));
+    return QString::fromLatin1(hash.result().toHex());
+}
+
+bool ProjectFolder::read(Node *tasks, Node *variables, Node *monitored, QString *why) const
+{
+    why->clear();
+    Node project, variableFile, monitorFile;
+    Node lists[3];
+    const bool isRead = readFile(filePath(kTasks), &ModuleManager::readFromJson, &project, why) &&
+                        readFile(filePath(kVariables), &ModuleManager::readFromXmlFile, &variableFile, why) &&
+                        readFile(filePath(kMonitored), &ModuleManager::readFromJson, &monitorFile, why) &&
+                        takeList(project.child(QStringView(u"tasks")), filePath(kTasks), &lists[0], why) &&
+                        takeList(&variableFile, filePath(kVariables), &lists[1], why) &&
+                        takeList(&monitorFile, filePath(kMonitored), &lists[2], why);
+    if (!isRead)
+        return false;
+    tasks->take(lists[0]);
+    variables->take(lists[1]);
+    monitored->take(lists[2]);
+    return true;
+}
+
+bool ProjectFolder::write(const QString &project, const Node &tasks, const Node &variables,
+                          QString *why) const
+{
+    why->clear();
+    Node content, list; // without the names that they have in the tree
+    content.ensure(u"project_name")->setString(project);
+    content.ensure(u"tasks")->assign(tasks);
+    list.assign(variables);
+    return replace(filePath(kVariables), ModuleManager::toXml(list), &ModuleManager::writeToXmlFile, list,
+                   why) &&
+           replace(filePath(kTasks), ModuleManager::toJson(content, false), &ModuleManager::writeToJson,
+                   content, why);
+}
+
+} // namespace controller

@@ -1,0 +1,142 @@
+// A copy of a project's folder is a copy of the project: the controller finds its tasks and variables there.
+
+#include "exchange_fixture.h"
+
+#include "workstation/controller_sync.h"
+#include "xservice.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <sys/stat.h>
+
+using orba::Node;
+using palx::OnClash;
+
+namespace {
+
+constexpr const char *kBoth = R"({"scheme_layout": 2, "bollard": 1})";
+const QString kName = QStringLiteral("P");
+
+class ProjectCopyTest : public ExchangeTest
+{
+protected:
+    void switchTo(const QString &name)
+    {
+        presenter.answer(true);
+        EXPECT_TRUE(palx::reloadProject(name, &steps)) << takeMessages().join('|').toStdString();
+        settle();
+    }
+    void set(const QString &variable, const QString &value)
+    {
+        palx::setValueOfPERSVar(variable, value);
+        EXPECT_TRUE(becomes(variable, value));
+    }
+    static bool becomes(const QString &variable, const QString &value)
+    {
+        return waitUntil([&] { return valueOf(variable) == value; });
+    }
+    static QString valueOf(const QString &variable)
+    {
+        const Node &list = m("quill.project.var._list")->node();
+        for (int i = 0; i < list.size(); ++i)
+            if (list.at(i)->getString(u"name") == variable)
+                return list.at(i)->getString(u"value.[0][0][0]");
+        return QStringLiteral("none");
+    }
+    static int variables() { return m("quill.project.var._list")->cmobjCount(); }
+    /// Empty when the programs run.
+    static QString run()
+    {
+        constexpr int kMs = 5000;
+        return xservice()->execCommand(nullptr, QStringLiteral("program.run"), nullptr, kMs).error;
+    }
+};
+
+} // namespace
+
+TEST_F(ProjectCopyTest, ACloneRuns)
+{
+    add(QStringLiteral("Old"), kBoth);
+    const QStringList expected = tasks();
+    ASSERT_FALSE(expected.isEmpty());
+    set(QStringLiteral("SetZ"), QStringLiteral("650"));
+    switchTo(QStringLiteral("Old")); // and builds it
+    presenter.answer(true);
+    steps.parameters = nodeFromJson(kBoth);
+    ASSERT_TRUE(palx::addProject(kName, QStringLiteral("Old"), &steps));
+    settle();
+    EXPECT_EQ(tasks(), expected);
+    EXPECT_EQ(valueOf(QStringLiteral("SetZ")), QStringLiteral("650"));
+    EXPECT_EQ(run(), QString());
+}
+
+TEST_F(ProjectCopyTest, AnImportedProjectRunsWhereItIsNotKnown)
+{
+    add(kName, kBoth);
+    const QStringList expected = tasks();
+    const int count = variables();
+    ASSERT_TRUE(exportNames({kName}));
+    presenter.answer(true);
+    ASSERT_TRUE(palx::deleteProject(kName, &steps));
+    settle();
+    ASSERT_TRUE(import({"P.zip"}, OnClash::Rename));
+    switchTo(kName);
+    EXPECT_EQ(tasks(), expected);
+    EXPECT_EQ(variables(), count + 7) << "the parameters came as variables";
+    EXPECT_EQ(run(), QString());
+}
+
+// A wrong count would have the robot begin with the first layer on a pallet that is half full.
+TEST_F(ProjectCopyTest, AReplacedProjectCountsLikeItsArchiveAndUndoBringsBackItsOwnCount)
+{
+    const QString layer = QStringLiteral("currentLayerL");
+    add(kName, kBoth);
+    ASSERT_TRUE(exportNames({kName}));
+    set(layer, QStringLiteral("3"));
+    ASSERT_TRUE(import({"P.zip"}, OnClash::Replace));
+    EXPECT_TRUE(becomes(layer, QStringLiteral("1")));
+    EXPECT_FALSE(tasks().isEmpty());
+    set(layer, QStringLiteral("2"));
+    ASSERT_TRUE(palx::undoLastImport());
+    EXPECT_TRUE(becomes(layer, QStringLiteral("3")));
+    start();
+    EXPECT_EQ(valueOf(layer), QStringLiteral("3"));
+}
+
+TEST_F(ProjectCopyTest, AFolderThatCannotBeReadIsLeftAsItIsAndDoesNotRun)
+{
+    const struct
+    {
+        const char *file;
+        QByteArray content; ///< empty: a pipe
+        const char *reason;
+    } cases[] = {
+        {".rlprog", "{\"tasks\": [", ".rlprog:1:"},
+        {".rlprog", "{\"tasks\": \"task0\"}", ".rlprog: there is no list"},
+        {".rlprog", "{\"tasks\": " + QByteArray(150, '[') + QByteArray(150, ']') + "}", "nested too deep"},
+        {".rlprog", QByteArray(5 * 1024 * 1024, ' '), "5242880 bytes, more than"},
+        {"var.xml", "<!DOCTYPE a [<!ENTITY b \"c\">]><node type=\"list\">&b;</node>", "var.xml:1:"},
+        {"var.xml", "<node type=\"int\">1</node>", "var.xml: there is no list"},
+        {"var.xml", "", "var.xml: this is no file"},
+        {"var_monitor.json", "[1", "var_monitor.json:1:"},
+    };
+    int number = 0;
+    for (const auto &each : cases) {
+        const QString name = QStringLiteral("P%1").arg(++number);
+        putProject(name);
+        QFile::remove(place(name + '/' + each.file));
+        if (each.content.isEmpty())
+            ASSERT_EQ(::mkfifo(place(name + '/' + each.file).toLocal8Bit().constData(), 0644), 0);
+        else
+            putFile(name + '/' + each.file, each.content);
+        const auto before = files();
+        records.clear();
+        switchTo(name);
+        EXPECT_TRUE(records.join('|').contains(QLatin1String(each.reason)))
+            << each.reason << records.join('|').toStdString();
+        EXPECT_EQ(files(), before) << each.reason;
+        EXPECT_EQ(tasks(), QStringList()) << each.reason;
+        EXPECT_NE(run(), QString()) << each.reason;
+    }
+}
