@@ -187,7 +187,7 @@ void compare(benchmark::State &state, const std::function<void()> &ours, const s
 void sizes(benchmark::internal::Benchmark *benchmark)
 {
     benchmark->UseManualTime()->Unit(benchmark::kMillisecond);
-    benchmark->Args({0, 0})->Args({20, 250})->Args({50, 250})->Args({200, 250})->Args({2000, 250});
+    benchmark->Args({0, 0})->Args({50, 250})->Args({100, 250})->Args({200, 250})->Args({2000, 250});
     benchmark->MinTime(2);
 }
 
