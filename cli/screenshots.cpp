@@ -156,20 +156,18 @@ void takeHome(Camera &camera)
         camera.fail(QStringLiteral("the dialogs of import and export did not come up"));
 }
 
-/// What a touch on a number field brings up.
-void takeKeypad(Camera &camera)
+/// What a touch on a field brings up.
+void takeKeys(Camera &camera, QLineEdit *field, const QString &name)
 {
     auto *settings = nexo::SettingManager::instance();
     settings->setOverride(QStringLiteral("touch"), QStringLiteral("true"));
-    if (auto *field = control<QAbstractSpinBox>(camera, QStringLiteral("spnLength"))) {
-        camera.takeDialog(
-            [field] {
-                QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 5), Qt::LeftButton, Qt::NoButton,
-                                    Qt::NoModifier);
-                QApplication::sendEvent(field->findChild<QLineEdit *>(), &release);
-            },
-            QStringLiteral("keypad"));
-    }
+    camera.takeDialog(
+        [field] {
+            QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 5), Qt::LeftButton, Qt::NoButton,
+                                Qt::NoModifier);
+            QApplication::sendEvent(field, &release);
+        },
+        name);
     settings->setOverride(QStringLiteral("touch"), QString());
 }
 
@@ -215,8 +213,12 @@ void takeLayers(Camera &camera)
 
 void takeDialogsOfFrame(Camera &camera, const QString &frame)
 {
-    if (frame == QLatin1String("product"))
-        takeKeypad(camera);
+    if (frame == QLatin1String("product")) {
+        if (auto *number = control<QAbstractSpinBox>(camera, QStringLiteral("spnLength")))
+            takeKeys(camera, number->findChild<QLineEdit *>(), QStringLiteral("keypad"));
+        if (auto *text = control<QLineEdit>(camera, QStringLiteral("edtDesc")))
+            takeKeys(camera, text, QStringLiteral("keyboard"));
+    }
     if (frame == QLatin1String("layers"))
         takeLayers(camera);
     if (frame != QLatin1String("patterns"))

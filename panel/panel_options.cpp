@@ -30,7 +30,7 @@ constexpr OptionText kOptions[] = {
     {"data", QT_TRANSLATE_NOOP("panel::Options", "Folder of the stored data, settings and logs."), "FOLDER"},
     {"workspace", QT_TRANSLATE_NOOP("panel::Options", "Controller workspace."), "FOLDER"},
     {"language", QT_TRANSLATE_NOOP("panel::Options", "en, cn, ru, jp or kr."), "LANGUAGE"},
-    {"touch", QT_TRANSLATE_NOOP("panel::Options", "Number fields open a keypad."), nullptr},
+    {"touch", QT_TRANSLATE_NOOP("panel::Options", "Fields that are touched open a keypad or keyboard."), nullptr},
     {"plugin", QT_TRANSLATE_NOOP("panel::Options", "Plug-in library to load; may be given several times."),
      "FILE"},
     {"examples",

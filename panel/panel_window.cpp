@@ -10,6 +10,7 @@
 #include "panel/navigator.h"
 #include "panel/problem_page.h"
 #include "panel/status_strip.h"
+#include "panel/text_keyboard.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -48,6 +49,7 @@ PanelWindow::PanelWindow(host::HostSession *session, PanelPresenter *presenter, 
     connect(status_, &StatusStrip::controllerWanted, this, [this] { openPage(kControllerPage); });
     connect(center_, &bwaf::CenterWidget::currentPageChanged, navigator_, &Navigator::setCurrentPage);
     presenter->setWindow(this);
+    new TextKeyboardOpener(this);
     openFirstPage();
 }
 

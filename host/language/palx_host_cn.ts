@@ -366,6 +366,49 @@
     </message>
 </context>
 <context>
+    <name>TextKeyboard</name>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Delete the letter before</source>
+        <translation>删除前一个字符</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Clear the text</source>
+        <translation>清除文本</translation>
+    </message>
+    <message>
+        <source>Capital letters</source>
+        <translation>大写字母</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>To the left</source>
+        <translation>向左</translation>
+    </message>
+    <message>
+        <source>To the right</source>
+        <translation>向右</translation>
+    </message>
+</context>
+<context>
     <name>bwaf::BModule</name>
     <message>
         <source>The data of the module %1 is incomplete: %2</source>
@@ -2053,10 +2096,6 @@
         <translation>en、cn、ru、jp 或 kr。</translation>
     </message>
     <message>
-        <source>Number fields open a keypad.</source>
-        <translation>数字字段打开数字键盘。</translation>
-    </message>
-    <message>
         <source>Plug-in library to load; may be given several times.</source>
         <translation>要加载的插件库；可多次指定。</translation>
     </message>
@@ -2083,6 +2122,10 @@
     <message>
         <source>Unknown controller &quot;%1&quot;; there are inprocess, spawn, none and HOST:PORT.</source>
         <translation>未知控制器“%1”；可用：inprocess、spawn、none 和 HOST:PORT。</translation>
+    </message>
+    <message>
+        <source>Fields that are touched open a keypad or keyboard.</source>
+        <translation>触摸字段时打开数字键盘或文字键盘。</translation>
     </message>
 </context>
 <context>

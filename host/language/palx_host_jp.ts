@@ -366,6 +366,49 @@
     </message>
 </context>
 <context>
+    <name>TextKeyboard</name>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Delete the letter before</source>
+        <translation>前の文字を削除</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>クリア</translation>
+    </message>
+    <message>
+        <source>Clear the text</source>
+        <translation>テキストを消去</translation>
+    </message>
+    <message>
+        <source>Capital letters</source>
+        <translation>大文字</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>スペース</translation>
+    </message>
+    <message>
+        <source>To the left</source>
+        <translation>左へ</translation>
+    </message>
+    <message>
+        <source>To the right</source>
+        <translation>右へ</translation>
+    </message>
+</context>
+<context>
     <name>bwaf::BModule</name>
     <message>
         <source>The data of the module %1 is incomplete: %2</source>
@@ -2053,10 +2096,6 @@
         <translation>en、cn、ru、jp、kr のいずれか。</translation>
     </message>
     <message>
-        <source>Number fields open a keypad.</source>
-        <translation>数値欄でテンキーを開く。</translation>
-    </message>
-    <message>
         <source>Plug-in library to load; may be given several times.</source>
         <translation>読み込むプラグインライブラリ。複数回指定できます。</translation>
     </message>
@@ -2083,6 +2122,10 @@
     <message>
         <source>Unknown controller &quot;%1&quot;; there are inprocess, spawn, none and HOST:PORT.</source>
         <translation>不明なコントローラ「%1」。使えるのは inprocess、spawn、none、HOST:PORT です。</translation>
+    </message>
+    <message>
+        <source>Fields that are touched open a keypad or keyboard.</source>
+        <translation>触れた欄にテンキーまたはキーボードを開きます。</translation>
     </message>
 </context>
 <context>

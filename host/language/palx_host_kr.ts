@@ -366,6 +366,49 @@
     </message>
 </context>
 <context>
+    <name>TextKeyboard</name>
+    <message>
+        <source>Text</source>
+        <translation>텍스트</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Delete the letter before</source>
+        <translation>앞 글자 삭제</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>지우기</translation>
+    </message>
+    <message>
+        <source>Clear the text</source>
+        <translation>텍스트 지우기</translation>
+    </message>
+    <message>
+        <source>Capital letters</source>
+        <translation>대문자</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>공백</translation>
+    </message>
+    <message>
+        <source>To the left</source>
+        <translation>왼쪽으로</translation>
+    </message>
+    <message>
+        <source>To the right</source>
+        <translation>오른쪽으로</translation>
+    </message>
+</context>
+<context>
     <name>bwaf::BModule</name>
     <message>
         <source>The data of the module %1 is incomplete: %2</source>
@@ -2053,10 +2096,6 @@
         <translation>en, cn, ru, jp 또는 kr.</translation>
     </message>
     <message>
-        <source>Number fields open a keypad.</source>
-        <translation>숫자 입력란에서 키패드를 엽니다.</translation>
-    </message>
-    <message>
         <source>Plug-in library to load; may be given several times.</source>
         <translation>불러올 플러그인 라이브러리. 여러 번 지정할 수 있습니다.</translation>
     </message>
@@ -2083,6 +2122,10 @@
     <message>
         <source>Unknown controller &quot;%1&quot;; there are inprocess, spawn, none and HOST:PORT.</source>
         <translation>알 수 없는 컨트롤러 &quot;%1&quot;. 사용 가능: inprocess, spawn, none, HOST:PORT.</translation>
+    </message>
+    <message>
+        <source>Fields that are touched open a keypad or keyboard.</source>
+        <translation>필드를 누르면 숫자 키패드나 키보드가 열립니다.</translation>
     </message>
 </context>
 <context>

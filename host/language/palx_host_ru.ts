@@ -366,6 +366,49 @@
     </message>
 </context>
 <context>
+    <name>TextKeyboard</name>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Delete the letter before</source>
+        <translation>Удалить символ слева</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Clear the text</source>
+        <translation>Очистить текст</translation>
+    </message>
+    <message>
+        <source>Capital letters</source>
+        <translation>Заглавные буквы</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Пробел</translation>
+    </message>
+    <message>
+        <source>To the left</source>
+        <translation>Влево</translation>
+    </message>
+    <message>
+        <source>To the right</source>
+        <translation>Вправо</translation>
+    </message>
+</context>
+<context>
     <name>bwaf::BModule</name>
     <message>
         <source>The data of the module %1 is incomplete: %2</source>
@@ -2053,10 +2096,6 @@
         <translation>en, cn, ru, jp или kr.</translation>
     </message>
     <message>
-        <source>Number fields open a keypad.</source>
-        <translation>Числовые поля открывают цифровую клавиатуру.</translation>
-    </message>
-    <message>
         <source>Plug-in library to load; may be given several times.</source>
         <translation>Загружаемая библиотека расширения; можно указать несколько раз.</translation>
     </message>
@@ -2083,6 +2122,10 @@
     <message>
         <source>Unknown controller &quot;%1&quot;; there are inprocess, spawn, none and HOST:PORT.</source>
         <translation>Неизвестный контроллер «%1»; есть inprocess, spawn, none и HOST:PORT.</translation>
+    </message>
+    <message>
+        <source>Fields that are touched open a keypad or keyboard.</source>
+        <translation>Касание поля открывает цифровую или буквенную клавиатуру.</translation>
     </message>
 </context>
 <context>
