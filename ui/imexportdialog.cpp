@@ -263,6 +263,10 @@ void ImExportDialog::exportTicked()
 {
     if (file_.isEmpty())
         return tellFault(tr("Export path can not be empty!"));
+    if (const QString problem =
+            xFileDialog::targetProblem(QFileInfo(file_).path(), QFileInfo(file_).fileName());
+        !problem.isEmpty())
+        return tellFault(problem);
     const QPointer<ImExportDialog> self(this);
     const Node prototype = templateStack(list_);
     const Node tempList = palx::makeTempList(list_->node(), &prototype, model_->ticked());

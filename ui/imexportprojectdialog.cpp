@@ -11,6 +11,7 @@
 #include "ui/long_work.h"
 #include "ui/xfile_dialog.h"
 #include "ui_imexportprojectdialog.h"
+#include "workstation/config_log.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -39,6 +40,12 @@ QString rememberedFolder(const char *item)
 void rememberFolder(const char *item, const QString &folder)
 {
     m("quill.help.file_path")->set(nullptr, item, folder, true);
+}
+
+QString replacesText(const QFileInfo &archive)
+{
+    return ImExportProjectDialog::tr("Replaces %1 of %2")
+        .arg(archive.fileName(), archive.lastModified().toString(QStringLiteral("yyyy-MM-dd HH:mm")));
 }
 
 QString archiveFilter()
@@ -72,7 +79,8 @@ ImExportProjectDialog::ImExportProjectDialog(bool import, QWidget *parent, const
     connectParts();
     if (!isImport_) {
         const QString folder = rememberedFolder(kExportFolder);
-        ui_->edtTarget->setText(QFileInfo(folder).isDir() ? folder : QString());
+        const bool isThere = QFileInfo(folder).isDir() && xFileDialog::targetProblem(folder).isEmpty();
+        ui_->edtTarget->setText(isThere ? folder : QString());
         listProjects();
     }
     showState();
@@ -161,6 +169,8 @@ void ImExportProjectDialog::listArchives(const QStringList &archives)
             if (progress.isCancelled())
                 return;
             const QString named = palx::planImport({archive}, OnClash::Rename).first().problem;
+            if (isFine && named.isEmpty())
+                why = palx::projectProblem(content);
             why = named.isEmpty() ? why : named;
             rows.append({{QFileInfo(archive).fileName()}, archive, why, isFine && why.isEmpty()});
         }
@@ -229,19 +239,29 @@ void ImExportProjectDialog::showExportPlan()
 {
     const QString target = ui_->edtTarget->text();
     QVector<ExchangeFate> fates;
+    QStringList names;
+    for (const ExchangeTableModel::Row &row : model_->rows())
+        names.append(QFileInfo(palx::archivePath(target, row.item)).fileName());
+    const QStringList problems =
+        target.isEmpty() ? QStringList() : xFileDialog::targetProblems(target, names);
     for (const ExchangeTableModel::Row &row : model_->rows()) {
         const QFileInfo archive(palx::archivePath(target, row.item));
+        const QString problem = problems.value(fates.size());
         if (!row.isTicked)
             fates.append({ExchangeFate::Stays, tr("Not exported")});
+        else if (!problem.isEmpty())
+            fates.append({ExchangeFate::Impossible, problem});
         else if (target.isEmpty() || !archive.exists())
             fates.append({ExchangeFate::Comes, tr("New file %1").arg(archive.fileName())});
         else
-            fates.append({ExchangeFate::Replaces,
-                          tr("Replaces %1 of %2")
-                              .arg(archive.fileName(),
-                                   locale().toString(archive.lastModified(), QLocale::ShortFormat))});
+            fates.append({ExchangeFate::Replaces, replacesText(archive)});
     }
     model_->setFates(fates);
+    const QFileInfo templates(palx::archivePath(target, QStringLiteral("mod")));
+    const bool isReplacing = !target.isEmpty() && templates.exists();
+    ui_->chbProjectTemplates->setText(isReplacing ? tr("Project templates") + QStringLiteral(" - ") +
+                                                        replacesText(templates)
+                                                  : tr("Project templates"));
 }
 
 void ImExportProjectDialog::showState()
@@ -255,11 +275,18 @@ void ImExportProjectDialog::showState()
     ui_->btnNone->setEnabled(!model_->tickedItems().isEmpty());
 }
 
-void ImExportProjectDialog::showUndo()
+void ImExportProjectDialog::showUndo(const QStringList &failed)
 {
     const QStringList made = palx::lastImported();
-    if (isImport_ && !made.isEmpty())
-        ui_->message->showUndo(tr("Imported: %1").arg(made.join(QStringLiteral(", "))), State::Running);
+    if (!isImport_ || made.isEmpty())
+        return;
+    QStringList files;
+    for (const QString &archive : failed)
+        files.append(QFileInfo(archive).fileName());
+    QString text = tr("Imported: %1").arg(made.join(QStringLiteral(", ")));
+    if (!files.isEmpty())
+        text += QStringLiteral(". ") + tr("Not imported: %1").arg(files.join(QStringLiteral(", ")));
+    ui_->message->showUndo(text, files.isEmpty() ? State::Running : State::Attention);
 }
 
 // ---------------------------------------------------------------- doing it
@@ -289,6 +316,11 @@ void ImExportProjectDialog::work()
 
 void ImExportProjectDialog::exportChosen()
 {
+    const QString problem = xFileDialog::targetProblem(ui_->edtTarget->text());
+    if (!ui_->edtTarget->text().isEmpty() && !problem.isEmpty()) {
+        palx::recordCfgLog(problem, true);
+        return ui_->message->showMessage(problem, State::Fault);
+    }
     const palx::ExportRequest request{model_->tickedItems(), ui_->chbProjectTemplates->isChecked(),
                                       ui_->edtTarget->text(), programFolder_};
     bool isDone = false;
@@ -311,20 +343,36 @@ void ImExportProjectDialog::importChosen()
 {
     const palx::ImportRequest request = importRequest();
     bool isDone = false;
+    QStringList failed;
     const auto end = palx::runInSlices(this, windowTitle(), [&](palx::Progress &progress) {
-        isDone = palx::importProjects(request, &progress);
+        isDone = palx::importProjects(request, &progress, &failed);
     });
     Q_EMIT projectsChanged();
     if (end == palx::WorkEnd::Cancelled)
         return ui_->message->showMessage(tr("Cancelled: everything is as it was before."), State::Stopped);
-    if (isDone) {
+    if (isDone)
         ui_->rBtnNone->setChecked(true);
-        model_->setRows({});
-    }
+    keepFailed(failed);
     showPlan();
-    if (!isDone && palx::lastImported().isEmpty())
-        ui_->message->showMessage(tr("Nothing was imported; the log says why."), State::Fault);
-    showUndo();
+    if (isDone || failed.size() < request.archives.size())
+        return showUndo(failed);
+    ui_->message->showMessage(tr("Nothing was imported; the log says why."), State::Fault);
+}
+
+/// What came is off the list, or it would come once more under another name.
+void ImExportProjectDialog::keepFailed(const QStringList &archives)
+{
+    QVector<ExchangeTableModel::Row> rows;
+    for (ExchangeTableModel::Row row : model_->rows()) {
+        const bool isFailed = archives.contains(row.item);
+        if (row.isTicked && !isFailed)
+            continue;
+        if (isFailed)
+            row.problem = tr("It was not imported; the log says why");
+        row.isTicked = false;
+        rows.append(row);
+    }
+    model_->setRows(rows);
 }
 
 void ImExportProjectDialog::undo()

@@ -47,7 +47,8 @@ private:
     void showImportPlan();
     void showExportPlan();
     void showState();
-    void showUndo();
+    void showUndo(const QStringList &failed = QStringList());
+    void keepFailed(const QStringList &archives);
     void exportChosen();
     void importChosen();
     void undo();

@@ -45,7 +45,12 @@ bool undoChange(const ImportUndo::Change &change)
 
 } // namespace
 
-ImportUndo::ImportUndo() : robotFolder_(robotFolder()) {}
+ImportUndo::ImportUndo() : robotFolder_(robotFolder()), generation_(last() ? last()->generation_ + 1 : 0) {}
+
+QString ImportUndo::nextKept()
+{
+    return QStringLiteral("undo-%1-%2").arg(generation_).arg(++kept_);
+}
 
 ImportUndo *ImportUndo::last()
 {
@@ -69,7 +74,8 @@ QStringList ImportUndo::names() const
     for (const Change &change : changes_)
         names.append(change.name);
     if (templates_.isMade())
-        names.append(QStringLiteral("mod"));
+        names.append(templates_.isReset() ? ProjectText::tr("templates reset")
+                                          : ProjectText::tr("program templates"));
     return names;
 }
 

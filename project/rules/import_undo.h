@@ -37,15 +37,19 @@ public:
 
     /// Whether the robot is the one whose projects were imported.
     bool isOfThisRobot() const;
+    /// The name of a work folder for what is replaced next; another than any that is kept.
+    QString nextKept();
     void note(Change change) { changes_.push_back(std::move(change)); }
     TemplateChange &templates() { return templates_; }
-    /// The projects that were made, and "mod" for templates.
+    /// What was made, for the operator: projects by their names, and templates.
     QStringList names() const;
     /// Undoes the changes, last one first. What cannot be undone stays, after the message.
     bool undo();
 
 private:
     QString robotFolder_;
+    int generation_ = 0; ///< another than that of the import before
+    int kept_ = 0;
     std::vector<Change> changes_;
     TemplateChange templates_;
 };

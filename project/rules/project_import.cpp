@@ -28,6 +28,14 @@ namespace {
 
 enum class Outcome { Imported, Refused, Cancelled, GiveUp };
 
+/// A project's folder has one of these, and its archive the second at least.
+constexpr const char *kSigns[] = {".rlprog", "var.xml"};
+
+QString noProjectText()
+{
+    return ProjectText::tr("it holds no project");
+}
+
 bool explain(QString *why, const QString &reason)
 {
     *why = reason;
@@ -55,8 +63,13 @@ bool prepare(const QString &archive, Unpacked *unpacked, QString *why, Progress 
     const QString file = unpacked->folder + QStringLiteral("/var.xml");
     if (!QDir().mkpath(unpacked->folder))
         return explain(why, ProjectText::tr("Cannot create path: %1").arg(unpacked->folder));
-    if (!unpackArchive(archive, unpacked->folder, why, progress) ||
-        !readVariableList(file, &unpacked->variables, why) ||
+    if (!unpackArchive(archive, unpacked->folder, why, progress))
+        return false;
+    const QDir folder(unpacked->folder);
+    if (std::none_of(std::begin(kSigns), std::end(kSigns),
+                     [&](const char *sign) { return folder.exists(QLatin1String(sign)); }))
+        return explain(why, noProjectText());
+    if (!readVariableList(file, &unpacked->variables, why) ||
         !readParameterVariables(unpacked->variables, &unpacked->parameters, why))
         return false;
     orba::FormatError error;
@@ -127,7 +140,7 @@ private:
         StagedFolder old;
         const QString folder = projectFolder(plan.name);
         if (plan.isReplacing) {
-            change.kept = std::make_unique<WorkFolder>(robotFolder(), QStringLiteral("undo-%1").arg(++kept_));
+            change.kept = std::make_unique<WorkFolder>(robotFolder(), undo_->nextKept());
             if (!old.take(folder)) {
                 reportProject("warning", ProjectText::tr("Delete temp file failed!"));
                 return Outcome::GiveUp;
@@ -152,21 +165,22 @@ private:
 
     Progress *progress_;
     ImportUndo *undo_;
-    int kept_ = 0;
 };
 
-/// Archives are planned one by one, because one that cannot be imported leaves its name free.
-bool importArchives(const ImportRequest &request, ImportUndo *undo, Progress *progress)
+/// Archives are planned one by one, because one that cannot be imported leaves its name free. False when the import ends here.
+bool importArchives(const ImportRequest &request, ImportUndo *undo, QStringList *failed, Progress *progress)
 {
     Import import(progress, undo);
-    bool isAllImported = true;
-    for (const QString &archive : request.archives) {
-        const Outcome outcome = import.take(planImport({archive}, request.onClash).first());
-        isAllImported = isAllImported && outcome == Outcome::Imported;
-        if (outcome == Outcome::Cancelled || outcome == Outcome::GiveUp)
+    for (int i = 0; i < request.archives.size(); ++i) {
+        const Outcome outcome = import.take(planImport({request.archives.at(i)}, request.onClash).first());
+        if (outcome == Outcome::Cancelled || outcome == Outcome::GiveUp) {
+            *failed += request.archives.mid(i);
             return false;
+        }
+        if (outcome != Outcome::Imported)
+            failed->append(request.archives.at(i));
     }
-    return isAllImported;
+    return true;
 }
 
 bool importTemplates(const ImportRequest &request, ImportUndo *undo, Progress *progress)
@@ -233,16 +247,26 @@ QVector<ImportPlan> planImport(const QStringList &archives, OnClash onClash)
     return plans;
 }
 
-bool importProjects(const ImportRequest &request, Progress *progress)
+QString projectProblem(const ArchiveContent &content)
 {
+    for (const ArchiveEntry &entry : content.entries)
+        for (const char *sign : kSigns)
+            if (entry.name == QLatin1String(sign))
+                return QString();
+    return noProjectText();
+}
+
+bool importProjects(const ImportRequest &request, Progress *progress, QStringList *failed)
+{
+    QStringList unwanted;
+    failed = failed ? failed : &unwanted;
+    failed->clear();
     if (!isAllowed(request))
         return false;
-    forgetLastImport();
     recoverExchange(request.programFolder);
     auto undo = std::make_unique<ImportUndo>();
-    bool isDone = importArchives(request, undo.get(), progress);
-    if (isDone || !progress->isCancelled())
-        isDone = importTemplates(request, undo.get(), progress) && isDone;
+    const bool isDone = importArchives(request, undo.get(), failed, progress) &&
+                        importTemplates(request, undo.get(), progress) && failed->isEmpty();
     if (!progress->enterLastPart()) {
         undo->undo();
         return false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orba/export.h"
+#include "project/rules/archive_check.h"
 #include "project/rules/template_exchange.h"
 #include "workstation/progress.h"
 
@@ -29,6 +30,9 @@ struct ImportPlan
 /// What would become of archives that are imported in this order. The name of a project is its archive's without ".zip".
 PALX_API QVector<ImportPlan> planImport(const QStringList &archives, OnClash onClash);
 
+/// Why an archive whose content is fine is none of a project; empty when it is.
+PALX_API QString projectProblem(const ArchiveContent &content);
+
 struct ImportRequest
 {
     QStringList archives;
@@ -42,10 +46,12 @@ struct ImportRequest
 /// and everybody's permissions, and then takes its place by one renaming; a project that it replaces is kept for
 /// `undoLastImport`. Before the end of it no project is touched: whatever fails, or a killed process at its next start, leaves the
 /// old project with its record. An archive that cannot be imported is told and the next one taken. False when one was not
-/// imported, or the import was cancelled: everything is then as it was before.
+/// imported, or the import was cancelled: everything is then as it was before. A project that cannot be taken out of the way ends the
+/// import. `failed` gets the archives that were not imported. What the import before kept to be undone goes when this one
+/// brought something.
 ///
 /// GUI thread. Asks `progress` often, and events may be handled meanwhile.
-PALX_API bool importProjects(const ImportRequest &request, Progress *progress);
+PALX_API bool importProjects(const ImportRequest &request, Progress *progress, QStringList *failed = nullptr);
 
 /// Puts right what an import, an export or another operation left that was killed in the middle, templates included. See
 /// `recoverProjects`.

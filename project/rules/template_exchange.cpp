@@ -1,13 +1,17 @@
 #include "project/rules/template_exchange.h"
 
 #include "project/rules/archive_unpack.h"
+#include "project/rules/program_template.h"
 #include "project/rules/project_messages.h"
 #include "project/rules/staged_folder.h"
+#include "project/rules/work_folder.h"
 #include "workstation/config_log.h"
 #include "workstation/plugin_log.h"
 
 #include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace palx {
 
@@ -18,15 +22,33 @@ QString modFolder(const QString &programFolder)
     return programFolder + QStringLiteral("/mod");
 }
 
-/// Beside "mod", so that one renaming brings a folder there.
-QString keptFolder(const QString &programFolder)
+// Beside "mod", so that one renaming brings a folder there. The process that keeps it follows.
+const QString kBefore = QStringLiteral(".palx-mod-before-");
+const QString kNew = QStringLiteral(".palx-mod-new-");
+
+/// Of this process; what the import before keeps has another number.
+QString freeBefore(const QString &programFolder)
 {
-    return programFolder + QStringLiteral("/.palx-mod-before");
+    int number = 0;
+    const auto path = [&] {
+        return programFolder + QLatin1Char('/') + ofThisProcess(kBefore, QString::number(number));
+    };
+    while (isTaken(path()))
+        ++number;
+    return path();
 }
 
-QString unpackedFolder(const QString &programFolder)
+QStringList foldersOf(const QString &programFolder, const QString &prefix)
 {
-    return programFolder + QStringLiteral("/.palx-mod-new");
+    return QDir(programFolder).entryList({prefix + QLatin1Char('*')}, QDir::Dirs | QDir::Hidden, QDir::Name);
+}
+
+bool hasTemplates(const QString &root)
+{
+    const QStringList paths = programTemplates();
+    return std::any_of(paths.begin(), paths.end(), [&root](const QString &path) {
+        return !path.isEmpty() && QFileInfo(root + path).isFile();
+    });
 }
 
 bool isGone(const QString &folder)
@@ -53,10 +75,11 @@ bool warn(const QString &archive, const QString &why)
 bool TemplateChange::keepOld(const QString &programFolder)
 {
     const QString mod = modFolder(programFolder);
-    const QString kept = keptFolder(programFolder);
-    if (!isGone(kept) || (isTaken(mod) && !QDir().rename(mod, kept)))
+    const QString kept = isTaken(mod) ? freeBefore(programFolder) : QString();
+    if (!kept.isEmpty() && !QDir().rename(mod, kept))
         return false;
     programFolder_ = programFolder;
+    kept_ = kept;
     return true;
 }
 
@@ -67,6 +90,9 @@ bool TemplateChange::reset(const QString &programFolder)
         writePluginLog(text);
         return reportProject("warning", text);
     }
+    isReset_ = true;
+    if (kept_.isEmpty())
+        programFolder_.clear(); // nothing was there
     writePluginLog(QStringLiteral("Remove mod dir success!"));
     reportProject("info", ProjectText::tr("Reset project templates success!"));
     return true;
@@ -75,7 +101,7 @@ bool TemplateChange::reset(const QString &programFolder)
 bool TemplateChange::replace(const QString &programFolder, const QString &archive, Progress *progress)
 {
     const QString mod = modFolder(programFolder);
-    const QString unpacked = unpackedFolder(programFolder);
+    const QString unpacked = programFolder + QLatin1Char('/') + ofThisProcess(kNew, QStringLiteral("0"));
     writePluginLog(QStringLiteral("mod_dir_path:") + mod);
     writePluginLog(QStringLiteral("template_path:") + archive);
     QString why;
@@ -83,6 +109,10 @@ bool TemplateChange::replace(const QString &programFolder, const QString &archiv
     if (!isDone)
         why = ProjectText::tr("Cannot create path: %1").arg(unpacked);
     isDone = isDone && unpackArchive(archive, unpacked, &why, progress);
+    if (isDone && !hasTemplates(topOf(unpacked))) {
+        isDone = false;
+        why = ProjectText::tr("it holds no program templates");
+    }
     if (isDone) {
         chmodFiles(QStringList(unpacked) + recursiveAllFiles(unpacked));
         isDone = keepOld(programFolder) && QDir().rename(topOf(unpacked), mod);
@@ -105,8 +135,9 @@ bool TemplateChange::undo()
     if (!isMade())
         return true;
     const QString mod = modFolder(programFolder_);
-    const QString kept = keptFolder(programFolder_);
-    if (!isGone(mod) || (isTaken(kept) && !QDir().rename(kept, mod)))
+    if (!kept_.isEmpty() && !isTaken(kept_)) // or there would be none at all
+        return false;
+    if (!isGone(mod) || (!kept_.isEmpty() && !QDir().rename(kept_, mod)))
         return false;
     programFolder_.clear();
     return true;
@@ -114,20 +145,28 @@ bool TemplateChange::undo()
 
 void TemplateChange::forget()
 {
-    if (isMade())
-        isGone(keptFolder(programFolder_));
+    if (isMade() && !kept_.isEmpty())
+        isGone(kept_);
     programFolder_.clear();
 }
 
 void TemplateChange::recover(const QString &programFolder)
 {
     const QString mod = modFolder(programFolder);
-    const QString kept = keptFolder(programFolder);
-    const QString unpacked = unpackedFolder(programFolder);
-    if (isTaken(kept) && isTaken(unpacked) && !isTaken(mod)) // the new one had not come yet
-        QDir().rename(kept, mod);
-    isGone(kept);
-    isGone(unpacked);
+    const auto path = [&](const QString &name) { return programFolder + QLatin1Char('/') + name; };
+    const QStringList unpacked = foldersOf(programFolder, kNew);
+    for (const QString &kept : foldersOf(programFolder, kBefore)) {
+        if (isOfRunningProcess(kBefore, kept))
+            continue;
+        const QString process = kept.mid(kBefore.size()).section(QLatin1Char('-'), 0, 0);
+        const bool wasReplacing = !unpacked.filter(kNew + process + QLatin1Char('-')).isEmpty();
+        if (wasReplacing && !isTaken(mod)) // the new one had not come yet
+            QDir().rename(path(kept), mod);
+        isGone(path(kept));
+    }
+    for (const QString &each : unpacked)
+        if (!isOfRunningProcess(kNew, each))
+            isGone(path(each));
 }
 
 } // namespace palx

@@ -13,22 +13,25 @@ namespace palx {
 
 namespace {
 
-const QString kPrefix = QStringLiteral(".work-"); // followed by the process and a name; no robot's id begins with a dot
-
-bool isAlive(const QString &folder)
-{
-    const qint64 process = folder.mid(kPrefix.size()).section(QLatin1Char('-'), 0, 0).toLongLong();
-    return process > 0 && (::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM);
-}
+const QString kPrefix =
+    QStringLiteral(".work-"); // followed by the process and a name; no robot's id begins with a dot
 
 } // namespace
 
+QString ofThisProcess(const QString &prefix, const QString &name)
+{
+    return QStringLiteral("%1%2-%3").arg(prefix).arg(QCoreApplication::applicationPid()).arg(name);
+}
+
+bool isOfRunningProcess(const QString &prefix, const QString &folder)
+{
+    const qint64 process = folder.mid(prefix.size()).section(QLatin1Char('-'), 0, 0).toLongLong();
+    return process > 0 && (::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM);
+}
+
 WorkFolder::WorkFolder(const QString &robotFolder, const QString &name)
 {
-    const QString path = QStringLiteral("%1/%2%3-%4")
-                             .arg(stagingFolder(robotFolder), kPrefix)
-                             .arg(QCoreApplication::applicationPid())
-                             .arg(name);
+    const QString path = stagingFolder(robotFolder) + QLatin1Char('/') + ofThisProcess(kPrefix, name);
     if (!robotFolder.isEmpty() && (!isTaken(path) || removeFolder(path)) && QDir().mkpath(path))
         path_ = path;
 }
@@ -47,7 +50,7 @@ void removeAbandonedWork(const QString &robotFolder)
     if (robotFolder.isEmpty() || !staging.exists())
         return;
     for (const QString &name : staging.entryList({kPrefix + QLatin1Char('*')}, QDir::Dirs | QDir::Hidden))
-        if (!isAlive(name))
+        if (!isOfRunningProcess(kPrefix, name))
             removeFolder(staging.filePath(name));
     QDir().rmdir(staging.path());
 }

@@ -27,6 +27,11 @@ private:
     QString path_;
 };
 
+/// The name of a folder that tells whose it is.
+QString ofThisProcess(const QString &prefix, const QString &name);
+/// Whether the process that named a folder so has not ended.
+bool isOfRunningProcess(const QString &prefix, const QString &folder);
+
 /// Removes the work folders beside the robot's folder whose processes have ended.
 PALX_API void removeAbandonedWork(const QString &robotFolder);
 

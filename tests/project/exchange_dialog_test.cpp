@@ -60,7 +60,7 @@ protected:
 TEST_F(ExchangeDialogTest, ImportsWhatIsChosenAndTakesItBack)
 {
     ASSERT_TRUE(exportNames({"P"}));
-    putArchive(QStringLiteral("N.zip"), {{"a", "1", 0, 0, 0, {}, {}, 0}});
+    putArchive(QStringLiteral("N.zip"), {{".rlprog", "{}", 0, 0, 0, {}, {}, 0}});
     putArchive(QStringLiteral("bad.zip"), {{"../a", "1", 0, 0, 0, {}, {}, 0}});
     takeMessages();
     ScriptedFiles files({{onDisk("P.zip"), onDisk("N.zip"), onDisk("bad.zip")}});
@@ -86,6 +86,20 @@ TEST_F(ExchangeDialogTest, ImportsWhatIsChosenAndTakesItBack)
     click("btnAction");
     EXPECT_EQ(told(), QStringLiteral("The last import was taken back."));
     EXPECT_EQ(this->files(), before);
+}
+
+TEST_F(ExchangeDialogTest, OffersOnlyWhatDidNotComeOnceMore)
+{
+    ASSERT_TRUE(exportNames({"P"}));
+    putArchive(QStringLiteral("bad.zip"), {{"var.xml", "<node", 0, 0, 0, {}, {}, 0}});
+    putArchive(QStringLiteral("photos.zip"), {{"a.png", "1", 0, 0, 0, {}, {}, 0}});
+    ScriptedFiles files({{onDisk("P.zip"), onDisk("bad.zip"), onDisk("photos.zip")}});
+    open(true);
+    click("btnFiles");
+    EXPECT_EQ(shown(), QStringList({"+ Renamed to P(1)", "+ New project bad", "- it holds no project"}));
+    click("btnWork");
+    EXPECT_EQ(told(), QStringLiteral("Imported: P(1). Not imported: bad.zip"));
+    EXPECT_EQ(shown(), QStringList({"- It was not imported; the log says why", "- it holds no project"}));
 }
 
 TEST_F(ExchangeDialogTest, ExportsWhatIsTickedAndSaysWhatItReplaces)

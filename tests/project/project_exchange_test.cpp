@@ -101,6 +101,7 @@ TEST_F(ProjectExchangeTest, RefusedArchivesChangeNothing)
         const char *reason;
     } cases[] = {
         {"../P", "", "leads out of the folder"},
+        {"photo.png", "1", "it holds no project"},
         {"var.xml", "<node", "var.xml"},
         {"var.xml", "<node type=\"int\">3</node>", "holds no list of variables"},
         {"var.xml", seven, "scheme_layout is none that a project can have"},
@@ -118,9 +119,17 @@ TEST_F(ProjectExchangeTest, RefusedArchivesChangeNothing)
         EXPECT_EQ(record(QStringLiteral("P")), QStringLiteral("P 2 1 1 1 1 3 4"));
         EXPECT_TRUE(palx::lastImported().isEmpty());
     }
-    putArchive(QStringLiteral("B.zip"), {{"b", "1", 0, 0, 0, {}, {}, 0}});
+    putArchive(QStringLiteral("B.zip"), {{".rlprog", "{}", 0, 0, 0, {}, {}, 0}});
     EXPECT_FALSE(import({"P.zip", "B.zip"}, OnClash::Replace)); // but the others come
     EXPECT_EQ(palx::lastImported(), QStringList("B"));
+    EXPECT_TRUE(import({"B.zip"}, OnClash::Replace));
+    const auto after = files();
+    EXPECT_FALSE(import({"P.zip"}, OnClash::Replace));
+    EXPECT_EQ(palx::lastImported(), QStringList("B"))
+        << "what brings nothing leaves the last one to be taken back";
+    EXPECT_EQ(files(), after);
+    EXPECT_TRUE(palx::undoLastImport());
+    EXPECT_EQ(content("B/.rlprog"), QByteArray("{}"));
 }
 
 TEST_F(ProjectExchangeTest, ExportEndsWithTheFirstFailure)

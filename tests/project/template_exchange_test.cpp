@@ -4,6 +4,7 @@
 
 #include "project/rules/program_template.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -64,10 +65,10 @@ TEST_F(TemplateExchangeTest, BuiltInTemplatesGoOutAndComeBackAsFiles)
 TEST_F(TemplateExchangeTest, TheContentsOfASingleFolderMoveUp)
 {
     putTemplate(QStringLiteral("/old.mod"), "old");
-    putArchive(QStringLiteral("t.zip"),
-               {{"top/a.mod", "a", 0, 0, 0, {}, {}, 0}, {"top/deep/b.mod", "b", 0, 0, 0, {}, {}, 0}});
+    putArchive(QStringLiteral("t.zip"), {{"top/a.mod", "a", 0, 0, 0, {}, {}, 0},
+                                         {"top/normal/task_stop.mod", "b", 0, 0, 0, {}, {}, 0}});
     ASSERT_TRUE(run(TemplateAction::Custom, QStringLiteral("t.zip")));
-    EXPECT_EQ(names(mod()), QStringList({"a.mod", "deep", "deep/b.mod"}));
+    EXPECT_EQ(names(mod()), QStringList({"a.mod", "normal", "normal/task_stop.mod"}));
     palx::forgetLastImport();
     EXPECT_EQ(QDir(programs()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList("mod"));
@@ -88,7 +89,8 @@ TEST_F(TemplateExchangeTest, ARefusedArchiveLeavesTheTemplates)
     putTemplate(QStringLiteral("/old.mod"), "old");
     putArchive(QStringLiteral("t.zip"),
                {{"a.mod", "text", 0, 0, 0, {}, {}, 0}, {"../b.mod", "text", 0, 0, 0, {}, {}, 0}});
-    for (const char *name : {"t.zip", "none.zip"}) {
+    putArchive(QStringLiteral("project.zip"), {{"task0/main.mod", "text", 0, 0, 0, {}, {}, 0}});
+    for (const char *name : {"t.zip", "none.zip", "project.zip"}) {
         EXPECT_FALSE(run(TemplateAction::Custom, QLatin1String(name)));
         EXPECT_EQ(takeMessages().last(), QStringLiteral("warning: Import project templates failed!"));
         EXPECT_EQ(names(programs()), QStringList({"mod", "mod/old.mod"}));
@@ -99,8 +101,12 @@ TEST_F(TemplateExchangeTest, ARefusedArchiveLeavesTheTemplates)
 TEST_F(TemplateExchangeTest, AnInterruptedReplacementIsPutRight)
 {
     putTemplate(QStringLiteral("/old.mod"), "old");
-    ASSERT_TRUE(QDir().rename(mod(), programs() + "/.palx-mod-before"));
-    ASSERT_TRUE(QDir().mkpath(programs() + "/.palx-mod-new/top"));
+    const QString killed = QStringLiteral("-999999999-0");
+    const QString kept = QStringLiteral(".palx-mod-before-%1-7").arg(QCoreApplication::applicationPid());
+    ASSERT_TRUE(QDir().rename(mod(), programs() + "/.palx-mod-before" + killed));
+    ASSERT_TRUE(QDir().mkpath(programs() + "/.palx-mod-new" + killed + "/top"));
+    ASSERT_TRUE(QDir().mkpath(programs() + '/' + kept));
     palx::recoverExchange(programs());
-    EXPECT_EQ(names(programs()), QStringList({"mod", "mod/old.mod"}));
+    EXPECT_EQ(names(programs()), QStringList({kept, "mod", "mod/old.mod"}))
+        << "one that runs may still undo it";
 }
