@@ -7,6 +7,7 @@
 #include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 
 namespace controller {
 
@@ -54,26 +55,46 @@ bool readFile(const QString &name, ReadFile read, Node *node, QString *why)
     return why->isEmpty();
 }
 
-/// The children of a node, whatever they were called.
+/// The children of a node, whatever they were called; a node that is not there leaves the list as it is.
 bool takeList(const Node *from, const QString &name, Node *list, QString *why)
 {
+    if (!from || from->isNull())
+        return true;
     list->reset(Node::Kind::List);
-    if (from && from->isContainer() && !from->isPacked())
+    if (from->isContainer() && !from->isPacked())
         for (int i = 0; i < from->size(); ++i)
             list->add()->assign(*from->at(i));
-    else if (from && !from->isNull())
+    else
         *why = Texts::tr("%1: there is no list").arg(name);
     return why->isEmpty();
 }
 
 /// Replaces a file whole, so that a copy never has half of it.
-bool replace(const QString &name, const QByteArray &text,
-             bool (*save)(const Node &, const QString &, FormatError *), const Node &node, QString *why)
+bool replace(const QString &name, const QByteArray &text, QString *why)
 {
-    FormatError error;
-    if (content(name) != text && !save(node, name, &error))
-        *why = error.text();
+    if (content(name) == text)
+        return true;
+    QSaveFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+        *why = QStringLiteral("%1: %2").arg(name, file.errorString());
     return why->isEmpty();
+}
+
+/// Whoever copies a project and puts in another name takes a quotation mark for the end of the text.
+QByteArray withoutQuotedMarks(const QByteArray &json)
+{
+    QByteArray text;
+    for (int i = 0; i < json.size(); ++i) {
+        const bool isEscape = json.at(i) == '\\' && i + 1 < json.size();
+        if (isEscape && json.at(i + 1) == '"')
+            text += "\\u0022";
+        else if (isEscape)
+            text += json.mid(i, 2);
+        else
+            text += json.at(i);
+        i += isEscape ? 1 : 0;
+    }
+    return text;
 }
 
 } // namespace
@@ -95,6 +116,9 @@ bool ProjectFolder::read(Node *tasks, Node *variables, Node *monitored, QString 
     why->clear();
     Node project, variableFile, monitorFile;
     Node lists[3];
+    lists[0].assign(*tasks);
+    lists[1].assign(*variables);
+    lists[2].assign(*monitored);
     const bool isRead = readFile(filePath(kTasks), &ModuleManager::readFromJson, &project, why) &&
                         readFile(filePath(kVariables), &ModuleManager::readFromXmlFile, &variableFile, why) &&
                         readFile(filePath(kMonitored), &ModuleManager::readFromJson, &monitorFile, why) &&
@@ -117,10 +141,8 @@ bool ProjectFolder::write(const QString &project, const Node &tasks, const Node 
     content.ensure(u"project_name")->setString(project);
     content.ensure(u"tasks")->assign(tasks);
     list.assign(variables);
-    return replace(filePath(kVariables), ModuleManager::toXml(list), &ModuleManager::writeToXmlFile, list,
-                   why) &&
-           replace(filePath(kTasks), ModuleManager::toJson(content, false), &ModuleManager::writeToJson,
-                   content, why);
+    return replace(filePath(kVariables), ModuleManager::toXml(list), why) &&
+           replace(filePath(kTasks), withoutQuotedMarks(ModuleManager::toJson(content, false)), why);
 }
 
 } // namespace controller

@@ -97,6 +97,11 @@ QString Projects::takeFrom(const ProjectFolder &folder)
     } else {
         QString why;
         Node *lists[] = {data.add(), data.add(), data.add()};
+        for (int i = 0; i < kMark; ++i) {
+            lists[i]->reset(Node::Kind::List);
+            if (i < before.size())
+                lists[i]->assign(*before.at(i));
+        }
         if (!folder.read(lists[0], lists[1], lists[2], &why))
             return why;
         data.add()->setString(mark);

@@ -275,6 +275,9 @@ void Station::buildProject()
     listProjects();
     if (isReady) {
         writeLists();
+        if (project().find(Projects::kLists[0])->size() == 0)
+            notice("warning",
+                   Texts::tr("The project %1 has no tasks: edit it, and they are made anew").arg(key));
         desk_.check(projectInUse());
         publishAll();
     }

@@ -1065,6 +1065,14 @@
         <source>The folder of the project %1 was exchanged while its program runs; what is in it counts when the program is stopped and started again</source>
         <translation>项目 %1 的文件夹在其程序运行时被替换；停止并重新启动程序后，文件夹中的内容才生效</translation>
     </message>
+    <message>
+        <source>The project %1 has no tasks: edit it, and they are made anew</source>
+        <translation>项目 %1 没有任务：编辑该项目即可重新生成</translation>
+    </message>
+    <message>
+        <source>the folder of the project was exchanged, and its counters with it: look at them before it runs</source>
+        <translation>项目文件夹及其计数器已被替换：运行前请检查计数器</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>

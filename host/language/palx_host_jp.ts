@@ -1065,6 +1065,14 @@
         <source>The folder of the project %1 was exchanged while its program runs; what is in it counts when the program is stopped and started again</source>
         <translation>プロジェクト %1 のフォルダーがプログラムの実行中に入れ替えられました。プログラムを停止して再び開始すると、その内容が有効になります</translation>
     </message>
+    <message>
+        <source>The project %1 has no tasks: edit it, and they are made anew</source>
+        <translation>プロジェクト %1 にタスクがありません。編集すると新しく作られます</translation>
+    </message>
+    <message>
+        <source>the folder of the project was exchanged, and its counters with it: look at them before it runs</source>
+        <translation>プロジェクトのフォルダーがカウンターごと入れ替えられました。実行前に確認してください</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>

@@ -1065,6 +1065,14 @@
         <source>The folder of the project %1 was exchanged while its program runs; what is in it counts when the program is stopped and started again</source>
         <translation>프로그램 실행 중에 프로젝트 %1의 폴더가 교체되었습니다. 프로그램을 정지했다가 다시 시작하면 그 내용이 적용됩니다</translation>
     </message>
+    <message>
+        <source>The project %1 has no tasks: edit it, and they are made anew</source>
+        <translation>프로젝트 %1에 작업이 없습니다. 편집하면 새로 만들어집니다</translation>
+    </message>
+    <message>
+        <source>the folder of the project was exchanged, and its counters with it: look at them before it runs</source>
+        <translation>프로젝트 폴더와 카운터가 교체되었습니다. 실행하기 전에 확인하십시오</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>

@@ -1065,6 +1065,14 @@
         <source>The folder of the project %1 was exchanged while its program runs; what is in it counts when the program is stopped and started again</source>
         <translation>Папка проекта %1 была заменена во время работы его программы; её содержимое вступит в силу, когда программу остановят и запустят снова</translation>
     </message>
+    <message>
+        <source>The project %1 has no tasks: edit it, and they are made anew</source>
+        <translation>В проекте %1 нет задач: измените его, и они будут созданы заново</translation>
+    </message>
+    <message>
+        <source>the folder of the project was exchanged, and its counters with it: look at them before it runs</source>
+        <translation>папка проекта была заменена, а с ней и счётчики: проверьте их перед запуском</translation>
+    </message>
 </context>
 <context>
     <name>host::ControllerLink</name>

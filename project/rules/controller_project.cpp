@@ -14,9 +14,12 @@ constexpr int kRequestMs = 1600;
 
 } // namespace
 
-void switchProject(const QString &key)
+bool switchProject(const QString &key)
 {
-    m("quill.project.cur_project")->set(nullptr, "", key);
+    ModuleObject *current = m("quill.project.cur_project");
+    const bool isCurrent = current->getString() == key;
+    current->set(nullptr, "", key);
+    return isCurrent || nexo::ControllerManager::instance()->rcConnected();
 }
 
 void removeControllerTasks(const QString &project)

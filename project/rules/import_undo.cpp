@@ -19,9 +19,9 @@ namespace {
 /// As when it is deleted: the controller must not go on with what has no folder.
 void leaveProject(const QString &name)
 {
+    removeControllerTasks(name);
     if (currentProject() != name)
         return;
-    removeControllerTasks(name);
     switchProject(QString());
     m("quill.project.rsync.push")->trigger();
 }

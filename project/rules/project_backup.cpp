@@ -8,8 +8,9 @@ namespace palx {
 
 namespace {
 
-constexpr const char *kLists[] = {"quill.project.task._list", "quill.project.var._list",
-                                  "quill.project.var_monitor._list"};
+constexpr const char *kVariables = "quill.project.var._list";
+constexpr const char *kMonitored = "quill.project.var_monitor._list";
+constexpr const char *kLists[] = {"quill.project.task._list", kVariables, kMonitored};
 
 } // namespace
 
@@ -19,7 +20,8 @@ ProjectBackup::ProjectBackup(const QString &edited)
 {
     if (edited_.isEmpty())
         return;
-    switchProject(projectKey(edited_));
+    if (!switchProject(projectKey(edited_)))
+        return;
     for (const char *list : kLists)
         lists_.add(orba::Name(QString::fromLatin1(list)))->assign(m(list)->node());
 }
@@ -32,6 +34,13 @@ ProjectBackup::~ProjectBackup()
         removeFolder(newFolder_);
     staged_.putBack();
     restoreNodes(); // which has the controller look at the folder
+}
+
+void ProjectBackup::carryVariables() const
+{
+    for (const char *list : {kVariables, kMonitored})
+        if (const orba::Node *kept = lists_.child(orba::Name(QString::fromLatin1(list))))
+            m(list)->copyFrom(*kept);
 }
 
 void ProjectBackup::noteNewFolder(const QString &name, const QString &folder)
@@ -61,7 +70,8 @@ void ProjectBackup::restoreNodes()
 
 void ProjectBackup::restoreLists()
 {
-    switchProject(projectKey(edited_));
+    if (!switchProject(projectKey(edited_)) || lists_.isNull())
+        return;
     for (const char *list : kLists)
         m(list)->copyFrom(*lists_.child(orba::Name(QString::fromLatin1(list))));
 }

@@ -20,6 +20,9 @@ public:
     ProjectBackup(const ProjectBackup &) = delete;
     ProjectBackup &operator=(const ProjectBackup &) = delete;
 
+    /// Gives the current project the variables and monitored variables of the edited one, as they were: a project that gets
+    /// another name goes on counting.
+    void carryVariables() const;
     /// A folder that the commit made, to be removed with the failed project of that name.
     void noteNewFolder(const QString &name, const QString &folder);
     StagedFolder &staged() { return staged_; }
@@ -34,7 +37,7 @@ private:
     QString current_; ///< "quill.project.cur_project"
     QString startUp_; ///< "quill.project.autoload_prj_path"
     orba::Node records_;
-    orba::Node lists_; ///< those of the edited project, by their paths
+    orba::Node lists_; ///< those of the edited project, by their paths; null when the controller was away
     QString newName_;
     QString newFolder_;
     StagedFolder staged_;

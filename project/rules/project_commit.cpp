@@ -1,5 +1,6 @@
 #include "project/rules/project_commit.h"
 
+#include "nexo/controller_manager.h"
 #include "project/rules/controller_project.h"
 #include "project/rules/project_backup.h"
 #include "project/rules/project_files.h"
@@ -64,14 +65,40 @@ void followStartUp(const Commit &commit)
         setDefaultProject(commit.name);
 }
 
+/// A project that is made starts afresh, whatever the controller remembers under its name.
+void forgetInController(const QString &name)
+{
+    if (m("quill.project.cur_project")->getString() != projectKey(name) &&
+        nexo::ControllerManager::instance()->rcConnected())
+        removeControllerTasks(name);
+}
+
+/// Variables are made where the project's own are known to be missing: made without a look at the controller's, they would
+/// replace its counters when it is back.
+void useVariables(const QString &name, bool areKnown, ProjectSteps *steps)
+{
+    if (areKnown)
+        return steps->becameCurrent();
+    reportProject(
+        "warning",
+        ProjectText::tr("The controller is away: the variables of %1 are looked at when it is back and the "
+                        "project is reloaded")
+            .arg(name));
+}
+
 /// From the record to the files of variables. False when something cannot be written.
-bool fillProject(const Commit &commit)
+bool fillProject(const Commit &commit, const ProjectBackup &backup)
 {
     makeRecord(commit);
-    switchProject(projectKey(commit.name));
+    const bool isNew = commit.oldName.isEmpty() && !commit.isCloned;
+    if (isNew)
+        forgetInController(commit.name);
+    const bool hasLists = switchProject(projectKey(commit.name)) || isNew;
+    if (!commit.oldName.isEmpty() && commit.oldName != commit.name)
+        backup.carryVariables();
     if (!commit.isCloned && !buildProjectTasks(nullptr))
         return false;
-    commit.steps->becameCurrent();
+    useVariables(commit.name, hasLists || m("quill.project.var._list")->cmobjCount() > 0, commit.steps);
     commit.steps->projectsChanged();
     followStartUp(commit);
     return writeVariables();
@@ -133,7 +160,7 @@ bool addProject(const QString &name, const std::optional<QString> &cloneFrom, Pr
     backup.noteNewFolder(name, folder);
     if (cloneFrom && !copyDirectory(projectFolder(*cloneFrom), folder, name))
         return error(ProjectText::tr("Failed to clone project from: %1").arg(*cloneFrom));
-    if (!fillProject({name, QString(), cloneFrom.has_value(), steps}))
+    if (!fillProject({name, QString(), cloneFrom.has_value(), steps}, backup))
         return false;
     finishProject(&backup);
     return true;
@@ -158,7 +185,7 @@ bool editProject(const QString &name, const QString &oldName, ProjectSteps *step
             return false;
         backup.noteNewFolder(name, folder);
     }
-    if (!fillProject({name, oldName, false, steps}))
+    if (!fillProject({name, oldName, false, steps}, backup))
         return false;
     finishProject(&backup);
     return true;
@@ -199,8 +226,8 @@ bool reloadProject(const QString &name, ProjectSteps *steps)
     recordCfgLog(ProjectText::tr("Reload project %1").arg(name), false);
     m("quill.project._loading")->set(nullptr, "", true);
     steps->showProgress(true);
-    switchProject(projectKey(name));
-    steps->becameCurrent();
+    const bool hasLists = switchProject(projectKey(name)) || name.isEmpty();
+    useVariables(name, hasLists, steps);
     setDefaultProject(name);
     steps->showProgress(false);
     rebuildProject();

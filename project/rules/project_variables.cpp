@@ -8,6 +8,8 @@
 #include "workstation/plugin_log.h"
 #include "workstation/plugin_node.h"
 
+#include <QFile>
+
 namespace palx {
 
 using orba::ModuleObject;
@@ -197,6 +199,8 @@ bool writeVariables()
     Node content;
     content.ensureChild(Name(u"version"))->setString(QStringLiteral("0.2"));
     content.ensureChild(Name(u"variables"))->assign(variableList()->node());
+    if (!QFile::exists(getFileName(QStringLiteral("var_monitor.json"), QString())))
+        writeMonitored(); // an edited project keeps its variables in a new folder
     const QString file = getFileName(QStringLiteral("var.json"), QString());
     return reportUnlessWritten(orba::ModuleManager::writeToJson(content, file), file);
 }

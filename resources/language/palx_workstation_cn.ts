@@ -883,6 +883,19 @@
         <source>The last import was taken back.</source>
         <translation>已撤销上次导入。</translation>
     </message>
+    <message>
+        <source>None</source>
+        <comment>choose none</comment>
+        <translation>全不选</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>未导入：%1</translation>
+    </message>
+    <message>
+        <source>It was not imported; the log says why</source>
+        <translation>未导入；原因见日志</translation>
+    </message>
 </context>
 <context>
     <name>ImportText</name>
@@ -4782,6 +4795,26 @@ Pallet: %4</source>
         <source>the disk takes its archive and another of this export for one</source>
         <translation>磁盘无法区分它的压缩包与本次导出的另一个压缩包</translation>
     </message>
+    <message>
+        <source>templates reset</source>
+        <translation>模板已重置</translation>
+    </message>
+    <message>
+        <source>program templates</source>
+        <translation>程序模板</translation>
+    </message>
+    <message>
+        <source>The controller is away: the variables of %1 are looked at when it is back and the project is reloaded</source>
+        <translation>控制器未连接：恢复连接并重新加载项目后才检查 %1 的变量</translation>
+    </message>
+    <message>
+        <source>it holds no project</source>
+        <translation>其中没有项目</translation>
+    </message>
+    <message>
+        <source>it holds no program templates</source>
+        <translation>其中没有程序模板</translation>
+    </message>
 </context>
 <context>
     <name>palx::RunText</name>
@@ -4923,6 +4956,10 @@ Pallet: %4</source>
     <message>
         <source>Do not pull out the disk %1 yet: it has not taken everything.</source>
         <translation>请勿拔出磁盘 %1：尚未写完。</translation>
+    </message>
+    <message>
+        <source>%1 is on no disk that is plugged in</source>
+        <translation>%1 不在任何已插入的磁盘上</translation>
     </message>
 </context>
 </TS>

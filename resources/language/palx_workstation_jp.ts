@@ -883,6 +883,19 @@
         <source>The last import was taken back.</source>
         <translation>直前のインポートを取り消しました。</translation>
     </message>
+    <message>
+        <source>None</source>
+        <comment>choose none</comment>
+        <translation>すべて解除</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>インポートされなかったもの: %1</translation>
+    </message>
+    <message>
+        <source>It was not imported; the log says why</source>
+        <translation>インポートされませんでした。理由はログにあります</translation>
+    </message>
 </context>
 <context>
     <name>ImportText</name>
@@ -4782,6 +4795,26 @@ Pallet: %4</source>
         <source>the disk takes its archive and another of this export for one</source>
         <translation>ディスクはそのアーカイブとこの書き出しの別のアーカイブを区別できません</translation>
     </message>
+    <message>
+        <source>templates reset</source>
+        <translation>テンプレートのリセット</translation>
+    </message>
+    <message>
+        <source>program templates</source>
+        <translation>プログラムテンプレート</translation>
+    </message>
+    <message>
+        <source>The controller is away: the variables of %1 are looked at when it is back and the project is reloaded</source>
+        <translation>コントローラーに接続されていません。%1 の変数は、接続が戻りプロジェクトを再読み込みしたときに確認されます</translation>
+    </message>
+    <message>
+        <source>it holds no project</source>
+        <translation>プロジェクトが含まれていません</translation>
+    </message>
+    <message>
+        <source>it holds no program templates</source>
+        <translation>プログラムテンプレートが含まれていません</translation>
+    </message>
 </context>
 <context>
     <name>palx::RunText</name>
@@ -4923,6 +4956,10 @@ Pallet: %4</source>
     <message>
         <source>Do not pull out the disk %1 yet: it has not taken everything.</source>
         <translation>ディスク %1 はまだ抜かないでください: 書き込みが終わっていません。</translation>
+    </message>
+    <message>
+        <source>%1 is on no disk that is plugged in</source>
+        <translation>%1 は接続中のディスク上にありません</translation>
     </message>
 </context>
 </TS>

@@ -883,6 +883,19 @@
         <source>The last import was taken back.</source>
         <translation>마지막 가져오기를 취소했습니다.</translation>
     </message>
+    <message>
+        <source>None</source>
+        <comment>choose none</comment>
+        <translation>모두 해제</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>가져오지 못함: %1</translation>
+    </message>
+    <message>
+        <source>It was not imported; the log says why</source>
+        <translation>가져오지 못했습니다. 이유는 로그에 있습니다</translation>
+    </message>
 </context>
 <context>
     <name>ImportText</name>
@@ -4782,6 +4795,26 @@ Pallet: %4</source>
         <source>the disk takes its archive and another of this export for one</source>
         <translation>디스크가 이 압축 파일과 이번 내보내기의 다른 압축 파일을 구별하지 못합니다</translation>
     </message>
+    <message>
+        <source>templates reset</source>
+        <translation>템플릿 초기화</translation>
+    </message>
+    <message>
+        <source>program templates</source>
+        <translation>프로그램 템플릿</translation>
+    </message>
+    <message>
+        <source>The controller is away: the variables of %1 are looked at when it is back and the project is reloaded</source>
+        <translation>컨트롤러가 연결되어 있지 않습니다. 연결이 복구되고 프로젝트를 다시 불러오면 %1의 변수를 확인합니다</translation>
+    </message>
+    <message>
+        <source>it holds no project</source>
+        <translation>프로젝트가 들어 있지 않습니다</translation>
+    </message>
+    <message>
+        <source>it holds no program templates</source>
+        <translation>프로그램 템플릿이 들어 있지 않습니다</translation>
+    </message>
 </context>
 <context>
     <name>palx::RunText</name>
@@ -4923,6 +4956,10 @@ Pallet: %4</source>
     <message>
         <source>Do not pull out the disk %1 yet: it has not taken everything.</source>
         <translation>아직 디스크 %1을(를) 뽑지 마십시오: 쓰기가 끝나지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is on no disk that is plugged in</source>
+        <translation>%1은(는) 연결된 디스크에 없습니다</translation>
     </message>
 </context>
 </TS>

@@ -883,6 +883,19 @@
         <source>The last import was taken back.</source>
         <translation>Последний импорт отменён.</translation>
     </message>
+    <message>
+        <source>None</source>
+        <comment>choose none</comment>
+        <translation>Снять все</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Не импортированы: %1</translation>
+    </message>
+    <message>
+        <source>It was not imported; the log says why</source>
+        <translation>Не импортирован; причина указана в журнале</translation>
+    </message>
 </context>
 <context>
     <name>ImportText</name>
@@ -4784,6 +4797,26 @@ Pallet: %4</source>
         <source>the disk takes its archive and another of this export for one</source>
         <translation>диск не различает его архив и другой архив этого экспорта</translation>
     </message>
+    <message>
+        <source>templates reset</source>
+        <translation>шаблоны сброшены</translation>
+    </message>
+    <message>
+        <source>program templates</source>
+        <translation>шаблоны программ</translation>
+    </message>
+    <message>
+        <source>The controller is away: the variables of %1 are looked at when it is back and the project is reloaded</source>
+        <translation>Контроллер недоступен: переменные проекта %1 будут проверены, когда связь восстановится и проект загрузят снова</translation>
+    </message>
+    <message>
+        <source>it holds no project</source>
+        <translation>в нём нет проекта</translation>
+    </message>
+    <message>
+        <source>it holds no program templates</source>
+        <translation>в нём нет шаблонов программ</translation>
+    </message>
 </context>
 <context>
     <name>palx::RunText</name>
@@ -4925,6 +4958,10 @@ Pallet: %4</source>
     <message>
         <source>Do not pull out the disk %1 yet: it has not taken everything.</source>
         <translation>Не извлекайте диск %1: записано ещё не всё.</translation>
+    </message>
+    <message>
+        <source>%1 is on no disk that is plugged in</source>
+        <translation>%1 не находится ни на одном подключённом диске</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,8 @@
 
 #include "exchange_fixture.h"
 
+#include "nexo/controller_manager.h"
+#include "project/rules/staged_folder.h"
 #include "workstation/controller_sync.h"
 #include "xservice.h"
 
@@ -45,11 +47,19 @@ protected:
         return QStringLiteral("none");
     }
     static int variables() { return m("quill.project.var._list")->cmobjCount(); }
-    /// Empty when the programs run.
-    static QString run()
+    /// Why the request was refused; empty when it was done.
+    static QString ask(const char *request)
     {
         constexpr int kMs = 5000;
-        return xservice()->execCommand(nullptr, QStringLiteral("program.run"), nullptr, kMs).error;
+        return xservice()->execCommand(nullptr, QLatin1String(request), nullptr, kMs).error;
+    }
+    static QString run() { return ask("program.run"); }
+    void edit(const QString &name, const QString &newName)
+    {
+        presenter.answer(true);
+        steps.parameters = nodeFromJson(kBoth);
+        EXPECT_TRUE(palx::editProject(newName, name, &steps)) << takeMessages().join('|').toStdString();
+        settle();
     }
 };
 
@@ -57,18 +67,53 @@ protected:
 
 TEST_F(ProjectCopyTest, ACloneRuns)
 {
-    add(QStringLiteral("Old"), kBoth);
+    const QString old = QStringLiteral("Line \"A\"");
+    add(old, kBoth);
     const QStringList expected = tasks();
     ASSERT_FALSE(expected.isEmpty());
     set(QStringLiteral("SetZ"), QStringLiteral("650"));
-    switchTo(QStringLiteral("Old")); // and builds it
+    edit(old, old); // and builds it
+    EXPECT_NE(content(old + "/var_monitor.json"), QByteArray("(no file)"));
     presenter.answer(true);
     steps.parameters = nodeFromJson(kBoth);
-    ASSERT_TRUE(palx::addProject(kName, QStringLiteral("Old"), &steps));
+    ASSERT_TRUE(palx::addProject(kName, old, &steps));
     settle();
     EXPECT_EQ(tasks(), expected);
     EXPECT_EQ(valueOf(QStringLiteral("SetZ")), QStringLiteral("650"));
+    EXPECT_EQ(m("quill.project.var_monitor._list")->cmobjCount(), 32);
     EXPECT_EQ(run(), QString());
+}
+
+// What counts must neither be lost nor come from another project of that name.
+TEST_F(ProjectCopyTest, CountersStayWithTheirProject)
+{
+    const QString layer = QStringLiteral("currentLayerL");
+    const auto isConnected = [] { return nexo::ControllerManager::instance()->rcConnected(); };
+    add(QStringLiteral("Other"));
+    add(kName, kBoth);
+    const QStringList expected = tasks();
+    set(layer, QStringLiteral("3"));
+    putFile(kName + "/.rlprog", "{\"project_name\": \"P\"}"); // which says nothing of tasks
+    switchTo(QStringLiteral("Other"));
+    switchTo(kName);
+    EXPECT_EQ(tasks(), expected);
+
+    set(layer, QStringLiteral("4"));
+    switchTo(QStringLiteral("Other"));
+    pullPlug();
+    ASSERT_TRUE(waitUntil([&] { return !isConnected(); }));
+    presenter.answer(true);
+    EXPECT_TRUE(palx::reloadProject(kName, &steps));
+    plugIn();
+    ASSERT_TRUE(waitUntil(isConnected));
+    EXPECT_TRUE(becomes(layer, QStringLiteral("4")));
+
+    edit(kName, QStringLiteral("Q"));
+    EXPECT_EQ(valueOf(layer), QStringLiteral("4")) << "a new name is no new project";
+    switchTo(QStringLiteral("Other"));
+    ASSERT_TRUE(palx::removeFolder(place(QStringLiteral("Q"))));
+    add(QStringLiteral("Q"), kBoth);
+    EXPECT_EQ(valueOf(layer), QStringLiteral("1"));
 }
 
 TEST_F(ProjectCopyTest, AnImportedProjectRunsWhereItIsNotKnown)
@@ -102,6 +147,27 @@ TEST_F(ProjectCopyTest, AReplacedProjectCountsLikeItsArchiveAndUndoBringsBackIts
     EXPECT_TRUE(becomes(layer, QStringLiteral("3")));
     start();
     EXPECT_EQ(valueOf(layer), QStringLiteral("3"));
+}
+
+TEST_F(ProjectCopyTest, AProjectThatRunsIsExchangedWhenItStops)
+{
+    const QString layer = QStringLiteral("currentLayerL");
+    add(kName, kBoth);
+    ASSERT_TRUE(exportNames({kName}));
+    set(layer, QStringLiteral("3"));
+    putFile(kName + "/task0/main.mod", "GLOBAL PROC main()\nWaitUntil(flagL == 77)\nENDPROC\n");
+    ASSERT_EQ(run(), QString());
+    records.clear();
+    ASSERT_TRUE(import({"P.zip"}, OnClash::Replace));
+    EXPECT_TRUE(
+        waitUntil([this] { return records.join('|').contains("was exchanged while its program runs"); }));
+    EXPECT_EQ(valueOf(layer), QStringLiteral("3"));
+    ASSERT_EQ(ask("program.stop"), QString());
+    EXPECT_TRUE(becomes(layer, QStringLiteral("1"))) << "before anybody presses Run";
+
+    putFile(kName + "/.rlprog", content(kName + "/.rlprog") + ' '); // nobody told the controller
+    EXPECT_TRUE(run().contains("was exchanged"));
+    EXPECT_EQ(run(), QString());
 }
 
 TEST_F(ProjectCopyTest, AFolderThatCannotBeReadIsLeftAsItIsAndDoesNotRun)
