@@ -59,6 +59,37 @@ QStringList untaughtPickSide(const Node &stack, const Node &plugin)
     return texts;
 }
 
+/// Points of a recipe whose pallet is calibrated in no way lie around the robot's foot.
+QStringList untaughtFrame(const Node &stack)
+{
+    if (stack.getBool(u"use_global_wobj"))
+        return {PointText::tr(
+            "The shared work objects are not both calibrated by one point, so the place positions "
+            "lie around the robot's foot.")};
+    const bool hasReference = isTaught(stack.find(u"toolset.ref"));
+    const bool isOnePoint = stack.getInt(u"calibrate.calibration_method") == 1;
+    const bool hasOrigin = isTaught(stack.find(u"calibrate.p1"));
+    if (!hasOrigin)
+        return hasReference ? QStringList()
+                            : QStringList(PointText::tr("The pallet's place is not calibrated, so the place "
+                                                        "positions lie around the robot's foot."));
+    if (!isOnePoint && !(isTaught(stack.find(u"calibrate.p2")) && isTaught(stack.find(u"calibrate.p3"))))
+        return {PointText::tr("The pallet's place needs three calibration points.")};
+    return {};
+}
+
+QStringList unmeasuredTool(const Node &stack, const Node &plugin)
+{
+    const Node *tool =
+        stack.getBool(u"use_global_tool") ? plugin.find(u"global_tool.#0") : stack.find(u"toolset");
+    if (tool && tool->isContainer() && tool->size() > 0)
+        return {};
+    return {stack.getBool(u"use_global_tool")
+                ? PointText::tr("There is no shared tool.")
+                : PointText::tr("The recipe has no tool of its own, so the flange is "
+                                "taken for it.")};
+}
+
 } // namespace
 
 bool isTaught(const Node *point)
@@ -94,9 +125,10 @@ bool teachPoint(Node &point, const Node &robot)
 
 QStringList untaughtPoints(const Node &stack, const Node &plugin)
 {
-    const QStringList place =
-        isOnePointCalibrated(stack, plugin) ? untaughtOrigin(stack, plugin) : untaughtPlaceSide(stack);
-    return place + untaughtPickSide(stack, plugin);
+    const QStringList place = isOnePointCalibrated(stack, plugin)
+                                  ? untaughtOrigin(stack, plugin)
+                                  : untaughtFrame(stack) + untaughtPlaceSide(stack);
+    return place + untaughtPickSide(stack, plugin) + unmeasuredTool(stack, plugin);
 }
 
 PalletPlace palletPlace(const Node &stack)

@@ -131,6 +131,17 @@ void ControllerDialog::showTool()
     ui_->lblReason->setText(connected ? QString() : tr("Not possible without a connection."));
 }
 
+namespace {
+
+/// A record that nobody filled would be sent as zeros, and the flange taken for the tool.
+bool hasOwnTool(const orba::Node &stack)
+{
+    const orba::Node *toolset = stack.find(u"toolset");
+    return !stack.getBool(u"use_global_tool") && toolset && toolset->isContainer() && toolset->size() > 0;
+}
+
+} // namespace
+
 /// The shared tool and the recipes' own; keeps the choice.
 void ControllerDialog::fillTools()
 {
@@ -140,7 +151,8 @@ void ControllerDialog::fillTools()
     if (!shared->isEmptyMobj())
         ui_->cmbTool->addItem(tr("Shared tool %1").arg(shared->getString("name")), QString());
     for (const ModuleObject *stack : palx::stacksNode()->cmobjs())
-        ui_->cmbTool->addItem(tr("Tool of %1").arg(stack->getString("name")), stack->getString("name"));
+        if (hasOwnTool(stack->node()))
+            ui_->cmbTool->addItem(tr("Tool of %1").arg(stack->getString("name")), stack->getString("name"));
     ui_->cmbTool->setCurrentIndex(std::max(0, ui_->cmbTool->findData(chosen)));
     showTool();
 }

@@ -1,10 +1,13 @@
 #include "ui/recipe_editing.h"
 
+#include "stack/place_frame.h"
 #include "stack/recipe_edit.h"
 #include "stack/recipe_fields.h"
 #include "stack/stack_check.h"
 #include "workstation/controller_sync.h"
 #include "workstation/plugin_node.h"
+
+#include <utility>
 
 namespace {
 
@@ -30,7 +33,7 @@ bool differs(const orba::Node &a, const orba::Node &b, std::initializer_list<con
 void RecipeEditing::open(orba::ModuleObject *stack)
 {
     stack_ = stack && !stack->isEmptyMobj() ? stack : nullptr;
-    isEdited_ = isTouched_ = isSent_ = false;
+    isEdited_ = isSharedEdited_ = isTouched_ = isSent_ = false;
     if (stack_) {
         palx::checkProductPallet(stack_);
         palx::ensureRecipeKeys(stack_, palx::pluginNode()->r("default")->node());
@@ -94,7 +97,16 @@ void RecipeEditing::generate(bool report)
     isSent_ = isSent_ || isEdited_;
     isEdited_ = false;
     palx::genPointsAndSaveToRC(stack_, report);
+    if (std::exchange(isSharedEdited_, false))
+        generateOthers();
     history_.absorb();
+}
+
+void RecipeEditing::generateOthers() const
+{
+    for (orba::ModuleObject *other : palx::stacksNode()->cmobjs())
+        if (other != stack_ && palx::isOnePointCalibrated(other->node(), palx::pluginNode()->node()))
+            palx::genPointsAndSaveToRC(other, false);
 }
 
 void RecipeEditing::save()

@@ -37,6 +37,9 @@ public:
     /// Whether edits made the recipe another one than was opened; repairs, and layers that generation drops, do
     /// not count.
     bool differsFromOpened() const;
+    /// The recipe uses something that was edited and that belongs to the work objects: the points of all recipes on them are made anew
+    /// and sent with the recipe.
+    void noteSharedEdit() { isEdited_ = isSharedEdited_ = true; }
     /// Makes the points anew and sends the recipe when it was edited.
     void save();
     /// The same in any case, recorded for the operator when it was edited; then raises "refresh_table".
@@ -54,7 +57,10 @@ private:
     QPointer<orba::ModuleObject> stack_;
     RecipeHistory history_;
     orba::Node opened_;
+    void generateOthers() const;
+
     bool isEdited_ = false;
+    bool isSharedEdited_ = false;
     bool isTouched_ = false; ///< something was edited since the recipe was opened
     bool isSent_ = false;    ///< edits were sent since the recipe was opened
 };

@@ -77,6 +77,7 @@ void StackSetupPage::makeFrames()
         ui_->stkFrames->addWidget(scrollingForm(frames_[i]));
         connect(buttons_[i], &QAbstractButton::clicked, wgt_, [this, i] { showFrame(i); });
         connect(frames_[i], &RecipeFrame::edited, wgt_, [this] { onEdited(); });
+        connect(frames_[i], &RecipeFrame::sharedEdited, wgt_, [this] { editing_.noteSharedEdit(); });
         connect(frames_[i], &RecipeFrame::refused, wgt_,
                 [this](const QString &reason) { ui_->message->showMessage(reason, State::Attention); });
     }
@@ -126,7 +127,8 @@ void StackSetupPage::openWizard(NestingWizard kind)
     RecipeWizard *wizard = openNestingWizard(kind, stack(), wgt_);
     connect(wizard, &QDialog::finished, wgt_, [this] { pageDateRefresh(); });
     // Also when another takes its place; queued, because it ends with the page too.
-    connect(wizard, &QObject::destroyed, wgt_, [this] { pageDateRefresh(); }, Qt::QueuedConnection);
+    connect(
+        wizard, &QObject::destroyed, wgt_, [this] { pageDateRefresh(); }, Qt::QueuedConnection);
 }
 
 void StackSetupPage::showFrame(int index)

@@ -62,8 +62,10 @@ void WaypointsFrame::bindOffsets()
         }
     }
     connect(offsetBinder_, &NodeBinder::edited, this, [this] {
-        if (isOnePoint())
+        if (isOnePoint()) {
             palx::triggerNode()->c("refresh_data")->trigger();
+            Q_EMIT sharedEdited();
+        }
         Q_EMIT edited();
     });
 }

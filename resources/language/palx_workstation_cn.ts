@@ -2289,6 +2289,26 @@ mm</translation>
         <source>The enter point of the pick side is not taught.</source>
         <translation>抓取侧的进入点未示教。</translation>
     </message>
+    <message>
+        <source>The shared work objects are not both calibrated by one point, so the place positions lie around the robot&apos;s foot.</source>
+        <translation>共用工件坐标系未都用单点标定，因此放置位置会落在机器人底座周围。</translation>
+    </message>
+    <message>
+        <source>The pallet&apos;s place is not calibrated, so the place positions lie around the robot&apos;s foot.</source>
+        <translation>托盘位置未标定，因此放置位置会落在机器人底座周围。</translation>
+    </message>
+    <message>
+        <source>The pallet&apos;s place needs three calibration points.</source>
+        <translation>托盘位置需要三个标定点。</translation>
+    </message>
+    <message>
+        <source>There is no shared tool.</source>
+        <translation>没有共用工具。</translation>
+    </message>
+    <message>
+        <source>The recipe has no tool of its own, so the flange is taken for it.</source>
+        <translation>配方没有自己的工具，因此以法兰代替。</translation>
+    </message>
 </context>
 <context>
     <name>PointsFrame</name>

@@ -2289,6 +2289,26 @@ mm</translation>
         <source>The enter point of the pick side is not taught.</source>
         <translation>取り側の進入点が教示されていません。</translation>
     </message>
+    <message>
+        <source>The shared work objects are not both calibrated by one point, so the place positions lie around the robot&apos;s foot.</source>
+        <translation>共有ワークオブジェクトが両方とも1点で校正されていないため、配置位置がロボットの足元になります。</translation>
+    </message>
+    <message>
+        <source>The pallet&apos;s place is not calibrated, so the place positions lie around the robot&apos;s foot.</source>
+        <translation>パレットの位置が校正されていないため、配置位置がロボットの足元になります。</translation>
+    </message>
+    <message>
+        <source>The pallet&apos;s place needs three calibration points.</source>
+        <translation>パレットの位置には校正点が3つ必要です。</translation>
+    </message>
+    <message>
+        <source>There is no shared tool.</source>
+        <translation>共有ツールがありません。</translation>
+    </message>
+    <message>
+        <source>The recipe has no tool of its own, so the flange is taken for it.</source>
+        <translation>レシピに専用のツールがないため、フランジがツールとして扱われます。</translation>
+    </message>
 </context>
 <context>
     <name>PointsFrame</name>

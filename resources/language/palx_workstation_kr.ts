@@ -2289,6 +2289,26 @@ mm</translation>
         <source>The enter point of the pick side is not taught.</source>
         <translation>집기 측 진입 포인트가 교시되지 않았습니다.</translation>
     </message>
+    <message>
+        <source>The shared work objects are not both calibrated by one point, so the place positions lie around the robot&apos;s foot.</source>
+        <translation>공유 작업 객체가 모두 1점으로 보정되지 않아 적재 위치가 로봇 받침 주위에 놓입니다.</translation>
+    </message>
+    <message>
+        <source>The pallet&apos;s place is not calibrated, so the place positions lie around the robot&apos;s foot.</source>
+        <translation>팔레트 위치가 보정되지 않아 적재 위치가 로봇 받침 주위에 놓입니다.</translation>
+    </message>
+    <message>
+        <source>The pallet&apos;s place needs three calibration points.</source>
+        <translation>팔레트 위치에는 보정점 세 개가 필요합니다.</translation>
+    </message>
+    <message>
+        <source>There is no shared tool.</source>
+        <translation>공유 공구가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The recipe has no tool of its own, so the flange is taken for it.</source>
+        <translation>레시피에 자체 공구가 없어 플랜지를 공구로 사용합니다.</translation>
+    </message>
 </context>
 <context>
     <name>PointsFrame</name>

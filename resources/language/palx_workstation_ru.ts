@@ -2289,6 +2289,26 @@ mm</translation>
         <source>The enter point of the pick side is not taught.</source>
         <translation>Точка входа на стороне захвата не обучена.</translation>
     </message>
+    <message>
+        <source>The shared work objects are not both calibrated by one point, so the place positions lie around the robot&apos;s foot.</source>
+        <translation>Общие рабочие объекты не откалиброваны оба по одной точке, поэтому точки укладки окажутся у основания робота.</translation>
+    </message>
+    <message>
+        <source>The pallet&apos;s place is not calibrated, so the place positions lie around the robot&apos;s foot.</source>
+        <translation>Место поддона не откалибровано, поэтому точки укладки окажутся у основания робота.</translation>
+    </message>
+    <message>
+        <source>The pallet&apos;s place needs three calibration points.</source>
+        <translation>Для места поддона нужны три точки калибровки.</translation>
+    </message>
+    <message>
+        <source>There is no shared tool.</source>
+        <translation>Общего инструмента нет.</translation>
+    </message>
+    <message>
+        <source>The recipe has no tool of its own, so the flange is taken for it.</source>
+        <translation>У рецепта нет своего инструмента, вместо него берётся фланец.</translation>
+    </message>
 </context>
 <context>
     <name>PointsFrame</name>

@@ -156,7 +156,8 @@ TEST(RecipePoints, NamesWhatGenerationWillMiss)
 {
     const QByteArray point = pointJson(0.1, 0, 0);
     const auto with = [&](const char *json) { return QByteArray(json).replace('P', point); };
-    const char *const shared = R"({"use_global_wobj": true, "get.get_p": P, "get.enter_p": P})";
+    const char *const shared =
+        R"({"use_global_wobj": true, "get.get_p": P, "get.enter_p": P, "toolset.end": P})";
     const char *const oneSide =
         R"({"global_wobj": [{"calibration_method": 1, "left_origin_point": P}, {"calibration_method": 1}]})";
     const struct
@@ -164,9 +165,14 @@ TEST(RecipePoints, NamesWhatGenerationWillMiss)
         const char *stack, *plugin;
         int missing;
     } cases[] = {
-        {"{}", "{}", 4},
-        {R"({"put.put_p": P, "put.enter_p": P, "get.get_p": P, "get.enter_p": P})", "{}", 0},
-        {R"({"put.put_p": P, "put.enter_p": P, "use_global_tool": true})", "{}", 1},
+        {"{}", "{}", 6},
+        {R"({"put.put_p": P, "put.enter_p": P, "get.get_p": P, "get.enter_p": P})", "{}", 2},
+        {R"({"put.put_p": P, "put.enter_p": P, "get.get_p": P, "get.enter_p": P, "toolset.ref": P})", "{}",
+         0},
+        {R"({"put.put_p": P, "put.enter_p": P, "get.get_p": P, "get.enter_p": P, "toolset.end": P,
+             "calibrate.p1": P, "calibrate.p2": P})",
+         "{}", 1},
+        {R"({"put.put_p": P, "put.enter_p": P, "use_global_tool": true, "use_global_wobj": true})", "{}", 3},
         {shared, R"({"global_wobj": [{"calibration_method": 1}, {"calibration_method": 1}]})", 1},
         {shared, oneSide, 0},
     };

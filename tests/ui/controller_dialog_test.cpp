@@ -120,10 +120,16 @@ TEST_F(ControllerDialogTest, WithoutAConnectionItSaysSoAndComesBackByItself)
 TEST_F(ControllerDialogTest, SwitchesTheSharedToolOrARecipesOwn)
 {
     palx::pluginNode()->c("global_tool")->copyFrom(nodeFromJson(R"([{"name": "PalletTool1"}])"));
+    for (const char *name : {"A", "B"})
+        palx::getStack(QLatin1String(name))
+            ->c("toolset")
+            ->copyFrom(nodeFromJson(R"({"end": {"trans": [0.0, 0.0, 0.3]}})"));
+    addRecipe("Shared");
     openLink();
     openDialog();
     auto *choice = child<QComboBox>("cmbTool");
     EXPECT_EQ(choice->itemText(0), "Shared tool PalletTool1");
+    EXPECT_EQ(choice->count(), 3) << "a recipe without a tool of its own would bring zeros";
     EXPECT_EQ(text("lblTool"), "Active tool: unknown");
     click("btnTool");
     EXPECT_EQ(message(), "The controller works with the tool PalletTool1.");
