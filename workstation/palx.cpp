@@ -30,11 +30,20 @@ QString pageKey(const char *page)
     return mName(palx::getPluginName(), QLatin1String(page));
 }
 
-/// For a panel that is looked at for the first time: an empty store gets the recipes of those files.
+/// For a panel that is looked at for the first time: an empty store gets the recipes of those files. Tools and work objects that
+/// the robot has already stay.
 QStringList loadExamples(const QStringList &files)
 {
-    return palx::stacksNode()->cmobjCount() > 0 ? QStringList()
-                                                : palx::loadRecipeFiles(palx::pluginNode(), files);
+    if (palx::stacksNode()->cmobjCount() > 0)
+        return QStringList();
+    orba::Node kept;
+    for (const char *key : {"global_tool", "global_wobj"})
+        if (const orba::ModuleObject *own = palx::pluginNode()->c(key); own->cmobjCount() > 0)
+            kept.add(orba::Name(QString::fromLatin1(key)))->assign(own->node());
+    const QStringList failed = palx::loadRecipeFiles(palx::pluginNode(), files);
+    for (int i = 0; i < kept.size(); ++i)
+        palx::pluginNode()->c(kept.at(i)->name().toString())->copyFrom(*kept.at(i));
+    return failed;
 }
 
 /// Follows a change of language, which reaches the page that it watches: the navigator's entry is data that no widget

@@ -79,7 +79,10 @@ bool HostSession::start()
         setCenterWidget(center_);
     }
     loadPlugins();
-    advance(options_.pages ? bwaf::Step::AfterSetup : bwaf::Step::AfterInit);
+    advance(bwaf::Step::AfterInit);
+    loadExamples();
+    if (options_.pages)
+        advance(bwaf::Step::AfterSetup);
     return problems_.isEmpty();
 }
 
@@ -251,11 +254,18 @@ void HostSession::loadPlugins()
         const orba::PluginApi *api = loadPlugin(file, &problem);
         if (!api)
             report(problem);
-        else if (construct(QString::fromUtf8(api->name), file) && api->loadExamples &&
-                 !options_.examples.isEmpty())
+        else if (construct(QString::fromUtf8(api->name), file))
+            constructed_.append(api);
+    }
+}
+
+/// When the modules have read what there is for their robot, which would else replace the examples' part of it.
+void HostSession::loadExamples()
+{
+    for (const orba::PluginApi *api : qAsConst(constructed_))
+        if (api->loadExamples && !options_.examples.isEmpty())
             for (const QString &failed : api->loadExamples(options_.examples))
                 report({failed, QString(), QString()});
-    }
 }
 
 bwaf::BModule *HostSession::construct(const QString &name, const QString &where)

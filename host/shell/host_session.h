@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orba/plugin_api.h"
 #include "orba/module_object.h"
 #include "shell/problem.h"
 
@@ -87,6 +88,7 @@ private:
     void openLink();
     void closeLink();
     void loadPlugins();
+    void loadExamples();
     bwaf::BModule *construct(const QString &name, const QString &where);
     void advance(bwaf::Step last);
     void endModules();
@@ -95,6 +97,7 @@ private:
     SessionOptions options_;
     QList<Problem> problems_;
     QList<QPointer<bwaf::BModule>> modules_;
+    QList<const orba::PluginApi *> constructed_; ///< plug-ins from files that made a module
     QPointer<bwaf::CenterWidget> center_;
     std::unique_ptr<Store> store_;
     std::unique_ptr<LogKeeper> logKeeper_;

@@ -279,6 +279,13 @@ TEST(WaypointsFrame, WhatSharedSettingsTakeOverIsNotEdited)
     enter(offset, 32.0);
     EXPECT_EQ(palx::pluginNode()->getDouble("global_tool.#3.waypoint_settings.put.left_offsets.enter_x"), 32);
     EXPECT_EQ(data.take(), 1);
+
+    orba::ModuleObject *other = page.tree.addRecipe("Other");
+    other->set(nullptr, "use_global_wobj", true);
+    const orba::Node without = other->node();
+    page.open("Other", Waypoints); // leaves the first one
+    EXPECT_FALSE(page.setup->stack()->node() == without) << "its points have the new offset too";
+    EXPECT_GT(other->node().find(u"points.put")->size(), 0);
 }
 
 TEST(PointsFrame, GeneratesListsFiltersAndCopies)
