@@ -1,5 +1,6 @@
 #include "panel/panel_options.h"
 
+#include "nexo/setting_manager.h"
 #include "panel/controller_choice.h"
 
 #include <QCommandLineParser>
@@ -30,7 +31,8 @@ constexpr OptionText kOptions[] = {
     {"data", QT_TRANSLATE_NOOP("panel::Options", "Folder of the stored data, settings and logs."), "FOLDER"},
     {"workspace", QT_TRANSLATE_NOOP("panel::Options", "Controller workspace."), "FOLDER"},
     {"language", QT_TRANSLATE_NOOP("panel::Options", "en, cn, ru, jp or kr."), "LANGUAGE"},
-    {"touch", QT_TRANSLATE_NOOP("panel::Options", "Fields that are touched open a keypad or keyboard."), nullptr},
+    {"touch", QT_TRANSLATE_NOOP("panel::Options", "Fields that are touched open a keypad or keyboard."),
+     nullptr},
     {"plugin", QT_TRANSLATE_NOOP("panel::Options", "Plug-in library to load; may be given several times."),
      "FILE"},
     {"examples",
@@ -74,8 +76,9 @@ host::SessionOptions sessionOptions(const QCommandLineParser &parser, const QStr
 {
     host::SessionOptions options;
     options.dataFolder = parser.value(QStringLiteral("data"));
-    if (options.dataFolder.isEmpty())
-        options.dataFolder = defaultDataFolder();
+    if (options.dataFolder.isEmpty()) // the environment may name one
+        options.dataFolder =
+            nexo::SettingManager::instance()->getStr(QStringLiteral("data"), defaultDataFolder());
     options.workspaceFolder = parser.value(QStringLiteral("workspace"));
     options.language = parser.value(QStringLiteral("language"));
     if (parser.isSet(QStringLiteral("touch")))

@@ -99,8 +99,9 @@ void StatusStrip::chooseLanguage(int index)
 {
     auto *settings = nexo::SettingManager::instance();
     settings->setStr(QStringLiteral("language"), language_->itemData(index).toString());
-    settings->setOverride(QStringLiteral("language"),
-                          QString()); // the operator's choice wins over the command line
+    settings->setOverride(
+        QStringLiteral("language"), // the operator's choice wins over the command line and environment
+        language_->itemData(index).toString());
 }
 
 void StatusStrip::showNotice(const QString &level, const QString &text)

@@ -147,9 +147,11 @@ void HostSession::applySettings()
         QString error;
         if (!settings->useFile(QDir(options_.dataFolder).filePath(QStringLiteral("settings.json")), &error))
             report({error, QString(), QString()});
-        if (settings->getStr(kWorkspaceKey).isEmpty())
-            settings->setOverride(kWorkspaceKey,
-                                  QDir(options_.dataFolder).filePath(QStringLiteral("workspace")));
+        QString workspace = settings->getStr(kWorkspaceKey);
+        if (workspace.isEmpty())
+            workspace = QStringLiteral("workspace");
+        if (QDir::isRelativePath(workspace)) // wherever the panel was started
+            settings->setOverride(kWorkspaceKey, QDir(options_.dataFolder).absoluteFilePath(workspace));
     }
     makeFolder(settings->getStr(kWorkspaceKey));
 }
