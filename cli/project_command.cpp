@@ -1,5 +1,6 @@
 #include "project_command.h"
 
+#include "nexo/controller_manager.h"
 #include "orba/module_manager.h"
 #include "project/rules/project_commit.h"
 #include "project/rules/project_export.h"
@@ -206,6 +207,15 @@ bool print(Output output)
     return putResult(table(*all.child(QStringView(u"projects"))));
 }
 
+/// Whether a connected controller took the current project into use; the reason is told among its notices.
+bool isBuilt(const ProjectRequest &request)
+{
+    const bool isUsed = request.what == What::Create || request.what == What::Edit ||
+                        (request.what == What::Switch && !request.name.isEmpty());
+    return !isUsed || !nexo::ControllerManager::instance()->rcConnected() ||
+           m("quill.project.task.built")->getBool();
+}
+
 } // namespace
 
 int runProject(const ProjectRequest &request)
@@ -217,7 +227,8 @@ int runProject(const ProjectRequest &request)
     palx::recoverExchange(QCoreApplication::applicationDirPath());
     Steps steps(parameters);
     const bool isDone = carryOut(request, &steps);
-    return settlePanel(session.get()) && isDone && print(request.output) ? kDone : kRefused;
+    return settlePanel(session.get()) && isDone && print(request.output) && isBuilt(request) ? kDone
+                                                                                             : kRefused;
 }
 
 } // namespace cli

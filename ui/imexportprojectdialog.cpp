@@ -5,6 +5,7 @@
 #include "orba/module_object.h"
 #include "project/rules/archive_check.h"
 #include "project/rules/project_export.h"
+#include "project/rules/project_messages.h"
 #include "project/rules/project_place.h"
 #include "ui/exchange_table_model.h"
 #include "ui/form_style.h"
@@ -342,6 +343,7 @@ void ImExportProjectDialog::exportChosen()
 void ImExportProjectDialog::importChosen()
 {
     const palx::ImportRequest request = importRequest();
+    const QStringList before = palx::lastImported();
     bool isDone = false;
     QStringList failed;
     const auto end = palx::runInSlices(this, windowTitle(), [&](palx::Progress &progress) {
@@ -354,6 +356,10 @@ void ImExportProjectDialog::importChosen()
         ui_->rBtnNone->setChecked(true);
     keepFailed(failed);
     showPlan();
+    const bool isReset = request.archives.isEmpty() && request.templates == TemplateAction::Reset;
+    if (isDone && isReset && palx::lastImported() == before) // there was nothing that could come back
+        return ui_->message->showMessage(palx::ProjectText::tr("Reset project templates success!"),
+                                         State::Running);
     if (isDone || failed.size() < request.archives.size())
         return showUndo(failed);
     ui_->message->showMessage(tr("Nothing was imported; the log says why."), State::Fault);

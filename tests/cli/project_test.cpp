@@ -5,6 +5,7 @@
 #include "support/test_support.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
@@ -58,6 +59,12 @@ TEST_F(PalxProject, MakesEditsSwitchesAndDeletes)
     EXPECT_EQ(childTexts(run({"start-up", "Линия"}).out, u"start_up"), QStringList({"false", "true"}));
     EXPECT_EQ(run({"delete", "Линия"}).code, 0);
     EXPECT_EQ(names(), QStringList("Copy"));
+
+    EXPECT_EQ(run({"switch"}).code, 0);
+    QFile damaged(place(QStringLiteral("Copy/.rlprog")));
+    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly) && damaged.write("{") == 1);
+    damaged.close();
+    EXPECT_EQ(run({"switch", "Copy"}).code, 1) << "the controller does not take it";
 }
 
 TEST_F(PalxProject, RefusesWithTheReason)

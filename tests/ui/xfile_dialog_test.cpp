@@ -163,5 +163,11 @@ TEST(XFileDialog, SaysWhetherTheDiskMayBePulled)
     EXPECT_EQ(xFileDialog::removalText(path, false),
               "Do not pull out the disk ДИСК 上海 yet: it has not taken everything.");
     EXPECT_EQ(xFileDialog::removalText(elsewhere, true), QString());
+    EXPECT_EQ(xFileDialog::targetProblem(stick.root, "a.zip"), QString());
+    QDir().mkpath(stick.root + "/dir.zip");
+    EXPECT_EQ(xFileDialog::targetProblems(stick.root, {"a.zip", "dir.zip"}),
+              QStringList({QString(), "There is a folder of that name."}));
+    const QTemporaryDir own; // what is left when a disk is pulled
+    EXPECT_TRUE(xFileDialog::targetProblem(own.path(), "a.zip").contains("on no disk that is plugged in"));
     settings->setOverride("removable", QString());
 }
