@@ -1,15 +1,10 @@
 // Projects as archives: out and in, with parameters, judging, flushing and renaming. The floor is what the archive library
 // takes to pack the same folder, or to unpack the same archive, and the disk to take it.
 
-#include "controller/in_process_carrier.h"
-#include "project/rules/project_commit.h"
+#include "linked_session.h"
 #include "project/rules/project_export.h"
 #include "project/rules/project_import.h"
-#include "project/rules/project_record.h"
-#include "project/rules/project_variables.h"
-#include "shell/host_session.h"
 #include "workstation/file_sync.h"
-#include "workstation/plugin_node.h"
 
 #include "nexo/manager_helper.h"
 #include "orba/module_manager.h"
@@ -45,55 +40,27 @@ public:
     }
 };
 
-class Steps : public palx::ProjectSteps
-{
-public:
-    void saveParameters(const QString &name) override
-    {
-        orba::Node both;
-        both.ensure(u"scheme_layout")->setInt(2);
-        palx::writeProjectParameters(name, both);
-    }
-    void becameCurrent() override
-    {
-        palx::createProjectVariables();
-        palx::writeVariables();
-    }
-    void projectsChanged() override {}
-    void showProgress(bool) override {}
-};
-
 /// A project as the program templates make it, with so many program files added, and their count of lines.
 class Cell
 {
 public:
     Cell(int files, int lines)
     {
-        host::SessionOptions options;
-        options.workspaceFolder = folder_.filePath(QStringLiteral("workspace"));
-        options.linkedPlugins = QStringList(palx::getPluginName());
-        options.pages = false;
-        controller::StationOptions station;
-        station.workspaceFolder = options.workspaceFolder;
-        station.dataFolder = folder_.filePath(QStringLiteral("controller"));
-        options.carrier = [station] {
-            return std::make_unique<controller::InProcessCarrier>(
-                std::make_shared<controller::Controller>(station));
-        };
-        session_ = std::make_unique<host::HostSession>(options);
-        if (!session_->start())
-            qFatal("the session does not start");
-        while (m("nexo.r.id")->getString().isEmpty())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        Steps steps;
+        session_ = startLinked(folder_.path());
+        BothSides steps;
         if (!palx::addProject(kName, std::nullopt, &steps))
             qFatal("no project was made");
+        while (!QFile::exists(project() + QStringLiteral("/.rlprog"))) // the controller builds it
+            QCoreApplication::processEvents();
         QDir().mkpath(disk());
         for (int i = 0; i < files; ++i)
             putProgram(QStringLiteral("%1/task%2/program%3.mod").arg(project()).arg(i % 6).arg(i), i, lines);
     }
 
-    QString project() const { return folder_.filePath(QStringLiteral("workspace/%1/%2").arg(m("nexo.r.id")->getString(), kName)); }
+    QString project() const
+    {
+        return folder_.filePath(QStringLiteral("workspace/%1/%2").arg(m("nexo.r.id")->getString(), kName));
+    }
     QString disk() const { return folder_.filePath(QStringLiteral("disk")); }
     QString archive() const { return palx::archivePath(disk(), kName); }
     QString other() const { return folder_.filePath(QStringLiteral("workspace/other")); }

@@ -1,13 +1,7 @@
 // Making a robot project with all its tasks, programs and variables, over the simulated controller of this process. The
 // floor writes the same files with the same contents, synced as they are: what the disk takes.
 
-#include "controller/in_process_carrier.h"
-#include "project/rules/project_commit.h"
-#include "project/rules/project_record.h"
-#include "project/rules/project_variables.h"
-#include "shell/host_session.h"
-#include "workstation/plugin_node.h"
-
+#include "linked_session.h"
 #include "nexo/manager_helper.h"
 
 #include <QCoreApplication>
@@ -32,43 +26,11 @@ public:
     void notify(const QString &, const QString &) override {}
 };
 
-class Steps : public palx::ProjectSteps
-{
-public:
-    void saveParameters(const QString &name) override
-    {
-        orba::Node both;
-        both.ensure(u"scheme_layout")->setInt(2);
-        palx::writeProjectParameters(name, both);
-    }
-    void becameCurrent() override { palx::createProjectVariables(); }
-    void projectsChanged() override {}
-    void showProgress(bool) override {}
-};
-
 /// The plug-in without pages, and a controller that keeps its state.
 class Cell
 {
 public:
-    Cell()
-    {
-        host::SessionOptions options;
-        options.workspaceFolder = folder_.filePath(QStringLiteral("workspace"));
-        options.linkedPlugins = QStringList(palx::getPluginName());
-        options.pages = false;
-        controller::StationOptions station;
-        station.workspaceFolder = options.workspaceFolder;
-        station.dataFolder = folder_.filePath(QStringLiteral("controller"));
-        options.carrier = [station] {
-            return std::make_unique<controller::InProcessCarrier>(
-                std::make_shared<controller::Controller>(station));
-        };
-        session_ = std::make_unique<host::HostSession>(options);
-        if (!session_->start())
-            qFatal("the session does not start");
-        while (m("nexo.r.id")->getString().isEmpty())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
+    Cell() { session_ = startLinked(folder_.path()); }
     QString project() const
     {
         return folder_.filePath(QStringLiteral("workspace/%1/%2").arg(m("nexo.r.id")->getString(), kName));
@@ -84,7 +46,7 @@ public:
 private:
     AcceptAll presenter_;
     QTemporaryDir folder_;
-    Steps steps_;
+    BothSides steps_;
     std::unique_ptr<host::HostSession> session_;
 };
 
