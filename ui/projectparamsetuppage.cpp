@@ -53,6 +53,8 @@ ProjectParamSetupPage::ProjectParamSetupPage(QWidget *parent)
     : QWidget(parent), ui_(std::make_unique<Ui::ProjectParamSetupPage>())
 {
     ui_->setupUi(this);
+    connect(palx::triggerNode()->c("refresh_cmb"), &orba::ModuleObject::changed, this,
+            &ProjectParamSetupPage::refreshCmb);
     refreshCmb();
     setDefault();
 }

@@ -45,7 +45,11 @@ TEST_F(ProjectPage, AddsWhatWasChosen)
     for (const char *button : {"rBtnSingleLineBothSizes", "rBtnDepalletizing", "rBtnDoubleSuction",
                                "rBtnWithoutBollard", "rBtnWithoutClapboard"})
         click(button);
-    find<QComboBox>("cmbLeftRecipe")->setCurrentIndex(0);
+    auto *recipes = find<QComboBox>("cmbLeftRecipe");
+    palx::stacksNode()->addUnnamed()->copyFrom(nodeFromJson(R"({"name": "Boxes", "pallet_position": 0})"));
+    palx::triggerNode()->c("refresh_cmb")->trigger();
+    EXPECT_EQ(recipes->itemText(recipes->count() - 1), "Boxes"); // while the page is shown
+    recipes->setCurrentIndex(0);
     presenter.answer(true);
     click("btnWork");
     EXPECT_EQ(takeMessages(), QStringList({"ask: Are you sure to create and switch to new project: Line 1?",
