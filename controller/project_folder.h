@@ -15,8 +15,8 @@ public:
 
     /// Differs when ".rlprog" or "var.xml" differ; empty when there is no ".rlprog".
     QString mark() const;
-    /// Exchanges the lists that the folder has for its own; what it says nothing of stays. False with the reason, and all are as before, when a file is no file,
-    /// cannot be read, holds something else, or more than a controller keeps of a project.
+    /// Exchanges the lists that the folder has for its own; what it says nothing of stays. False with the reason, and all are as
+    /// before, when a file is no file, cannot be read, holds something else, or more than a controller keeps of a project.
     bool read(orba::Node *tasks, orba::Node *variables, orba::Node *monitored, QString *why) const;
     /// Writes ".rlprog" and "var.xml" where they are not the same already. False with the reason.
     bool write(const QString &project, const orba::Node &tasks, const orba::Node &variables,

@@ -206,13 +206,13 @@ void Station::exchangeLists()
         notice("error", Texts::tr("The project %1 cannot be read: %2").arg(key, why));
 }
 
-/// Another folder may have taken the place of the current project's. What runs goes on with what it has. False, and the operator
-/// is told, when the lists in the tree are not those that count.
-bool Station::followFolder()
+/// Another folder may have taken the place of the current project's. What runs goes on with what it has. The operator is told
+/// why a folder is unusable.
+Station::Folder Station::followFolder()
 {
     const ProjectFolder folder(projectFolder());
     if (!projects_.isReplaced(folder))
-        return true;
+        return Folder::Same;
     if (desk_.runner().state() == Runner::State::Stopped)
         switchProject();
     else
@@ -221,7 +221,7 @@ bool Station::followFolder()
                    "The folder of the project %1 was exchanged while its program runs; what is in it counts "
                    "when the program is stopped and started again")
                    .arg(projects_.current()));
-    return !projects_.isReplaced(folder);
+    return projects_.isReplaced(folder) ? Folder::Unusable : Folder::Exchanged;
 }
 
 void Station::tellLists()
@@ -270,7 +270,7 @@ void Station::buildProject()
     const QString key = projects_.current();
     const QString folder = projectFolder();
     const bool isThere = !folder.isEmpty() && QDir(folder).exists();
-    const bool isReady = isThere && followFolder();
+    const bool isReady = isThere && followFolder() != Folder::Unusable;
     setBuilt(key.isEmpty() || isReady);
     listProjects();
     if (isReady) {

@@ -102,7 +102,12 @@ private:
     QString folderOf(const QString &key) const;
     QString projectFolder() const { return folderOf(projects_.current()); }
     void exchangeLists();
-    bool followFolder();
+    enum class Folder {
+        Same,      ///< it says what the tree has
+        Exchanged, ///< another one was there, and the tree has its lists now
+        Unusable,  ///< its lists count, and cannot be had: it cannot be read, or a program runs
+    };
+    Folder followFolder();
     void buildProject();
     void writeLists();
     void listProjects();

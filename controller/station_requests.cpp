@@ -48,12 +48,10 @@ Station::Answer Station::request(const QString &name, Node &payload)
 {
     if (CellDesk::knows(name)) {
         if (name == QLatin1String("program.run") && desk_.runner().state() == Runner::State::Stopped &&
-            projects_.isReplaced(ProjectFolder(projectFolder()))) {
-            followFolder();
+            followFolder() != Folder::Same)
             return {Texts::tr("the folder of the project was exchanged, and its counters with it: look at "
                               "them before it runs"),
                     Node()};
-        }
         Answer answer{desk_.request(name, payload, projectInUse()), Node()};
         followCell();
         if (name == QLatin1String("program.stop"))

@@ -104,8 +104,9 @@ void RecipeEditing::generate(bool report)
 
 void RecipeEditing::generateOthers() const
 {
+    const orba::Node &plugin = palx::pluginNode()->node();
     for (orba::ModuleObject *other : palx::stacksNode()->cmobjs())
-        if (other != stack_ && palx::isOnePointCalibrated(other->node(), palx::pluginNode()->node()))
+        if (other != stack_ && palx::isOnePointCalibrated(other->node(), plugin))
             palx::genPointsAndSaveToRC(other, false);
 }
 

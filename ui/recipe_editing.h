@@ -37,8 +37,8 @@ public:
     /// Whether edits made the recipe another one than was opened; repairs, and layers that generation drops, do
     /// not count.
     bool differsFromOpened() const;
-    /// The recipe uses something that was edited and that belongs to the work objects: the points of all recipes on them are made anew
-    /// and sent with the recipe.
+    /// What was edited belongs to the work objects: the points of all recipes on them are made anew and sent with the
+    /// recipe.
     void noteSharedEdit() { isEdited_ = isSharedEdited_ = true; }
     /// Makes the points anew and sends the recipe when it was edited.
     void save();
@@ -53,12 +53,11 @@ private:
     void announce() const;
     bool stepped(bool made);
     void generate(bool report);
+    void generateOthers() const;
 
     QPointer<orba::ModuleObject> stack_;
     RecipeHistory history_;
     orba::Node opened_;
-    void generateOthers() const;
-
     bool isEdited_ = false;
     bool isSharedEdited_ = false;
     bool isTouched_ = false; ///< something was edited since the recipe was opened

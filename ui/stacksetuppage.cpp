@@ -127,8 +127,7 @@ void StackSetupPage::openWizard(NestingWizard kind)
     RecipeWizard *wizard = openNestingWizard(kind, stack(), wgt_);
     connect(wizard, &QDialog::finished, wgt_, [this] { pageDateRefresh(); });
     // Also when another takes its place; queued, because it ends with the page too.
-    connect(
-        wizard, &QObject::destroyed, wgt_, [this] { pageDateRefresh(); }, Qt::QueuedConnection);
+    connect(wizard, &QObject::destroyed, wgt_, [this] { pageDateRefresh(); }, Qt::QueuedConnection);
 }
 
 void StackSetupPage::showFrame(int index)
