@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orba/export.h"
 #include "orba/node.h"
 
 #include <QString>
@@ -8,10 +9,10 @@
 namespace palx {
 
 /// Reads a list of variables; a file that is not there is an empty one. False with the reason when it holds something else.
-bool readVariableList(const QString &file, orba::Node *list, QString *why);
+PALX_API bool readVariableList(const QString &file, orba::Node *list, QString *why);
 
 /// Adds the seven parameters of a record to a list of variables, sorted by their keys, in place of those that are there.
-void addParameterVariables(const orba::Node &record, orba::Node *list);
+PALX_API void addParameterVariables(const orba::Node &record, orba::Node *list);
 
 /// The parameters that a list of variables has, by their keys. False with the reason when one has a value that a
 /// record cannot hold.
