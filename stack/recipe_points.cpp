@@ -1,6 +1,7 @@
 #include "stack/recipe_points.h"
 
 #include "stack/place_frame.h"
+#include "stack/tool_record.h"
 #include "workstation/plugin_node.h"
 
 #include <QCoreApplication>
@@ -66,28 +67,21 @@ QStringList untaughtFrame(const Node &stack)
         return {PointText::tr(
             "The shared work objects are not both calibrated by one point, so the place positions "
             "lie around the robot's foot.")};
-    const bool hasReference = isTaught(stack.find(u"toolset.ref"));
-    const bool isOnePoint = stack.getInt(u"calibrate.calibration_method") == 1;
-    const bool hasOrigin = isTaught(stack.find(u"calibrate.p1"));
-    if (!hasOrigin)
-        return hasReference ? QStringList()
-                            : QStringList(PointText::tr("The pallet's place is not calibrated, so the place "
-                                                        "positions lie around the robot's foot."));
-    if (!isOnePoint && !(isTaught(stack.find(u"calibrate.p2")) && isTaught(stack.find(u"calibrate.p3"))))
-        return {PointText::tr("The pallet's place needs three calibration points.")};
-    return {};
+    if (!isTaught(stack.find(u"calibrate.p1")) && !isTaught(stack.find(u"toolset.ref")))
+        return {PointText::tr(
+            "The pallet's place is not calibrated, so the place positions lie around the robot's foot.")};
+    const QString error = palletFrame(stack).error;
+    return error.isEmpty() ? QStringList() : QStringList(error);
 }
 
 QStringList unmeasuredTool(const Node &stack, const Node &plugin)
 {
-    const Node *tool =
-        stack.getBool(u"use_global_tool") ? plugin.find(u"global_tool.#0") : stack.find(u"toolset");
-    if (tool && tool->isContainer() && tool->size() > 0)
+    const bool isShared = stack.getBool(u"use_global_tool");
+    const Node *tool = isShared ? plugin.find(u"global_tool.#0") : stack.find(u"toolset");
+    if (tool && isMeasured(*tool, isShared ? ToolKeeper::Shared : ToolKeeper::Recipe))
         return {};
-    return {stack.getBool(u"use_global_tool")
-                ? PointText::tr("There is no shared tool.")
-                : PointText::tr("The recipe has no tool of its own, so the flange is "
-                                "taken for it.")};
+    return {isShared ? PointText::tr("The shared tool is not measured, so the flange is taken for it.")
+                     : PointText::tr("The recipe's tool is not measured, so the flange is taken for it.")};
 }
 
 } // namespace
@@ -106,7 +100,7 @@ bool isTaught(const Node *point)
     return false;
 }
 
-bool teachPoint(Node &point, const Node &robot)
+bool teachPoint(Node &point, const Node &robot, const PointFrame &frame)
 {
     constexpr int kNumbers = 3;
     const Node *pose = robot.child(u"pose");
@@ -116,6 +110,8 @@ bool teachPoint(Node &point, const Node &robot)
         return false;
     makePointRecord(point);
     copyPointData(point, *pose);
+    if (!frame.isPlain())
+        ix::calc::writePose(frame.point(ix::calc::toPose(*pose)), point);
     const Node *joints = robot.child(u"joints");
     Node *near = point.child(u"near");
     for (int i = 0; joints && i < near->size(); ++i)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orba/node.h"
+#include "stack/point_frame.h"
 
 #include <QStringList>
 
@@ -9,9 +10,9 @@ namespace palx {
 /// Whether a point record was taught or typed in: it holds some number other than 0.
 PALX_API bool isTaught(const orba::Node *point);
 
-/// The point where the robot stands, from its mirrored state: "pose" of the flange, and "joints" as "near". False, with
-/// `point` as it was, when the state has no whole pose.
-PALX_API bool teachPoint(orba::Node &point, const orba::Node &robot);
+/// The point where the robot stands, in the frame of the record that it is for, from the robot's mirrored state: "pose" of the
+/// flange in the base, and "joints" as "near". False, with `point` as it was, when the state has no whole pose.
+PALX_API bool teachPoint(orba::Node &point, const orba::Node &robot, const PointFrame &frame = PointFrame());
 
 /// Taught points that generation will need and that are not there, one sentence each. `plugin` holds the
 /// global lists.

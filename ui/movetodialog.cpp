@@ -193,12 +193,18 @@ void MoveToDialog::showAll()
     showMove();
 }
 
-/// Without a link nobody knows where the robot is now.
+/// Both in the frame of the point, so that they can be compared with what the recipe shows. Without a link nobody knows where
+/// the robot is now.
 void MoveToDialog::showPoses()
 {
-    const bool isKnown = move_->state() != HeldMove::State::NoLink;
+    const palx::PointFrame frame = move_->frame();
+    const bool isKnown = move_->state() != HeldMove::State::NoLink && frame.problem.isEmpty();
+    orba::Node robot = m("nexo.robot.pose")->node();
+    if (!frame.isPlain())
+        ix::calc::writePose(frame.point(ix::calc::toPose(robot)), robot);
     const QStringList target = shownPose(point_ ? &point_->node() : nullptr);
-    const QStringList present = shownPose(isKnown ? &m("nexo.robot.pose")->node() : nullptr);
+    const QStringList present = shownPose(isKnown ? &robot : nullptr);
+    ui_->lblPose->setText(frameText(frame));
     for (int i = 0; i < pose_.size(); ++i) {
         pose_[i].target->setText(target[i]);
         pose_[i].present->setText(present[i]);
@@ -234,13 +240,20 @@ void MoveToDialog::showMove()
         ui_->btnHold->letGo();
 }
 
+QString MoveToDialog::frameText(const palx::PointFrame &frame)
+{
+    if (frame.isOnPallet)
+        return frame.isOfTool ? tr("Tool in the pallet's frame") : tr("Flange in the pallet's frame");
+    return frame.isOfTool ? tr("Tool in the robot's base") : tr("Flange in the robot's base");
+}
+
 QString MoveToDialog::statusText() const
 {
     switch (move_->state()) {
     case HeldMove::State::NoLink:
         return tr("No controller. %1").arg(m("nexo.r.link")->getString());
     case HeldMove::State::Untaught:
-        return tr("Nobody has taught this point.");
+        return move_->reason().isEmpty() ? tr("Nobody has taught this point.") : move_->reason();
     case HeldMove::State::Ready:
         return move_->seconds() > 0
                    ? tr("Hold the button to move. The way takes %1 s.").arg(move_->seconds(), 0, 'f', 1)

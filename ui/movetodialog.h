@@ -50,6 +50,7 @@ private:
     void showPoses();
     void showJoints();
     void showMove();
+    static QString frameText(const palx::PointFrame &frame);
     QString statusText() const;
 
     std::unique_ptr<Ui::MoveToDialog> ui_;

@@ -98,7 +98,10 @@ void PointGroup::teachPoint()
         return Q_EMIT refused(tr("The controller is not connected: where the robot stands is not known."));
     if (m("nexo.robot")->getBool("moving"))
         return Q_EMIT refused(tr("The robot is moving. Teach the point when it stands."));
-    if (!palx::teachPoint(record, m("nexo.robot")->node()))
+    const palx::PointFrame frame = palx::pointFrame(holder_->node(), key_);
+    if (!frame.problem.isEmpty())
+        return Q_EMIT refused(frame.problem);
+    if (!palx::teachPoint(record, m("nexo.robot")->node(), frame))
         return Q_EMIT refused(tr("The controller does not tell where the robot stands."));
     holder_->ensure(key_)->copyFrom(record);
     reload();

@@ -68,17 +68,28 @@ void HeldMove::enter(State state, const QString &reason)
     Q_EMIT changed();
 }
 
-/// What the controller is asked for.
+PointFrame HeldMove::frame() const
+{
+    return point_ ? pointFrame(point_->node()) : PointFrame();
+}
+
+/// What the controller is asked for: the flange in the base, whatever frame the point is in.
 Node HeldMove::wish() const
 {
     Node wish = motion_ ? motion_->node() : Node();
-    wish.ensure(u"point")->assign(point_ ? point_->node() : Node());
+    Node *point = wish.ensure(u"point");
+    if (!point_)
+        return wish;
+    point->assign(point_->node());
+    const PointFrame frame = this->frame();
+    if (!frame.isPlain())
+        ix::calc::writePose(frame.flange(ix::calc::toPose(*point)), *point);
     return wish;
 }
 
 bool HeldMove::canMove() const
 {
-    return motion_ && point_ && isTaught(&point_->node());
+    return motion_ && point_ && isTaught(&point_->node()) && frame().problem.isEmpty();
 }
 
 // ---------------------------------------------------------------- the button
@@ -166,7 +177,7 @@ void HeldMove::check()
     if (state_ == State::NoLink)
         return;
     if (!canMove())
-        return enter(State::Untaught);
+        return enter(State::Untaught, frame().problem);
     ModuleObject request;
     request.copyFrom(wish_);
     const int check = ++checks_;

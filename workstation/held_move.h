@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orba/module_object.h"
+#include "stack/point_frame.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -22,7 +23,7 @@ public:
 
     enum class State {
         NoLink,   ///< there is no controller now
-        Untaught, ///< there is no point to go to
+        Untaught, ///< there is no point to go to, or its frame is not known: `reason`
         Ready,    ///< waits for the button
         Refused,  ///< the controller would not make this move: `reason`
         Starting, ///< asked for and not answered yet
@@ -33,7 +34,8 @@ public:
     };
 
     /// `motion` holds "type" ("l" straight, "j" by joints), "motion.toolset" and "motion.speed" [mm/s]; `point` is a point
-    /// record. Both may change or end at any time: a move under way then stops.
+    /// record, in the frame of its place in the tree. Both may change or end at any time, and so may the recipe's calibration and
+    /// tool: a move under way then stops.
     HeldMove(orba::ModuleObject *motion, orba::ModuleObject *point, QObject *parent = nullptr);
     /// Stops.
     ~HeldMove() override;
@@ -43,6 +45,9 @@ public:
     bool isHeld() const { return held_; }
     /// From the start until the robot stands.
     bool isUnderWay() const;
+
+    /// In which the point's numbers hold.
+    PointFrame frame() const;
 
     State state() const { return state_; }
     QString reason() const { return reason_; }

@@ -168,7 +168,7 @@ TEST(RecipePoints, NamesWhatGenerationWillMiss)
         {"{}", "{}", 6},
         {R"({"put.put_p": P, "put.enter_p": P, "get.get_p": P, "get.enter_p": P})", "{}", 2},
         {R"({"put.put_p": P, "put.enter_p": P, "get.get_p": P, "get.enter_p": P, "toolset.ref": P})", "{}",
-         0},
+         1},
         {R"({"put.put_p": P, "put.enter_p": P, "get.get_p": P, "get.enter_p": P, "toolset.end": P,
              "calibrate.p1": P, "calibrate.p2": P})",
          "{}", 1},

@@ -1,5 +1,7 @@
 // Points of the set-up page as the robot's: taught where it stands, and driven to.
 
+#include "controller/cell/recipe_plan.h"
+#include "support/recipe_tree.h"
 #include "ui/page_fixture.h"
 #include "ui/point_group.h"
 #include "ui/robot_cell.h"
@@ -90,5 +92,49 @@ TEST_F(PointMoves, AGeneratedPointIsDrivenToFromTheTable)
               QString::number(1000 * stack()->getDouble("points.put.#0.#1.put_p.trans.#0"), 'f', 1));
     table->clearSelection();
     EXPECT_FALSE(move->isEnabled());
+    delete dialog();
+}
+
+/// Taught and driven to with the recipe's tool on its pallet, as programs go there.
+TEST_F(PointMoves, APointOnACalibratedPalletIsWhereProgramsGo)
+{
+    applyPaths(stack()->node(), R"({
+        "calibrate.p1": {"trans": [1.0, 0.2, 0.1], "rot": [3.141592653589793, 0.0, 0.0]},
+        "calibrate.p2": {"trans": [1.2, 0.2, 0.1], "rot": [3.141592653589793, 0.0, 0.0]},
+        "calibrate.p3": {"trans": [1.0, 0.4, 0.12], "rot": [3.141592653589793, 0.0, 0.0]},
+        "toolset": {"end": {"trans": [0.01, 0.0, 0.2], "rot": [0.0, 0.0, 0.5]}}})");
+    pages.setup->pageDateRefresh();
+    pages.setup->showFrame(OpenRecipe::Points);
+    RecipeFrame *frame = pages.setup->frames().at(OpenRecipe::Points);
+    frame->findChild<QPushButton *>("btnGenerate")->click();
+    frame->findChild<QTableView *>("tblPoints")->selectRow(5 + 3); // "put_p" of the first product
+    frame->findChild<QPushButton *>("btnMove")->click();
+    cell.settle();
+    ASSERT_TRUE(dialog());
+    EXPECT_EQ(dialog()->findChild<QLabel *>("lblPose")->text(), "Tool in the pallet's frame");
+    dialog()->findChild<QPushButton *>("btnJoint")->click();
+    dialog()->move()->look();
+    cell.settle();
+    ASSERT_EQ(dialog()->move()->state(), palx::HeldMove::State::Ready) << qPrintable(dialog()->move()->reason());
+    dialog()->move()->press();
+    cell.settle();
+    cell.hold(dialog()->move(), 8); // a link on which nothing is said is soon taken for broken
+    ASSERT_EQ(dialog()->move()->state(), palx::HeldMove::State::Arrived) << qPrintable(dialog()->move()->reason());
+    for (int i = 0; i < 6; ++i)
+        EXPECT_EQ(dialog()->findChild<QLabel *>(QStringLiteral("lblPosePresent%1").arg(i))->text(),
+                  dialog()->findChild<QLabel *>(QStringLiteral("lblPoseTarget%1").arg(i))->text());
+
+    const controller::cell::RecipePlan plan(std::make_shared<orba::Node>(stack()->node()));
+    controller::Pose there;
+    QString why;
+    ASSERT_TRUE(plan.point(controller::script::PalletPoint::Wobj, 1, 1, &there, &why)) << qPrintable(why);
+    const ix::calc::Pose flange = ix::calc::toPose(*cell.robot().find(u"pose"));
+    EXPECT_TRUE((flange * *plan.tool()).isApprox(there, 1e-4)) << "the controller's own idea of it";
+
+    const orba::Node wished = stack()->r("points.put.#0.#0.put_p")->node();
+    pages.setup->showFrame(OpenRecipe::Waypoints);
+    button("grpPutPoint", "btnTeach")->click();
+    const orba::Node &taught = stack()->r("put.put_p")->node();
+    EXPECT_TRUE(ix::calc::toPose(taught).isApprox(ix::calc::toPose(wished), 1e-3)) << "back to the same numbers";
     delete dialog();
 }

@@ -308,7 +308,8 @@ TEST(PointsFrame, GeneratesListsFiltersAndCopies)
 TEST(PointsFrame, SaysWhenPointsAreOutOfDate)
 {
     SetupPage page(Points);
-    page.stack()->r("toolset")->copyFrom(nodeFromJson(R"({"ref": {"trans": [0.5, 0.0, 0.0]}})"));
+    page.stack()->r("toolset")->copyFrom(nodeFromJson(R"({"ref": {"trans": [0.5, 0.0, 0.0]},
+        "end": {"trans": [0.0, 0.0, 0.3]}})"));
     page.setup->pageDateRefresh();
     page.click(Points, "btnGenerate");
     enter(page.at<QDoubleSpinBox>(Product, "spnHeight"), 111.0);
