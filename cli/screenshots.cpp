@@ -14,6 +14,7 @@
 #include "project_pictures.h"
 #include "recipe_commands.h"
 #include "run_pictures.h"
+#include "stack/shared_lists.h"
 #include "stack/way_points.h"
 #include "ui/pattern_view.h"
 #include "ui/recipe_frame.h"
@@ -26,6 +27,7 @@
 #include <QAbstractEventDispatcher>
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QLineEdit>
@@ -211,6 +213,26 @@ void takeLayers(Camera &camera)
     camera.takeDialog([more] { more->menu()->actions().first()->trigger(); }, QStringLiteral("layer-series"));
 }
 
+/// The parts of the calibration of a recipe that shares tool and work objects with others.
+void takeShared(Camera &camera)
+{
+    auto *recipe = control<QComboBox>(camera, QStringLiteral("cmbRecipe"));
+    orba::ModuleObject *stack = palx::getStack(recipe ? recipe->currentText() : QString());
+    const orba::Node plugin = palx::pluginNode()->node();
+    for (const char *key : {"use_global_tool", "use_global_wobj"})
+        stack->set(nullptr, key, true);
+    palx::ensureSharedLists(stack);
+    palx::triggerNode()->c("refresh_data")->trigger();
+    for (const char *part : {"btnPlace", "btnTool", "btnIncoming"})
+        if (auto *button = control<QAbstractButton>(camera, QLatin1String(part)))
+            camera.takeAfter(button, QStringLiteral("setup-calibration-shared-") + stem(button));
+    for (const char *key : {"use_global_tool", "use_global_wobj"})
+        stack->set(nullptr, key, false);
+    for (const char *key : {"global_tool", "global_wobj"})
+        palx::pluginNode()->c(key)->copyFrom(*plugin.find(orba::Path(key)));
+    palx::triggerNode()->c("refresh_data")->trigger();
+}
+
 void takeDialogsOfFrame(Camera &camera, const QString &frame)
 {
     if (frame == QLatin1String("product")) {
@@ -221,6 +243,8 @@ void takeDialogsOfFrame(Camera &camera, const QString &frame)
     }
     if (frame == QLatin1String("layers"))
         takeLayers(camera);
+    if (frame == QLatin1String("calibration"))
+        takeShared(camera);
     if (frame != QLatin1String("patterns"))
         return;
     if (!showPlanEdits(camera.window(), [&camera](const QString &name) {

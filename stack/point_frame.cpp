@@ -83,6 +83,12 @@ void takeTool(PointFrame *frame, const Node *tool, ToolKeeper keeper)
         frame->tool = toolPose(*tool, keeper);
 }
 
+/// Whether points in it are to tell the tool: those of the flange.
+bool isForMeasuring(const Node &holder)
+{
+    return holder.name().toString() == QLatin1String("tool");
+}
+
 PointFrame frameAt(const Location &at, QStringView part)
 {
     PointFrame frame;
@@ -93,8 +99,6 @@ PointFrame frameAt(const Location &at, QStringView part)
         takeTool(&frame, at.plugin->find(u"global_tool.#0"), ToolKeeper::Shared);
     else if (at.stack)
         takeTool(&frame, at.stack->child(u"toolset"), ToolKeeper::Recipe);
-    if (at.stack && part == QLatin1String("tool"))
-        return PointFrame(); // the tool is what they are to tell
     if (at.stack && (part == QLatin1String("put") || part == QLatin1String("points"))) {
         const ix::calc::Calibration found = palletFrame(*at.stack);
         frame.reference = found.frame;
@@ -131,12 +135,16 @@ ix::calc::Calibration palletFrame(const Node &stack)
 
 PointFrame pointFrame(const Node &point)
 {
+    if (!point.parent() || isForMeasuring(*point.parent()))
+        return PointFrame();
     const Location at = locate(point);
     return frameAt(at, at.part ? at.part->name().toString() : QString());
 }
 
 PointFrame pointFrame(const Node &holder, QStringView key)
 {
+    if (isForMeasuring(holder))
+        return PointFrame();
     const Location at = locate(holder);
     const bool isPart = at.stack == &holder; // the record is a part of the recipe itself
     return frameAt(at, isPart ? key.toString() : at.part ? at.part->name().toString() : QString());

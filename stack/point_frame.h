@@ -31,8 +31,8 @@ struct PALX_API PointFrame
 PALX_API ix::calc::Calibration palletFrame(const orba::Node &stack);
 
 /// The frame of a point record by its place in the tree: place points of a recipe are those of its tool in its pallet frame,
-/// pick and calibration points those of its tool in the base, points for measuring its tool those of the flange, and points of
-/// the shared lists those of the shared tool. A record anywhere else is of the flange in the base.
+/// pick and calibration points those of its tool in the base, points of the shared lists those of the shared tool, and points
+/// for measuring a tool (children of a "tool") those of the flange. A record anywhere else is of the flange in the base.
 PALX_API PointFrame pointFrame(const orba::Node &point);
 
 /// The same for a child of `holder`, which need not be there yet.

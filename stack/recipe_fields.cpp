@@ -60,6 +60,10 @@ const FieldSpec kFields[] = {
     {"get.ready_h", -5000, 5000, 1, kMm},
     {"get.approach_h", -5000, 5000, 1, kMm},
     {"get.retract_h", -5000, 5000, 1, kMm},
+    {"calibrate.wobj_x", -5000, 5000, 1, kMm},
+    {"calibrate.wobj_y", -5000, 5000, 1, kMm},
+    {"load.length", 0, 5000, 1, kMm},
+    {"load.width", 0, 5000, 1, kMm},
     // below an offsets record, a layer, an item
     {"enter_x", -5000, 5000, 1, kMm},
     {"enter_y", -5000, 5000, 1, kMm},

@@ -58,27 +58,3 @@ QString FeedingDirectionWizard::pageTitle(int page) const
 {
     return page == 0 ? tr("Sides") : tr("Stack");
 }
-
-namespace {
-
-RecipeWizard *makeWizard(NestingWizard kind, orba::ModuleObject *stack, QWidget *parent)
-{
-    switch (kind) {
-    case NestingWizard::Planar:
-        return new PlanarNestingWizard(stack, parent);
-    case NestingWizard::Cascade:
-        return new CascadeNestingWizard(stack, parent);
-    case NestingWizard::Feeding:
-        break;
-    }
-    return new FeedingDirectionWizard(stack, parent);
-}
-
-} // namespace
-
-RecipeWizard *openNestingWizard(NestingWizard kind, orba::ModuleObject *stack, QWidget *parent)
-{
-    RecipeWizard *wizard = makeWizard(kind, stack, parent);
-    wizard->openUnique();
-    return wizard;
-}

@@ -41,7 +41,3 @@ protected:
     QString titleText() const override;
     QString pageTitle(int page) const override;
 };
-
-enum class NestingWizard { Planar, Cascade, Feeding };
-/// Opens one over the window of `parent`, in place of any other dialog of the plug-in; it ends by itself.
-PALX_API RecipeWizard *openNestingWizard(NestingWizard kind, orba::ModuleObject *stack, QWidget *parent);

@@ -68,6 +68,10 @@ void PalletFrame::followTriggers()
     orba::ModuleObject *trigger = palx::triggerNode();
     connect(trigger->c("refresh_margin_data"), &orba::ModuleObject::changed, this,
             [this] { binder()->reload(); });
+    connect(trigger->c("refresh_pallet_data"), &orba::ModuleObject::changed, this, [this] {
+        binder()->reload();
+        refresh();
+    });
     connect(trigger->c("reset_margin_data"), &orba::ModuleObject::changed, this, &PalletFrame::resetMargins);
 }
 

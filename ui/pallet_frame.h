@@ -11,8 +11,8 @@ class PalletFrame;
 /// Pallet, separator sheet, margins, and where the pallet stands in the cell.
 ///
 /// A standard size writes length, width and height; "specification" then holds its number in "pallet_cfg"
-/// counted from 1, and 0 as soon as the size is another one. Follows the triggers "refresh_margin_data"
-/// (shows the margins again) and "reset_margin_data" (sets them to 0).
+/// counted from 1, and 0 as soon as the size is another one. Follows the triggers "refresh_pallet_data" and
+/// "refresh_margin_data" (shows the fields again) and "reset_margin_data" (sets the margins to 0).
 class PALX_API PalletFrame : public RecipeFrame
 {
     Q_OBJECT

@@ -1,8 +1,8 @@
 #include "ui/recipe_editing.h"
 
-#include "stack/place_frame.h"
 #include "stack/recipe_edit.h"
 #include "stack/recipe_fields.h"
+#include "stack/shared_lists.h"
 #include "stack/stack_check.h"
 #include "workstation/controller_sync.h"
 #include "workstation/plugin_node.h"
@@ -37,6 +37,7 @@ void RecipeEditing::open(orba::ModuleObject *stack)
     if (stack_) {
         palx::checkProductPallet(stack_);
         palx::ensureRecipeKeys(stack_, palx::pluginNode()->r("default")->node());
+        palx::ensureSharedLists(stack_);
     }
     history_.start(stack_);
     opened_ = history_.present();
@@ -49,6 +50,7 @@ QString RecipeEditing::commit()
     const bool reset = palx::marginsTooWide(stack_->node());
     if (reset)
         raise("reset_margin_data");
+    palx::ensureSharedLists(stack_);
     stepped(history_.commit());
     return reset ? tr("The margins left no room for a product and were set to 0.") : QString();
 }
@@ -67,6 +69,7 @@ bool RecipeEditing::stepped(bool made)
 {
     if (made) {
         isEdited_ = isTouched_ = true;
+        isSharedEdited_ = isSharedEdited_ || !history_.before().hasSameShared(history_.present());
         announce();
     }
     return made;
@@ -75,11 +78,12 @@ bool RecipeEditing::stepped(bool made)
 /// Tells other editors and pages what has changed between the last two steps.
 void RecipeEditing::announce() const
 {
-    const orba::Node &was = history_.before();
-    const orba::Node &is = history_.present();
-    if (differs(was, is,
-                {"put", "get", "product_cfg.product", "pallet_position", "use_global_tool", "use_global_wobj",
-                 "calibrate", "tool", "toolset"}))
+    const orba::Node &was = history_.before().recipe;
+    const orba::Node &is = history_.present().recipe;
+    const bool isSharedSame = history_.before().hasSameShared(history_.present());
+    if (!isSharedSame || differs(was, is,
+                                 {"put", "get", "product_cfg.product", "pallet_position", "use_global_tool",
+                                  "use_global_wobj", "calibrate", "tool", "toolset"}))
         raise("refresh_data");
     if (differs(was, is, {"product_cfg.pallet", "product_cfg.clapboard"}))
         raise("refresh_pallet_data");
@@ -89,7 +93,7 @@ void RecipeEditing::announce() const
 
 bool RecipeEditing::differsFromOpened() const
 {
-    return stack_ && isTouched_ && palx::recipeContent(stack_->node()) != opened_;
+    return stack_ && isTouched_ && !(history_.now() == opened_);
 }
 
 void RecipeEditing::generate(bool report)
@@ -104,9 +108,8 @@ void RecipeEditing::generate(bool report)
 
 void RecipeEditing::generateOthers() const
 {
-    const orba::Node &plugin = palx::pluginNode()->node();
     for (orba::ModuleObject *other : palx::stacksNode()->cmobjs())
-        if (other != stack_ && palx::isOnePointCalibrated(other->node(), plugin))
+        if (other != stack_ && palx::usesSharedLists(other->node()))
             palx::genPointsAndSaveToRC(other, false);
 }
 
@@ -135,7 +138,7 @@ void RecipeEditing::revert()
 {
     if (!differsFromOpened())
         return;
-    palx::restoreContent(stack_, opened_);
+    history_.restore(opened_);
     stepped(history_.commit());
     if (isSent_)
         leave();

@@ -7,7 +7,7 @@
 /// One recipe under edit: what the set-up page and every wizard do around their fields.
 ///
 /// Opening repairs what must not be (each repair is recorded) and adds keys that recipes of older versions
-/// lack. A step raises "refresh_data", "refresh_pallet_data" and "refresh_margin_data" for what was changed,
+/// lack; the lists of tools and work objects that it shares are made where they lack something. A step raises "refresh_data", "refresh_pallet_data" and "refresh_margin_data" for what was changed,
 /// and "reset_margin_data" when margins leave no room on a smaller pallet; "refresh_table" is raised when the
 /// operator leaves the recipe or a wizard goes on.
 class PALX_API RecipeEditing : public QObject
@@ -37,10 +37,8 @@ public:
     /// Whether edits made the recipe another one than was opened; repairs, and layers that generation drops, do
     /// not count.
     bool differsFromOpened() const;
-    /// What was edited belongs to the work objects: the points of all recipes on them are made anew and sent with the
-    /// recipe.
-    void noteSharedEdit() { isEdited_ = isSharedEdited_ = true; }
-    /// Makes the points anew and sends the recipe when it was edited.
+    /// Makes the points anew and sends the recipe when it was edited; when what recipes share was edited, those of all that
+    /// share it.
     void save();
     /// The same in any case, recorded for the operator when it was edited; then raises "refresh_table".
     void saveAndTell();
@@ -57,7 +55,7 @@ private:
 
     QPointer<orba::ModuleObject> stack_;
     RecipeHistory history_;
-    orba::Node opened_;
+    RecipeState opened_;
     bool isEdited_ = false;
     bool isSharedEdited_ = false;
     bool isTouched_ = false; ///< something was edited since the recipe was opened

@@ -33,8 +33,6 @@ public:
 Q_SIGNALS:
     /// The operator changed the recipe in this frame.
     void edited();
-    /// Before `edited`: the edit is of something that other recipes use too.
-    void sharedEdited();
     /// Something the operator wanted was refused, and why.
     void refused(const QString &reason);
 

@@ -1,21 +1,43 @@
 #include "ui/recipe_history.h"
 
 #include "stack/recipe_edit.h"
+#include "workstation/plugin_node.h"
 
 void RecipeHistory::start(orba::ModuleObject *stack)
 {
     stack_ = stack;
     undo_.clear();
     redo_.clear();
-    present_ = stack_ ? palx::recipeContent(stack_->node()) : orba::Node();
-    before_ = present_;
+    before_ = present_ = now();
+}
+
+RecipeState RecipeHistory::now() const
+{
+    if (!stack_)
+        return {};
+    const orba::Node &plugin = palx::pluginNodeOf(stack_->node());
+    const auto list = [&plugin](const char16_t *key) {
+        const orba::Node *found = plugin.child(key);
+        return found ? *found : orba::Node();
+    };
+    return {palx::recipeContent(stack_->node()), list(u"global_tool"), list(u"global_wobj")};
+}
+
+void RecipeHistory::restore(const RecipeState &state)
+{
+    if (!stack_)
+        return;
+    palx::restoreContent(stack_, state.recipe);
+    orba::ModuleObject *plugin = stack_->p(1);
+    palx::restoreNode(plugin->c("global_tool"), state.tools);
+    palx::restoreNode(plugin->c("global_wobj"), state.wobjs);
 }
 
 bool RecipeHistory::commit()
 {
     if (!stack_)
         return false;
-    orba::Node now = palx::recipeContent(stack_->node());
+    const RecipeState now = this->now();
     if (now == present_)
         return false;
     undo_.append(present_);
@@ -30,7 +52,7 @@ bool RecipeHistory::commit()
 void RecipeHistory::absorb()
 {
     if (stack_)
-        present_ = palx::recipeContent(stack_->node());
+        present_ = now();
 }
 
 bool RecipeHistory::undo()
@@ -44,13 +66,13 @@ bool RecipeHistory::redo()
     return !commit() && step(&redo_, &undo_);
 }
 
-bool RecipeHistory::step(QList<orba::Node> *from, QList<orba::Node> *to)
+bool RecipeHistory::step(QList<RecipeState> *from, QList<RecipeState> *to)
 {
     if (!stack_ || from->isEmpty())
         return false;
     to->append(present_);
     before_ = present_;
     present_ = from->takeLast();
-    palx::restoreContent(stack_, present_);
+    restore(present_);
     return true;
 }

@@ -5,8 +5,20 @@
 #include <QList>
 #include <QPointer>
 
-/// Undo and redo of edits to one recipe, by whole copies of its content without the generated points.
-/// Restoring writes values in place, so fields tied to nodes follow.
+/// What an undo step keeps: a recipe's content without the generated points, and the tools and work objects that all recipes
+/// share.
+struct PALX_API RecipeState
+{
+    orba::Node recipe;
+    orba::Node tools; ///< "global_tool"
+    orba::Node wobjs; ///< "global_wobj"
+
+    bool hasSameShared(const RecipeState &other) const { return tools == other.tools && wobjs == other.wobjs; }
+    bool operator==(const RecipeState &other) const { return recipe == other.recipe && hasSameShared(other); }
+};
+
+/// Undo and redo of edits to one recipe and to what it shares, by whole copies. Restoring writes values in place, so fields
+/// tied to nodes follow.
 class PALX_API RecipeHistory
 {
 public:
@@ -24,16 +36,20 @@ public:
     bool redo();
     bool canUndo() const { return !undo_.isEmpty(); }
     bool canRedo() const { return !redo_.isEmpty(); }
-    /// The recipe's content before and after the last successful commit, undo or redo.
-    const orba::Node &before() const { return before_; }
-    const orba::Node &present() const { return present_; }
+    /// Before and after the last successful commit, undo or redo.
+    const RecipeState &before() const { return before_; }
+    const RecipeState &present() const { return present_; }
+    /// As the recipe is now.
+    RecipeState now() const;
+    /// Back to a state that `now` or `present` gave; no step of its own.
+    void restore(const RecipeState &state);
 
 private:
-    bool step(QList<orba::Node> *from, QList<orba::Node> *to);
+    bool step(QList<RecipeState> *from, QList<RecipeState> *to);
 
     QPointer<orba::ModuleObject> stack_;
-    orba::Node before_;
-    orba::Node present_;
-    QList<orba::Node> undo_;
-    QList<orba::Node> redo_;
+    RecipeState before_;
+    RecipeState present_;
+    QList<RecipeState> undo_;
+    QList<RecipeState> redo_;
 };

@@ -2,11 +2,12 @@
 
 #include "ix/xtheme.h"
 #include "orba/managers.h"
+#include "ui/calibration_frame.h"
+#include "ui/cell_wizards.h"
 #include "ui/current_recipe.h"
 #include "ui/form_style.h"
 #include "ui/keypad.h"
 #include "ui/layers_frame.h"
-#include "ui/nesting_wizards.h"
 #include "ui/pallet_frame.h"
 #include "ui/patterns_frame.h"
 #include "ui/points_frame.h"
@@ -69,15 +70,15 @@ QWidget *StackSetupPage::wgt()
 
 void StackSetupPage::makeFrames()
 {
-    frames_ = {new ProductFrame(wgt_), new PalletFrame(wgt_),    new PatternsFrame(wgt_),
-               new LayersFrame(wgt_),  new WaypointsFrame(wgt_), new PointsFrame(wgt_)};
-    buttons_ = {ui_->btnProduct, ui_->btnPallet,    ui_->btnPatterns,
-                ui_->btnLayers,  ui_->btnWaypoints, ui_->btnPoints};
+    frames_ = {new ProductFrame(wgt_), new PalletFrame(wgt_),      new PatternsFrame(wgt_),
+               new LayersFrame(wgt_),  new CalibrationFrame(wgt_), new WaypointsFrame(wgt_),
+               new PointsFrame(wgt_)};
+    buttons_ = {ui_->btnProduct,     ui_->btnPallet,    ui_->btnPatterns, ui_->btnLayers,
+                ui_->btnCalibration, ui_->btnWaypoints, ui_->btnPoints};
     for (int i = 0; i < frames_.size(); ++i) {
         ui_->stkFrames->addWidget(scrollingForm(frames_[i]));
         connect(buttons_[i], &QAbstractButton::clicked, wgt_, [this, i] { showFrame(i); });
         connect(frames_[i], &RecipeFrame::edited, wgt_, [this] { onEdited(); });
-        connect(frames_[i], &RecipeFrame::sharedEdited, wgt_, [this] { editing_.noteSharedEdit(); });
         connect(frames_[i], &RecipeFrame::refused, wgt_,
                 [this](const QString &reason) { ui_->message->showMessage(reason, State::Attention); });
     }
@@ -106,13 +107,15 @@ void StackSetupPage::makeWizardMenu()
     menu->setObjectName(QStringLiteral("mnuWizard"));
     const struct
     {
-        NestingWizard kind;
+        WizardKind kind;
         const char *name;
-    } entries[] = {{NestingWizard::Planar, "wizard-patterns"},
-                   {NestingWizard::Feeding, "wizard-directions"},
-                   {NestingWizard::Cascade, "wizard-layers"}};
+    } entries[] = {{WizardKind::Parameters, "wizard-parameters"},
+                   {WizardKind::Patterns, "wizard-patterns"},
+                   {WizardKind::Directions, "wizard-directions"},
+                   {WizardKind::Layers, "wizard-layers"},
+                   {WizardKind::Waypoints, "wizard-waypoints"}};
     for (const auto &entry : entries) {
-        const NestingWizard kind = entry.kind;
+        const WizardKind kind = entry.kind;
         wizards_ << menu->addAction(QString(), wgt_.data(), [this, kind] { openWizard(kind); });
         wizards_.last()->setObjectName(QLatin1String(entry.name));
     }
@@ -120,14 +123,15 @@ void StackSetupPage::makeWizardMenu()
     retranslate();
 }
 
-void StackSetupPage::openWizard(NestingWizard kind)
+void StackSetupPage::openWizard(WizardKind kind)
 {
     finishField(wgt_);
     editing_.save(); // a wizard that is cancelled goes back to what stands here now
-    RecipeWizard *wizard = openNestingWizard(kind, stack(), wgt_);
+    RecipeWizard *wizard = openRecipeWizard(kind, stack(), wgt_);
     connect(wizard, &QDialog::finished, wgt_, [this] { pageDateRefresh(); });
     // Also when another takes its place; queued, because it ends with the page too.
-    connect(wizard, &QObject::destroyed, wgt_, [this] { pageDateRefresh(); }, Qt::QueuedConnection);
+    connect(
+        wizard, &QObject::destroyed, wgt_, [this] { pageDateRefresh(); }, Qt::QueuedConnection);
 }
 
 void StackSetupPage::showFrame(int index)
@@ -232,7 +236,8 @@ bool StackSetupPage::eventFilter(QObject *watched, QEvent *event)
 void StackSetupPage::retranslate()
 {
     ui_->retranslateUi(wgt_);
-    const QString names[] = {tr("Patterns"), tr("Feeding directions"), tr("Layers")};
+    const QString names[] = {tr("Product and pallet"), tr("Patterns"), tr("Feeding directions"), tr("Layers"),
+                             tr("Waypoints")};
     for (int i = 0; i < wizards_.size(); ++i)
         wizards_[i]->setText(names[i]);
 }

@@ -10,13 +10,13 @@
 class QAbstractButton;
 class QAction;
 class RecipeFrame;
-enum class NestingWizard;
+enum class WizardKind;
 namespace Ui {
 class StackSetupPage;
 }
 
 /// The plug-in's set-up page: edits the current recipe in frames for product, pallet, patterns, layers,
-/// waypoints and points, with undo and redo.
+/// calibration, waypoints and points, with undo and redo.
 ///
 /// `RecipeEditing` says what opening, editing and leaving a recipe do besides.
 class PALX_API StackSetupPage : public bwaf::BModule
@@ -50,7 +50,7 @@ private:
     void makeFrames();
     void connectHeader();
     void makeWizardMenu();
-    void openWizard(NestingWizard kind);
+    void openWizard(WizardKind kind);
     void setStack(orba::ModuleObject *stack);
     void fillRecipes();
     void onEdited();

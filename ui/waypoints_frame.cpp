@@ -61,13 +61,7 @@ void WaypointsFrame::bindOffsets()
             offsetBinder_->bind(field, mName(record, QLatin1String(key)));
         }
     }
-    connect(offsetBinder_, &NodeBinder::edited, this, [this] {
-        if (isOnePoint()) {
-            palx::triggerNode()->c("refresh_data")->trigger();
-            Q_EMIT sharedEdited();
-        }
-        Q_EMIT edited();
-    });
+    connect(offsetBinder_, &NodeBinder::edited, this, &RecipeFrame::edited);
 }
 
 void WaypointsFrame::connectPoints()

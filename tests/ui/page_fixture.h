@@ -60,7 +60,7 @@ public:
 /// The set-up page with the recipe "Box" open.
 struct OpenRecipe : Pages
 {
-    enum Frame { Product, Pallet, Patterns, Layers, Waypoints, Points };
+    enum Frame { Product, Pallet, Patterns, Layers, Calibration, Waypoints, Points };
 
     explicit OpenRecipe(int frame = Product)
     {

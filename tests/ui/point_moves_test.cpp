@@ -115,11 +115,13 @@ TEST_F(PointMoves, APointOnACalibratedPalletIsWhereProgramsGo)
     dialog()->findChild<QPushButton *>("btnJoint")->click();
     dialog()->move()->look();
     cell.settle();
-    ASSERT_EQ(dialog()->move()->state(), palx::HeldMove::State::Ready) << qPrintable(dialog()->move()->reason());
+    ASSERT_EQ(dialog()->move()->state(), palx::HeldMove::State::Ready)
+        << qPrintable(dialog()->move()->reason());
     dialog()->move()->press();
     cell.settle();
     cell.hold(dialog()->move(), 8); // a link on which nothing is said is soon taken for broken
-    ASSERT_EQ(dialog()->move()->state(), palx::HeldMove::State::Arrived) << qPrintable(dialog()->move()->reason());
+    ASSERT_EQ(dialog()->move()->state(), palx::HeldMove::State::Arrived)
+        << qPrintable(dialog()->move()->reason());
     for (int i = 0; i < 6; ++i)
         EXPECT_EQ(dialog()->findChild<QLabel *>(QStringLiteral("lblPosePresent%1").arg(i))->text(),
                   dialog()->findChild<QLabel *>(QStringLiteral("lblPoseTarget%1").arg(i))->text());
@@ -135,6 +137,7 @@ TEST_F(PointMoves, APointOnACalibratedPalletIsWhereProgramsGo)
     pages.setup->showFrame(OpenRecipe::Waypoints);
     button("grpPutPoint", "btnTeach")->click();
     const orba::Node &taught = stack()->r("put.put_p")->node();
-    EXPECT_TRUE(ix::calc::toPose(taught).isApprox(ix::calc::toPose(wished), 1e-3)) << "back to the same numbers";
+    EXPECT_TRUE(ix::calc::toPose(taught).isApprox(ix::calc::toPose(wished), 1e-3))
+        << "back to the same numbers";
     delete dialog();
 }

@@ -85,8 +85,8 @@ TEST(RecipeWizard, ForTheSetUpPageItIsOneStep)
     pages.open("Box");
     const orba::Node before = palx::recipeContent(stack->node());
     const auto *menu = pages.field<QMenu>("mnuWizard");
-    ASSERT_EQ(menu->actions().size(), 3);
-    menu->actions().last()->trigger();
+    ASSERT_EQ(menu->actions().size(), 5);
+    menu->actions().at(3)->trigger(); // of layers
     auto *wizard = pages.center.findChild<RecipeWizard *>();
     ASSERT_NE(wizard, nullptr);
     wizard->findChild<QPushButton *>("btnAdd")->click();
