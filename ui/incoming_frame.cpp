@@ -48,7 +48,7 @@ void IncomingFrame::fillCombos()
         QComboBox *combo;
         QString texts[2]; ///< of 0 and 1
     } choices[] = {{ui_->cmbOrigin, {tr("Left"), tr("Right")}},
-                   {ui_->cmbProduct, {tr("Length along the conveyor"), tr("Width along the conveyor")}},
+                   {ui_->cmbProduct, {tr("Lengthwise"), tr("Crosswise")}},
                    {ui_->cmbLine, {tr("Along X"), tr("Along Y")}}};
     for (const auto &choice : choices) {
         choice.combo->clear();

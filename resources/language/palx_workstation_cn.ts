@@ -64,6 +64,21 @@
     </message>
 </context>
 <context>
+    <name>CalibrationFrame</name>
+    <message>
+        <source>Pallet frame</source>
+        <translation>托盘坐标系</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>Incoming</source>
+        <translation>来料</translation>
+    </message>
+</context>
+<context>
     <name>CascadeNestingWizard</name>
     <message>
         <source>Layers</source>
@@ -512,6 +527,13 @@
     </message>
 </context>
 <context>
+    <name>FrameText</name>
+    <message>
+        <source>The pallet&apos;s place needs three calibration points.</source>
+        <translation>托盘位置需要三个标定点。</translation>
+    </message>
+</context>
+<context>
     <name>HomeParts</name>
     <message>
         <source>Production</source>
@@ -902,6 +924,93 @@
     <message>
         <source>Merging the recipes</source>
         <translation>正在合并配方</translation>
+    </message>
+</context>
+<context>
+    <name>IncomingFrame</name>
+    <message>
+        <source>Note</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Conveyor</source>
+        <translation>输送线</translation>
+    </message>
+    <message>
+        <source>Corner that products lie in</source>
+        <translation>产品所靠的角</translation>
+    </message>
+    <message>
+        <source>Product on the conveyor</source>
+        <translation>输送线上的产品</translation>
+    </message>
+    <message>
+        <source>Direction of the conveyor</source>
+        <translation>输送线方向</translation>
+    </message>
+    <message>
+        <source>Way to the product</source>
+        <translation>到产品的路径</translation>
+    </message>
+    <message>
+        <source>Enter point X</source>
+        <translation>进入点 X</translation>
+    </message>
+    <message>
+        <source>Enter point Y</source>
+        <translation>进入点 Y</translation>
+    </message>
+    <message>
+        <source>Enter point above</source>
+        <translation>进入点高出</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>接近</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Along X</source>
+        <translation>沿 X</translation>
+    </message>
+    <message>
+        <source>Along Y</source>
+        <translation>沿 Y</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>角点</translation>
+    </message>
+    <message>
+        <source>Used by all recipes with &quot;Shared tool&quot;. Touch the corner at the conveyor&apos;s end that products lie in with the tool; the pick point is the middle of the product.</source>
+        <translation>用于所有选用“共用工具”的配方。用工具触碰输送线末端产品所靠的角；抓取点是产品的中心。</translation>
+    </message>
+    <message>
+        <source>Pick point</source>
+        <translation>抓取点</translation>
+    </message>
+    <message>
+        <source>Enter point</source>
+        <translation>进入点</translation>
+    </message>
+    <message>
+        <source>The robot picks every product at the pick point.</source>
+        <translation>机器人在抓取点抓取每个产品。</translation>
+    </message>
+    <message>
+        <source>Lengthwise</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Crosswise</source>
+        <translation>横向</translation>
     </message>
 </context>
 <context>
@@ -1398,10 +1507,6 @@ mm</translation>
 <context>
     <name>MoveToDialog</name>
     <message>
-        <source>Position of the flange</source>
-        <translation>法兰位置</translation>
-    </message>
-    <message>
         <source>Target</source>
         <translation>目标</translation>
     </message>
@@ -1508,6 +1613,22 @@ mm</translation>
     <message>
         <source>Arrived.</source>
         <translation>已到达。</translation>
+    </message>
+    <message>
+        <source>Tool in the pallet&apos;s frame</source>
+        <translation>托盘坐标系中的工具</translation>
+    </message>
+    <message>
+        <source>Flange in the pallet&apos;s frame</source>
+        <translation>托盘坐标系中的法兰</translation>
+    </message>
+    <message>
+        <source>Tool in the robot&apos;s base</source>
+        <translation>机器人基座中的工具</translation>
+    </message>
+    <message>
+        <source>Flange in the robot&apos;s base</source>
+        <translation>机器人基座中的法兰</translation>
     </message>
 </context>
 <context>
@@ -1767,10 +1888,140 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>PalletPlaceFrame</name>
+    <message>
+        <source>Note</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Pallet frame</source>
+        <translation>托盘坐标系</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>标定</translation>
+    </message>
+    <message>
+        <source>Shift along X</source>
+        <translation>沿 X 偏移</translation>
+    </message>
+    <message>
+        <source>Shift along Y</source>
+        <translation>沿 Y 偏移</translation>
+    </message>
+    <message>
+        <source>Where the pallet lies</source>
+        <translation>托盘所在位置</translation>
+    </message>
+    <message>
+        <source>Shared pallet frames</source>
+        <translation>共用托盘坐标系</translation>
+    </message>
+    <message>
+        <source>Pallets lie from their origin</source>
+        <translation>托盘从原点延伸</translation>
+    </message>
+    <message>
+        <source>Length of the taught box</source>
+        <translation>示教箱长度</translation>
+    </message>
+    <message>
+        <source>Width of the taught box</source>
+        <translation>示教箱宽度</translation>
+    </message>
+    <message>
+        <source>Calibrate by one point</source>
+        <translation>单点标定</translation>
+    </message>
+    <message>
+        <source>Three points</source>
+        <translation>三点</translation>
+    </message>
+    <message>
+        <source>One point</source>
+        <translation>单点</translation>
+    </message>
+    <message>
+        <source>Against the robot&apos;s X</source>
+        <translation>与机器人 X 相反</translation>
+    </message>
+    <message>
+        <source>Along the robot&apos;s X</source>
+        <translation>沿机器人 X</translation>
+    </message>
+    <message>
+        <source>Origin</source>
+        <translation>原点</translation>
+    </message>
+    <message>
+        <source>Point on X</source>
+        <translation>X 上的点</translation>
+    </message>
+    <message>
+        <source>Point towards Y</source>
+        <translation>Y 方向的点</translation>
+    </message>
+    <message>
+        <source>Origin, left</source>
+        <translation>原点，左</translation>
+    </message>
+    <message>
+        <source>Origin, right</source>
+        <translation>原点，右</translation>
+    </message>
+    <message>
+        <source>Touch the pallet&apos;s origin with the tool: its axes run as the robot&apos;s.</source>
+        <translation>用工具触碰托盘原点：其坐标轴与机器人一致。</translation>
+    </message>
+    <message>
+        <source>Touch the points with the tool: the origin, one along the pallet&apos;s length, one across it.</source>
+        <translation>用工具触碰各点：原点、沿托盘长度方向一点、横向一点。</translation>
+    </message>
+    <message>
+        <source>Not calibrated: the positions count from the robot&apos;s foot.</source>
+        <translation>未标定：位置从机器人底座算起。</translation>
+    </message>
+    <message>
+        <source>Origin at X %1, Y %2, Z %3 mm, turned by %4°.</source>
+        <translation>原点 X %1、Y %2、Z %3 mm，转角 %4°。</translation>
+    </message>
+    <message>
+        <source>It comes from the recipe&apos;s tool record.</source>
+        <translation>取自配方的工具记录。</translation>
+    </message>
+    <message>
+        <source>The shared work objects are not in use: they have to be calibrated by one point.</source>
+        <translation>共用工件未生效：必须用单点标定。</translation>
+    </message>
+    <message>
+        <source>Choose how both pallets lie: they have to lie alike.</source>
+        <translation>请选择两个托盘的摆放方式：二者必须一致。</translation>
+    </message>
+    <message>
+        <source>Shared by all recipes on these work objects. Hold a box in the pallet&apos;s inner corner, from which it lies as chosen here, and teach it.</source>
+        <translation>由使用这些工件的所有配方共用。将箱子置于托盘内侧角（托盘从该角按此处所选方向延伸），然后示教。</translation>
+    </message>
+</context>
+<context>
     <name>Palx</name>
     <message>
         <source>W-Palletizing</source>
         <translation>W-码垛</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterSettingsWizard</name>
+    <message>
+        <source>Product and pallet</source>
+        <translation>产品和托盘</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>产品</translation>
+    </message>
+    <message>
+        <source>Pallet</source>
+        <translation>托盘</translation>
     </message>
 </context>
 <context>
@@ -2298,16 +2549,12 @@ mm</translation>
         <translation>托盘位置未标定，因此放置位置会落在机器人底座周围。</translation>
     </message>
     <message>
-        <source>The pallet&apos;s place needs three calibration points.</source>
-        <translation>托盘位置需要三个标定点。</translation>
+        <source>The shared tool is not measured, so the flange is taken for it.</source>
+        <translation>共用工具未测量，因此以法兰代替。</translation>
     </message>
     <message>
-        <source>There is no shared tool.</source>
-        <translation>没有共用工具。</translation>
-    </message>
-    <message>
-        <source>The recipe has no tool of its own, so the flange is taken for it.</source>
-        <translation>配方没有自己的工具，因此以法兰代替。</translation>
+        <source>The recipe&apos;s tool is not measured, so the flange is taken for it.</source>
+        <translation>配方的工具未测量，因此以法兰代替。</translation>
     </message>
 </context>
 <context>
@@ -3764,6 +4011,14 @@ Pallet: %4</source>
         <source>Feeding directions</source>
         <translation>进料方向</translation>
     </message>
+    <message>
+        <source>Calibration</source>
+        <translation>标定</translation>
+    </message>
+    <message>
+        <source>Product and pallet</source>
+        <translation>产品和托盘</translation>
+    </message>
 </context>
 <context>
     <name>StartDialog</name>
@@ -3906,6 +4161,76 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>ToolFrame</name>
+    <message>
+        <source>Note</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Tool, seen from the flange</source>
+        <translation>相对于法兰的工具</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>Centre of gravity X</source>
+        <translation>重心 X</translation>
+    </message>
+    <message>
+        <source>Centre of gravity Y</source>
+        <translation>重心 Y</translation>
+    </message>
+    <message>
+        <source>Centre of gravity Z</source>
+        <translation>重心 Z</translation>
+    </message>
+    <message>
+        <source>Two touches</source>
+        <translation>两次触碰</translation>
+    </message>
+    <message>
+        <source>Touch a fixed tip with the tool and teach the first touch. Turn the hand about its own axis by 90° or more, touch the tip again and teach the second one.</source>
+        <translation>用工具触碰固定尖点并示教第一次触碰。将手腕绕自身轴转动至少 90°，再次触碰尖点并示教第二次。</translation>
+    </message>
+    <message>
+        <source>Measure X and Y</source>
+        <translation>测量 X 和 Y</translation>
+    </message>
+    <message>
+        <source>Touch 1</source>
+        <translation>触碰 1</translation>
+    </message>
+    <message>
+        <source>Touch 2</source>
+        <translation>触碰 2</translation>
+    </message>
+    <message>
+        <source>The shared tool &quot;%1&quot;, used by all recipes with &quot;Shared tool&quot;.</source>
+        <translation>共用工具“%1”，用于所有选用“共用工具”的配方。</translation>
+    </message>
+    <message>
+        <source>The tool of this recipe alone.</source>
+        <translation>仅用于此配方的工具。</translation>
+    </message>
+    <message>
+        <source>Teach both touches first.</source>
+        <translation>请先示教两次触碰。</translation>
+    </message>
+</context>
+<context>
+    <name>ToolText</name>
+    <message>
+        <source>Turn the hand by at least %1 degrees about its own axis between the two touches.</source>
+        <translation>两次触碰之间请将手腕绕自身轴转动至少 %1 度。</translation>
+    </message>
+    <message>
+        <source>The two touches are %1 mm apart: the tip moved, or the tool&apos;s Z is wrong.</source>
+        <translation>两次触碰相差 %1 mm：尖点移动了，或工具的 Z 不正确。</translation>
+    </message>
+</context>
+<context>
     <name>TransferText</name>
     <message>
         <source>Import success!</source>
@@ -3953,6 +4278,25 @@ Pallet: %4</source>
     <message>
         <source>no</source>
         <translation>否</translation>
+    </message>
+</context>
+<context>
+    <name>WaypointAdjustWizard</name>
+    <message>
+        <source>Waypoints</source>
+        <translation>路径点</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>标定</translation>
+    </message>
+    <message>
+        <source>Heights and taught points</source>
+        <translation>高度与示教点</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点</translation>
     </message>
 </context>
 <context>

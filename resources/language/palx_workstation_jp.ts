@@ -64,6 +64,21 @@
     </message>
 </context>
 <context>
+    <name>CalibrationFrame</name>
+    <message>
+        <source>Pallet frame</source>
+        <translation>パレット座標系</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>ツール</translation>
+    </message>
+    <message>
+        <source>Incoming</source>
+        <translation>搬入</translation>
+    </message>
+</context>
+<context>
     <name>CascadeNestingWizard</name>
     <message>
         <source>Layers</source>
@@ -512,6 +527,13 @@
     </message>
 </context>
 <context>
+    <name>FrameText</name>
+    <message>
+        <source>The pallet&apos;s place needs three calibration points.</source>
+        <translation>パレットの位置には校正点が 3 つ必要です。</translation>
+    </message>
+</context>
+<context>
     <name>HomeParts</name>
     <message>
         <source>Production</source>
@@ -902,6 +924,93 @@
     <message>
         <source>Merging the recipes</source>
         <translation>レシピを統合中</translation>
+    </message>
+</context>
+<context>
+    <name>IncomingFrame</name>
+    <message>
+        <source>Note</source>
+        <translation>注記</translation>
+    </message>
+    <message>
+        <source>Conveyor</source>
+        <translation>コンベヤ</translation>
+    </message>
+    <message>
+        <source>Corner that products lie in</source>
+        <translation>製品が寄る角</translation>
+    </message>
+    <message>
+        <source>Product on the conveyor</source>
+        <translation>コンベヤ上の製品</translation>
+    </message>
+    <message>
+        <source>Direction of the conveyor</source>
+        <translation>コンベヤの向き</translation>
+    </message>
+    <message>
+        <source>Way to the product</source>
+        <translation>製品への経路</translation>
+    </message>
+    <message>
+        <source>Enter point X</source>
+        <translation>進入点 X</translation>
+    </message>
+    <message>
+        <source>Enter point Y</source>
+        <translation>進入点 Y</translation>
+    </message>
+    <message>
+        <source>Enter point above</source>
+        <translation>進入点の高さ</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>接近</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Along X</source>
+        <translation>X 方向</translation>
+    </message>
+    <message>
+        <source>Along Y</source>
+        <translation>Y 方向</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>角</translation>
+    </message>
+    <message>
+        <source>Used by all recipes with &quot;Shared tool&quot;. Touch the corner at the conveyor&apos;s end that products lie in with the tool; the pick point is the middle of the product.</source>
+        <translation>「共通ツール」を使うすべてのレシピで使われます。製品が寄るコンベヤ端の角にツールで触れてください。取り点は製品の中央です。</translation>
+    </message>
+    <message>
+        <source>Pick point</source>
+        <translation>取り点</translation>
+    </message>
+    <message>
+        <source>Enter point</source>
+        <translation>進入点</translation>
+    </message>
+    <message>
+        <source>The robot picks every product at the pick point.</source>
+        <translation>ロボットはすべての製品を取り点で取ります。</translation>
+    </message>
+    <message>
+        <source>Lengthwise</source>
+        <translation>縦向き</translation>
+    </message>
+    <message>
+        <source>Crosswise</source>
+        <translation>横向き</translation>
     </message>
 </context>
 <context>
@@ -1398,10 +1507,6 @@ mm</translation>
 <context>
     <name>MoveToDialog</name>
     <message>
-        <source>Position of the flange</source>
-        <translation>フランジの位置</translation>
-    </message>
-    <message>
         <source>Target</source>
         <translation>目標</translation>
     </message>
@@ -1508,6 +1613,22 @@ mm</translation>
     <message>
         <source>Arrived.</source>
         <translation>到着しました。</translation>
+    </message>
+    <message>
+        <source>Tool in the pallet&apos;s frame</source>
+        <translation>パレット座標系のツール</translation>
+    </message>
+    <message>
+        <source>Flange in the pallet&apos;s frame</source>
+        <translation>パレット座標系のフランジ</translation>
+    </message>
+    <message>
+        <source>Tool in the robot&apos;s base</source>
+        <translation>ロボットベースのツール</translation>
+    </message>
+    <message>
+        <source>Flange in the robot&apos;s base</source>
+        <translation>ロボットベースのフランジ</translation>
     </message>
 </context>
 <context>
@@ -1767,10 +1888,140 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>PalletPlaceFrame</name>
+    <message>
+        <source>Note</source>
+        <translation>注記</translation>
+    </message>
+    <message>
+        <source>Pallet frame</source>
+        <translation>パレット座標系</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>校正</translation>
+    </message>
+    <message>
+        <source>Shift along X</source>
+        <translation>X 方向のずらし</translation>
+    </message>
+    <message>
+        <source>Shift along Y</source>
+        <translation>Y 方向のずらし</translation>
+    </message>
+    <message>
+        <source>Where the pallet lies</source>
+        <translation>パレットの位置</translation>
+    </message>
+    <message>
+        <source>Shared pallet frames</source>
+        <translation>共通パレット座標系</translation>
+    </message>
+    <message>
+        <source>Pallets lie from their origin</source>
+        <translation>原点から見たパレット</translation>
+    </message>
+    <message>
+        <source>Length of the taught box</source>
+        <translation>教示した箱の長さ</translation>
+    </message>
+    <message>
+        <source>Width of the taught box</source>
+        <translation>教示した箱の幅</translation>
+    </message>
+    <message>
+        <source>Calibrate by one point</source>
+        <translation>1 点で校正</translation>
+    </message>
+    <message>
+        <source>Three points</source>
+        <translation>3 点</translation>
+    </message>
+    <message>
+        <source>One point</source>
+        <translation>1 点</translation>
+    </message>
+    <message>
+        <source>Against the robot&apos;s X</source>
+        <translation>ロボットの X と逆</translation>
+    </message>
+    <message>
+        <source>Along the robot&apos;s X</source>
+        <translation>ロボットの X 方向</translation>
+    </message>
+    <message>
+        <source>Origin</source>
+        <translation>原点</translation>
+    </message>
+    <message>
+        <source>Point on X</source>
+        <translation>X 上の点</translation>
+    </message>
+    <message>
+        <source>Point towards Y</source>
+        <translation>Y 側の点</translation>
+    </message>
+    <message>
+        <source>Origin, left</source>
+        <translation>原点、左</translation>
+    </message>
+    <message>
+        <source>Origin, right</source>
+        <translation>原点、右</translation>
+    </message>
+    <message>
+        <source>Touch the pallet&apos;s origin with the tool: its axes run as the robot&apos;s.</source>
+        <translation>ツールでパレットの原点に触れてください。軸はロボットと同じ向きです。</translation>
+    </message>
+    <message>
+        <source>Touch the points with the tool: the origin, one along the pallet&apos;s length, one across it.</source>
+        <translation>ツールで点に触れてください。原点、パレットの長さ方向に 1 点、幅方向に 1 点。</translation>
+    </message>
+    <message>
+        <source>Not calibrated: the positions count from the robot&apos;s foot.</source>
+        <translation>未校正です。位置はロボットの足元から数えられます。</translation>
+    </message>
+    <message>
+        <source>Origin at X %1, Y %2, Z %3 mm, turned by %4°.</source>
+        <translation>原点 X %1、Y %2、Z %3 mm、回転 %4°。</translation>
+    </message>
+    <message>
+        <source>It comes from the recipe&apos;s tool record.</source>
+        <translation>レシピのツールデータによります。</translation>
+    </message>
+    <message>
+        <source>The shared work objects are not in use: they have to be calibrated by one point.</source>
+        <translation>共通ワークオブジェクトは使われていません。1 点で校正してください。</translation>
+    </message>
+    <message>
+        <source>Choose how both pallets lie: they have to lie alike.</source>
+        <translation>両方のパレットの置き方を選んでください。同じ向きでなければなりません。</translation>
+    </message>
+    <message>
+        <source>Shared by all recipes on these work objects. Hold a box in the pallet&apos;s inner corner, from which it lies as chosen here, and teach it.</source>
+        <translation>これらのワークオブジェクトを使うすべてのレシピで共通です。ここで選んだ向きの起点となるパレットの内側の角で箱を持ち、教示してください。</translation>
+    </message>
+</context>
+<context>
     <name>Palx</name>
     <message>
         <source>W-Palletizing</source>
         <translation>W-パレタイズ</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterSettingsWizard</name>
+    <message>
+        <source>Product and pallet</source>
+        <translation>製品とパレット</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>製品</translation>
+    </message>
+    <message>
+        <source>Pallet</source>
+        <translation>パレット</translation>
     </message>
 </context>
 <context>
@@ -2298,16 +2549,12 @@ mm</translation>
         <translation>パレットの位置が校正されていないため、配置位置がロボットの足元になります。</translation>
     </message>
     <message>
-        <source>The pallet&apos;s place needs three calibration points.</source>
-        <translation>パレットの位置には校正点が3つ必要です。</translation>
+        <source>The shared tool is not measured, so the flange is taken for it.</source>
+        <translation>共通ツールが測定されていないため、フランジがツールとして扱われます。</translation>
     </message>
     <message>
-        <source>There is no shared tool.</source>
-        <translation>共有ツールがありません。</translation>
-    </message>
-    <message>
-        <source>The recipe has no tool of its own, so the flange is taken for it.</source>
-        <translation>レシピに専用のツールがないため、フランジがツールとして扱われます。</translation>
+        <source>The recipe&apos;s tool is not measured, so the flange is taken for it.</source>
+        <translation>レシピのツールが測定されていないため、フランジがツールとして扱われます。</translation>
     </message>
 </context>
 <context>
@@ -3764,6 +4011,14 @@ Pallet: %4</source>
         <source>Feeding directions</source>
         <translation>送り込み方向</translation>
     </message>
+    <message>
+        <source>Calibration</source>
+        <translation>校正</translation>
+    </message>
+    <message>
+        <source>Product and pallet</source>
+        <translation>製品とパレット</translation>
+    </message>
 </context>
 <context>
     <name>StartDialog</name>
@@ -3906,6 +4161,76 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>ToolFrame</name>
+    <message>
+        <source>Note</source>
+        <translation>注記</translation>
+    </message>
+    <message>
+        <source>Tool, seen from the flange</source>
+        <translation>フランジから見たツール</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>質量</translation>
+    </message>
+    <message>
+        <source>Centre of gravity X</source>
+        <translation>重心 X</translation>
+    </message>
+    <message>
+        <source>Centre of gravity Y</source>
+        <translation>重心 Y</translation>
+    </message>
+    <message>
+        <source>Centre of gravity Z</source>
+        <translation>重心 Z</translation>
+    </message>
+    <message>
+        <source>Two touches</source>
+        <translation>2 回の接触</translation>
+    </message>
+    <message>
+        <source>Touch a fixed tip with the tool and teach the first touch. Turn the hand about its own axis by 90° or more, touch the tip again and teach the second one.</source>
+        <translation>固定した針先にツールで触れ、1 回目を教示します。手首を自身の軸まわりに 90° 以上回し、再び針先に触れて 2 回目を教示します。</translation>
+    </message>
+    <message>
+        <source>Measure X and Y</source>
+        <translation>X と Y を測定</translation>
+    </message>
+    <message>
+        <source>Touch 1</source>
+        <translation>接触 1</translation>
+    </message>
+    <message>
+        <source>Touch 2</source>
+        <translation>接触 2</translation>
+    </message>
+    <message>
+        <source>The shared tool &quot;%1&quot;, used by all recipes with &quot;Shared tool&quot;.</source>
+        <translation>共通ツール「%1」。「共通ツール」を使うすべてのレシピで使われます。</translation>
+    </message>
+    <message>
+        <source>The tool of this recipe alone.</source>
+        <translation>このレシピ専用のツール。</translation>
+    </message>
+    <message>
+        <source>Teach both touches first.</source>
+        <translation>先に 2 回の接触を教示してください。</translation>
+    </message>
+</context>
+<context>
+    <name>ToolText</name>
+    <message>
+        <source>Turn the hand by at least %1 degrees about its own axis between the two touches.</source>
+        <translation>2 回の接触の間に、手首を自身の軸まわりに %1 度以上回してください。</translation>
+    </message>
+    <message>
+        <source>The two touches are %1 mm apart: the tip moved, or the tool&apos;s Z is wrong.</source>
+        <translation>2 回の接触が %1 mm ずれています。針先が動いたか、ツールの Z が違います。</translation>
+    </message>
+</context>
+<context>
     <name>TransferText</name>
     <message>
         <source>Import success!</source>
@@ -3953,6 +4278,25 @@ Pallet: %4</source>
     <message>
         <source>no</source>
         <translation>いいえ</translation>
+    </message>
+</context>
+<context>
+    <name>WaypointAdjustWizard</name>
+    <message>
+        <source>Waypoints</source>
+        <translation>経由点</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>校正</translation>
+    </message>
+    <message>
+        <source>Heights and taught points</source>
+        <translation>高さと教示点</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点</translation>
     </message>
 </context>
 <context>

@@ -64,6 +64,21 @@
     </message>
 </context>
 <context>
+    <name>CalibrationFrame</name>
+    <message>
+        <source>Pallet frame</source>
+        <translation>팔레트 좌표계</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>툴</translation>
+    </message>
+    <message>
+        <source>Incoming</source>
+        <translation>반입</translation>
+    </message>
+</context>
+<context>
     <name>CascadeNestingWizard</name>
     <message>
         <source>Layers</source>
@@ -512,6 +527,13 @@
     </message>
 </context>
 <context>
+    <name>FrameText</name>
+    <message>
+        <source>The pallet&apos;s place needs three calibration points.</source>
+        <translation>팔레트 위치에는 보정 포인트 3개가 필요합니다.</translation>
+    </message>
+</context>
+<context>
     <name>HomeParts</name>
     <message>
         <source>Production</source>
@@ -902,6 +924,93 @@
     <message>
         <source>Merging the recipes</source>
         <translation>레시피 병합 중</translation>
+    </message>
+</context>
+<context>
+    <name>IncomingFrame</name>
+    <message>
+        <source>Note</source>
+        <translation>참고</translation>
+    </message>
+    <message>
+        <source>Conveyor</source>
+        <translation>컨베이어</translation>
+    </message>
+    <message>
+        <source>Corner that products lie in</source>
+        <translation>제품이 놓이는 모서리</translation>
+    </message>
+    <message>
+        <source>Product on the conveyor</source>
+        <translation>컨베이어 위의 제품</translation>
+    </message>
+    <message>
+        <source>Direction of the conveyor</source>
+        <translation>컨베이어 방향</translation>
+    </message>
+    <message>
+        <source>Way to the product</source>
+        <translation>제품까지의 경로</translation>
+    </message>
+    <message>
+        <source>Enter point X</source>
+        <translation>진입 포인트 X</translation>
+    </message>
+    <message>
+        <source>Enter point Y</source>
+        <translation>진입 포인트 Y</translation>
+    </message>
+    <message>
+        <source>Enter point above</source>
+        <translation>진입 포인트 높이</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>접근</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>Along X</source>
+        <translation>X 방향</translation>
+    </message>
+    <message>
+        <source>Along Y</source>
+        <translation>Y 방향</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>모서리</translation>
+    </message>
+    <message>
+        <source>Used by all recipes with &quot;Shared tool&quot;. Touch the corner at the conveyor&apos;s end that products lie in with the tool; the pick point is the middle of the product.</source>
+        <translation>&quot;공용 툴&quot;을 쓰는 모든 레시피에 적용됩니다. 제품이 놓이는 컨베이어 끝의 모서리를 툴로 접촉하십시오. 집기 포인트는 제품의 중앙입니다.</translation>
+    </message>
+    <message>
+        <source>Pick point</source>
+        <translation>집기 포인트</translation>
+    </message>
+    <message>
+        <source>Enter point</source>
+        <translation>진입 포인트</translation>
+    </message>
+    <message>
+        <source>The robot picks every product at the pick point.</source>
+        <translation>로봇은 모든 제품을 집기 포인트에서 집습니다.</translation>
+    </message>
+    <message>
+        <source>Lengthwise</source>
+        <translation>세로</translation>
+    </message>
+    <message>
+        <source>Crosswise</source>
+        <translation>가로</translation>
     </message>
 </context>
 <context>
@@ -1398,10 +1507,6 @@ mm</translation>
 <context>
     <name>MoveToDialog</name>
     <message>
-        <source>Position of the flange</source>
-        <translation>플랜지 위치</translation>
-    </message>
-    <message>
         <source>Target</source>
         <translation>목표</translation>
     </message>
@@ -1508,6 +1613,22 @@ mm</translation>
     <message>
         <source>Arrived.</source>
         <translation>도착했습니다.</translation>
+    </message>
+    <message>
+        <source>Tool in the pallet&apos;s frame</source>
+        <translation>팔레트 좌표계의 툴</translation>
+    </message>
+    <message>
+        <source>Flange in the pallet&apos;s frame</source>
+        <translation>팔레트 좌표계의 플랜지</translation>
+    </message>
+    <message>
+        <source>Tool in the robot&apos;s base</source>
+        <translation>로봇 베이스의 툴</translation>
+    </message>
+    <message>
+        <source>Flange in the robot&apos;s base</source>
+        <translation>로봇 베이스의 플랜지</translation>
     </message>
 </context>
 <context>
@@ -1767,10 +1888,140 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>PalletPlaceFrame</name>
+    <message>
+        <source>Note</source>
+        <translation>참고</translation>
+    </message>
+    <message>
+        <source>Pallet frame</source>
+        <translation>팔레트 좌표계</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>보정</translation>
+    </message>
+    <message>
+        <source>Shift along X</source>
+        <translation>X 방향 이동</translation>
+    </message>
+    <message>
+        <source>Shift along Y</source>
+        <translation>Y 방향 이동</translation>
+    </message>
+    <message>
+        <source>Where the pallet lies</source>
+        <translation>팔레트의 위치</translation>
+    </message>
+    <message>
+        <source>Shared pallet frames</source>
+        <translation>공용 팔레트 좌표계</translation>
+    </message>
+    <message>
+        <source>Pallets lie from their origin</source>
+        <translation>원점에서 본 팔레트</translation>
+    </message>
+    <message>
+        <source>Length of the taught box</source>
+        <translation>교시한 상자의 길이</translation>
+    </message>
+    <message>
+        <source>Width of the taught box</source>
+        <translation>교시한 상자의 너비</translation>
+    </message>
+    <message>
+        <source>Calibrate by one point</source>
+        <translation>한 점으로 보정</translation>
+    </message>
+    <message>
+        <source>Three points</source>
+        <translation>세 점</translation>
+    </message>
+    <message>
+        <source>One point</source>
+        <translation>한 점</translation>
+    </message>
+    <message>
+        <source>Against the robot&apos;s X</source>
+        <translation>로봇 X의 반대 방향</translation>
+    </message>
+    <message>
+        <source>Along the robot&apos;s X</source>
+        <translation>로봇 X 방향</translation>
+    </message>
+    <message>
+        <source>Origin</source>
+        <translation>원점</translation>
+    </message>
+    <message>
+        <source>Point on X</source>
+        <translation>X 위의 점</translation>
+    </message>
+    <message>
+        <source>Point towards Y</source>
+        <translation>Y 쪽의 점</translation>
+    </message>
+    <message>
+        <source>Origin, left</source>
+        <translation>원점, 왼쪽</translation>
+    </message>
+    <message>
+        <source>Origin, right</source>
+        <translation>원점, 오른쪽</translation>
+    </message>
+    <message>
+        <source>Touch the pallet&apos;s origin with the tool: its axes run as the robot&apos;s.</source>
+        <translation>툴로 팔레트의 원점을 접촉하십시오. 축은 로봇과 같은 방향입니다.</translation>
+    </message>
+    <message>
+        <source>Touch the points with the tool: the origin, one along the pallet&apos;s length, one across it.</source>
+        <translation>툴로 점들을 접촉하십시오. 원점, 팔레트 길이 방향의 한 점, 너비 방향의 한 점.</translation>
+    </message>
+    <message>
+        <source>Not calibrated: the positions count from the robot&apos;s foot.</source>
+        <translation>보정되지 않음: 위치는 로봇 받침을 기준으로 합니다.</translation>
+    </message>
+    <message>
+        <source>Origin at X %1, Y %2, Z %3 mm, turned by %4°.</source>
+        <translation>원점 X %1, Y %2, Z %3 mm, 회전 %4°.</translation>
+    </message>
+    <message>
+        <source>It comes from the recipe&apos;s tool record.</source>
+        <translation>레시피의 툴 데이터에서 가져왔습니다.</translation>
+    </message>
+    <message>
+        <source>The shared work objects are not in use: they have to be calibrated by one point.</source>
+        <translation>공용 작업 객체가 사용되지 않습니다. 한 점으로 보정해야 합니다.</translation>
+    </message>
+    <message>
+        <source>Choose how both pallets lie: they have to lie alike.</source>
+        <translation>두 팔레트가 놓인 방향을 선택하십시오. 서로 같아야 합니다.</translation>
+    </message>
+    <message>
+        <source>Shared by all recipes on these work objects. Hold a box in the pallet&apos;s inner corner, from which it lies as chosen here, and teach it.</source>
+        <translation>이 작업 객체를 쓰는 모든 레시피가 공유합니다. 여기서 선택한 방향의 시작이 되는 팔레트 안쪽 모서리에 상자를 두고 교시하십시오.</translation>
+    </message>
+</context>
+<context>
     <name>Palx</name>
     <message>
         <source>W-Palletizing</source>
         <translation>W-팔레타이징</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterSettingsWizard</name>
+    <message>
+        <source>Product and pallet</source>
+        <translation>제품과 팔레트</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>제품</translation>
+    </message>
+    <message>
+        <source>Pallet</source>
+        <translation>팔레트</translation>
     </message>
 </context>
 <context>
@@ -2298,16 +2549,12 @@ mm</translation>
         <translation>팔레트 위치가 보정되지 않아 적재 위치가 로봇 받침 주위에 놓입니다.</translation>
     </message>
     <message>
-        <source>The pallet&apos;s place needs three calibration points.</source>
-        <translation>팔레트 위치에는 보정점 세 개가 필요합니다.</translation>
+        <source>The shared tool is not measured, so the flange is taken for it.</source>
+        <translation>공용 툴이 측정되지 않아 플랜지를 툴로 사용합니다.</translation>
     </message>
     <message>
-        <source>There is no shared tool.</source>
-        <translation>공유 공구가 없습니다.</translation>
-    </message>
-    <message>
-        <source>The recipe has no tool of its own, so the flange is taken for it.</source>
-        <translation>레시피에 자체 공구가 없어 플랜지를 공구로 사용합니다.</translation>
+        <source>The recipe&apos;s tool is not measured, so the flange is taken for it.</source>
+        <translation>레시피의 툴이 측정되지 않아 플랜지를 툴로 사용합니다.</translation>
     </message>
 </context>
 <context>
@@ -3764,6 +4011,14 @@ Pallet: %4</source>
         <source>Feeding directions</source>
         <translation>투입 방향</translation>
     </message>
+    <message>
+        <source>Calibration</source>
+        <translation>보정</translation>
+    </message>
+    <message>
+        <source>Product and pallet</source>
+        <translation>제품과 팔레트</translation>
+    </message>
 </context>
 <context>
     <name>StartDialog</name>
@@ -3906,6 +4161,76 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>ToolFrame</name>
+    <message>
+        <source>Note</source>
+        <translation>참고</translation>
+    </message>
+    <message>
+        <source>Tool, seen from the flange</source>
+        <translation>플랜지에서 본 툴</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>질량</translation>
+    </message>
+    <message>
+        <source>Centre of gravity X</source>
+        <translation>무게중심 X</translation>
+    </message>
+    <message>
+        <source>Centre of gravity Y</source>
+        <translation>무게중심 Y</translation>
+    </message>
+    <message>
+        <source>Centre of gravity Z</source>
+        <translation>무게중심 Z</translation>
+    </message>
+    <message>
+        <source>Two touches</source>
+        <translation>두 번 접촉</translation>
+    </message>
+    <message>
+        <source>Touch a fixed tip with the tool and teach the first touch. Turn the hand about its own axis by 90° or more, touch the tip again and teach the second one.</source>
+        <translation>고정된 뾰족한 끝을 툴로 접촉하고 첫 번째를 교시하십시오. 손목을 자체 축으로 90° 이상 돌린 뒤 다시 접촉하고 두 번째를 교시하십시오.</translation>
+    </message>
+    <message>
+        <source>Measure X and Y</source>
+        <translation>X와 Y 측정</translation>
+    </message>
+    <message>
+        <source>Touch 1</source>
+        <translation>접촉 1</translation>
+    </message>
+    <message>
+        <source>Touch 2</source>
+        <translation>접촉 2</translation>
+    </message>
+    <message>
+        <source>The shared tool &quot;%1&quot;, used by all recipes with &quot;Shared tool&quot;.</source>
+        <translation>공용 툴 &quot;%1&quot;. &quot;공용 툴&quot;을 쓰는 모든 레시피에 적용됩니다.</translation>
+    </message>
+    <message>
+        <source>The tool of this recipe alone.</source>
+        <translation>이 레시피만의 툴.</translation>
+    </message>
+    <message>
+        <source>Teach both touches first.</source>
+        <translation>먼저 두 접촉을 모두 교시하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>ToolText</name>
+    <message>
+        <source>Turn the hand by at least %1 degrees about its own axis between the two touches.</source>
+        <translation>두 접촉 사이에 손목을 자체 축으로 %1도 이상 돌리십시오.</translation>
+    </message>
+    <message>
+        <source>The two touches are %1 mm apart: the tip moved, or the tool&apos;s Z is wrong.</source>
+        <translation>두 접촉이 %1 mm 어긋납니다. 끝이 움직였거나 툴의 Z가 잘못되었습니다.</translation>
+    </message>
+</context>
+<context>
     <name>TransferText</name>
     <message>
         <source>Import success!</source>
@@ -3953,6 +4278,25 @@ Pallet: %4</source>
     <message>
         <source>no</source>
         <translation>아니요</translation>
+    </message>
+</context>
+<context>
+    <name>WaypointAdjustWizard</name>
+    <message>
+        <source>Waypoints</source>
+        <translation>경유점</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>보정</translation>
+    </message>
+    <message>
+        <source>Heights and taught points</source>
+        <translation>높이와 교시 포인트</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>포인트</translation>
     </message>
 </context>
 <context>

@@ -64,6 +64,21 @@
     </message>
 </context>
 <context>
+    <name>CalibrationFrame</name>
+    <message>
+        <source>Pallet frame</source>
+        <translation>Система паллеты</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>Инструмент</translation>
+    </message>
+    <message>
+        <source>Incoming</source>
+        <translation>Подача</translation>
+    </message>
+</context>
+<context>
     <name>CascadeNestingWizard</name>
     <message>
         <source>Layers</source>
@@ -512,6 +527,13 @@
     </message>
 </context>
 <context>
+    <name>FrameText</name>
+    <message>
+        <source>The pallet&apos;s place needs three calibration points.</source>
+        <translation>Для места паллеты нужны три точки калибровки.</translation>
+    </message>
+</context>
+<context>
     <name>HomeParts</name>
     <message>
         <source>Production</source>
@@ -902,6 +924,93 @@
     <message>
         <source>Merging the recipes</source>
         <translation>Объединение рецептов</translation>
+    </message>
+</context>
+<context>
+    <name>IncomingFrame</name>
+    <message>
+        <source>Note</source>
+        <translation>Примечание</translation>
+    </message>
+    <message>
+        <source>Conveyor</source>
+        <translation>Конвейер</translation>
+    </message>
+    <message>
+        <source>Corner that products lie in</source>
+        <translation>Угол, в котором лежат изделия</translation>
+    </message>
+    <message>
+        <source>Product on the conveyor</source>
+        <translation>Изделие на конвейере</translation>
+    </message>
+    <message>
+        <source>Direction of the conveyor</source>
+        <translation>Направление конвейера</translation>
+    </message>
+    <message>
+        <source>Way to the product</source>
+        <translation>Путь к изделию</translation>
+    </message>
+    <message>
+        <source>Enter point X</source>
+        <translation>Точка входа X</translation>
+    </message>
+    <message>
+        <source>Enter point Y</source>
+        <translation>Точка входа Y</translation>
+    </message>
+    <message>
+        <source>Enter point above</source>
+        <translation>Точка входа выше</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>Подход</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Слева</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Справа</translation>
+    </message>
+    <message>
+        <source>Along X</source>
+        <translation>Вдоль X</translation>
+    </message>
+    <message>
+        <source>Along Y</source>
+        <translation>Вдоль Y</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Угол</translation>
+    </message>
+    <message>
+        <source>Used by all recipes with &quot;Shared tool&quot;. Touch the corner at the conveyor&apos;s end that products lie in with the tool; the pick point is the middle of the product.</source>
+        <translation>Для всех рецептов с «Общим инструментом». Коснитесь инструментом угла в конце конвейера, в котором лежат изделия; точка захвата — середина изделия.</translation>
+    </message>
+    <message>
+        <source>Pick point</source>
+        <translation>Точка захвата</translation>
+    </message>
+    <message>
+        <source>Enter point</source>
+        <translation>Точка входа</translation>
+    </message>
+    <message>
+        <source>The robot picks every product at the pick point.</source>
+        <translation>Робот берёт каждое изделие в точке захвата.</translation>
+    </message>
+    <message>
+        <source>Lengthwise</source>
+        <translation>Вдоль</translation>
+    </message>
+    <message>
+        <source>Crosswise</source>
+        <translation>Поперёк</translation>
     </message>
 </context>
 <context>
@@ -1398,10 +1507,6 @@ mm</translation>
 <context>
     <name>MoveToDialog</name>
     <message>
-        <source>Position of the flange</source>
-        <translation>Положение фланца</translation>
-    </message>
-    <message>
         <source>Target</source>
         <translation>Цель</translation>
     </message>
@@ -1508,6 +1613,22 @@ mm</translation>
     <message>
         <source>Arrived.</source>
         <translation>Точка достигнута.</translation>
+    </message>
+    <message>
+        <source>Tool in the pallet&apos;s frame</source>
+        <translation>Инструмент в системе паллеты</translation>
+    </message>
+    <message>
+        <source>Flange in the pallet&apos;s frame</source>
+        <translation>Фланец в системе паллеты</translation>
+    </message>
+    <message>
+        <source>Tool in the robot&apos;s base</source>
+        <translation>Инструмент в базе робота</translation>
+    </message>
+    <message>
+        <source>Flange in the robot&apos;s base</source>
+        <translation>Фланец в базе робота</translation>
     </message>
 </context>
 <context>
@@ -1767,10 +1888,140 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>PalletPlaceFrame</name>
+    <message>
+        <source>Note</source>
+        <translation>Примечание</translation>
+    </message>
+    <message>
+        <source>Pallet frame</source>
+        <translation>Система паллеты</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>Калибровка</translation>
+    </message>
+    <message>
+        <source>Shift along X</source>
+        <translation>Сдвиг вдоль X</translation>
+    </message>
+    <message>
+        <source>Shift along Y</source>
+        <translation>Сдвиг вдоль Y</translation>
+    </message>
+    <message>
+        <source>Where the pallet lies</source>
+        <translation>Где лежит паллета</translation>
+    </message>
+    <message>
+        <source>Shared pallet frames</source>
+        <translation>Общие системы паллет</translation>
+    </message>
+    <message>
+        <source>Pallets lie from their origin</source>
+        <translation>Паллеты лежат от начала</translation>
+    </message>
+    <message>
+        <source>Length of the taught box</source>
+        <translation>Длина коробки обучения</translation>
+    </message>
+    <message>
+        <source>Width of the taught box</source>
+        <translation>Ширина коробки обучения</translation>
+    </message>
+    <message>
+        <source>Calibrate by one point</source>
+        <translation>Калибровать по одной точке</translation>
+    </message>
+    <message>
+        <source>Three points</source>
+        <translation>Три точки</translation>
+    </message>
+    <message>
+        <source>One point</source>
+        <translation>Одна точка</translation>
+    </message>
+    <message>
+        <source>Against the robot&apos;s X</source>
+        <translation>Против X робота</translation>
+    </message>
+    <message>
+        <source>Along the robot&apos;s X</source>
+        <translation>Вдоль X робота</translation>
+    </message>
+    <message>
+        <source>Origin</source>
+        <translation>Начало</translation>
+    </message>
+    <message>
+        <source>Point on X</source>
+        <translation>Точка на X</translation>
+    </message>
+    <message>
+        <source>Point towards Y</source>
+        <translation>Точка в сторону Y</translation>
+    </message>
+    <message>
+        <source>Origin, left</source>
+        <translation>Начало, слева</translation>
+    </message>
+    <message>
+        <source>Origin, right</source>
+        <translation>Начало, справа</translation>
+    </message>
+    <message>
+        <source>Touch the pallet&apos;s origin with the tool: its axes run as the robot&apos;s.</source>
+        <translation>Коснитесь инструментом начала паллеты: её оси идут как у робота.</translation>
+    </message>
+    <message>
+        <source>Touch the points with the tool: the origin, one along the pallet&apos;s length, one across it.</source>
+        <translation>Коснитесь точек инструментом: начало, одна вдоль длины паллеты, одна поперёк.</translation>
+    </message>
+    <message>
+        <source>Not calibrated: the positions count from the robot&apos;s foot.</source>
+        <translation>Не откалибровано: положения отсчитываются от основания робота.</translation>
+    </message>
+    <message>
+        <source>Origin at X %1, Y %2, Z %3 mm, turned by %4°.</source>
+        <translation>Начало X %1, Y %2, Z %3 мм, поворот %4°.</translation>
+    </message>
+    <message>
+        <source>It comes from the recipe&apos;s tool record.</source>
+        <translation>Взято из записи инструмента рецепта.</translation>
+    </message>
+    <message>
+        <source>The shared work objects are not in use: they have to be calibrated by one point.</source>
+        <translation>Общие рабочие объекты не действуют: их нужно откалибровать по одной точке.</translation>
+    </message>
+    <message>
+        <source>Choose how both pallets lie: they have to lie alike.</source>
+        <translation>Выберите, как лежат обе паллеты: они должны лежать одинаково.</translation>
+    </message>
+    <message>
+        <source>Shared by all recipes on these work objects. Hold a box in the pallet&apos;s inner corner, from which it lies as chosen here, and teach it.</source>
+        <translation>Общее для всех рецептов на этих рабочих объектах. Удерживайте коробку во внутреннем углу паллеты, от которого она лежит, как выбрано здесь, и обучите точку.</translation>
+    </message>
+</context>
+<context>
     <name>Palx</name>
     <message>
         <source>W-Palletizing</source>
         <translation>W-Укладка</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterSettingsWizard</name>
+    <message>
+        <source>Product and pallet</source>
+        <translation>Изделие и паллета</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Изделие</translation>
+    </message>
+    <message>
+        <source>Pallet</source>
+        <translation>Паллета</translation>
     </message>
 </context>
 <context>
@@ -2298,16 +2549,12 @@ mm</translation>
         <translation>Место поддона не откалибровано, поэтому точки укладки окажутся у основания робота.</translation>
     </message>
     <message>
-        <source>The pallet&apos;s place needs three calibration points.</source>
-        <translation>Для места поддона нужны три точки калибровки.</translation>
+        <source>The shared tool is not measured, so the flange is taken for it.</source>
+        <translation>Общий инструмент не измерен, вместо него берётся фланец.</translation>
     </message>
     <message>
-        <source>There is no shared tool.</source>
-        <translation>Общего инструмента нет.</translation>
-    </message>
-    <message>
-        <source>The recipe has no tool of its own, so the flange is taken for it.</source>
-        <translation>У рецепта нет своего инструмента, вместо него берётся фланец.</translation>
+        <source>The recipe&apos;s tool is not measured, so the flange is taken for it.</source>
+        <translation>Инструмент рецепта не измерен, вместо него берётся фланец.</translation>
     </message>
 </context>
 <context>
@@ -3766,6 +4013,14 @@ Pallet: %4</source>
         <source>Feeding directions</source>
         <translation>Направления подвода</translation>
     </message>
+    <message>
+        <source>Calibration</source>
+        <translation>Калибровка</translation>
+    </message>
+    <message>
+        <source>Product and pallet</source>
+        <translation>Изделие и паллета</translation>
+    </message>
 </context>
 <context>
     <name>StartDialog</name>
@@ -3908,6 +4163,76 @@ Pallet: %4</source>
     </message>
 </context>
 <context>
+    <name>ToolFrame</name>
+    <message>
+        <source>Note</source>
+        <translation>Примечание</translation>
+    </message>
+    <message>
+        <source>Tool, seen from the flange</source>
+        <translation>Инструмент относительно фланца</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>Масса</translation>
+    </message>
+    <message>
+        <source>Centre of gravity X</source>
+        <translation>Центр тяжести X</translation>
+    </message>
+    <message>
+        <source>Centre of gravity Y</source>
+        <translation>Центр тяжести Y</translation>
+    </message>
+    <message>
+        <source>Centre of gravity Z</source>
+        <translation>Центр тяжести Z</translation>
+    </message>
+    <message>
+        <source>Two touches</source>
+        <translation>Два касания</translation>
+    </message>
+    <message>
+        <source>Touch a fixed tip with the tool and teach the first touch. Turn the hand about its own axis by 90° or more, touch the tip again and teach the second one.</source>
+        <translation>Коснитесь инструментом неподвижного острия и обучите первое касание. Поверните кисть вокруг её оси не менее чем на 90°, снова коснитесь острия и обучите второе.</translation>
+    </message>
+    <message>
+        <source>Measure X and Y</source>
+        <translation>Измерить X и Y</translation>
+    </message>
+    <message>
+        <source>Touch 1</source>
+        <translation>Касание 1</translation>
+    </message>
+    <message>
+        <source>Touch 2</source>
+        <translation>Касание 2</translation>
+    </message>
+    <message>
+        <source>The shared tool &quot;%1&quot;, used by all recipes with &quot;Shared tool&quot;.</source>
+        <translation>Общий инструмент «%1» для всех рецептов с «Общим инструментом».</translation>
+    </message>
+    <message>
+        <source>The tool of this recipe alone.</source>
+        <translation>Инструмент только этого рецепта.</translation>
+    </message>
+    <message>
+        <source>Teach both touches first.</source>
+        <translation>Сначала обучите оба касания.</translation>
+    </message>
+</context>
+<context>
+    <name>ToolText</name>
+    <message>
+        <source>Turn the hand by at least %1 degrees about its own axis between the two touches.</source>
+        <translation>Между касаниями поверните кисть вокруг её оси не менее чем на %1 градусов.</translation>
+    </message>
+    <message>
+        <source>The two touches are %1 mm apart: the tip moved, or the tool&apos;s Z is wrong.</source>
+        <translation>Касания расходятся на %1 мм: остриё сместилось или Z инструмента неверно.</translation>
+    </message>
+</context>
+<context>
     <name>TransferText</name>
     <message>
         <source>Import success!</source>
@@ -3955,6 +4280,25 @@ Pallet: %4</source>
     <message>
         <source>no</source>
         <translation>нет</translation>
+    </message>
+</context>
+<context>
+    <name>WaypointAdjustWizard</name>
+    <message>
+        <source>Waypoints</source>
+        <translation>Путь</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>Калибровка</translation>
+    </message>
+    <message>
+        <source>Heights and taught points</source>
+        <translation>Высоты и обученные точки</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Точки</translation>
     </message>
 </context>
 <context>
