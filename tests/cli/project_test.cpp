@@ -5,8 +5,10 @@
 #include "support/test_support.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QMap>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -112,4 +114,24 @@ TEST_F(PalxProject, LeaveAsArchivesAndComeBack)
     EXPECT_EQ(childTexts(run({"list"}).out, u"parameters.scheme_layout"), QStringList({"2", "2"})); // is kept
     EXPECT_EQ(QDir(folder.filePath("work")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList("SIM-0001"));
+}
+
+/// As `palx project create lift-pair --scheme both --lift yes` makes it now: whoever changes the templates exports it anew.
+TEST_F(PalxProject, TheExampleIsWhatTheTemplatesMake)
+{
+    ASSERT_EQ(run({"import", examplePath("lift-pair.zip")}).code, 0);
+    ASSERT_EQ(run({"create", "made", "--scheme", "both", "--lift", "yes"}).code, 0);
+    ASSERT_EQ(names(), QStringList({"lift-pair", "made"}));
+    const auto files = [this](const QString &project) {
+        QMap<QString, QByteArray> found;
+        QDirIterator all(place(project), {"*.mod", "var.json"}, QDir::Files, QDirIterator::Subdirectories);
+        while (all.hasNext()) {
+            const QString file = all.next();
+            found.insert(QDir(place(project)).relativeFilePath(file), fileContent(file));
+        }
+        return found;
+    };
+    EXPECT_EQ(files("lift-pair"), files("made"));
+    EXPECT_EQ(files("made").size(), 13);
+    EXPECT_EQ(childTexts(run({"list"}).out, u"parameters.bollard"), QStringList({"0", "0"}));
 }
