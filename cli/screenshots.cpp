@@ -223,7 +223,7 @@ void takeShared(Camera &camera)
         stack->set(nullptr, key, true);
     palx::ensureSharedLists(stack);
     palx::triggerNode()->c("refresh_data")->trigger();
-    for (const char *part : {"btnPlace", "btnTool", "btnIncoming"})
+    for (const char *part : {"btnTool", "btnPlace", "btnIncoming"})
         if (auto *button = control<QAbstractButton>(camera, QLatin1String(part)))
             camera.takeAfter(button, QStringLiteral("setup-calibration-shared-") + stem(button));
     for (const char *key : {"use_global_tool", "use_global_wobj"})

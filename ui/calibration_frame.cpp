@@ -11,10 +11,10 @@ CalibrationFrame::CalibrationFrame(QWidget *parent)
     : RecipeFrame(parent), ui_(std::make_unique<Ui::CalibrationFrame>())
 {
     ui_->setupUi(this);
+    addPart(new ToolFrame); // first: everything else is touched with it
     addPart(new PalletPlaceFrame);
-    addPart(new ToolFrame);
     addPart(new IncomingFrame);
-    QAbstractButton *const buttons[] = {ui_->btnPlace, ui_->btnTool, ui_->btnIncoming};
+    QAbstractButton *const buttons[] = {ui_->btnTool, ui_->btnPlace, ui_->btnIncoming};
     for (int i = 0; i < parts_.size(); ++i)
         connect(buttons[i], &QAbstractButton::clicked, this,
                 [this, i] { ui_->stkParts->setCurrentIndex(i); });

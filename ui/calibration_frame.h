@@ -8,7 +8,7 @@ namespace Ui {
 class CalibrationFrame;
 }
 
-/// What ties a recipe to its cell, in three parts: where the pallet lies, the tool, and the incoming side. Follows the trigger
+/// What ties a recipe to its cell, in three parts: the tool, where the pallet lies, and the incoming side. Follows the trigger
 /// "refresh_data".
 class PALX_API CalibrationFrame : public RecipeFrame
 {

@@ -21,7 +21,7 @@ namespace {
 
 struct CalibrationPage : OpenRecipe
 {
-    CalibrationPage() : OpenRecipe(Calibration) {}
+    CalibrationPage() : OpenRecipe(Calibration) { field<QPushButton>("btnPlace")->click(); }
     template <typename T> T *field(const char *name) const { return at<T>(Calibration, name); }
     void typePoint(const char *group, double x, double y, double z)
     {
