@@ -135,10 +135,7 @@ ix::calc::Calibration palletFrame(const Node &stack)
 
 PointFrame pointFrame(const Node &point)
 {
-    if (!point.parent() || isForMeasuring(*point.parent()))
-        return PointFrame();
-    const Location at = locate(point);
-    return frameAt(at, at.part ? at.part->name().toString() : QString());
+    return point.parent() ? pointFrame(*point.parent(), point.name().toString()) : PointFrame();
 }
 
 PointFrame pointFrame(const Node &holder, QStringView key)
