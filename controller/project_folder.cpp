@@ -5,6 +5,7 @@
 #include "orba/module_manager.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -98,6 +99,12 @@ QByteArray withoutQuotedMarks(const QByteArray &json)
 }
 
 } // namespace
+
+bool ProjectFolder::isBlank() const
+{
+    return !path_.isEmpty() && QDir(path_).exists() &&
+           QDir(path_).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
 
 QString ProjectFolder::mark() const
 {

@@ -13,6 +13,8 @@ public:
     /// An empty path has nothing.
     explicit ProjectFolder(QString path) : path_(std::move(path)) {}
 
+    /// Whether it is there with nothing in it, as the panel makes it for a new project.
+    bool isBlank() const;
     /// Differs when ".rlprog" or "var.xml" differ; empty when there is no ".rlprog".
     QString mark() const;
     /// Exchanges the lists that the folder has for its own; what it says nothing of stays. False with the reason, and all are as

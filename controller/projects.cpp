@@ -154,6 +154,8 @@ QString Projects::exchange(const ProjectFolder &folder)
     if (next != current_)
         dropIfRemoved();
     current_ = next;
+    if (folder.isBlank())
+        drop(current_);
     const QString why = takeFrom(folder);
     showLists();
     return why;

@@ -22,7 +22,9 @@ public:
     /// Key of the project whose lists stand in the tree; empty for none.
     const QString &current() const { return current_; }
     /// "cur_project" was written: keeps the lists of the old project and puts those of the new one, whose folder is given, in
-    /// their place. Why the folder's could not be used; empty when nothing is wrong.
+    /// their place. With a blank folder it is a new project, whatever is remembered of another of its name; a folder that lost
+    /// its files of lists has programs, and what is remembered counts. Why the folder's could not be used; empty when nothing
+    /// is wrong.
     QString exchange(const ProjectFolder &folder);
     /// Whether the lists of the current project's folder count and those in the tree do not.
     bool isReplaced(const ProjectFolder &folder);

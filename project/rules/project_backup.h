@@ -20,6 +20,8 @@ public:
     ProjectBackup(const ProjectBackup &) = delete;
     ProjectBackup &operator=(const ProjectBackup &) = delete;
 
+    /// False when the lists of the edited project are not known, because the controller was away.
+    bool hasLists() const { return edited_.isEmpty() || !lists_.isNull(); }
     /// Gives the current project the variables and monitored variables of the edited one, as they were: a project that gets
     /// another name goes on counting.
     void carryVariables() const;

@@ -1,6 +1,5 @@
 #include "project/rules/project_commit.h"
 
-#include "nexo/controller_manager.h"
 #include "project/rules/controller_project.h"
 #include "project/rules/project_backup.h"
 #include "project/rules/project_files.h"
@@ -65,12 +64,12 @@ void followStartUp(const Commit &commit)
         setDefaultProject(commit.name);
 }
 
-/// A project that is made starts afresh, whatever the controller remembers under its name.
-void forgetInController(const QString &name)
+/// The folder of the project in use may be gone, and a new one is made in its place. The controller looks at the new folder when
+/// it changes to it.
+void leaveProject(const QString &name)
 {
-    if (m("quill.project.cur_project")->getString() != projectKey(name) &&
-        nexo::ControllerManager::instance()->rcConnected())
-        removeControllerTasks(name);
+    if (m("quill.project.cur_project")->getString() == projectKey(name))
+        switchProject(QString());
 }
 
 /// Variables are made where the project's own are known to be missing: made without a look at the controller's, they would
@@ -90,11 +89,12 @@ void useVariables(const QString &name, bool areKnown, ProjectSteps *steps)
 bool fillProject(const Commit &commit, const ProjectBackup &backup)
 {
     makeRecord(commit);
-    const bool isNew = commit.oldName.isEmpty() && !commit.isCloned;
-    if (isNew)
-        forgetInController(commit.name);
-    const bool hasLists = switchProject(projectKey(commit.name)) || isNew;
-    if (!commit.oldName.isEmpty() && commit.oldName != commit.name)
+    const bool isAdded = commit.oldName.isEmpty();
+    if (isAdded)
+        leaveProject(commit.name);
+    const bool isListed = switchProject(projectKey(commit.name)) && backup.hasLists();
+    const bool hasLists = isListed || (isAdded && !commit.isCloned);
+    if (!isAdded && commit.oldName != commit.name)
         backup.carryVariables();
     if (!commit.isCloned && !buildProjectTasks(nullptr))
         return false;

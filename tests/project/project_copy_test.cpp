@@ -59,7 +59,8 @@ protected:
         presenter.answer(true);
         steps.parameters = nodeFromJson(kBoth);
         EXPECT_TRUE(palx::editProject(newName, name, &steps)) << takeMessages().join('|').toStdString();
-        settle();
+        if (nexo::ControllerManager::instance()->rcConnected())
+            settle();
     }
 };
 
@@ -114,6 +115,53 @@ TEST_F(ProjectCopyTest, CountersStayWithTheirProject)
     ASSERT_TRUE(palx::removeFolder(place(QStringLiteral("Q"))));
     add(QStringLiteral("Q"), kBoth);
     EXPECT_EQ(valueOf(layer), QStringLiteral("1"));
+}
+
+// Whether its folder was removed outside of the panel while another project was in use, or while it was itself.
+TEST_F(ProjectCopyTest, ANewProjectStartsAfreshUnderTheNameOfOneWhoseFolderIsGone)
+{
+    const QString layer = QStringLiteral("currentLayerL");
+    for (const bool isInUse : {false, true}) {
+        const QString name = QStringLiteral("P%1").arg(isInUse);
+        add(QStringLiteral("Other%1").arg(isInUse));
+        add(name, kBoth);
+        set(layer, QStringLiteral("3"));
+        if (!isInUse)
+            switchTo(QStringLiteral("Other0"));
+        ASSERT_TRUE(palx::removeFolder(place(name)));
+        add(name, R"({"scheme_layout": 0, "bollard": 1})");
+        EXPECT_EQ(valueOf(layer), QStringLiteral("1")) << isInUse;
+        EXPECT_EQ(tasks().first(), QStringLiteral("task0: main BackHome Init ZuoMaduo")) << isInUse;
+        start(); // what the controller knows
+        EXPECT_EQ(valueOf(layer), QStringLiteral("1")) << isInUse;
+    }
+}
+
+// The pallet is half full: the first layer would be laid into the boxes.
+TEST_F(ProjectCopyTest, AProjectThatLostItsTasksFileGoesOnCounting)
+{
+    const QString layer = QStringLiteral("currentLayerL");
+    const auto isConnected = [] { return nexo::ControllerManager::instance()->rcConnected(); };
+    add(QStringLiteral("Other"));
+    add(kName, kBoth);
+    const QStringList expected = tasks();
+    set(layer, QStringLiteral("3"));
+    switchTo(QStringLiteral("Other"));
+    ASSERT_TRUE(QFile::remove(place(kName + "/.rlprog")));
+    switchTo(kName);
+    EXPECT_EQ(valueOf(layer), QStringLiteral("3"));
+    EXPECT_EQ(tasks(), expected);
+
+    switchTo(QStringLiteral("Other"));
+    pullPlug();
+    ASSERT_TRUE(waitUntil([&] { return !isConnected(); }));
+    edit(kName, kName); // makes the folder anew
+    plugIn();
+    ASSERT_TRUE(waitUntil(isConnected));
+    EXPECT_TRUE(becomes(layer, QStringLiteral("3")));
+    start();
+    EXPECT_EQ(valueOf(layer), QStringLiteral("3"));
+    EXPECT_EQ(tasks(), expected);
 }
 
 TEST_F(ProjectCopyTest, AnImportedProjectRunsWhereItIsNotKnown)
