@@ -2,6 +2,7 @@
 
 #include "controller/in_process_carrier.h"
 #include "core/controller_link.h"
+#include "nexo/setting_manager.h"
 #include "project/rules/project_export.h"
 #include "project/rules/project_place.h"
 #include "project/rules/project_record.h"
@@ -77,17 +78,41 @@ bool makeArchives(const QString &folder)
     return QFile::resize(cut, QFileInfo(cut).size() / 2);
 }
 
+/// A folder in the place of a disk, of which the file dialog chooses the whole or every archive.
+class ChosenDisk
+{
+public:
+    explicit ChosenDisk(const QString &folder)
+    {
+        standIn(folder);
+        xFileDialog::setAnswers([folder](const FileRequest &request) {
+            QStringList files;
+            for (const QFileInfo &file : QDir(folder).entryInfoList({QStringLiteral("*.zip")}))
+                files.append(file.filePath());
+            return request.kind == FileRequest::Folder ? QStringList(folder) : files;
+        });
+    }
+    ~ChosenDisk()
+    {
+        xFileDialog::setAnswers(nullptr);
+        standIn(QString());
+    }
+    ChosenDisk(const ChosenDisk &) = delete;
+    ChosenDisk &operator=(const ChosenDisk &) = delete;
+
+private:
+    static void standIn(const QString &folder)
+    {
+        nexo::SettingManager::instance()->setOverride(QStringLiteral("removable"), folder);
+    }
+};
+
 bool showExchange(ProjectManager *page, const std::function<void(QWidget *widget, const QString &name)> &take)
 {
     const QTemporaryDir disk;
     if (!makeArchives(disk.path()))
         return false;
-    xFileDialog::setAnswers([&disk](const FileRequest &request) {
-        QStringList files;
-        for (const QFileInfo &file : QDir(disk.path()).entryInfoList({QStringLiteral("*.zip")}))
-            files.append(file.filePath());
-        return request.kind == FileRequest::Folder ? QStringList(disk.path()) : files;
-    });
+    const ChosenDisk chosen(disk.path());
     const struct
     {
         const char *open;
@@ -105,7 +130,6 @@ bool showExchange(ProjectManager *page, const std::function<void(QWidget *widget
         take(dialog, QLatin1String(each.name));
         delete dialog;
     }
-    xFileDialog::setAnswers(nullptr);
     return isShown;
 }
 

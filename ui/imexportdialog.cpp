@@ -9,6 +9,7 @@
 #include "ui/xfile_dialog.h"
 #include "ui_imexportdialog.h"
 #include "workstation/config_log.h"
+#include "workstation/medium_choice.h"
 #include "workstation/plugin_node.h"
 #include "workstation/point_editor.h"
 #include "workstation/recipe_transfer.h"
@@ -263,8 +264,7 @@ void ImExportDialog::exportTicked()
 {
     if (file_.isEmpty())
         return tellFault(tr("Export path can not be empty!"));
-    if (const QString problem =
-            xFileDialog::targetProblem(QFileInfo(file_).path(), QFileInfo(file_).fileName());
+    if (const QString problem = palx::targetProblem(QFileInfo(file_).path(), QFileInfo(file_).fileName());
         !problem.isEmpty())
         return tellFault(problem);
     const QPointer<ImExportDialog> self(this);

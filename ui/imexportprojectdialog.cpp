@@ -13,6 +13,7 @@
 #include "ui/xfile_dialog.h"
 #include "ui_imexportprojectdialog.h"
 #include "workstation/config_log.h"
+#include "workstation/medium_choice.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -80,7 +81,7 @@ ImExportProjectDialog::ImExportProjectDialog(bool import, QWidget *parent, const
     connectParts();
     if (!isImport_) {
         const QString folder = rememberedFolder(kExportFolder);
-        const bool isThere = QFileInfo(folder).isDir() && xFileDialog::targetProblem(folder).isEmpty();
+        const bool isThere = QFileInfo(folder).isDir() && palx::targetProblem(folder).isEmpty();
         ui_->edtTarget->setText(isThere ? folder : QString());
         listProjects();
     }
@@ -244,7 +245,7 @@ void ImExportProjectDialog::showExportPlan()
     for (const ExchangeTableModel::Row &row : model_->rows())
         names.append(QFileInfo(palx::archivePath(target, row.item)).fileName());
     const QStringList problems =
-        target.isEmpty() ? QStringList() : xFileDialog::targetProblems(target, names);
+        target.isEmpty() ? QStringList() : palx::targetProblems(target, names);
     for (const ExchangeTableModel::Row &row : model_->rows()) {
         const QFileInfo archive(palx::archivePath(target, row.item));
         const QString problem = problems.value(fates.size());
@@ -317,7 +318,7 @@ void ImExportProjectDialog::work()
 
 void ImExportProjectDialog::exportChosen()
 {
-    const QString problem = xFileDialog::targetProblem(ui_->edtTarget->text());
+    const QString problem = palx::targetProblem(ui_->edtTarget->text());
     if (!ui_->edtTarget->text().isEmpty() && !problem.isEmpty()) {
         palx::recordCfgLog(problem, true);
         return ui_->message->showMessage(problem, State::Fault);

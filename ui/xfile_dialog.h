@@ -59,11 +59,6 @@ public:
     /// Writes to the medium of `path` what is still in memory; false when that failed. May take seconds on a slow disk: call
     /// it inside of the work of `palx::runInThread`; any thread. `palx::syncFileSystem` also says why.
     static bool SystemFileSync(const QString &path);
-    /// Why a file cannot be written into a folder that was chosen before; empty when nothing is in the way. The disk may have been
-    /// pulled since, and a panel's own memory must not be filled instead.
-    static QString targetProblem(const QString &folder, const QString &name = QString());
-    /// The same for several names; a reason that concerns all of them is that of each.
-    static QStringList targetProblems(const QString &folder, const QStringList &names);
     /// What to tell the operator after `SystemFileSync(path)` answered `isSynced`: that the disk of `path` may be pulled, or
     /// that it must not be yet. Empty for a path that is on no removable medium.
     static QString removalText(const QString &path, bool isSynced);

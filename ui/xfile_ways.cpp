@@ -1,7 +1,7 @@
 // The ways in which other pages ask for files.
 #include "ui/xfile_dialog.h"
 #include "workstation/file_sync.h"
-#include "workstation/medium_choice.h"
+#include "workstation/removable_media.h"
 
 #include <QPointer>
 
@@ -63,30 +63,6 @@ QString xFileDialog::removalText(const QString &path, bool isSynced)
         return QString();
     return isSynced ? tr("It is safe to pull out the disk %1 now.").arg(medium->name)
                     : tr("Do not pull out the disk %1 yet: it has not taken everything.").arg(medium->name);
-}
-
-QString xFileDialog::targetProblem(const QString &folder, const QString &name)
-{
-    return targetProblems(folder, {name}).first();
-}
-
-QStringList xFileDialog::targetProblems(const QString &folder, const QStringList &names)
-{
-    QStringList problems;
-    const bool isAsked = !scriptedAnswers(); // which know of no disks
-    const palx::PluggedMedia plugged =
-        isAsked ? palx::pluggedMedia(palx::MediaPlaces::ofMachine()) : palx::PluggedMedia();
-    const palx::Medium *medium = plugged.of(folder);
-    for (const QString &name : names) {
-        if (!isAsked)
-            problems.append(QString());
-        else if (!medium)
-            problems.append(tr("%1 is on no disk that is plugged in").arg(folder));
-        else
-            problems.append(name.isEmpty() ? palx::folderRefusal(*medium, folder)
-                                           : palx::fileRefusal(*medium, folder, name));
-    }
-    return problems;
 }
 
 void xFileDialog::setAnswers(Answers answers)

@@ -51,6 +51,27 @@ QString newFolderRefusal(const Medium &medium, const QString &folder, const QStr
     return refusal;
 }
 
+QStringList targetProblems(const QString &folder, const QStringList &names)
+{
+    const PluggedMedia plugged = pluggedMedia(MediaPlaces::ofMachine());
+    const Medium *medium = plugged.of(folder);
+    QStringList problems;
+    for (const QString &name : names) {
+        if (!medium)
+            problems.append(QCoreApplication::translate("xFileDialog", "%1 is on no disk that is plugged in")
+                                .arg(folder));
+        else
+            problems.append(name.isEmpty() ? folderRefusal(*medium, folder)
+                                           : fileRefusal(*medium, folder, name));
+    }
+    return problems;
+}
+
+QString targetProblem(const QString &folder, const QString &name)
+{
+    return targetProblems(folder, {name}).first();
+}
+
 MediumSpace spaceOf(const Medium &medium)
 {
     const QStorageInfo volume(medium.root);

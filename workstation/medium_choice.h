@@ -12,6 +12,12 @@ PALX_API QString fileRefusal(const Medium &medium, const QString &folder, const 
 /// Why no folder of that name can be made there.
 PALX_API QString newFolderRefusal(const Medium &medium, const QString &folder, const QString &name);
 
+/// Why files of those names cannot be written into a folder that was chosen before, an answer for each. The disk may have been
+/// pulled since, and a panel's own memory must not be filled instead. Asks the media that are plugged in now.
+PALX_API QStringList targetProblems(const QString &folder, const QStringList &names);
+/// The same of one file, or without a name of the folder itself.
+PALX_API QString targetProblem(const QString &folder, const QString &name = QString());
+
 struct PALX_API MediumSpace
 {
     qint64 total = 0; ///< bytes; 0 when unknown

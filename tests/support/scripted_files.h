@@ -1,5 +1,6 @@
 #pragma once
 
+#include "nexo/setting_manager.h"
 #include "ui/xfile_dialog.h"
 
 #include <QList>
@@ -26,4 +27,20 @@ public:
 
 private:
     QList<QStringList> answers_;
+};
+
+/// A folder that stands in for a disk, for its lifetime.
+class StandInDisk
+{
+public:
+    explicit StandInDisk(const QString &folder) { set(folder); }
+    ~StandInDisk() { set(QString()); }
+    StandInDisk(const StandInDisk &) = delete;
+    StandInDisk &operator=(const StandInDisk &) = delete;
+
+private:
+    static void set(const QString &folder)
+    {
+        nexo::SettingManager::instance()->setOverride(QStringLiteral("removable"), folder);
+    }
 };

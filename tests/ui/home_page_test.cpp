@@ -149,6 +149,7 @@ TEST(HomePage, ExportsImportsAndTakesItBack)
     ScriptedFiles files;
     ScriptedPresenter presenter;
     const QTemporaryDir folder;
+    const StandInDisk stick(folder.path());
     const QString file = folder.filePath("pallet.xml");
     const auto length = [&pages] { return pages.setup->stack()->getDouble("product_cfg.product.length"); };
     partOf<QPushButton>(*openExchange(pages, &files, "btnExport", file), "btnOk")->click();

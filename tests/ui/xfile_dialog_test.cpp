@@ -1,6 +1,7 @@
 #include "ui/stick_fixture.h"
 
-#include "nexo/setting_manager.h"
+#include "support/scripted_files.h"
+#include "workstation/medium_choice.h"
 
 #include <gtest/gtest.h>
 
@@ -153,8 +154,7 @@ TEST(XFileDialog, ADiskThatIsPulledLastIsNotWrittenTo)
 TEST(XFileDialog, SaysWhetherTheDiskMayBePulled)
 {
     const Stick stick;
-    auto *settings = nexo::SettingManager::instance();
-    settings->setOverride("removable", stick.root);
+    const StandInDisk disk(stick.root);
     const QString path = stick.file("a.xml");
     const QString elsewhere = stick.machine.path();
     EXPECT_TRUE(xFileDialog::SystemFileSync(path));
@@ -163,11 +163,10 @@ TEST(XFileDialog, SaysWhetherTheDiskMayBePulled)
     EXPECT_EQ(xFileDialog::removalText(path, false),
               "Do not pull out the disk ДИСК 上海 yet: it has not taken everything.");
     EXPECT_EQ(xFileDialog::removalText(elsewhere, true), QString());
-    EXPECT_EQ(xFileDialog::targetProblem(stick.root, "a.zip"), QString());
+    EXPECT_EQ(palx::targetProblem(stick.root, "a.zip"), QString());
     QDir().mkpath(stick.root + "/dir.zip");
-    EXPECT_EQ(xFileDialog::targetProblems(stick.root, {"a.zip", "dir.zip"}),
+    EXPECT_EQ(palx::targetProblems(stick.root, {"a.zip", "dir.zip"}),
               QStringList({QString(), "There is a folder of that name."}));
     const QTemporaryDir own; // what is left when a disk is pulled
-    EXPECT_TRUE(xFileDialog::targetProblem(own.path(), "a.zip").contains("on no disk that is plugged in"));
-    settings->setOverride("removable", QString());
+    EXPECT_TRUE(palx::targetProblem(own.path(), "a.zip").contains("on no disk that is plugged in"));
 }
