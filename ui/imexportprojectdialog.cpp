@@ -4,19 +4,18 @@
 #include "nexo/manager_helper.h"
 #include "orba/module_object.h"
 #include "project/rules/archive_check.h"
-#include "project/rules/project_export.h"
 #include "project/rules/project_messages.h"
 #include "project/rules/project_place.h"
 #include "ui/exchange_table_model.h"
 #include "ui/form_style.h"
 #include "ui/long_work.h"
+#include "ui/project_fates.h"
 #include "ui/xfile_dialog.h"
 #include "ui_imexportprojectdialog.h"
 #include "workstation/config_log.h"
 #include "workstation/medium_choice.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QEvent>
 #include <QFileInfo>
 
@@ -42,12 +41,6 @@ QString rememberedFolder(const char *item)
 void rememberFolder(const char *item, const QString &folder)
 {
     m("quill.help.file_path")->set(nullptr, item, folder, true);
-}
-
-QString replacesText(const QFileInfo &archive)
-{
-    return ImExportProjectDialog::tr("Replaces %1 of %2")
-        .arg(archive.fileName(), archive.lastModified().toString(QStringLiteral("yyyy-MM-dd HH:mm")));
 }
 
 QString archiveFilter()
@@ -84,6 +77,7 @@ ImExportProjectDialog::ImExportProjectDialog(bool import, QWidget *parent, const
         const bool isThere = QFileInfo(folder).isDir() && palx::targetProblem(folder).isEmpty();
         ui_->edtTarget->setText(isThere ? folder : QString());
         listProjects();
+        readTarget();
     }
     showState();
     showUndo();
@@ -189,7 +183,7 @@ void ImExportProjectDialog::chooseTarget()
         return;
     rememberFolder(kExportFolder, folder);
     ui_->edtTarget->setText(folder);
-    showPlan();
+    readTarget();
 }
 
 void ImExportProjectDialog::chooseTemplates()
@@ -209,61 +203,31 @@ void ImExportProjectDialog::chooseTemplates()
 void ImExportProjectDialog::showPlan()
 {
     if (isImport_)
-        showImportPlan();
+        model_->setFates(
+            importFates(model_->rows(), palx::planImport(model_->tickedItems(), importRequest().onClash)));
     else
         showExportPlan();
     showState();
 }
 
-void ImExportProjectDialog::showImportPlan()
+/// After the target changed, or what is in it.
+void ImExportProjectDialog::readTarget()
 {
-    const QVector<palx::ImportPlan> plans = palx::planImport(model_->tickedItems(), importRequest().onClash);
-    QVector<ExchangeFate> fates;
-    int next = 0;
-    for (const ExchangeTableModel::Row &row : model_->rows()) {
-        if (!row.problem.isEmpty()) {
-            fates.append({ExchangeFate::Impossible, row.problem});
-        } else if (!row.isTicked) {
-            fates.append({ExchangeFate::Stays, tr("Not imported")});
-        } else {
-            const palx::ImportPlan &plan = plans.at(next++);
-            const QString text = plan.isReplacing ? tr("Replaces the project %1")
-                                 : plan.isRenamed ? tr("Renamed to %1")
-                                                  : tr("New project %1");
-            fates.append(
-                {plan.isReplacing ? ExchangeFate::Replaces : ExchangeFate::Comes, text.arg(plan.name)});
-        }
-    }
-    model_->setFates(fates);
+    QStringList projects;
+    for (const ExchangeTableModel::Row &row : model_->rows())
+        projects.append(row.item);
+    targetPlans_ = palx::planExport(ui_->edtTarget->text(), projects + QStringList(palx::templatesName()));
+    showPlan();
 }
 
 void ImExportProjectDialog::showExportPlan()
 {
-    const QString target = ui_->edtTarget->text();
-    QVector<ExchangeFate> fates;
-    QStringList names;
-    for (const ExchangeTableModel::Row &row : model_->rows())
-        names.append(QFileInfo(palx::archivePath(target, row.item)).fileName());
-    const QStringList problems =
-        target.isEmpty() ? QStringList() : palx::targetProblems(target, names);
-    for (const ExchangeTableModel::Row &row : model_->rows()) {
-        const QFileInfo archive(palx::archivePath(target, row.item));
-        const QString problem = problems.value(fates.size());
-        if (!row.isTicked)
-            fates.append({ExchangeFate::Stays, tr("Not exported")});
-        else if (!problem.isEmpty())
-            fates.append({ExchangeFate::Impossible, problem});
-        else if (target.isEmpty() || !archive.exists())
-            fates.append({ExchangeFate::Comes, tr("New file %1").arg(archive.fileName())});
-        else
-            fates.append({ExchangeFate::Replaces, replacesText(archive)});
-    }
-    model_->setFates(fates);
-    const QFileInfo templates(palx::archivePath(target, QStringLiteral("mod")));
-    const bool isReplacing = !target.isEmpty() && templates.exists();
-    ui_->chbProjectTemplates->setText(isReplacing ? tr("Project templates") + QStringLiteral(" - ") +
-                                                        replacesText(templates)
-                                                  : tr("Project templates"));
+    model_->setFates(exportFates(model_->rows(), targetPlans_));
+    const palx::ExportPlan templates = targetPlans_.value(model_->rows().size());
+    ui_->chbProjectTemplates->setText(templates.replaced.isValid()
+                                          ? tr("Project templates") + QStringLiteral(" - ") +
+                                                replacesText(templates)
+                                          : tr("Project templates"));
 }
 
 void ImExportProjectDialog::showState()
@@ -329,7 +293,7 @@ void ImExportProjectDialog::exportChosen()
     const auto end = palx::runInSlices(this, windowTitle(), [&](palx::Progress &progress) {
         isDone = palx::exportProjects(request, &progress);
     });
-    showPlan();
+    readTarget();
     if (isDone)
         ui_->message->showMessage(
             QStringList({tr("Exported."), xFileDialog::removalText(request.target, true)})
@@ -401,7 +365,7 @@ void ImExportProjectDialog::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         ui_->retranslateUi(this);
         setTexts();
-        showPlan();
+        isImport_ ? showPlan() : readTarget();
     }
     QDialog::changeEvent(event);
 }

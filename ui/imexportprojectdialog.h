@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/rules/project_export.h"
 #include "project/rules/project_import.h"
 
 #include <QDialog>
@@ -44,7 +45,7 @@ private:
     void chooseTarget();
     void chooseTemplates();
     void showPlan();
-    void showImportPlan();
+    void readTarget();
     void showExportPlan();
     void showState();
     void showUndo(const QStringList &failed = QStringList());
@@ -58,4 +59,6 @@ private:
     QString programFolder_;
     std::unique_ptr<Ui::ImExportProjectDialog> ui_;
     ExchangeTableModel *model_;
+    /// As the target was when it was read: of each row, then of the templates. Export only.
+    QVector<palx::ExportPlan> targetPlans_;
 };

@@ -13,6 +13,7 @@
 #include "project/rules/work_folder.h"
 #include "workstation/config_log.h"
 #include "workstation/file_sync.h"
+#include "workstation/medium_choice.h"
 #include "workstation/workspace.h"
 
 #include <QDir>
@@ -28,8 +29,6 @@ using orba::Name;
 using orba::Node;
 
 namespace {
-
-const QString kTemplates = QStringLiteral("mod");
 
 /// Archives that are being made, in a folder of their own in the target folder; they get their names when they are whole and
 /// on the disk.
@@ -163,10 +162,10 @@ bool exportAll(const ExportRequest &request, ArchiveDesk *desk, Progress *progre
     }
     if (!request.hasTemplates)
         return true;
-    if (!desk->begin(kTemplates, &archive, &why) ||
+    if (!desk->begin(templatesName(), &archive, &why) ||
         !exportTemplates(request.programFolder, archive, &why, progress))
         return progress->isCancelled() || warn(ProjectText::tr("Export Project templates failed!"), why);
-    desk->noteWhole(kTemplates);
+    desk->noteWhole(templatesName());
     return true;
 }
 
@@ -189,7 +188,7 @@ bool isAllowed(const ExportRequest &request)
     if (!request.projects.isEmpty() && robotFolder().isEmpty())
         return reportProject("error",
                              ProjectText::tr("The robot is not known yet: connect the controller first"));
-    if (request.hasTemplates && request.projects.contains(kTemplates))
+    if (request.hasTemplates && request.projects.contains(templatesName()))
         return reportProject(
             "error", ProjectText::tr("Export the project \"mod\" and the templates one after the other: both "
                                      "become \"mod.zip\""));
@@ -197,6 +196,27 @@ bool isAllowed(const ExportRequest &request)
 }
 
 } // namespace
+
+QVector<ExportPlan> planExport(const QString &target, const QStringList &projects)
+{
+    QVector<ExportPlan> plans;
+    QStringList files;
+    for (const QString &project : projects) {
+        const QFileInfo archive(archivePath(target, project));
+        files.append(archive.fileName());
+        const bool isReplacing = !target.isEmpty() && archive.exists();
+        plans.append({files.last(), QString(), isReplacing ? archive.lastModified() : QDateTime()});
+    }
+    const QStringList problems = target.isEmpty() ? QStringList() : targetProblems(target, files);
+    for (int i = 0; i < problems.size(); ++i)
+        plans[i].problem = problems.at(i);
+    return plans;
+}
+
+QString templatesName()
+{
+    return QStringLiteral("mod");
+}
 
 QString archivePath(const QString &target, const QString &project)
 {

@@ -3,7 +3,9 @@
 #include "orba/export.h"
 #include "workstation/progress.h"
 
+#include <QDateTime>
 #include <QStringList>
+#include <QVector>
 
 /// Robot projects and the program templates as zip archives.
 namespace palx {
@@ -24,6 +26,21 @@ struct ExportRequest
 ///
 /// GUI thread. Asks `progress` often, and events may be handled meanwhile.
 PALX_API bool exportProjects(const ExportRequest &request, Progress *progress);
+
+/// What an export would make of one archive.
+struct ExportPlan
+{
+    QString file;       ///< its name
+    QString problem;    ///< why the disk does not take it; empty when nothing is in the way
+    QDateTime replaced; ///< time of the archive whose place it takes; invalid when there is none
+};
+
+/// What would become of the archives of those projects, in this order. Without a target nothing is in the way. Asks the disk, which
+/// may take a while: once for each target, not at each touch.
+PALX_API QVector<ExportPlan> planExport(const QString &target, const QStringList &projects);
+
+/// What the program templates go by among projects; see `archivePath`.
+PALX_API QString templatesName();
 
 /// The file that a project is exported to.
 PALX_API QString archivePath(const QString &target, const QString &project);

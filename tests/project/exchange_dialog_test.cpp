@@ -9,7 +9,9 @@
 #include "ui/message_bar.h"
 
 #include <QAbstractButton>
+#include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QTableView>
 
 namespace {
@@ -121,8 +123,45 @@ TEST_F(ExchangeDialogTest, ExportsWhatIsTickedAndSaysWhatItReplaces)
     EXPECT_EQ(takeMessages(), QStringList("info: Export to " + disk() + " success!"));
     EXPECT_EQ(told(), QStringLiteral("Exported. It is safe to pull out the disk disk now."));
     EXPECT_EQ(names(disk()), QStringList({"P.zip", "Q.zip"}));
+    EXPECT_TRUE(shown().at(0).startsWith(QStringLiteral("+ Replaces P.zip of "))) << shown().at(0);
     for (const char *project : {"P", "Q"})
         ASSERT_TRUE(QDir(place(QLatin1String(project))).removeRecursively());
     EXPECT_TRUE(import({"P.zip", "Q.zip"}, palx::OnClash::Replace));
     EXPECT_NE(content("Q/task0/main.mod"), QByteArray("(no file)")) << "not the old archive any more";
+}
+
+TEST_F(ExchangeDialogTest, ThePlanOfAnExportSaysWhatIsOnTheDisk)
+{
+    const QDateTime made(QDate(2024, 5, 6), QTime(7, 8));
+    putArchive(QStringLiteral("P.zip"), {{"old", "1", 0, 0, 0, {}, {}, 0}});
+    QFile archive(onDisk(QStringLiteral("P.zip")));
+    ASSERT_TRUE(archive.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(archive.setFileTime(made, QFileDevice::FileModificationTime));
+    archive.close();
+    QDir().mkpath(onDisk(QStringLiteral("Q.zip")));
+    const auto plan = [](const QString &target) {
+        QStringList lines;
+        for (const palx::ExportPlan &each : palx::planExport(target, {"P", "Q", "R"}))
+            lines.append(
+                QStringList({each.file, each.problem, each.replaced.toString(Qt::ISODate)}).join('|'));
+        return lines;
+    };
+    QStringList there = plan(disk());
+    there[1] = there[1].section('|', 0, 1); // the time of a folder
+    EXPECT_EQ(there, QStringList(
+                         {"P.zip||2024-05-06T07:08:00", "Q.zip|There is a folder of that name.", "R.zip||"}));
+    EXPECT_EQ(plan(QString()), QStringList({"P.zip||", "Q.zip||", "R.zip||"})) << "nothing is chosen yet";
+    const QString gone = programs() + QStringLiteral(" is on no disk that is plugged in");
+    EXPECT_EQ(plan(programs()).last(), "R.zip|" + gone + '|');
+
+    m("quill.help.file_path")->set(nullptr, "project_export", disk());
+    open(false);
+    click("btnAll");
+    const QStringList before = shown();
+    EXPECT_EQ(before,
+              QStringList({"+ Replaces P.zip of 2024-05-06 07:08", "+ There is a folder of that name."}));
+    ASSERT_TRUE(archive.remove());
+    touchRow(0);
+    touchRow(0);
+    EXPECT_EQ(shown(), before) << "the disk is not asked at each touch";
 }
