@@ -1,6 +1,5 @@
 #include "project/rules/archive_unpack.h"
 
-#include "project/rules/archive_check.h"
 #include "project/rules/archive_names.h"
 #include "project/rules/project_messages.h"
 
@@ -93,21 +92,23 @@ bool hasRoom(const QString &folder, qint64 bytes)
 
 } // namespace
 
-bool unpackArchive(const QString &archive, const QString &folder, QString *why, Progress *progress)
+bool unpackArchive(const QString &archive, const QString &folder, QString *why, Progress *progress,
+                   ArchiveContent *content)
 {
-    ArchiveContent content;
-    if (!checkArchive(archive, &content, why, progress))
+    ArchiveContent unwanted;
+    content = content ? content : &unwanted;
+    if (!checkArchive(archive, content, why, progress))
         return false;
-    if (!hasRoom(folder, content.bytes))
+    if (!hasRoom(folder, content->bytes))
         return refuse(why,
-                      ProjectText::tr("there is no room for %1 MB").arg(content.bytes / (1024 * 1024) + 1));
+                      ProjectText::tr("there is no room for %1 MB").arg(content->bytes / (1024 * 1024) + 1));
     WatchedFile file(archive, progress);
     const QStringList paths = JlCompress::extractDir(&file, QTextCodec::codecForName("UTF-8"), folder);
     if (progress->isCancelled())
         return false;
     if (paths.isEmpty())
         return refuse(why, ProjectText::tr("it cannot be unpacked to %1").arg(folder));
-    return isAsListed(content, folder, why);
+    return isAsListed(*content, folder, why);
 }
 
 QStringList recursiveAllFiles(const QString &folder)

@@ -28,14 +28,6 @@ namespace {
 
 enum class Outcome { Imported, Refused, Cancelled, GiveUp };
 
-/// A project's folder has one of these, and its archive the second at least.
-constexpr const char *kSigns[] = {".rlprog", "var.xml"};
-
-QString noProjectText()
-{
-    return ProjectText::tr("it holds no project");
-}
-
 bool explain(QString *why, const QString &reason)
 {
     *why = reason;
@@ -63,12 +55,12 @@ bool prepare(const QString &archive, Unpacked *unpacked, QString *why, Progress 
     const QString file = unpacked->folder + QStringLiteral("/var.xml");
     if (!QDir().mkpath(unpacked->folder))
         return explain(why, ProjectText::tr("Cannot create path: %1").arg(unpacked->folder));
-    if (!unpackArchive(archive, unpacked->folder, why, progress))
+    ArchiveContent content;
+    if (!unpackArchive(archive, unpacked->folder, why, progress, &content))
         return false;
-    const QDir folder(unpacked->folder);
-    if (std::none_of(std::begin(kSigns), std::end(kSigns),
-                     [&](const char *sign) { return folder.exists(QLatin1String(sign)); }))
-        return explain(why, noProjectText());
+    const QString problem = projectProblem(content);
+    if (!problem.isEmpty())
+        return explain(why, problem);
     if (!readVariableList(file, &unpacked->variables, why) ||
         !readParameterVariables(unpacked->variables, &unpacked->parameters, why))
         return false;
@@ -249,11 +241,12 @@ QVector<ImportPlan> planImport(const QStringList &archives, OnClash onClash)
 
 QString projectProblem(const ArchiveContent &content)
 {
+    // A project's folder has one of these, and its archive the second at least.
+    const QStringList signs{QStringLiteral(".rlprog"), QStringLiteral("var.xml")};
     for (const ArchiveEntry &entry : content.entries)
-        for (const char *sign : kSigns)
-            if (entry.name == QLatin1String(sign))
-                return QString();
-    return noProjectText();
+        if (signs.contains(entry.name))
+            return QString();
+    return ProjectText::tr("it holds no project");
 }
 
 bool importProjects(const ImportRequest &request, Progress *progress, QStringList *failed)
