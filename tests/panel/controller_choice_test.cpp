@@ -5,6 +5,7 @@
 #include "panel/panel_options.h"
 #include "support/test_support.h"
 
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -56,6 +57,19 @@ TEST(PanelOptions, AreHandedToTheSessionOrRefused)
     EXPECT_EQ(session.pluginFiles, QStringList(QStringLiteral("a.so")));
     for (const char *wrong : {"--language xx", "--speed 3", "file.xml", "--data"})
         EXPECT_NE(parse(wrong).refusal, QString()) << wrong;
+}
+
+TEST(PanelOptions, TheDataFolderIsTheGivenOneElseThatOfTheEnvironmentElseThatOfTheUser)
+{
+    const auto dataFolder = [](const QStringList &arguments) {
+        return panel::parseOptions(QStringList("palx_panel") + arguments, QStringLiteral("/none"))
+            .session.dataFolder;
+    };
+    EXPECT_EQ(dataFolder({}), QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    qputenv("PALX_SETTING_DATA", "/named");
+    EXPECT_EQ(dataFolder({}), QStringLiteral("/named"));
+    EXPECT_EQ(dataFolder({"--data", "/given"}), QStringLiteral("/given"));
+    qunsetenv("PALX_SETTING_DATA");
 }
 
 TEST(ControllerChoice, AProcessThatDiesIsStartedAgain)
