@@ -117,11 +117,10 @@ bool addParametersTo(ArchiveMirror *mirror, const QString &project, QString *why
     Node fixed{Name(u"fixed_var_list")};
     if (!readVariableList(mirror->filePath(file), &fixed, why))
         return false;
-    Node temporary{Name(u"temp_var_list")};
-    temporary.assign(fixed);
-    addParameterVariables(projectRecord(project)->node(), &temporary);
+    QFile before(mirror->filePath(file));
+    const QByteArray old = before.open(QIODevice::ReadOnly) ? before.readAll() : QByteArray();
     orba::FormatError error;
-    const QByteArray text = orba::ModuleManager::toXml(temporary, &error);
+    const QByteArray text = variableListWithParameters(fixed, old, projectRecord(project)->node(), &error);
     *why = error.text();
     return !error.isSet() && mirror->putFile(file, text, why);
 }

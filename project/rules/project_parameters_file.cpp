@@ -1,6 +1,5 @@
 #include "project/rules/project_parameters_file.h"
 
-#include "orba/module_manager.h"
 #include "project/rules/project_messages.h"
 #include "project/rules/project_record.h"
 #include "project/rules/staged_folder.h"
@@ -15,6 +14,10 @@ using orba::Node;
 namespace {
 
 constexpr const char16_t *kValue = u"value.[0][0][0]";
+
+// How a list begins and ends where it was written by the framework's writer.
+constexpr const char *kListHead = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<node type=\"list\">\n";
+constexpr const char *kListTail = "\n</node>\n";
 
 /// The highest value of a parameter; the lowest is 0, of an index in a list of recipes -1 for none.
 struct Range
@@ -99,6 +102,23 @@ void addParameterVariables(const Node &record, Node *list)
             list->removeAt(i);
     for (const QString &key : keys)
         addVariable(key, record.getInt(key), list);
+}
+
+QByteArray variableListWithParameters(const Node &list, const QByteArray &text, const Node &record,
+                                      orba::FormatError *error)
+{
+    Node parameters;
+    parameters.reset(Node::Kind::List);
+    addParameterVariables(record, &parameters);
+    Node all;
+    all.assign(list);
+    const int before = all.size();
+    addParameterVariables(record, &all);
+    const bool areNew = all.size() == before + parameters.size();
+    if (!areNew || !text.startsWith(kListHead) || !text.endsWith(kListTail))
+        return orba::ModuleManager::toXml(all, error);
+    const QByteArray more = orba::ModuleManager::toXml(parameters, error);
+    return text.left(text.size() - int(qstrlen(kListTail))) + '\n' + more.mid(int(qstrlen(kListHead)));
 }
 
 bool readParameterVariables(const Node &list, Node *parameters, QString *why)
