@@ -120,7 +120,7 @@ void CellPage::setupDesk()
     });
 }
 
-CellTable *CellPage::setupTable(QTableView *view, int stretched)
+CellTable *CellPage::setupTable(QTableView *view, int stretched, ix::StretchedColumn::Least least)
 {
     auto *model = new CellTable(this);
     view->setModel(model);
@@ -132,19 +132,17 @@ CellTable *CellPage::setupTable(QTableView *view, int stretched)
     view->setSelectionMode(QAbstractItemView::SingleSelection);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     QScroller::grabGesture(view->viewport(), QScroller::TouchGesture);
-    connect(model, &QAbstractItemModel::modelReset, view, [view, stretched] {
-        if (stretched < view->model()->columnCount())
-            view->horizontalHeader()->setSectionResizeMode(stretched, QHeaderView::Stretch);
-    });
+    new ix::StretchedColumn(view, stretched, least);
     return model;
 }
 
 void CellPage::setupTables()
 {
-    signals_ = setupTable(ui_->tblSignals, 1);
-    tasks_ = setupTable(ui_->tblTasks, 2);
-    variables_ = setupTable(ui_->tblVariables, 1);
-    violations_ = setupTable(ui_->tblViolations, 2);
+    using Least = ix::StretchedColumn::Least;
+    signals_ = setupTable(ui_->tblSignals, 1, Least::Title); // what stands behind it counts more
+    tasks_ = setupTable(ui_->tblTasks, 2, Least::Contents);
+    variables_ = setupTable(ui_->tblVariables, 1, Least::Title);
+    violations_ = setupTable(ui_->tblViolations, 2, Least::Contents);
     ui_->tblViolations->verticalHeader()->setDefaultSectionSize(56); // two lines
     const QList<QPushButton *> tabs{ui_->tabDesk,      ui_->tabInputs, ui_->tabTasks,
                                     ui_->tabVariables, ui_->tabFaults, ui_->tabViolations};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ix/stretched_column.h"
 #include "ix/xtheme.h"
 #include "orba/module_object.h"
 
@@ -46,7 +47,7 @@ private:
     void setupRun();
     void setupDesk();
     void setupTables();
-    CellTable *setupTable(QTableView *view, int stretched);
+    CellTable *setupTable(QTableView *view, int stretched, ix::StretchedColumn::Least least);
     void follow();
     void nameTitles();
 

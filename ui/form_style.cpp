@@ -1,6 +1,6 @@
 #include "ui/form_style.h"
 
-#include "ui/stretched_column.h"
+#include "ix/stretched_column.h"
 
 #include <QAbstractItemView>
 #include <QHeaderView>
@@ -24,7 +24,7 @@ void setupTable(QTableView *table, int stretched, bool compact)
     const auto mode = stretched < 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents;
     table->horizontalHeader()->setSectionResizeMode(mode);
     if (stretched >= 0)
-        new StretchedColumn(table, stretched);
+        new ix::StretchedColumn(table, stretched);
     table->horizontalHeader()->setMinimumSectionSize(kNarrowest);
     table->horizontalHeader()->setHighlightSections(false);
     table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);

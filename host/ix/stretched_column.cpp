@@ -1,4 +1,4 @@
-#include "ui/stretched_column.h"
+#include "ix/stretched_column.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -7,8 +7,10 @@
 
 #include <algorithm>
 
-StretchedColumn::StretchedColumn(QTableView *table, int column)
-    : QObject(table), table_(table), column_(column)
+namespace ix {
+
+StretchedColumn::StretchedColumn(QTableView *table, int column, Least least)
+    : QObject(table), table_(table), column_(column), least_(least)
 {
     QHeaderView *header = table->horizontalHeader();
     table->viewport()->installEventFilter(this);
@@ -30,9 +32,10 @@ void StretchedColumn::stretch()
     if (header->sectionResizeMode(column_) != QHeaderView::Fixed) // a model that was reset has forgotten it
         header->setSectionResizeMode(column_, QHeaderView::Fixed);
     const QAbstractItemView *view = table_;
-    const int contents = std::max(view->sizeHintForColumn(column_), header->sectionSizeHint(column_));
+    const int contents = least_ == Least::Contents ? view->sizeHintForColumn(column_) : 0;
+    const int least = std::max(contents, header->sectionSizeHint(column_));
     const int others = header->length() - header->sectionSize(column_);
-    header->resizeSection(column_, std::max(contents, table_->viewport()->width() - others));
+    header->resizeSection(column_, std::max(least, table_->viewport()->width() - others));
 }
 
 bool StretchedColumn::eventFilter(QObject *watched, QEvent *event)
@@ -41,3 +44,5 @@ bool StretchedColumn::eventFilter(QObject *watched, QEvent *event)
         stretch();
     return QObject::eventFilter(watched, event);
 }
+
+} // namespace ix
