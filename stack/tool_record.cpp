@@ -14,8 +14,8 @@ namespace {
 
 constexpr double kMm = 1000.0;
 constexpr double kDeg = 57.29577951308232;
-constexpr double kLeastTurnDeg = 30.0;
-constexpr double kMostMissM = 0.005; ///< a tip is touched to about a millimetre
+constexpr double kLeastTurnDeg = 60.0; ///< where a touch that is off by a millimetre makes a tool that is
+constexpr double kMostMissM = 0.005;   ///< a tip is touched to about a millimetre
 
 struct ToolText
 {
@@ -88,7 +88,7 @@ ToolMeasure measureTool(const Pose &first, const Pose &turned, double z)
     found.missM = (across * xy - wanted).norm();
     if (found.missM > kMostMissM)
         found.error =
-            ToolText::tr("The two touches are %1 mm apart: the tip moved, or the tool's Z is wrong.")
+            ToolText::tr("The two touches are %1 mm apart in the direction of the hand: the tip moved or was not met.")
                 .arg(found.missM * kMm, 0, 'f', 1);
     return found;
 }

@@ -29,12 +29,14 @@ PALX_API ix::calc::Pose toolPose(const orba::Node &tool, ToolKeeper keeper);
 PALX_API bool isMeasured(const orba::Node &tool, ToolKeeper keeper);
 
 /// A tool's x and y from two poses of the flange [m] in the base in which the tool's point touches the same tip, the hand being turned
-/// about its own axis in between; `z` [m] is the tool's known reach. `error` says why they tell nothing.
+/// about its own axis in between; `z` [m] is the tool's known reach, which counts when the hand was tilted as well. A tip that moved
+/// sideways cannot be told from another tool: it makes one that is off by as much, for a turn of 60 degrees. `error` says why
+/// the touches tell nothing.
 struct PALX_API ToolMeasure
 {
     double x = 0;
     double y = 0;
-    double missM = 0; ///< how far apart the two touches are, as reckoned
+    double missM = 0; ///< how far apart the two touches are in the direction that no tool explains
     QString error;
 };
 PALX_API ToolMeasure measureTool(const ix::calc::Pose &first, const ix::calc::Pose &turned, double z);

@@ -4226,8 +4226,8 @@ Pallet: %4</source>
         <translation>两次触碰之间请将手腕绕自身轴转动至少 %1 度。</translation>
     </message>
     <message>
-        <source>The two touches are %1 mm apart: the tip moved, or the tool&apos;s Z is wrong.</source>
-        <translation>两次触碰相差 %1 mm：尖点移动了，或工具的 Z 不正确。</translation>
+        <source>The two touches are %1 mm apart in the direction of the hand: the tip moved or was not met.</source>
+        <translation>两次触碰沿手腕方向相差 %1 mm：尖点移动了或未触到。</translation>
     </message>
 </context>
 <context>

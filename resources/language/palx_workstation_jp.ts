@@ -4226,8 +4226,8 @@ Pallet: %4</source>
         <translation>2 回の接触の間に、手首を自身の軸まわりに %1 度以上回してください。</translation>
     </message>
     <message>
-        <source>The two touches are %1 mm apart: the tip moved, or the tool&apos;s Z is wrong.</source>
-        <translation>2 回の接触が %1 mm ずれています。針先が動いたか、ツールの Z が違います。</translation>
+        <source>The two touches are %1 mm apart in the direction of the hand: the tip moved or was not met.</source>
+        <translation>2 回の接触が手首の方向に %1 mm ずれています。針先が動いたか、触れていません。</translation>
     </message>
 </context>
 <context>

@@ -4226,8 +4226,8 @@ Pallet: %4</source>
         <translation>두 접촉 사이에 손목을 자체 축으로 %1도 이상 돌리십시오.</translation>
     </message>
     <message>
-        <source>The two touches are %1 mm apart: the tip moved, or the tool&apos;s Z is wrong.</source>
-        <translation>두 접촉이 %1 mm 어긋납니다. 끝이 움직였거나 툴의 Z가 잘못되었습니다.</translation>
+        <source>The two touches are %1 mm apart in the direction of the hand: the tip moved or was not met.</source>
+        <translation>두 접촉이 손목 방향으로 %1 mm 어긋납니다. 끝이 움직였거나 닿지 않았습니다.</translation>
     </message>
 </context>
 <context>

@@ -4228,8 +4228,8 @@ Pallet: %4</source>
         <translation>Между касаниями поверните кисть вокруг её оси не менее чем на %1 градусов.</translation>
     </message>
     <message>
-        <source>The two touches are %1 mm apart: the tip moved, or the tool&apos;s Z is wrong.</source>
-        <translation>Касания расходятся на %1 мм: остриё сместилось или Z инструмента неверно.</translation>
+        <source>The two touches are %1 mm apart in the direction of the hand: the tip moved or was not met.</source>
+        <translation>Касания расходятся на %1 мм вдоль кисти: остриё сместилось или не задето.</translation>
     </message>
 </context>
 <context>

@@ -140,8 +140,8 @@ TEST(ToolRecord, IsMeasuredByTouchingATipTwice)
         const char *error;
     } cases[] = {
         {90, 0, 0.25, ""},           {-180, 0, 0.25, ""},
-        {31, 0, 0.25, ""},           {29, 0, 0.25, "at least 30"},
-        {0, 0, 0.25, "at least 30"}, {90, 0.02, 0.25, "20.0 mm apart"},
+        {61, 0, 0.25, ""},           {59, 0, 0.25, "at least 60"},
+        {0, 0, 0.25, "at least 60"}, {90, 0.02, 0.25, "20.0 mm apart"},
     };
     for (const auto &c : cases) {
         const Pose first = touch(0, tip);

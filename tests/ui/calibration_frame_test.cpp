@@ -104,7 +104,7 @@ TEST(CalibrationFrame, MeasuresAToolByTwoTouches)
     EXPECT_NEAR(page.field<QDoubleSpinBox>("spnTool1")->value(), -20, 1e-6);
     page.stack()->set(nullptr, "tool.rotate_p.rot.#2", 0.1);
     measure->click();
-    EXPECT_TRUE(page.message().contains("at least 30 degrees")) << page.message();
+    EXPECT_TRUE(page.message().contains("at least 60 degrees")) << page.message();
     EXPECT_NEAR(page.stack()->getDouble("toolset.end.trans.#0"), 0.03, 1e-9) << "as it was";
 }
 
