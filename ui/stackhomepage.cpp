@@ -9,7 +9,9 @@
 #include "ui/home_parts.h"
 #include "ui/imexportdialog.h"
 #include "ui/name_dialog.h"
+#include "ui/point_table_model.h"
 #include "ui/projectmanager.h"
+#include "ui/recipe_frame.h"
 #include "ui/recipe_list_model.h"
 #include "ui/recipe_tables.h"
 #include "ui/recipe_texts.h"
@@ -235,6 +237,10 @@ void StackHomePage::showDetails(ModuleObject *stack)
     ui_->lblDesc->setText(stack ? stack->getString("desc") : QString());
     ui_->lblDesc->setVisible(!ui_->lblDesc->text().isEmpty());
     ui_->lblSummary->setText(stack ? recipeTotalsText(stack->node()) : QString());
+    const bool isOutdated = stack && palx::pointsState(stack->node()) == palx::PointsState::Outdated;
+    showWarning(ui_->lblOutdated,
+                isOutdated ? tr("The recipe or the shared settings were changed: generate the points again.")
+                           : QString());
     ui_->picture->showRecipe(stack);
     ui_->tblLayers->setVisible(stack != nullptr);
     layers_->setStack(stack);

@@ -3842,6 +3842,14 @@ Pallet: %4</source>
         <source>Export recipes</source>
         <translation>导出配方</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>The recipe or the shared settings were changed: generate the points again.</source>
+        <translation>配方或共用设置已更改：请重新生成点。</translation>
+    </message>
 </context>
 <context>
     <name>StackPanel</name>

@@ -3842,6 +3842,14 @@ Pallet: %4</source>
         <source>Export recipes</source>
         <translation>レシピのエクスポート</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>The recipe or the shared settings were changed: generate the points again.</source>
+        <translation>レシピまたは共通設定が変更されました。点を生成し直してください。</translation>
+    </message>
 </context>
 <context>
     <name>StackPanel</name>

@@ -3842,6 +3842,14 @@ Pallet: %4</source>
         <source>Export recipes</source>
         <translation>레시피 내보내기</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>The recipe or the shared settings were changed: generate the points again.</source>
+        <translation>레시피 또는 공용 설정이 변경되었습니다. 포인트를 다시 생성하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>StackPanel</name>

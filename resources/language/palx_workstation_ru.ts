@@ -3844,6 +3844,14 @@ Pallet: %4</source>
         <source>Export recipes</source>
         <translation>Экспорт рецептов</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>The recipe or the shared settings were changed: generate the points again.</source>
+        <translation>Рецепт или общие настройки изменены: рассчитайте точки заново.</translation>
+    </message>
 </context>
 <context>
     <name>StackPanel</name>

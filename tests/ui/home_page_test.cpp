@@ -1,3 +1,4 @@
+#include "stack/way_points.h"
 #include "support/scripted_files.h"
 #include "support/test_support.h"
 #include "ui/current_recipe.h"
@@ -138,6 +139,26 @@ TEST(HomePage, TheOpenRecipeStaysOpenWhenRenamedAndClosesWhenDeleted)
     click(pages, "btnDelete");
     EXPECT_EQ(pages.setup->stack(), nullptr);
     EXPECT_EQ(currentRecipe(&pages.module)->value(), QString());
+}
+
+/// As after a panel that ended between an edit and the generation that follows it.
+TEST(HomePage, TellsOfPointsThatAreOlderThanTheRecipe)
+{
+    Pages pages;
+    orba::ModuleObject *stack = pages.tree.addRecipe("A");
+    pages.home->chooseRecipe("A");
+    auto *warning = partOf<QLabel>(*pages.home->wgt(), "lblOutdated");
+    EXPECT_EQ(warning->text(), QString()) << "there are none yet";
+    palx::genStackWayPoints(stack);
+    stack->set(nullptr, "put.put_p.trans.#2", 0.2);
+    pages.tree.addRecipe("B");
+    pages.home->chooseRecipe("B");
+    pages.home->chooseRecipe("A");
+    EXPECT_TRUE(warning->text().contains("generate the points again")) << warning->text();
+    palx::genStackWayPoints(stack);
+    pages.home->chooseRecipe("B");
+    pages.home->chooseRecipe("A");
+    EXPECT_EQ(warning->text(), QString());
 }
 
 // What came, went and came back by files, and what the set-up page shows of it.
