@@ -110,7 +110,7 @@ TEST(NewRecipe, IsStackedInTheSimulatedCell)
     ASSERT_TRUE(orba::ModuleManager::writeToJson(palx::pluginNode(), file));
     QProcess palx;
     palx.start(QStringLiteral(PALX_BIN_DIR "/palx"), {QStringLiteral("simulate"), file});
-    ASSERT_TRUE(palx.waitForFinished(-1));
+    ASSERT_TRUE(palx.waitForFinished(300000));
     const QByteArray told = palx.readAllStandardOutput();
     const orba::Node result = nodeFromJson(told);
     EXPECT_EQ(palx.exitCode(), 0) << told.constData() << palx.readAllStandardError().constData();
