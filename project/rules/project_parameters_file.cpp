@@ -63,6 +63,16 @@ void addVariable(const QString &key, qint64 value, Node *list)
     variable->ensure(kValue)->setInt(value);
 }
 
+bool hasParameters(const Node &list)
+{
+    for (int i = 0; i < list.size(); ++i) {
+        const Node *variable = list.at(i); // null in a list of numbers
+        if (variable && projectParameters().contains(variable->getString(u"name")))
+            return true;
+    }
+    return false;
+}
+
 /// A whole number, as a number or as a text.
 bool readWhole(const Node *node, qint64 *value)
 {
@@ -107,16 +117,15 @@ void addParameterVariables(const Node &record, Node *list)
 QByteArray variableListWithParameters(const Node &list, const QByteArray &text, const Node &record,
                                       orba::FormatError *error)
 {
+    if (hasParameters(list) || !text.startsWith(kListHead) || !text.endsWith(kListTail)) {
+        Node all;
+        all.assign(list);
+        addParameterVariables(record, &all);
+        return orba::ModuleManager::toXml(all, error);
+    }
     Node parameters;
     parameters.reset(Node::Kind::List);
     addParameterVariables(record, &parameters);
-    Node all;
-    all.assign(list);
-    const int before = all.size();
-    addParameterVariables(record, &all);
-    const bool areNew = all.size() == before + parameters.size();
-    if (!areNew || !text.startsWith(kListHead) || !text.endsWith(kListTail))
-        return orba::ModuleManager::toXml(all, error);
     const QByteArray more = orba::ModuleManager::toXml(parameters, error);
     return text.left(text.size() - int(qstrlen(kListTail))) + '\n' + more.mid(int(qstrlen(kListHead)));
 }

@@ -44,6 +44,7 @@ TEST(ParametersFile, AddsTheParametersToEveryFormOfAList)
         {"with parameters already", orba::ModuleManager::toXml(withThem)},
         {"on few lines", oneLine},
         {"with a remark behind it", own + "<!-- end\n</node>\n-->\n"},
+        {"a list of numbers", orba::ModuleManager::toXml(nodeFromJson("[1, 2]"))},
         {"an empty list", orba::ModuleManager::toXml(nodeFromJson("[]"))},
         {"not there", QByteArray()},
     };
