@@ -111,6 +111,13 @@ void genPickPoints(Node &stack, const Node &plugin)
     fillPickWaypoints(*get);
 }
 
+bool sameBelow(const orba::Node &a, const orba::Node &b, QStringView path)
+{
+    const orba::Node *x = a.find(path);
+    const orba::Node *y = b.find(path);
+    return x && y ? *x == *y : !x && !y;
+}
+
 } // namespace
 
 void genStackWayPoints(Node &stack, const Node &plugin)
@@ -132,6 +139,17 @@ void genStackWayPoints(orba::ModuleObject *stack)
     const Node *points = node.find(u"points.put");
     if (points && points->handle())
         points->handle()->announceStructure();
+}
+
+PointsState pointsState(const orba::Node &stack)
+{
+    const orba::Node *put = stack.find(u"points.put");
+    if (!put || put->size() == 0)
+        return PointsState::None;
+    orba::Node copy = stack;
+    genStackWayPoints(copy, pluginNodeOf(stack));
+    const bool same = sameBelow(copy, stack, u"points.put") && sameBelow(copy, stack, u"get");
+    return same ? PointsState::Current : PointsState::Outdated;
 }
 
 } // namespace palx

@@ -14,4 +14,12 @@ PALX_API void genStackWayPoints(orba::ModuleObject *stack);
 /// The same on storage; `plugin` is the node that holds "global_tool" and "global_wobj".
 PALX_API void genStackWayPoints(orba::Node &stack, const orba::Node &plugin);
 
+enum class PointsState {
+    None,     ///< never generated
+    Current,  ///< generating again would give the same
+    Outdated, ///< the recipe or the global settings were changed since
+};
+/// Generates on a copy and compares.
+PALX_API PointsState pointsState(const orba::Node &stack);
+
 } // namespace palx

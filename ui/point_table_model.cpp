@@ -1,8 +1,5 @@
 #include "ui/point_table_model.h"
 
-#include "stack/way_points.h"
-#include "workstation/plugin_node.h"
-
 namespace {
 
 constexpr double kMmPerM = 1000.0;
@@ -144,29 +141,3 @@ QString PointTableModel::toText() const
     }
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
-
-namespace palx {
-
-namespace {
-
-bool sameBelow(const orba::Node &a, const orba::Node &b, QStringView path)
-{
-    const orba::Node *x = a.find(path);
-    const orba::Node *y = b.find(path);
-    return x && y ? *x == *y : !x && !y;
-}
-
-} // namespace
-
-PointsState pointsState(const orba::Node &stack)
-{
-    const orba::Node *put = stack.find(u"points.put");
-    if (!put || put->size() == 0)
-        return PointsState::None;
-    orba::Node copy = stack;
-    genStackWayPoints(copy, pluginNodeOf(stack));
-    const bool same = sameBelow(copy, stack, u"points.put") && sameBelow(copy, stack, u"get");
-    return same ? PointsState::Current : PointsState::Outdated;
-}
-
-} // namespace palx

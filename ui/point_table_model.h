@@ -49,15 +49,3 @@ private:
     int layer_ = kAll;
     QString key_;
 };
-
-namespace palx {
-
-enum class PointsState {
-    None,     ///< never generated
-    Current,  ///< generating again would give the same
-    Outdated, ///< the recipe or the global settings were changed since
-};
-/// Generates on a copy and compares.
-PALX_API PointsState pointsState(const orba::Node &stack);
-
-} // namespace palx

@@ -4,6 +4,7 @@
 #include "nexo/manager_helper.h"
 #include "stack/recipe_layers.h"
 #include "stack/recipe_points.h"
+#include "stack/way_points.h"
 #include "ui/form_style.h"
 #include "ui/move_to_point.h"
 #include "ui_points_frame.h"
