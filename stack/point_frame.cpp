@@ -2,7 +2,6 @@
 
 #include "stack/recipe_points.h"
 #include "stack/tool_record.h"
-#include "workstation/plugin_node.h"
 
 #include <QCoreApplication>
 
@@ -69,13 +68,6 @@ Location locate(const Node &node)
     return {};
 }
 
-/// Of its own, other than the robot's base.
-bool hasFrame(const Node &stack)
-{
-    return !stack.getBool(u"use_global_wobj") &&
-           (isTaught(stack.find(u"calibrate.p1")) || isTaught(stack.find(u"toolset.ref")));
-}
-
 void takeTool(PointFrame *frame, const Node *tool, ToolKeeper keeper)
 {
     frame->isOfTool = tool && isMeasured(*tool, keeper);
@@ -103,7 +95,7 @@ PointFrame frameAt(const Location &at, QStringView part)
         const ix::calc::Calibration found = palletFrame(*at.stack);
         frame.reference = found.frame;
         frame.problem = found.error;
-        frame.isOnPallet = hasFrame(*at.stack);
+        frame.isOnPallet = hasPalletFrame(*at.stack);
     }
     return frame;
 }
@@ -118,6 +110,12 @@ Pose PointFrame::flange(const Pose &point) const
 Pose PointFrame::point(const Pose &flange) const
 {
     return ix::calc::inverseFrame(reference) * flange * tool;
+}
+
+bool hasPalletFrame(const Node &stack)
+{
+    return !stack.getBool(u"use_global_wobj") &&
+           (isTaught(stack.find(u"calibrate.p1")) || isTaught(stack.find(u"toolset.ref")));
 }
 
 ix::calc::Calibration palletFrame(const Node &stack)

@@ -25,6 +25,9 @@ struct PALX_API PointFrame
     ix::calc::Pose point(const ix::calc::Pose &flange) const;
 };
 
+/// Whether a recipe has a pallet frame of its own, good or not, other than the robot's base.
+PALX_API bool hasPalletFrame(const orba::Node &stack);
+
 /// The pallet's frame of a recipe with a work object of its own, seen from the robot's base [m], or why its calibration points
 /// give none. Without calibration points it is the reference frame of the recipe's toolset; `frame` is the base for recipes on
 /// the shared work objects, whose points are reckoned in the base.

@@ -67,7 +67,7 @@ QStringList untaughtFrame(const Node &stack)
         return {PointText::tr(
             "The shared work objects are not both calibrated by one point, so the place positions "
             "lie around the robot's foot.")};
-    if (!isTaught(stack.find(u"calibrate.p1")) && !isTaught(stack.find(u"toolset.ref")))
+    if (!hasPalletFrame(stack))
         return {PointText::tr(
             "The pallet's place is not calibrated, so the place positions lie around the robot's foot.")};
     const QString error = palletFrame(stack).error;

@@ -1,5 +1,7 @@
 #include "stack/recipe_shape.h"
 
+#include "stack/shared_lists.h"
+
 #include <functional>
 
 namespace palx {
@@ -191,30 +193,13 @@ Node layerShape()
     return shape;
 }
 
-Node toolShape()
+/// What any entry of a shared list may hold.
+Node shapeOf(const QVector<Node> &entries)
 {
     Node shape;
-    shape.ensure(u"name")->setString(QString());
-    addNumbers(shape, QStringLiteral("load"), words("length width mass"));
-    addNumbers(shape, QStringLiteral("incoming_settings"),
-               words("incoming_product_direction incoming_conveyor_line_direction origin_position"));
-    for (const char16_t *corner : {u"bottom_left_node", u"bottom_right_node"})
-        shape.ensure(u"incoming_settings")->add(orba::Name(corner));
-    addNumbers(shape, QStringLiteral("waypoint_settings.get"),
-               words("enter_x enter_y enter_h ready_h approach_h retract_h"));
-    for (const char *side : {"waypoint_settings.put.left_offsets", "waypoint_settings.put.right_offsets"})
-        addNumbers(shape, QString::fromLatin1(side),
-                   words("enter_x enter_y enter_h ready_h approach_h retract_h exit_h"));
-    return shape;
-}
-
-Node wobjShape()
-{
-    Node shape;
-    shape.ensure(u"name")->setString(QString());
-    addNumbers(shape, QString(), words("calibration_method towards wobj_x wobj_y"));
-    for (const char16_t *origin : {u"left_origin_point", u"right_origin_point"})
-        shape.add(orba::Name(origin));
+    for (const Node &entry : entries)
+        for (int i = 0; i < entry.size(); ++i)
+            shape.ensureChild(entry.at(i)->name())->assign(*entry.at(i));
     return shape;
 }
 
@@ -263,12 +248,12 @@ QString recipeFault(const Node &stack, const Node &templateStack)
 
 QString globalToolFault(const Node &tools)
 {
-    return eachFault(tools, QStringLiteral("global_tool"), against(toolShape()));
+    return eachFault(tools, QStringLiteral("global_tool"), against(shapeOf(sharedToolEntries())));
 }
 
 QString globalWobjFault(const Node &wobjs)
 {
-    return eachFault(wobjs, QStringLiteral("global_wobj"), against(wobjShape()));
+    return eachFault(wobjs, QStringLiteral("global_wobj"), against(shapeOf(sharedWobjEntries())));
 }
 
 } // namespace palx

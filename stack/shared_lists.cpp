@@ -105,16 +105,23 @@ bool usesSharedLists(const Node &stack)
     return stack.getBool(u"use_global_tool") || stack.getBool(u"use_global_wobj");
 }
 
+QVector<Node> sharedToolEntries()
+{
+    return {tool("PalletTool1"), tool("PalletTool2"), incoming(), wayPoints()};
+}
+
+QVector<Node> sharedWobjEntries()
+{
+    return {workObject("PalletWobj1"), workObject("PalletWobj2")};
+}
+
 bool ensureSharedLists(ModuleObject *stack)
 {
     if (!usesSharedLists(stack->node()))
         return false;
     ModuleObject *plugin = stack->p(1);
-    const bool isAdded = completeList(plugin->ensure("global_tool"),
-                                      {tool("PalletTool1"), tool("PalletTool2"), incoming(), wayPoints()});
-    return completeList(plugin->ensure("global_wobj"),
-                        {workObject("PalletWobj1"), workObject("PalletWobj2")}) ||
-           isAdded;
+    const bool isAdded = completeList(plugin->ensure("global_tool"), sharedToolEntries());
+    return completeList(plugin->ensure("global_wobj"), sharedWobjEntries()) || isAdded;
 }
 
 } // namespace palx

@@ -6,6 +6,7 @@
 #include "stack/recipe_points.h"
 #include "ui_pallet_place_frame.h"
 
+using ix::xtheme::State;
 using orba::ModuleObject;
 
 namespace {
@@ -100,29 +101,30 @@ void PalletPlaceFrame::refreshOwn()
         isOnePoint ? tr("Touch the pallet's origin with the tool: its axes run as the robot's.")
                    : tr("Touch the points with the tool: the origin, one along the pallet's length, one "
                         "across it."));
-    ui_->lblResult->setText(frameText());
-    const bool isWrong = stack() && !palx::palletFrame(stack()->node()).ok();
-    ix::xtheme::setState(ui_->lblResult, isWrong ? ix::xtheme::State::Attention : ix::xtheme::State::None);
+    showFrame();
 }
 
-QString PalletPlaceFrame::frameText() const
+void PalletPlaceFrame::showFrame()
 {
-    if (!stack())
-        return QString();
-    const orba::Node &recipe = stack()->node();
-    const bool isTaught = palx::isTaught(recipe.find(u"calibrate.p1"));
-    if (!isTaught && !palx::isTaught(recipe.find(u"toolset.ref")))
-        return tr("Not calibrated: the positions count from the robot's foot.");
+    const orba::Node empty;
+    const orba::Node &recipe = stack() ? stack()->node() : empty;
     const ix::calc::Calibration found = palx::palletFrame(recipe);
+    ix::xtheme::setState(ui_->lblResult, found.ok() ? State::None : State::Attention);
+    if (!stack())
+        return ui_->lblResult->clear();
+    if (!palx::hasPalletFrame(recipe))
+        return ui_->lblResult->setText(tr("Not calibrated: the positions count from the robot's foot."));
     if (!found.ok())
-        return found.error;
+        return ui_->lblResult->setText(found.error);
     const ix::calc::Vector origin = found.frame.translation() * kMmPerM;
     const QString text = tr("Origin at X %1, Y %2, Z %3 mm, turned by %4\u00b0.")
                              .arg(origin.x(), 0, 'f', 1)
                              .arg(origin.y(), 0, 'f', 1)
                              .arg(origin.z(), 0, 'f', 1)
                              .arg(ix::calc::angles(found.frame.linear()).z() * kDegPerRad, 0, 'f', 2);
-    return isTaught ? text : text + QLatin1Char(' ') + tr("It comes from the recipe's tool record.");
+    const bool isOfTool = !palx::isTaught(recipe.find(u"calibrate.p1"));
+    ui_->lblResult->setText(isOfTool ? text + QLatin1Char(' ') + tr("It comes from the recipe's tool record.")
+                                     : text);
 }
 
 void PalletPlaceFrame::refreshShared()

@@ -34,7 +34,7 @@ private:
     orba::ModuleObject *shared() const;
     void refreshOwn();
     void refreshShared();
-    QString frameText() const;
+    void showFrame();
 
     std::unique_ptr<Ui::PalletPlaceFrame> ui_;
     NodeBinder *sharedBinder_; ///< to the plugin node while the shared work objects are used

@@ -12,6 +12,8 @@ namespace {
 
 constexpr int kMass = palx::kToolNumbers - 1;
 constexpr int kFirstOfLoad = 6;
+const QString kFirstTouch = QStringLiteral("ref_p");
+const QString kSecondTouch = QStringLiteral("rotate_p");
 
 QString suffix(int i)
 {
@@ -53,6 +55,14 @@ ModuleObject *ToolFrame::tool() const
     return keeper() == ToolKeeper::Shared ? stack()->p(1)->c("global_tool")->cmobj(0) : stack()->c("toolset");
 }
 
+/// The record that holds both touches.
+ModuleObject *ToolFrame::touches() const
+{
+    if (!stack())
+        return emptyMobj();
+    return keeper() == ToolKeeper::Shared ? tool()->c("tool") : stack()->c("tool");
+}
+
 void ToolFrame::setTitles()
 {
     ui_->grpFirst->setTitle(tr("Touch 1"));
@@ -77,9 +87,8 @@ void ToolFrame::refresh()
         fields_[i]->setEnabled(stack() != nullptr);
     }
     shown_ = shownNumbers();
-    ModuleObject *touches = isShared ? tool()->c("tool") : stack() ? stack()->c("tool") : nullptr;
-    ui_->grpFirst->setPoint(touches, QStringLiteral("ref_p"));
-    ui_->grpTurned->setPoint(touches, QStringLiteral("rotate_p"));
+    ui_->grpFirst->setPoint(touches(), kFirstTouch);
+    ui_->grpTurned->setPoint(touches(), kSecondTouch);
     ui_->btnMeasure->setEnabled(stack() != nullptr);
     ui_->lblNote->setText(!stack()   ? QString()
                           : isShared ? tr("The shared tool \"%1\", used by all recipes with \"Shared tool\".")
@@ -113,14 +122,13 @@ void ToolFrame::writeNumber(int i, double shown)
 
 void ToolFrame::measure()
 {
-    const QString places[] = {QStringLiteral("ref_p"), QStringLiteral("rotate_p")};
-    ModuleObject *touches = keeper() == ToolKeeper::Shared ? tool()->c("tool") : stack()->c("tool");
-    for (const QString &place : places)
-        if (!palx::isTaught(&touches->c(place)->node()))
-            return Q_EMIT refused(tr("Teach both touches first."));
-    const palx::ToolMeasure found = palx::measureTool(
-        ix::calc::toPose(touches->c(places[0])->node()), ix::calc::toPose(touches->c(places[1])->node()),
-        palx::toolPose(tool()->node(), keeper()).translation().z());
+    const orba::Node &first = touches()->c(kFirstTouch)->node();
+    const orba::Node &second = touches()->c(kSecondTouch)->node();
+    if (!palx::isTaught(&first) || !palx::isTaught(&second))
+        return Q_EMIT refused(tr("Teach both touches first."));
+    const palx::ToolMeasure found =
+        palx::measureTool(ix::calc::toPose(first), ix::calc::toPose(second),
+                          palx::toolPose(tool()->node(), keeper()).translation().z());
     if (!found.error.isEmpty())
         return Q_EMIT refused(found.error);
     writeNumber(0, found.x * palx::toolNumber(keeper(), 0).shown);

@@ -28,6 +28,7 @@ protected:
 private:
     palx::ToolKeeper keeper() const;
     orba::ModuleObject *tool() const;
+    orba::ModuleObject *touches() const;
     void setTitles();
     void write();
     void writeNumber(int i, double shown);

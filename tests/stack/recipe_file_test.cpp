@@ -92,3 +92,22 @@ TEST_F(RecipeFileTest, FilesAreAddedOneAfterTheOtherAndARefusedOneLeavesNothing)
     EXPECT_EQ(plugin.getInt("global_wobj.#0.towards"), 1);
     EXPECT_EQ(plugin.c("global_tool")->cmobjCount(), 0);
 }
+
+TEST(SharedLists, RefuseWhatTheirEntriesCannotHold)
+{
+    const struct
+    {
+        const char *tools;
+        const char *fault;
+    } cases[] = {
+        {R"([{"name": "Gripper", "frame": {"pos": {"x": 1, "y": 0.5}}, "load": {"mass": 3, "other": "kept"}}])", ""},
+        {R"([{"frame": {"pos": {"x": "far"}}}])",
+         "global_tool.#0.frame.pos.x: is the text \"far\", expected a number"},
+        {R"([{}, {}, {"incoming_settings": {"bottom_left_node": {"trans": ["up", 0, 0], "rot": [0, 0, 0]}}}])",
+         "global_tool.#2.incoming_settings.bottom_left_node.trans.#0: is the text \"up\", expected a number"},
+        {R"([{}, {}, {}, {"waypoint_settings": {"get": 5}}])",
+         "global_tool.#3.waypoint_settings.get: is a number, expected a group"},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(palx::globalToolFault(nodeFromJson(c.tools)), QString::fromUtf8(c.fault)) << c.tools;
+}
