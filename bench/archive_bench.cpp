@@ -1,7 +1,7 @@
 // Projects as archives: out and in, with parameters, judging, flushing and renaming. The floor is what the archive library
 // takes to pack the same folder, or to unpack the same archive, and the disk to take it. A second floor of an export is
 // all that has to be done, in the shortest way: the parameters put into the project's own "var.xml", a bare zip, and "var.xml"
-// put back.
+// put back. A third is the program "zip".
 
 #include "linked_session.h"
 #include "project/rules/project_export.h"
@@ -25,6 +25,8 @@
 #include <ctime>
 #include <functional>
 #include <memory>
+#include <spawn.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -175,6 +177,20 @@ void bareZip(const QString &archive, const Cell &cell)
     flush(archive);
 }
 
+/// What somebody would type who has no panel, and the disk flushed. Only the time that goes by can be compared with it.
+void zipProgram(const QString &archive, const Cell &cell)
+{
+    QFile::remove(archive); // it would update it
+    const QByteArray name = QFile::encodeName(archive), folder = QFile::encodeName(cell.project());
+    const char *const arguments[] = {"zip", "-rq", name.constData(), folder.constData(), nullptr};
+    pid_t zip = 0;
+    int status = 0;
+    if (::posix_spawnp(&zip, "zip", nullptr, nullptr, const_cast<char **>(arguments), environ) != 0 ||
+        ::waitpid(zip, &status, 0) != zip || status != 0)
+        qFatal("the program zip failed");
+    flush(archive);
+}
+
 void writeList(const orba::Node &list, const QString &file)
 {
     if (!orba::ModuleManager::writeToXmlFile(list, file))
@@ -213,9 +229,20 @@ void exportAgainstBareExport(benchmark::State &state)
 {
     Cell cell(int(state.range(0)), int(state.range(1)));
     palx::NoProgress nobody;
-    compare(state, [&] { cell.sendOut(&nobody); }, [&] { bareExport(cell); });
+    compare(
+        state, [&] { cell.sendOut(&nobody); }, [&] { bareExport(cell); });
 }
 BENCHMARK(exportAgainstBareExport)->Apply(sizes);
+
+void exportAgainstZipProgram(benchmark::State &state)
+{
+    Cell cell(int(state.range(0)), int(state.range(1)));
+    palx::NoProgress nobody;
+    compare(
+        state, [&] { cell.sendOut(&nobody); },
+        [&] { zipProgram(cell.disk() + QStringLiteral("/bare.zip"), cell); });
+}
+BENCHMARK(exportAgainstZipProgram)->Apply(sizes);
 
 void importProject(benchmark::State &state)
 {
