@@ -87,6 +87,13 @@ std::vector<RecipeMatch> matchRecipes(const std::vector<RecipeSummary> &panel,
     return matches;
 }
 
+bool wouldMove(const std::vector<RecipeMatch> &matches)
+{
+    return std::any_of(matches.begin(), matches.end(), [](const RecipeMatch &match) {
+        return match.controllerIndex >= 0 && match.controllerIndex != match.panelIndex;
+    });
+}
+
 int countDiffering(const std::vector<RecipeMatch> &matches)
 {
     return static_cast<int>(std::count_if(matches.begin(), matches.end(), [](const RecipeMatch &match) {

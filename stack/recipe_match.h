@@ -35,6 +35,9 @@ PALX_API bool readSummaries(const orba::Node &answer, std::vector<host::RecipeSu
 /// The panel's recipes in their order, then those that only the controller has, in its order.
 PALX_API std::vector<RecipeMatch> matchRecipes(const std::vector<host::RecipeSummary> &panel,
                                                const std::vector<host::RecipeSummary> &told);
+/// Whether the controller's recipes would get other places if it took the panel's list: programs take the next recipe by its
+/// place.
+PALX_API bool wouldMove(const std::vector<RecipeMatch> &matches);
 /// How many of them are not the same on both sides.
 PALX_API int countDiffering(const std::vector<RecipeMatch> &matches);
 

@@ -1,5 +1,6 @@
 #include "ui/pallet_frame.h"
 
+#include "project/rules/run_recovery.h"
 #include "stack/recipe_fields.h"
 #include "ui_pallet_frame.h"
 #include "workstation/plugin_node.h"
@@ -72,6 +73,7 @@ void PalletFrame::followTriggers()
         binder()->reload();
         refresh();
     });
+    connect(m("nexo.cell.program.state"), &orba::ModuleObject::changed, this, &PalletFrame::refresh);
     connect(trigger->c("reset_margin_data"), &orba::ModuleObject::changed, this, &PalletFrame::resetMargins);
 }
 
@@ -105,7 +107,21 @@ void PalletFrame::refresh()
           static_cast<QWidget *>(ui_->spnSheetHeight), static_cast<QWidget *>(ui_->spnSheetWeight)})
         field->setEnabled(sheets);
     ui_->spnBollard->setEnabled(open && ui_->chkBollard->isChecked());
-    showWarning(ui_->lblWarning, open ? palx::sizeWarning(stack()->node()) : QString());
+    const QString fixed = whyPlaceFixed();
+    ui_->cmbPosition->setEnabled(open && fixed.isEmpty());
+    QStringList warnings(open ? palx::sizeWarning(stack()->node()) : QString());
+    if (!fixed.isEmpty())
+        warnings << QStringLiteral("%1: %2").arg(ui_->lblPosition->text(), fixed);
+    warnings.removeAll(QString());
+    showWarnings(ui_->lblWarning, warnings);
+}
+
+/// Programs that run would take other recipes from then on.
+QString PalletFrame::whyPlaceFixed() const
+{
+    return stack() ? palx::whyNotMove(palx::currentRunRecovery(), palx::stacksNode()->node(),
+                                      stack()->getString("name"))
+                   : QString();
 }
 
 void PalletFrame::fieldWritten(const QString &path)

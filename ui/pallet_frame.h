@@ -35,6 +35,7 @@ private:
     void choosePreset(int specification);
     void storeSpecification();
     void resetMargins();
+    QString whyPlaceFixed() const;
 
     std::unique_ptr<Ui::PalletFrame> ui_;
 };

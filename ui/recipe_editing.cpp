@@ -1,5 +1,6 @@
 #include "ui/recipe_editing.h"
 
+#include "project/rules/run_side.h"
 #include "stack/recipe_edit.h"
 #include "stack/recipe_fields.h"
 #include "stack/shared_lists.h"
@@ -14,6 +15,17 @@ namespace {
 void raise(const char *trigger)
 {
     palx::triggerNode()->c(trigger)->trigger();
+}
+
+/// Programs that run with an edited recipe lift the robot by the height of its product.
+void tellHeights()
+{
+    const palx::RunSource source = palx::currentRunSource();
+    palx::VariableChanges changes;
+    for (const palx::LineSide side : palx::kLineSides)
+        changes += palx::heightChanges(source, side);
+    if (!changes.isEmpty())
+        palx::setValueOfPERSVar(changes, nullptr, {});
 }
 
 bool differs(const orba::Node &a, const orba::Node &b, std::initializer_list<const char *> paths)
@@ -103,6 +115,7 @@ void RecipeEditing::generate(bool report)
     palx::genPointsAndSaveToRC(stack_, report);
     if (std::exchange(isSharedEdited_, false))
         generateOthers();
+    tellHeights();
     history_.absorb();
 }
 

@@ -24,12 +24,6 @@ using palx::LineSide;
 
 namespace {
 
-palx::RunSource runSource()
-{
-    return {m("quill.project.var._list")->node(), palx::stacksNode()->node(), palx::currentProjectRecord(),
-            m("nexo.cell.program")->node()};
-}
-
 QString whyOf(palx::RunState state, const palx::RunRecovery &run)
 {
     const QString blocked = state == palx::RunState::Paused ? palx::whyNotGoOn(run) : QString();
@@ -124,7 +118,7 @@ void RunFrame::refresh()
 {
     if (follower_ && isStale_)
         follow();
-    const palx::RunSource source = runSource();
+    const palx::RunSource source = palx::currentRunSource();
     const palx::RunRecovery run = palx::currentRunRecovery();
     bool hasLine = false;
     for (RunSideCard *card : cards_) {
@@ -203,17 +197,30 @@ void RunFrame::ask(RunSideCard *card, const palx::VariableChanges &changes)
 void RunFrame::setEnabledSide(RunSideCard *card, bool on)
 {
     const palx::RunRecovery run = palx::currentRunRecovery();
-    if (on && palx::needsConfirmation(run, numberOf(card)))
+    if (!on)
+        return ask(card, palx::enableChanges(card->side(), false));
+    QString problem = recipeProblem(card);
+    if (problem.isEmpty() && palx::needsConfirmation(run, numberOf(card)))
         return recover(card, true);
-    QString problem = on ? palx::enableProblem(card->shown(), recipeOf(card)) : QString();
-    if (on && problem.isEmpty())
-        problem = palx::whyNotEnable(run, numberOf(card));
-    if (on && problem.isEmpty())
-        problem = recipeMismatch(card->shown().recipeName());
     if (problem.isEmpty())
-        ask(card, palx::enableChanges(card->side(), on));
+        problem = palx::whyNotEnable(run, numberOf(card));
+    if (problem.isEmpty())
+        ask(card, enablingChanges(card));
     else
         refuse(problem);
+}
+
+/// Why the side's recipe cannot be stacked.
+QString RunFrame::recipeProblem(const RunSideCard *card) const
+{
+    const QString problem = palx::enableProblem(card->shown(), recipeOf(card));
+    return problem.isEmpty() ? recipeMismatch(card->shown().recipeName()) : problem;
+}
+
+palx::VariableChanges RunFrame::enablingChanges(const RunSideCard *card)
+{
+    return palx::enableChanges(card->side(), true) +
+           palx::heightChanges(palx::currentRunSource(), card->side());
 }
 
 /// Programs take points and place of a recipe from the controller.
@@ -270,8 +277,8 @@ void RunFrame::recover(RunSideCard *card, bool thenEnable)
     request.accept = tr("Confirm");
     request.mustClear = true;
     const bool isHeldBack = brokenOff_[static_cast<std::size_t>(numberOf(card))].isHeldBack;
-    askForPiece(card, request,
-                thenEnable || isHeldBack ? palx::enableChanges(card->side(), true) : palx::VariableChanges());
+    const bool isEnabling = (thenEnable || isHeldBack) && recipeProblem(card).isEmpty();
+    askForPiece(card, request, isEnabling ? enablingChanges(card) : palx::VariableChanges());
 }
 
 void RunFrame::askForPiece(RunSideCard *card, const StartRequest &request,

@@ -71,6 +71,8 @@ private:
     void ask(RunSideCard *card, const palx::VariableChanges &changes);
     void refuse(const QString &why);
     const orba::Node *recipeOf(const RunSideCard *card) const;
+    QString recipeProblem(const RunSideCard *card) const;
+    static palx::VariableChanges enablingChanges(const RunSideCard *card);
     QString recipeMismatch(const QString &name) const;
 
     std::unique_ptr<Ui::RunFrame> ui_;

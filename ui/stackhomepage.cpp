@@ -3,6 +3,7 @@
 #include "ix/clear_button.h"
 #include "ix/xtheme.h"
 #include "nexo/manager_helper.h"
+#include "project/rules/run_recovery.h"
 #include "stack/way_points.h"
 #include "ui/controller_dialog.h"
 #include "ui/current_recipe.h"
@@ -248,6 +249,11 @@ void StackHomePage::showDetails(ModuleObject *stack)
 
 namespace {
 
+QString whyNotDelete(const QString &name)
+{
+    return palx::whyNotMove(palx::currentRunRecovery(), palx::stacksNode()->node(), name);
+}
+
 /// A dialog for a recipe's name; `self` is the recipe that may keep its own.
 NameDialog *nameDialog(const QString &title, QPointer<ModuleObject> self, QWidget *parent)
 {
@@ -282,6 +288,8 @@ void StackHomePage::copyRecipe()
     if (stack->isEmptyMobj())
         return;
     const QString name = stack->getString("name");
+    if (refused(palx::whyNotRename(palx::currentRunRecovery(), name)))
+        return;
     NameDialog *dialog = nameDialog(tr("Copy of %1").arg(name), nullptr, wgt_->window());
     dialog->setName(palx::proposeRecipeName(palx::stacksNode()->node(), name));
     connect(dialog, &QDialog::accepted, wgt_, [=] {
@@ -290,6 +298,14 @@ void StackHomePage::copyRecipe()
         listChanged(dialog->name());
     });
     dialog->open();
+}
+
+/// Says why something cannot be done; false for no reason.
+bool StackHomePage::refused(const QString &why)
+{
+    if (!why.isEmpty())
+        ui_->message->showMessage(why, State::Fault);
+    return !why.isEmpty();
 }
 
 void StackHomePage::renameRecipe()
@@ -302,9 +318,10 @@ void StackHomePage::renameRecipe()
     dialog->setName(name);
     dialog->setDescription(stack->getString("desc"));
     connect(dialog, &QDialog::accepted, wgt_, [=] {
-        if (!stack)
+        if (!stack || refused(palx::whyNotRename(palx::currentRunRecovery(), name)))
             return;
         palx::renameStack(stack, dialog->name(), dialog->description());
+        onController_->tellName(name, dialog->name(), dialog->description());
         const bool wasOpen = currentRecipe(module_)->value() == name;
         if (wasOpen)
             currentRecipe(module_)->setValue(dialog->name());
@@ -319,10 +336,10 @@ void StackHomePage::deleteRecipe()
 {
     const QPointer<ModuleObject> stack = chosenStack();
     const QString name = stack->getString("name");
-    if (stack->isEmptyMobj() ||
+    if (stack->isEmptyMobj() || refused(whyNotDelete(name)) ||
         !nexo::ManagerHelper::instance()->execMsgOk(tr("Delete recipe"),
                                                     tr("Delete the recipe \"%1\"?").arg(name)) ||
-        !stack)
+        !stack || refused(whyNotDelete(name)))
         return;
     removed_ = palx::removeStack(stack);
     if (currentRecipe(module_)->value() == name) {

@@ -68,6 +68,7 @@ private:
 
     void newRecipe();
     void copyRecipe();
+    bool refused(const QString &why);
     void renameRecipe();
     void deleteRecipe();
     void undoDelete();

@@ -2,11 +2,13 @@
 
 #include "nexo/controller_manager.h"
 #include "workstation/config_log.h"
+#include "workstation/controller_sync.h"
 #include "workstation/plugin_node.h"
 #include "xservice.h"
 
 #include <QElapsedTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace palx {
@@ -42,6 +44,14 @@ void ControllerRecipes::ask()
 {
     mustAsk_ = true;
     compareSoon();
+}
+
+void ControllerRecipes::tellName(const QString &old, const QString &name, const QString &desc)
+{
+    const auto held = std::find_if(told_.begin(), told_.end(),
+                                   [&old](const host::RecipeSummary &recipe) { return recipe.name == old; });
+    if (hasList_ && held != told_.end())
+        saveNameToRC(static_cast<int>(held - told_.begin()), name, desc);
 }
 
 void ControllerRecipes::followConnection(bool connected)

@@ -38,6 +38,9 @@ public:
 
     /// Asks the controller again soon.
     void ask();
+    /// Tells the controller that a recipe has another name. Nothing while it is not known to hold the recipe: what it holds
+    /// otherwise is shown then.
+    void tellName(const QString &old, const QString &name, const QString &desc);
 
 Q_SIGNALS:
     /// State or matches may be others.

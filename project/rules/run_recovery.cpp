@@ -39,6 +39,13 @@ int numberOf(const Node &variables, const QString &name, int fallback)
     return value ? static_cast<int>(value->toInt()) : fallback;
 }
 
+bool isOn(const Node &variables, const QString &name)
+{
+    const Node *variable = recordOfName(variables, name);
+    const Node *value = variable ? variable->find(u"value.[0][0][0]") : nullptr;
+    return value && value->toBool();
+}
+
 QVector<int> piecesOfLayers(const Node &stack)
 {
     QVector<int> pieces;
@@ -74,6 +81,7 @@ void readCounters(const Node &variables, const Node &stacks, int side, SideRun *
 {
     const QStringList names = sideRecipes(stacks, side == 0);
     run->recipe = names.value(numberOf(variables, onSide("palletIndex", side), 0));
+    run->isEnabled = isOn(variables, onSide("enableStack", side));
     if (const Node *stack = run->recipe.isEmpty() ? nullptr : recordOfName(stacks, run->recipe))
         run->pieces = piecesOfLayers(*stack);
     run->counted = firstFrom(run->pieces, {numberOf(variables, onSide("currentLayer", side), 1),
@@ -82,10 +90,10 @@ void readCounters(const Node &variables, const Node &stacks, int side, SideRun *
 
 void readPallet(const Node &pallet, SideRun *run)
 {
-    const bool isEmpty = pallet.getInt(u"count") == 0;
-    const QString recipe = pallet.getString(u"recipe");
-    if (!isEmpty && recipe != run->recipe) {
-        run->foreign = recipe;
+    run->products = static_cast<int>(pallet.getInt(u"count"));
+    run->followed = pallet.getString(u"recipe");
+    if (run->products > 0 && run->followed != run->recipe) {
+        run->foreign = run->followed;
         return;
     }
     run->isKnown = true;
@@ -115,6 +123,13 @@ void readCell(const Node &cell, const Node &variables, RunRecovery *run)
     const double lift = numberOf(variables, QStringLiteral("liftHeight"), 0);
     if (lift > 0)
         run->isColumnUp = cell.getDouble(u"column.height") > lift / 2;
+}
+
+/// Whether programs stack a side or will, as they run.
+bool isServed(const RunRecovery &run, int side)
+{
+    return (run.isRunning || run.isPaused) &&
+           (run.served == side || run.sides[static_cast<std::size_t>(side)].isEnabled);
 }
 
 } // namespace
@@ -200,6 +215,32 @@ QString whyNotEnable(const RunRecovery &run, int side)
     if (needsConfirmation(run, side))
         return say("Confirm layer and piece of the %1 first!").arg(sideName(side));
     return {};
+}
+
+QString whyNotRename(const RunRecovery &run, const QString &name)
+{
+    for (int i = 0; i < 2; ++i) {
+        const SideRun &side = run.sides[static_cast<std::size_t>(i)];
+        if (isServed(run, i) && (side.recipe == name || side.followed == name))
+            return say("Programs run with the recipe \"%1\". Stop them first!").arg(name);
+        if (side.products > 0 && side.followed == name)
+            return say("Products of the recipe \"%1\" lie on the %2!").arg(name, sideName(i));
+    }
+    return {};
+}
+
+QString whyNotMove(const RunRecovery &run, const Node &stacks, const QString &name)
+{
+    for (int i = 0; i < 2; ++i) {
+        const QStringList names = sideRecipes(stacks, i == 0);
+        const QString used = run.sides[static_cast<std::size_t>(i)].recipe;
+        if (isServed(run, i) && names.contains(name) && names.indexOf(name) < names.indexOf(used))
+            return say("Programs run with the recipe \"%1\", which stands behind this one: they would take "
+                       "another one. "
+                       "Stop them first!")
+                .arg(used);
+    }
+    return whyNotRename(run, name);
 }
 
 bool isMiscounted(const RunRecovery &run)

@@ -33,6 +33,9 @@ struct SideRun
     PalletPiece lying;    ///< by what lies there
     PalletPiece proposed; ///< to be confirmed: by what lies there, else by the counters
     bool isFull = false;  ///< nothing is missing on the pallet; it has to be replaced
+    bool isEnabled = false;
+    int products = 0;           ///< that lie there
+    QString followed;           ///< recipe that the programs chose last; empty before the first
     bool isInterrupted = false; ///< the program broke off while it stacked this side
     QString foreign;            ///< recipe of the products that lie there, when it is another one
 };
@@ -72,6 +75,13 @@ PALX_API orba::Node confirmedVariables(const RunRecovery &run, int side, PalletP
 
 /// Why the side may not be enabled, for the operator; empty when it may. While a program runs or is paused it may.
 PALX_API QString whyNotEnable(const RunRecovery &run, int side);
+/// Programs know a recipe by its name while they stack it, and by its place among those of its side for the next pallet. Why
+/// a recipe may not get another name, for the operator: programs run with it, or its products lie on a pallet. Empty when it may.
+PALX_API QString whyNotRename(const RunRecovery &run, const QString &name);
+/// Why a recipe may not leave its place, to be deleted or to go to the other side: the same, or the programs that run would take
+/// another recipe from then on, because theirs stands behind it.
+PALX_API QString whyNotMove(const RunRecovery &run, const orba::Node &stacks, const QString &name);
+
 /// How a paused program goes on.
 enum class GoOn {
     AsItIs,

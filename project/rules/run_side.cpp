@@ -2,6 +2,7 @@
 
 #include "project/rules/project_record.h"
 #include "stack/recipe_layers.h"
+#include "stack/way_points.h"
 #include "workstation/plugin_node.h"
 
 #include <QCoreApplication>
@@ -67,6 +68,12 @@ bool layoutHas(const Node &project, LineSide side)
     return layout == 2 || layout == static_cast<int>(side);
 }
 
+/// Of the robot on its way home, before it moves sideways [mm].
+int liftOf(const Node &stack)
+{
+    return static_cast<int>(std::lround(stack.getDouble(u"product_cfg.product.height")));
+}
+
 QString noPoints()
 {
     return Text::tr("The recipe has no points yet. Generate them on the page \"Points\".");
@@ -113,6 +120,12 @@ RunSide readRunSide(const RunSource &source, LineSide which)
         side.piled = side.isFull ? side.expected : side.piled;
     }
     return side;
+}
+
+RunSource currentRunSource()
+{
+    return {m("quill.project.var._list")->node(), stacksNode()->node(), currentProjectRecord(),
+            m("nexo.cell.program")->node()};
 }
 
 const Node *recipeOfSide(const Node &stacks, LineSide side, int index)
@@ -190,7 +203,13 @@ QString enableProblem(const RunSide &side, const Node *stack)
         return Text::tr("There is no recipe for this side.");
     if (!stack)
         return Text::tr("The controller names a recipe that is not here.");
-    return pointLayers(*stack) == 0 ? noPoints() : QString();
+    if (pointLayers(*stack) == 0)
+        return noPoints();
+    return pointsState(*stack) == PointsState::Outdated
+               ? Text::tr("The recipe or the shared settings were changed after the points were made. "
+                          "Generate them again on the "
+                          "page \"Points\".")
+               : QString();
 }
 
 VariableChanges enableChanges(LineSide side, bool on)
@@ -200,12 +219,20 @@ VariableChanges enableChanges(LineSide side, bool on)
 
 VariableChanges recipeChanges(LineSide side, const Node &stack, int index)
 {
-    const long height = std::lround(stack.getDouble(u"product_cfg.product.height"));
     return {{sideVariable("palletIndex", side), QString::number(index)},
-            {sideVariable("boxHeight", side), QString::number(height)},
+            {sideVariable("boxHeight", side), QString::number(liftOf(stack))},
             {sideVariable("currentLayer", side), QStringLiteral("1")},
             {sideVariable("layerCount", side), QStringLiteral("1")},
             {sideVariable("palletCount", side), QStringLiteral("0")}};
+}
+
+VariableChanges heightChanges(const RunSource &source, LineSide side)
+{
+    const Values values(source.variables, side);
+    const Node *stack = recipeOfSide(source.stacks, side, values.number("palletIndex"));
+    if (!stack || !values.has("boxHeight") || values.number("boxHeight") == liftOf(*stack))
+        return {};
+    return {{sideVariable("boxHeight", side), QString::number(liftOf(*stack))}};
 }
 
 VariableChanges resetChanges(LineSide side)

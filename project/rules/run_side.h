@@ -51,6 +51,8 @@ inline bool operator!=(const RunSide &a, const RunSide &b)
 }
 
 PALX_API RunSide readRunSide(const RunSource &source, LineSide side);
+/// The panel's own nodes. GUI thread.
+PALX_API RunSource currentRunSource();
 
 /// The recipe at a place of a side's list; null outside.
 PALX_API const orba::Node *recipeOfSide(const orba::Node &stacks, LineSide side, int index);
@@ -87,12 +89,16 @@ PALX_API RunState runState(const RunSide &side, const orba::Node &program, const
 
 /// Why another recipe cannot be chosen now; empty when it can.
 PALX_API QString recipeChangeProblem(const RunSide &side);
-/// Why the side cannot be enabled; empty when it can.
+/// Why the side cannot be enabled: it has no recipe, or one whose points are missing or older than what it says of the
+/// products, so that the robot would set down others than it carries. Empty when it can.
 PALX_API QString enableProblem(const RunSide &side, const orba::Node *stack);
 
 PALX_API VariableChanges enableChanges(LineSide side, bool on);
 /// Another recipe begins at its first piece, with the height of its product.
 PALX_API VariableChanges recipeChanges(LineSide side, const orba::Node &stack, int index);
+/// How far the robot lifts on its way home, where that is not the height of the product of the side's recipe: the recipe was
+/// edited, or another one took its place. Nothing where the project has no such variable.
+PALX_API VariableChanges heightChanges(const RunSource &source, LineSide side);
 /// Pallets, totals and cycle time become 0. Where the side goes on stays, because that is where products lie.
 PALX_API VariableChanges resetChanges(LineSide side);
 
