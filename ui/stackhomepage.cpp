@@ -258,7 +258,12 @@ QString whyNotDelete(const QString &name)
 NameDialog *nameDialog(const QString &title, QPointer<ModuleObject> self, QWidget *parent)
 {
     const auto check = [self](const QString &name) {
-        return palx::recipeNameProblem(palx::stacksNode()->node(), name, self ? &self->node() : nullptr);
+        const QString problem =
+            palx::recipeNameProblem(palx::stacksNode()->node(), name, self ? &self->node() : nullptr);
+        const QString before = self ? self->getString("name") : name;
+        return problem.isEmpty() && name != before
+                   ? palx::whyNotRename(palx::currentRunRecovery(), before)
+                   : problem;
     };
     auto *dialog = new NameDialog(title, check, parent);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -288,8 +293,6 @@ void StackHomePage::copyRecipe()
     if (stack->isEmptyMobj())
         return;
     const QString name = stack->getString("name");
-    if (refused(palx::whyNotRename(palx::currentRunRecovery(), name)))
-        return;
     NameDialog *dialog = nameDialog(tr("Copy of %1").arg(name), nullptr, wgt_->window());
     dialog->setName(palx::proposeRecipeName(palx::stacksNode()->node(), name));
     connect(dialog, &QDialog::accepted, wgt_, [=] {
@@ -318,7 +321,7 @@ void StackHomePage::renameRecipe()
     dialog->setName(name);
     dialog->setDescription(stack->getString("desc"));
     connect(dialog, &QDialog::accepted, wgt_, [=] {
-        if (!stack || refused(palx::whyNotRename(palx::currentRunRecovery(), name)))
+        if (!stack)
             return;
         palx::renameStack(stack, dialog->name(), dialog->description());
         onController_->tellName(name, dialog->name(), dialog->description());

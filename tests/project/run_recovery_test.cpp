@@ -188,3 +188,50 @@ TEST(RunRecovery, AProgramThatRunsIsWatched)
     for (const auto &[cell, isMiscounted] : cases)
         EXPECT_EQ(isMiscounted, palx::isMiscounted(read(cell)));
 }
+
+/// Of the left side, which uses its second recipe, or whose pallet holds products.
+TEST(RunRecovery, RecipesThatAreUsedKeepTheirNameAndPlace)
+{
+    Node list = nodeFromJson(R"([{"name":"First","pallet_position":0},{"name":"Right","pallet_position":1},
+                                 {"name":"Used","pallet_position":0},{"name":"Last","pallet_position":0}])");
+    const struct
+    {
+        const char *what;
+        Cell cell;
+        bool isEnabled;
+        const char *fixedNames;
+        const char *fixedPlaces;
+    } cases[] = {
+        {"nothing runs", {"stopped", 1, {1, 1}, 0, {1, 1}, "Used"}, true, "", ""},
+        {"stacks", {"running", 1, {1, 1}, 0, {1, 1}, "Used"}, false, "Used", "First Used"},
+        {"waits for its turn",
+         {"paused", 2, {1, 1}, 0, {1, 1}, "Last"},
+         true,
+         "Used Last",
+         "First Used Last"},
+        {"is not wanted", {"running", 2, {1, 1}, 0, {1, 1}, "Used"}, false, "", ""},
+        {"lies there", {"stopped", 0, {1, 2}, 1, {1, 2}, "Last"}, false, "Last", "Last"},
+        {"unknown", {"", 0, {1, 1}, 0, {1, 1}, "", false, false, false}, true, "", ""},
+    };
+    for (const auto &c : cases) {
+        Node variables = variablesOf(c.cell);
+        const auto put = [&variables](const char *name, const QString &value) {
+            Node *record = variables.add();
+            record->ensure(u"name")->setString(QLatin1String(name));
+            record->ensure(u"value.[0][0][0]")->setString(value);
+        };
+        variables.removeAt(3);
+        put("palletIndexL", QStringLiteral("1"));
+        put("enableStackL", c.isEnabled ? QStringLiteral("true") : QStringLiteral("false"));
+        const palx::RunRecovery run = palx::readRunRecovery(cellNode(c.cell), variables, list);
+        QStringList names, places;
+        for (const char *name : {"First", "Right", "Used", "Last"}) {
+            if (!palx::whyNotRename(run, name).isEmpty())
+                names << name;
+            if (!palx::whyNotMove(run, list, name).isEmpty())
+                places << name;
+        }
+        EXPECT_EQ(names.join(' '), c.fixedNames) << c.what;
+        EXPECT_EQ(places.join(' '), c.fixedPlaces) << c.what;
+    }
+}

@@ -299,6 +299,22 @@ TEST_F(RunPageTest, AnotherRecipeIsTakenOnlyWhileTheSideIsDisabled)
     EXPECT_TRUE(message().contains("Disable it")) << message();
 }
 
+/// As after a panel that ended between an edit and the generation that follows it.
+TEST_F(RunPageTest, ARecipeIsStackedOnlyWithPointsOfItsOwnAndLiftsByItsProduct)
+{
+    makeProject();
+    openPage();
+    orba::ModuleObject *stack = palx::stacksNode()->cmobj(0);
+    stack->set(nullptr, "product_cfg.product.height", stack->getDouble("product_cfg.product.height") + 50);
+    press(LineSide::Left, "btnEnable");
+    EXPECT_TRUE(message().contains("Generate them again")) << message();
+    EXPECT_EQ(variable("enableStackL"), 0);
+    palx::genPointsAndSaveToRC(stack, false);
+    press(LineSide::Left, "btnEnable");
+    EXPECT_EQ(variable("enableStackL"), 1);
+    EXPECT_EQ(variable("boxHeightL"), stack->getInt("product_cfg.product.height"));
+}
+
 TEST_F(RunPageTest, FitsASmallPanelAndAFingerInLongLanguages)
 {
     const Looks looks;
