@@ -17,14 +17,14 @@ const QString kSuction = QStringLiteral("DO2_6");
 constexpr int kColumnUsed = 1; // "use_rise"
 constexpr int kColumnStopped = 2;
 
-QString say(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("palx", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(palx::RunText)
+};
 
 QString sideName(int side)
 {
-    return side == 0 ? say("left pallet") : say("right pallet");
+    return side == 0 ? Text::tr("left pallet") : Text::tr("right pallet");
 }
 
 QString onSide(const char *variable, int side)
@@ -165,20 +165,20 @@ QString whyNotConfirm(const RunRecovery &run, int side, PalletPiece piece)
 {
     const SideRun &at = run.sides[static_cast<std::size_t>(side)];
     if (run.isRunning || run.isPaused)
-        return say("Stop the program first!");
+        return Text::tr("Stop the program first!");
     if (at.recipe.isEmpty())
-        return say("There is no recipe for the %1!").arg(sideName(side));
+        return Text::tr("There is no recipe for the %1!").arg(sideName(side));
     if (run.holdsProduct || run.isSuctionOn)
-        return say("Clear the gripper first!");
+        return Text::tr("Clear the gripper first!");
     if (!at.foreign.isEmpty())
-        return say("Products of the recipe \"%1\" lie on the %2!").arg(at.foreign, sideName(side));
+        return Text::tr("Products of the recipe \"%1\" lie on the %2!").arg(at.foreign, sideName(side));
     if (at.isKnown && at.isFull)
-        return say("The %1 is full; replace it first!").arg(sideName(side));
+        return Text::tr("The %1 is full; replace it first!").arg(sideName(side));
     if (piece.layer < 1 || piece.layer > at.pieces.size())
-        return say("The recipe has layers 1 to %1!").arg(at.pieces.size());
+        return Text::tr("The recipe has layers 1 to %1!").arg(at.pieces.size());
     const int pieces = at.pieces.at(piece.layer - 1);
     if (piece.piece < 1 || piece.piece > pieces)
-        return say("Layer %1 has pieces 1 to %2!").arg(piece.layer).arg(pieces);
+        return Text::tr("Layer %1 has pieces 1 to %2!").arg(piece.layer).arg(pieces);
     return {};
 }
 
@@ -205,15 +205,15 @@ QString whyNotEnable(const RunRecovery &run, int side)
 {
     const SideRun &at = run.sides[static_cast<std::size_t>(side)];
     if (at.recipe.isEmpty())
-        return say("There is no recipe for the %1!").arg(sideName(side));
+        return Text::tr("There is no recipe for the %1!").arg(sideName(side));
     if (run.isRunning || run.isPaused || !run.isCellKnown)
         return {};
     if (run.holdsProduct || run.isSuctionOn)
-        return say("Clear the gripper first!");
+        return Text::tr("Clear the gripper first!");
     if (at.isKnown && at.isFull)
-        return say("The %1 is full; replace it first!").arg(sideName(side));
+        return Text::tr("The %1 is full; replace it first!").arg(sideName(side));
     if (needsConfirmation(run, side))
-        return say("Confirm layer and piece of the %1 first!").arg(sideName(side));
+        return Text::tr("Confirm layer and piece of the %1 first!").arg(sideName(side));
     return {};
 }
 
@@ -222,9 +222,9 @@ QString whyNotRename(const RunRecovery &run, const QString &name)
     for (int i = 0; i < 2; ++i) {
         const SideRun &side = run.sides[static_cast<std::size_t>(i)];
         if (isServed(run, i) && (side.recipe == name || side.followed == name))
-            return say("Programs run with the recipe \"%1\". Stop them first!").arg(name);
+            return Text::tr("Programs run with the recipe \"%1\". Stop them first!").arg(name);
         if (side.products > 0 && side.followed == name)
-            return say("Products of the recipe \"%1\" lie on the %2!").arg(name, sideName(i));
+            return Text::tr("Products of the recipe \"%1\" lie on the %2!").arg(name, sideName(i));
     }
     return {};
 }
@@ -235,7 +235,8 @@ QString whyNotMove(const RunRecovery &run, const Node &stacks, const QString &na
         const QStringList names = sideRecipes(stacks, i == 0);
         const QString used = run.sides[static_cast<std::size_t>(i)].recipe;
         if (isServed(run, i) && names.contains(name) && names.indexOf(name) < names.indexOf(used))
-            return say("Programs run with the recipe \"%1\", which stands behind this one: they would take "
+            return Text::tr(
+                       "Programs run with the recipe \"%1\", which stands behind this one: they would take "
                        "another one. "
                        "Stop them first!")
                 .arg(used);
@@ -271,13 +272,14 @@ QString whyNotGoOn(const RunRecovery &run)
     case GoOn::AsItIs:
         break;
     case GoOn::ByStartButton:
-        return say("The lift column was stopped; go on with the start button of the cell!");
+        return Text::tr("The lift column was stopped; go on with the start button of the cell!");
     case GoOn::ByStopAndStart:
-        return say("The lift column has no power; press the stop and then the start button of the cell!");
+        return Text::tr(
+            "The lift column has no power; press the stop and then the start button of the cell!");
     case GoOn::NotAtAll:
         return isMiscounted(run)
-                   ? say("The pallet is not as counted; stop the program and confirm the piece!")
-                   : say("The product was lost; stop the program and confirm the piece!");
+                   ? Text::tr("The pallet is not as counted; stop the program and confirm the piece!")
+                   : Text::tr("The product was lost; stop the program and confirm the piece!");
     }
     return {};
 }

@@ -203,6 +203,10 @@
         <source>The controller did not take the tool. The log may say why.</source>
         <translation>控制器未接受该工具。原因可查看日志。</translation>
     </message>
+    <message>
+        <source>Recipes would get other places, and the programs that run would take other ones. Stop them first!</source>
+        <translation>配方的位置会改变，正在运行的程序会取到别的配方。请先停止程序！</translation>
+    </message>
 </context>
 <context>
     <name>DirectionsFrame</name>
@@ -5205,6 +5209,74 @@ Pallet: %4</source>
     <message>
         <source>The controller names a recipe that is not here.</source>
         <translation>控制器指定的配方在此不存在。</translation>
+    </message>
+    <message>
+        <source>The recipe or the shared settings were changed after the points were made. Generate them again on the page &quot;Points&quot;.</source>
+        <translation>生成点之后配方或共用设置已更改。请在“点”页重新生成。</translation>
+    </message>
+    <message>
+        <source>left pallet</source>
+        <translation>左侧托盘</translation>
+    </message>
+    <message>
+        <source>right pallet</source>
+        <translation>右侧托盘</translation>
+    </message>
+    <message>
+        <source>Stop the program first!</source>
+        <translation>请先停止程序！</translation>
+    </message>
+    <message>
+        <source>There is no recipe for the %1!</source>
+        <translation>%1没有配方！</translation>
+    </message>
+    <message>
+        <source>Clear the gripper first!</source>
+        <translation>请先清空抓手！</translation>
+    </message>
+    <message>
+        <source>Products of the recipe &quot;%1&quot; lie on the %2!</source>
+        <translation>%2上有配方“%1”的产品！</translation>
+    </message>
+    <message>
+        <source>The %1 is full; replace it first!</source>
+        <translation>%1已满；请先更换！</translation>
+    </message>
+    <message>
+        <source>The recipe has layers 1 to %1!</source>
+        <translation>配方有第 1 至 %1 层！</translation>
+    </message>
+    <message>
+        <source>Layer %1 has pieces 1 to %2!</source>
+        <translation>第 %1 层有第 1 至 %2 件！</translation>
+    </message>
+    <message>
+        <source>Confirm layer and piece of the %1 first!</source>
+        <translation>请先确认%1的层和件！</translation>
+    </message>
+    <message>
+        <source>Programs run with the recipe &quot;%1&quot;. Stop them first!</source>
+        <translation>程序正在使用配方“%1”。请先停止程序！</translation>
+    </message>
+    <message>
+        <source>Programs run with the recipe &quot;%1&quot;, which stands behind this one: they would take another one. Stop them first!</source>
+        <translation>程序正在使用排在此配方之后的“%1”：它们会取到别的配方。请先停止程序！</translation>
+    </message>
+    <message>
+        <source>The lift column was stopped; go on with the start button of the cell!</source>
+        <translation>升降柱已停止；请用单元的启动按钮继续！</translation>
+    </message>
+    <message>
+        <source>The lift column has no power; press the stop and then the start button of the cell!</source>
+        <translation>升降柱没有动力；请先按单元的停止按钮，再按启动按钮！</translation>
+    </message>
+    <message>
+        <source>The pallet is not as counted; stop the program and confirm the piece!</source>
+        <translation>托盘与计数不符；请停止程序并确认件号！</translation>
+    </message>
+    <message>
+        <source>The product was lost; stop the program and confirm the piece!</source>
+        <translation>产品已丢失；请停止程序并确认件号！</translation>
     </message>
 </context>
 <context>

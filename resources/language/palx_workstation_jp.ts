@@ -203,6 +203,10 @@
         <source>The controller did not take the tool. The log may say why.</source>
         <translation>コントローラがツールを受け取りませんでした。理由はログを見てください。</translation>
     </message>
+    <message>
+        <source>Recipes would get other places, and the programs that run would take other ones. Stop them first!</source>
+        <translation>レシピの順番が変わり、実行中のプログラムが別のレシピを取ります。先に停止してください！</translation>
+    </message>
 </context>
 <context>
     <name>DirectionsFrame</name>
@@ -5196,7 +5200,7 @@ Pallet: %4</source>
     </message>
     <message>
         <source>The side is in use. Disable it and let the robot end its pallet, or stop the program.</source>
-        <translation>側は使用中です。無効にしてパレットの完了を待つか、プログラムを停止してください。</translation>
+        <translation>この側は使用中です。無効にしてパレットの完了を待つか、プログラムを停止してください。</translation>
     </message>
     <message>
         <source>There is no recipe for this side.</source>
@@ -5205,6 +5209,74 @@ Pallet: %4</source>
     <message>
         <source>The controller names a recipe that is not here.</source>
         <translation>コントローラが示すレシピはここにありません。</translation>
+    </message>
+    <message>
+        <source>The recipe or the shared settings were changed after the points were made. Generate them again on the page &quot;Points&quot;.</source>
+        <translation>点の生成後にレシピまたは共通設定が変更されました。「点」ページで生成し直してください。</translation>
+    </message>
+    <message>
+        <source>left pallet</source>
+        <translation>左パレット</translation>
+    </message>
+    <message>
+        <source>right pallet</source>
+        <translation>右パレット</translation>
+    </message>
+    <message>
+        <source>Stop the program first!</source>
+        <translation>先にプログラムを停止してください！</translation>
+    </message>
+    <message>
+        <source>There is no recipe for the %1!</source>
+        <translation>%1のレシピがありません！</translation>
+    </message>
+    <message>
+        <source>Clear the gripper first!</source>
+        <translation>先にグリッパを空にしてください！</translation>
+    </message>
+    <message>
+        <source>Products of the recipe &quot;%1&quot; lie on the %2!</source>
+        <translation>%2にレシピ「%1」の製品があります！</translation>
+    </message>
+    <message>
+        <source>The %1 is full; replace it first!</source>
+        <translation>%1は満載です。先に交換してください！</translation>
+    </message>
+    <message>
+        <source>The recipe has layers 1 to %1!</source>
+        <translation>レシピの段は 1～%1 です！</translation>
+    </message>
+    <message>
+        <source>Layer %1 has pieces 1 to %2!</source>
+        <translation>%1 段目の個は 1～%2 です！</translation>
+    </message>
+    <message>
+        <source>Confirm layer and piece of the %1 first!</source>
+        <translation>先に%1の段と個を確認してください！</translation>
+    </message>
+    <message>
+        <source>Programs run with the recipe &quot;%1&quot;. Stop them first!</source>
+        <translation>プログラムがレシピ「%1」を使っています。先に停止してください！</translation>
+    </message>
+    <message>
+        <source>Programs run with the recipe &quot;%1&quot;, which stands behind this one: they would take another one. Stop them first!</source>
+        <translation>プログラムはこの後にあるレシピ「%1」を使っており、別のレシピを取ることになります。先に停止してください！</translation>
+    </message>
+    <message>
+        <source>The lift column was stopped; go on with the start button of the cell!</source>
+        <translation>昇降柱が停止しました。セルの起動ボタンで続けてください！</translation>
+    </message>
+    <message>
+        <source>The lift column has no power; press the stop and then the start button of the cell!</source>
+        <translation>昇降柱の動力がありません。セルの停止ボタン、次に起動ボタンを押してください！</translation>
+    </message>
+    <message>
+        <source>The pallet is not as counted; stop the program and confirm the piece!</source>
+        <translation>パレットが計数と違います。プログラムを停止し、個を確認してください！</translation>
+    </message>
+    <message>
+        <source>The product was lost; stop the program and confirm the piece!</source>
+        <translation>製品が失われました。プログラムを停止し、個を確認してください！</translation>
     </message>
 </context>
 <context>

@@ -203,6 +203,10 @@
         <source>The controller did not take the tool. The log may say why.</source>
         <translation>컨트롤러가 툴을 받지 않았습니다. 이유는 로그에 있을 수 있습니다.</translation>
     </message>
+    <message>
+        <source>Recipes would get other places, and the programs that run would take other ones. Stop them first!</source>
+        <translation>레시피 순서가 바뀌어 실행 중인 프로그램이 다른 레시피를 쓰게 됩니다. 먼저 멈추십시오!</translation>
+    </message>
 </context>
 <context>
     <name>DirectionsFrame</name>
@@ -5196,7 +5200,7 @@ Pallet: %4</source>
     </message>
     <message>
         <source>The side is in use. Disable it and let the robot end its pallet, or stop the program.</source>
-        <translation>쪽이 사용 중입니다. 끄고 로봇이 팔레트를 마치게 하거나 프로그램을 멈추십시오.</translation>
+        <translation>이 쪽은 사용 중입니다. 끄고 로봇이 팔레트를 마치게 하거나 프로그램을 멈추십시오.</translation>
     </message>
     <message>
         <source>There is no recipe for this side.</source>
@@ -5205,6 +5209,74 @@ Pallet: %4</source>
     <message>
         <source>The controller names a recipe that is not here.</source>
         <translation>컨트롤러가 가리키는 레시피가 여기에 없습니다.</translation>
+    </message>
+    <message>
+        <source>The recipe or the shared settings were changed after the points were made. Generate them again on the page &quot;Points&quot;.</source>
+        <translation>포인트를 만든 뒤 레시피 또는 공용 설정이 변경되었습니다. &quot;포인트&quot; 페이지에서 다시 생성하십시오.</translation>
+    </message>
+    <message>
+        <source>left pallet</source>
+        <translation>왼쪽 팔레트</translation>
+    </message>
+    <message>
+        <source>right pallet</source>
+        <translation>오른쪽 팔레트</translation>
+    </message>
+    <message>
+        <source>Stop the program first!</source>
+        <translation>먼저 프로그램을 멈추십시오!</translation>
+    </message>
+    <message>
+        <source>There is no recipe for the %1!</source>
+        <translation>%1의 레시피가 없습니다!</translation>
+    </message>
+    <message>
+        <source>Clear the gripper first!</source>
+        <translation>먼저 그리퍼를 비우십시오!</translation>
+    </message>
+    <message>
+        <source>Products of the recipe &quot;%1&quot; lie on the %2!</source>
+        <translation>%2에 레시피 &quot;%1&quot;의 제품이 있습니다!</translation>
+    </message>
+    <message>
+        <source>The %1 is full; replace it first!</source>
+        <translation>%1이(가) 가득 찼습니다. 먼저 교체하십시오!</translation>
+    </message>
+    <message>
+        <source>The recipe has layers 1 to %1!</source>
+        <translation>레시피의 단은 1~%1입니다!</translation>
+    </message>
+    <message>
+        <source>Layer %1 has pieces 1 to %2!</source>
+        <translation>%1단의 개수는 1~%2입니다!</translation>
+    </message>
+    <message>
+        <source>Confirm layer and piece of the %1 first!</source>
+        <translation>먼저 %1의 단과 개를 확인하십시오!</translation>
+    </message>
+    <message>
+        <source>Programs run with the recipe &quot;%1&quot;. Stop them first!</source>
+        <translation>프로그램이 레시피 &quot;%1&quot;을(를) 사용 중입니다. 먼저 멈추십시오!</translation>
+    </message>
+    <message>
+        <source>Programs run with the recipe &quot;%1&quot;, which stands behind this one: they would take another one. Stop them first!</source>
+        <translation>프로그램이 이 뒤에 있는 레시피 &quot;%1&quot;을(를) 사용 중이라 다른 레시피를 쓰게 됩니다. 먼저 멈추십시오!</translation>
+    </message>
+    <message>
+        <source>The lift column was stopped; go on with the start button of the cell!</source>
+        <translation>승강 기둥이 멈췄습니다. 셀의 시작 버튼으로 계속하십시오!</translation>
+    </message>
+    <message>
+        <source>The lift column has no power; press the stop and then the start button of the cell!</source>
+        <translation>승강 기둥에 전원이 없습니다. 셀의 정지 버튼, 이어서 시작 버튼을 누르십시오!</translation>
+    </message>
+    <message>
+        <source>The pallet is not as counted; stop the program and confirm the piece!</source>
+        <translation>팔레트가 계수와 다릅니다. 프로그램을 멈추고 개를 확인하십시오!</translation>
+    </message>
+    <message>
+        <source>The product was lost; stop the program and confirm the piece!</source>
+        <translation>제품을 잃었습니다. 프로그램을 멈추고 개를 확인하십시오!</translation>
     </message>
 </context>
 <context>

@@ -203,6 +203,10 @@
         <source>The controller did not take the tool. The log may say why.</source>
         <translation>Контроллер не принял инструмент. Причина может быть в журнале.</translation>
     </message>
+    <message>
+        <source>Recipes would get other places, and the programs that run would take other ones. Stop them first!</source>
+        <translation>Рецепты сменили бы места, и работающие программы взяли бы другие. Сначала остановите программы!</translation>
+    </message>
 </context>
 <context>
     <name>DirectionsFrame</name>
@@ -5207,6 +5211,74 @@ Pallet: %4</source>
     <message>
         <source>The controller names a recipe that is not here.</source>
         <translation>Контроллер называет рецепт, которого здесь нет.</translation>
+    </message>
+    <message>
+        <source>The recipe or the shared settings were changed after the points were made. Generate them again on the page &quot;Points&quot;.</source>
+        <translation>Рецепт или общие настройки изменены после расчёта точек. Рассчитайте их заново на странице «Точки».</translation>
+    </message>
+    <message>
+        <source>left pallet</source>
+        <translation>левая паллета</translation>
+    </message>
+    <message>
+        <source>right pallet</source>
+        <translation>правая паллета</translation>
+    </message>
+    <message>
+        <source>Stop the program first!</source>
+        <translation>Сначала остановите программу!</translation>
+    </message>
+    <message>
+        <source>There is no recipe for the %1!</source>
+        <translation>Нет рецепта: %1!</translation>
+    </message>
+    <message>
+        <source>Clear the gripper first!</source>
+        <translation>Сначала освободите захват!</translation>
+    </message>
+    <message>
+        <source>Products of the recipe &quot;%1&quot; lie on the %2!</source>
+        <translation>Лежат изделия рецепта «%1»: %2!</translation>
+    </message>
+    <message>
+        <source>The %1 is full; replace it first!</source>
+        <translation>Полна %1; сначала замените её!</translation>
+    </message>
+    <message>
+        <source>The recipe has layers 1 to %1!</source>
+        <translation>В рецепте слои с 1 по %1!</translation>
+    </message>
+    <message>
+        <source>Layer %1 has pieces 1 to %2!</source>
+        <translation>В слое %1 изделия с 1 по %2!</translation>
+    </message>
+    <message>
+        <source>Confirm layer and piece of the %1 first!</source>
+        <translation>Сначала подтвердите слой и изделие: %1!</translation>
+    </message>
+    <message>
+        <source>Programs run with the recipe &quot;%1&quot;. Stop them first!</source>
+        <translation>Программы работают с рецептом «%1». Сначала остановите их!</translation>
+    </message>
+    <message>
+        <source>Programs run with the recipe &quot;%1&quot;, which stands behind this one: they would take another one. Stop them first!</source>
+        <translation>Программы работают с рецептом «%1», который стоит после этого: они взяли бы другой. Сначала остановите их!</translation>
+    </message>
+    <message>
+        <source>The lift column was stopped; go on with the start button of the cell!</source>
+        <translation>Подъёмная колонна остановлена; продолжите кнопкой пуска ячейки!</translation>
+    </message>
+    <message>
+        <source>The lift column has no power; press the stop and then the start button of the cell!</source>
+        <translation>Подъёмная колонна без питания; нажмите на ячейке кнопку останова, затем пуска!</translation>
+    </message>
+    <message>
+        <source>The pallet is not as counted; stop the program and confirm the piece!</source>
+        <translation>На паллете не столько, сколько сосчитано; остановите программу и подтвердите изделие!</translation>
+    </message>
+    <message>
+        <source>The product was lost; stop the program and confirm the piece!</source>
+        <translation>Изделие потеряно; остановите программу и подтвердите изделие!</translation>
     </message>
 </context>
 <context>
