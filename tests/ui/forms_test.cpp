@@ -19,6 +19,7 @@
 #include "ui/pattern_name_dialog.h"
 #include "ui/pattern_template_dialog.h"
 #include "ui/robot_cell.h"
+#include "ui/start_dialog.h"
 #include "ui/stick_fixture.h"
 #include "workstation/plugin_node.h"
 
@@ -122,6 +123,11 @@ void eachDialog(const Visit &visit)
     NameDialog name(
         QStringLiteral("Name"), [](const QString &) { return QString(); }, &panel);
     show(&name, "name", visit);
+    StartRequest request;
+    request.accept = QStringLiteral("Start here");
+    request.stack = palx::stacksNode()->cmobj(0)->node();
+    StartDialog start(request, &panel);
+    show(&start, "start", visit);
     for (const bool isImport : {false, true}) {
         pages.tree.addRecipe("A");
         ImExportDialog exchange(isImport, palx::stacksNode());
@@ -203,6 +209,9 @@ TEST(Forms, DialogsFitASmallPanelAFingerAndLongerLanguages)
         count += expectNamed(dialog, where);
         const auto *hold = dialog->findChild<HoldButton *>();
         EXPECT_FALSE(hold && hold->height() < 96) << where;
+        for (const QPushButton *button : dialog->findChildren<QPushButton *>()) // what Enter in a field presses
+            EXPECT_FALSE(button->isDefault() && button->property("role").toString() != "primary")
+                << where << button->objectName();
         const auto *files = dialog->findChild<QTableView *>("tblFiles");
         EXPECT_FALSE(files && files->isVisible() && files->rowHeight(0) < 56) << where;
     });
