@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMetaObject>
 #include <QSignalBlocker>
@@ -36,6 +37,8 @@ public:
     void detach();
     void load();
     void commit();
+    /// Tells of what was typed into a field of numbers and will be dropped when the field is left.
+    bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
     void watchForNode();
@@ -137,6 +140,20 @@ void FieldBinding::commit()
     write(value);
 }
 
+bool FieldBinding::eventFilter(QObject *, QEvent *event)
+{
+    const auto *spin = qobject_cast<QAbstractSpinBox *>(field_);
+    const bool isLeft =
+        event->type() == QEvent::FocusOut ||
+        (event->type() == QEvent::KeyPress && (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Return ||
+                                               static_cast<QKeyEvent *>(event)->key() == Qt::Key_Enter));
+    if (isLeft && spin && binder_->root_ && !spin->hasAcceptableInput())
+        Q_EMIT binder_->refused(
+            field_, NodeBinder::tr("%1 to %2 can be entered. The value stays as it was.")
+                        .arg(spin->property("minimum").toString(), spin->property("maximum").toString()));
+    return false;
+}
+
 QVariant FieldBinding::inKindOfNode(const QVariant &value) const
 {
     const auto kind = node_->node().kind();
@@ -216,6 +233,7 @@ void NodeBinder::bind(QSpinBox *field, const QString &path)
     const int maximum = field->maximum();
     const auto show = [=](const QVariant &value) { showInSpin(field, value.toInt(), minimum, maximum); };
     bindField(field, path, show, [field] { return QVariant(qlonglong(field->value())); });
+    field->installEventFilter(bindingOf(field));
     connect(field, &QSpinBox::editingFinished, bindingOf(field), [=] { bindingOf(field)->commit(); });
 }
 
@@ -225,6 +243,7 @@ void NodeBinder::bind(QDoubleSpinBox *field, const QString &path)
     const double maximum = field->maximum();
     const auto show = [=](const QVariant &value) { showInSpin(field, value.toDouble(), minimum, maximum); };
     bindField(field, path, show, [field] { return QVariant(field->value()); });
+    field->installEventFilter(bindingOf(field));
     connect(field, &QDoubleSpinBox::editingFinished, bindingOf(field), [=] { bindingOf(field)->commit(); });
 }
 

@@ -1,11 +1,14 @@
 #include "ix/xtheme.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QEvent>
 #include <QFont>
 #include <QPainter>
 #include <QPalette>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QStyledItemDelegate>
 #include <QWidget>
 
 namespace ix {
@@ -161,6 +164,20 @@ QPalette palette()
     return colours;
 }
 
+/// The lists of combo boxes draw their rows by themselves and would not take the height that the sheet gives them.
+class RoomForFingers : public QObject
+{
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() == QEvent::Polish)
+            if (auto *combo = qobject_cast<QComboBox *>(object))
+                combo->setItemDelegate(new QStyledItemDelegate(combo));
+        return false;
+    }
+};
+
 } // namespace
 
 QColor color(State state)
@@ -203,6 +220,8 @@ void apply(QApplication *application)
     font.setPixelSize(kTextPixels);
     QApplication::setFont(font);
     application->setStyleSheet(styleSheet());
+    if (!application->findChild<RoomForFingers *>(QString(), Qt::FindDirectChildrenOnly))
+        application->installEventFilter(new RoomForFingers(application));
 }
 
 QPixmap tinted(const QPixmap &picture, const QColor &color)

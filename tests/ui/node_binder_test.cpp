@@ -8,6 +8,7 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QTest>
 #include <QSpinBox>
 #include <QtTest/QTest>
 
@@ -140,6 +141,27 @@ TEST(NodeBinder, RefusesWithAReasonAndShowsTheNodeAgain)
     EXPECT_EQ(refusals.first().at(1).toString(), "too much");
     EXPECT_EQ(form.number.value(), 1.5);
     EXPECT_EQ(root->node(), nodeFromJson(kValues));
+}
+
+TEST(NodeBinder, TellsOfANumberThatAFieldDrops)
+{
+    Form form;
+    form.number.setRange(1, 100);
+    form.binder.bind(&form.number, "double");
+    const auto root = tree(kValues);
+    form.binder.setRoot(root.get());
+    const QSignalSpy refusals(&form.binder, &NodeBinder::refused);
+    form.number.selectAll();
+    QTest::keyClicks(&form.number, "0");
+    QTest::keyClick(&form.number, Qt::Key_Return);
+    ASSERT_EQ(refusals.size(), 1);
+    EXPECT_EQ(refusals.first().at(1).toString(), "1 to 100 can be entered. The value stays as it was.");
+    EXPECT_EQ(form.number.value(), 1.5);
+    form.number.selectAll();
+    QTest::keyClicks(&form.number, "7");
+    QTest::keyClick(&form.number, Qt::Key_Return);
+    EXPECT_EQ(refusals.size(), 1);
+    EXPECT_EQ(root->getDouble("double"), 7);
 }
 
 TEST(NodeBinder, FollowsANodeThatGoesComesBackOrIsReplaced)
