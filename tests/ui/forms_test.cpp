@@ -24,10 +24,15 @@
 #include "workstation/plugin_node.h"
 
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -209,7 +214,8 @@ TEST(Forms, DialogsFitASmallPanelAFingerAndLongerLanguages)
         count += expectNamed(dialog, where);
         const auto *hold = dialog->findChild<HoldButton *>();
         EXPECT_FALSE(hold && hold->height() < 96) << where;
-        for (const QPushButton *button : dialog->findChildren<QPushButton *>()) // what Enter in a field presses
+        for (const QPushButton *button :
+             dialog->findChildren<QPushButton *>()) // what Enter in a field presses
             EXPECT_FALSE(button->isDefault() && button->property("role").toString() != "primary")
                 << where << button->objectName();
         const auto *files = dialog->findChild<QTableView *>("tblFiles");
@@ -316,4 +322,26 @@ TEST(Forms, TheLongestFileNameIsShownWhole)
         EXPECT_GE(label->height(), label->heightForWidth(label->width())) << letter;
         EXPECT_LE(dialog.height(), 640) << letter;
     }
+}
+
+TEST(Forms, TheWheelMovesThePageAndNoValue)
+{
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    auto *field = new QDoubleSpinBox;
+    field->setValue(20);
+    layout->addWidget(field);
+    page->setMinimumHeight(2000);
+    PageScroll scroll(page);
+    scroll.resize(300, 200);
+    scroll.show();
+    QCoreApplication::processEvents();
+    auto *edit = field->findChild<QLineEdit *>();
+    QWheelEvent wheel(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(
+        &wheel); // as from the window system, or it would not go on to what lies below
+    qApp->notify(edit, &wheel);
+    EXPECT_EQ(field->value(), 20);
+    EXPECT_GT(scroll.verticalScrollBar()->value(), 0);
 }
