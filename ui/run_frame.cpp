@@ -342,12 +342,15 @@ void RunFrame::reset(RunSideCard *card)
 
 void RunFrame::makeProject()
 {
-    ui_->message->showMessage(tr("Waiting for the controller."), State::Manual);
-    repaint(); // what follows handles no events
     const QString name = QStringLiteral("Palletizing_") +
                          QDateTime::currentDateTime().toString(QStringLiteral("yyyy_MMdd_HHmm"));
-    palx::makeFirstProject(name); // says itself what went wrong
-    ui_->message->clearMessage();
+    palx::makeFirstProject(name, [this](bool isRunning) { // says itself what went wrong
+        if (isRunning)
+            ui_->message->showMessage(tr("Waiting for the controller."), State::Manual);
+        else
+            ui_->message->clearMessage();
+        repaint(); // what follows handles no events
+    });
     refresh();
 }
 

@@ -2,6 +2,7 @@
 
 #include "ix/xtheme.h"
 #include "orba/managers.h"
+#include "project/rules/run_recovery.h"
 #include "ui/calibration_frame.h"
 #include "ui/cell_wizards.h"
 #include "ui/current_recipe.h"
@@ -167,7 +168,7 @@ void StackSetupPage::setStack(ModuleObject *stack)
     for (RecipeFrame *frame : frames_)
         frame->setStack(stack);
     ui_->stkPage->setCurrentWidget(stack ? ui_->pagRecipe : ui_->pagNone);
-    ui_->message->clearMessage();
+    showNotice(QString());
     fillRecipes();
     updateHeader();
 }
@@ -183,12 +184,23 @@ void StackSetupPage::fillRecipes()
 
 void StackSetupPage::onEdited()
 {
-    const QString putRight = editing_.commit();
-    if (putRight.isEmpty())
+    showNotice(editing_.commit());
+    afterStep();
+}
+
+/// What was put right, else that the pallet that was begun takes every change.
+void StackSetupPage::showNotice(const QString &putRight)
+{
+    QString text = putRight;
+    if (text.isEmpty() && stack() &&
+        !palx::whyNotRename(palx::currentRunRecovery(), stack()->getString("name")).isEmpty())
+        text = tr("This recipe is being stacked. Changes take effect when you leave the page, on the pallet "
+                  "that was begun, "
+                  "too.");
+    if (text.isEmpty())
         ui_->message->clearMessage();
     else
-        ui_->message->showMessage(putRight, State::Attention);
-    afterStep();
+        ui_->message->showMessage(text, State::Attention);
 }
 
 /// Fields follow their nodes; what is computed is shown again.
@@ -213,7 +225,7 @@ void StackSetupPage::step(bool (RecipeEditing::*wind)())
     finishField(wgt_);
     if (!(editing_.*wind)())
         return;
-    ui_->message->clearMessage();
+    showNotice(QString());
     afterStep();
 }
 

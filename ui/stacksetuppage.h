@@ -53,6 +53,7 @@ private:
     void openWizard(WizardKind kind);
     void setStack(orba::ModuleObject *stack);
     void fillRecipes();
+    void showNotice(const QString &putRight);
     void onEdited();
     void afterStep();
     void step(bool (RecipeEditing::*wind)());

@@ -8,6 +8,8 @@
 #include "stack/way_points.h"
 #include "workstation/plugin_node.h"
 
+#include <utility>
+
 namespace palx {
 
 using orba::Node;
@@ -18,7 +20,8 @@ namespace {
 class FirstChoice : public ProjectSteps
 {
 public:
-    explicit FirstChoice(const Node &stacks)
+    FirstChoice(const Node &stacks, std::function<void(bool)> showProgress)
+        : showProgress_(std::move(showProgress))
     {
         const bool hasLeft = recipeOfSide(stacks, LineSide::Left, 0) != nullptr;
         const bool hasRight = recipeOfSide(stacks, LineSide::Right, 0) != nullptr;
@@ -28,9 +31,14 @@ public:
     void saveParameters(const QString &name) override { writeProjectParameters(name, values_); }
     void becameCurrent() override { createProjectVariables(); }
     void projectsChanged() override {}
-    void showProgress(bool) override {}
+    void showProgress(bool isRunning) override
+    {
+        if (showProgress_)
+            showProgress_(isRunning);
+    }
 
 private:
+    std::function<void(bool)> showProgress_;
     Node values_;
 };
 
@@ -51,14 +59,14 @@ void useFirstRecipes(const Node &stacks)
 
 } // namespace
 
-bool makeFirstProject(const QString &name)
+bool makeFirstProject(const QString &name, const std::function<void(bool isRunning)> &showProgress)
 {
     makeMissingPoints();
     const XReply reply = sendAllStacks();
     if (!reply.isOk())
         return reportProject("error", ProjectText::tr("The recipes were not taken: %1").arg(reply.error));
     switchToTool(); // recipes with a tool of their own bring it along
-    FirstChoice choice(stacksNode()->node());
+    FirstChoice choice(stacksNode()->node(), showProgress);
     if (!addProject(name, std::nullopt, &choice))
         return false;
     useFirstRecipes(stacksNode()->node());

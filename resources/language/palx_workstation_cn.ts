@@ -1666,6 +1666,13 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>NodeBinder</name>
+    <message>
+        <source>%1 to %2 can be entered. The value stays as it was.</source>
+        <translation>可输入 %1 至 %2。数值保持不变。</translation>
+    </message>
+</context>
+<context>
     <name>OrderTools</name>
     <message>
         <source>Begin at</source>
@@ -4030,6 +4037,10 @@ Pallet: %4</source>
     <message>
         <source>Product and pallet</source>
         <translation>产品和托盘</translation>
+    </message>
+    <message>
+        <source>This recipe is being stacked. Changes take effect when you leave the page, on the pallet that was begun, too.</source>
+        <translation>此配方正在码垛。离开此页时更改生效，也作用于已开始的托盘。</translation>
     </message>
 </context>
 <context>

@@ -1666,6 +1666,13 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>NodeBinder</name>
+    <message>
+        <source>%1 to %2 can be entered. The value stays as it was.</source>
+        <translation>%1～%2 を入力できます。値はそのままです。</translation>
+    </message>
+</context>
+<context>
     <name>OrderTools</name>
     <message>
         <source>Begin at</source>
@@ -4030,6 +4037,10 @@ Pallet: %4</source>
     <message>
         <source>Product and pallet</source>
         <translation>製品とパレット</translation>
+    </message>
+    <message>
+        <source>This recipe is being stacked. Changes take effect when you leave the page, on the pallet that was begun, too.</source>
+        <translation>このレシピは積み付け中です。変更はページを離れると有効になり、積みかけのパレットにも及びます。</translation>
     </message>
 </context>
 <context>

@@ -1666,6 +1666,13 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>NodeBinder</name>
+    <message>
+        <source>%1 to %2 can be entered. The value stays as it was.</source>
+        <translation>%1~%2을(를) 입력할 수 있습니다. 값은 그대로입니다.</translation>
+    </message>
+</context>
+<context>
     <name>OrderTools</name>
     <message>
         <source>Begin at</source>
@@ -4030,6 +4037,10 @@ Pallet: %4</source>
     <message>
         <source>Product and pallet</source>
         <translation>제품과 팔레트</translation>
+    </message>
+    <message>
+        <source>This recipe is being stacked. Changes take effect when you leave the page, on the pallet that was begun, too.</source>
+        <translation>이 레시피는 적재 중입니다. 변경은 페이지를 나갈 때 적용되며 이미 시작한 팔레트에도 적용됩니다.</translation>
     </message>
 </context>
 <context>

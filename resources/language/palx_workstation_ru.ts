@@ -1666,6 +1666,13 @@ mm</translation>
     </message>
 </context>
 <context>
+    <name>NodeBinder</name>
+    <message>
+        <source>%1 to %2 can be entered. The value stays as it was.</source>
+        <translation>Можно ввести от %1 до %2. Значение осталось прежним.</translation>
+    </message>
+</context>
+<context>
     <name>OrderTools</name>
     <message>
         <source>Begin at</source>
@@ -4032,6 +4039,10 @@ Pallet: %4</source>
     <message>
         <source>Product and pallet</source>
         <translation>Изделие и паллета</translation>
+    </message>
+    <message>
+        <source>This recipe is being stacked. Changes take effect when you leave the page, on the pallet that was begun, too.</source>
+        <translation>Этот рецепт сейчас укладывается. Изменения вступят в силу, когда вы покинете страницу, в том числе на начатой паллете.</translation>
     </message>
 </context>
 <context>

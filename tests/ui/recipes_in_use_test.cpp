@@ -123,6 +123,10 @@ TEST_F(RecipesInUseTest, KeepTheirNameAndPlaceWhileProgramsRunAndProductsLieTher
     EXPECT_EQ(names(), "First Used Cell right");
     pages.open("First", OpenRecipe::Pallet);
     EXPECT_FALSE(pages.field<QComboBox>("cmbPosition")->isEnabled());
+    const auto *notice = pages.setup->wgt()->findChild<MessageBar *>();
+    EXPECT_EQ(notice->text(), "");
+    pages.open("Used", OpenRecipe::Pallet);
+    EXPECT_TRUE(notice->text().startsWith("This recipe is being stacked.")) << qPrintable(notice->text());
 
     cell.pass(1); // a product is set down
     EXPECT_GT(m("nexo.cell.pallets.#0")->getInt("count"), 0);
