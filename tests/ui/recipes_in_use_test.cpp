@@ -133,6 +133,8 @@ TEST_F(RecipesInUseTest, KeepTheirNameAndPlaceWhileProgramsRunAndProductsLieTher
     EXPECT_TRUE(xservice()->set(nullptr, "program.stop", orba::Node()).isOk());
     cell.settle();
     EXPECT_EQ(rename("Used", "Crates"), "Products of the recipe \"Used\" lie on the left pallet!");
+    EXPECT_FALSE(pages.field<QComboBox>("cmbPosition")->isEnabled());
+    pages.open("First", OpenRecipe::Pallet);
     EXPECT_TRUE(pages.field<QComboBox>("cmbPosition")->isEnabled());
     EXPECT_EQ(rename("First", "Other"), "");
     EXPECT_EQ(held(), "Other Used Cell right");
