@@ -124,7 +124,7 @@ void RunSideCard::showFigures()
     const bool hasCycle = shown_.cycleSeconds > 0;
     ui_->lblBoxes->setText(ofAll(shown_.piled, shown_.expected));
     ui_->lblLayer->setText(ofAll(std::min(shown_.layer, shown_.layers), shown_.layers));
-    ui_->lblPiece->setText(ofAll(shown_.piece, shown_.pieces));
+    ui_->lblPiece->setText(ofAll(std::min(shown_.piece, shown_.pieces), shown_.pieces));
     ui_->lblPallets->setText(QString::number(shown_.pallets));
     ui_->lblCycle->setText(hasCycle ? tr("%1 s").arg(shown_.cycleSeconds, 0, 'f', 1) : none);
     ui_->lblRate->setText(hasCycle ? QString::number(qRound(shown_.boxesPerHour())) : none);

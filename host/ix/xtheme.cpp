@@ -220,8 +220,12 @@ void apply(QApplication *application)
     font.setPixelSize(kTextPixels);
     QApplication::setFont(font);
     application->setStyleSheet(styleSheet());
-    if (!application->findChild<RoomForFingers *>(QString(), Qt::FindDirectChildrenOnly))
-        application->installEventFilter(new RoomForFingers(application));
+    const QString once = QStringLiteral("room_for_fingers");
+    if (application->findChild<QObject *>(once, Qt::FindDirectChildrenOnly))
+        return;
+    auto *room = new RoomForFingers(application);
+    room->setObjectName(once);
+    application->installEventFilter(room);
 }
 
 QPixmap tinted(const QPixmap &picture, const QColor &color)
