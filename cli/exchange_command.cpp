@@ -1,7 +1,7 @@
 #include "exchange_command.h"
 
 #include "orba/module_manager.h"
-#include "stack/recipe_import.h"
+#include "project/rules/recipe_places.h"
 #include "workstation/file_sync.h"
 #include "workstation/plugin_node.h"
 #include "workstation/progress.h"
@@ -173,8 +173,10 @@ int runImport(const ImportRequest &request)
     const std::vector<bool> all(palx::recipeIndexes(read.content).size(), true);
     const Node recipes =
         describe(read, palx::planImport(palx::stacksNode()->node(), read.content, all, request.onClash));
+    const palx::KeptRecipes kept;
     palx::importRecipes(palx::stacksNode(), read.content, all, request.onClash, progress);
     palx::finishImport();
+    kept.follow();
     return settlePanel(session.get()) && printImport(recipes, file, request.output) ? kDone : kRefused;
 }
 

@@ -14,6 +14,7 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace panel {
@@ -32,7 +33,7 @@ PanelWindow::PanelWindow(host::HostSession *session, PanelPresenter *presenter, 
       navigator_(new Navigator(m("ix.nav"), this)), status_(new StatusStrip(this)), log_(new LogPage)
 {
     setObjectName(QStringLiteral("panelWindow"));
-    resize(kWidth, kHeight);
+    resize(QSize(kWidth, kHeight).boundedTo(screen()->availableSize()));
     auto *row = new QHBoxLayout;
     row->addWidget(navigator_);
     row->addWidget(center_, 1);

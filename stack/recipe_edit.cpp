@@ -150,7 +150,7 @@ orba::ModuleObject *copyStack(orba::ModuleObject *stack, const QString &name)
         return emptyMobj();
     orba::Node content = stack->node();
     content.ensureChild(orba::Name(u"name"))->setString(name);
-    orba::ModuleObject *copy = insertChild(stacks, stacks->node().indexOf(&stack->node()) + 1, orba::Name());
+    orba::ModuleObject *copy = insertChild(stacks, stacks->node().size(), orba::Name());
     copy->copyFrom(content);
     return copy;
 }

@@ -16,7 +16,7 @@ PALX_API QString recipeNameProblem(const orba::Node &stacks, const QString &name
 /// to "Box10", "Box" to "Box1"), shortened to fit.
 PALX_API QString proposeRecipeName(const orba::Node &stacks, const QString &wanted);
 
-/// A copy of the whole recipe, points included, right behind it.
+/// A copy of the whole recipe, points included, behind all others, so that none gets another place.
 PALX_API orba::ModuleObject *copyStack(orba::ModuleObject *stack, const QString &name);
 /// Writes "name" and "desc", which old recipes may lack.
 PALX_API void renameStack(orba::ModuleObject *stack, const QString &name, const QString &desc);

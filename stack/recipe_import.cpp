@@ -48,10 +48,13 @@ LastImport *LastImport::of(ModuleObject *list)
     return list->findChild<LastImport *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-int LastImport::addedCount() const
+QStringList LastImport::addedNames() const
 {
-    return static_cast<int>(
-        std::count_if(added_.begin(), added_.end(), [](const auto &recipe) { return recipe; }));
+    QStringList names;
+    for (const QPointer<ModuleObject> &recipe : added_)
+        if (recipe)
+            names << recipe->getString("name");
+    return names;
 }
 
 void LastImport::takeBack()

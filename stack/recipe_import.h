@@ -18,7 +18,8 @@ public:
     static LastImport *of(orba::ModuleObject *list);
 
     /// Recipes that came and are still there.
-    int addedCount() const;
+    int addedCount() const { return addedNames().size(); }
+    QStringList addedNames() const;
     /// Recipes that were replaced.
     int removedCount() const { return static_cast<int>(removed_.size()); }
     /// Removes what came, whatever was changed in it since, and puts back what was replaced, to its place and under its name

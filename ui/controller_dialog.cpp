@@ -1,6 +1,6 @@
 #include "ui/controller_dialog.h"
 
-#include "project/rules/run_recovery.h"
+#include "project/rules/recipe_places.h"
 #include "ui/form_style.h"
 #include "ui/recipe_match_model.h"
 #include "ui_controller_dialog.h"
@@ -168,11 +168,10 @@ void ControllerDialog::showWaiting(const QString &text)
 
 void ControllerDialog::pushAll()
 {
-    const palx::RunRecovery run = palx::currentRunRecovery();
-    if ((run.isRunning || run.isPaused) && recipes_ && palx::wouldMove(recipes_->matches()))
-        return ui_->message->showMessage(tr("Recipes would get other places, and the programs that run would "
-                                            "take other ones. Stop them first!"),
-                                         State::Fault);
+    const QString problem =
+        recipes_ ? palx::whyNotSend(palx::currentRunRecovery(), recipes_->matches()) : QString();
+    if (!problem.isEmpty())
+        return ui_->message->showMessage(problem, State::Fault);
     showWaiting(tr("The recipes are being sent."));
     const XReply reply = palx::sendAllStacks();
     if (reply.isOk())

@@ -3,6 +3,9 @@
 #include "ix/stretched_column.h"
 
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QEvent>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QScrollArea>
@@ -56,8 +59,34 @@ void setTouchScrolling(QAbstractScrollArea *area)
     QScroller::scroller(area->viewport())->setScrollerProperties(properties);
 }
 
+namespace {
+
+class WheelGuard : public QObject
+{
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() != QEvent::Wheel)
+            return false;
+        event->ignore(); // goes on to what the field lies on
+        return true;
+    }
+};
+
+} // namespace
+
+void keepFromWheel(QWidget *form)
+{
+    auto *guard = new WheelGuard(form);
+    for (QWidget *field : form->findChildren<QWidget *>())
+        if (qobject_cast<QAbstractSpinBox *>(field) || qobject_cast<QComboBox *>(field))
+            field->installEventFilter(guard);
+}
+
 QWidget *scrollingForm(QWidget *form)
 {
+    keepFromWheel(form);
     auto *area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);

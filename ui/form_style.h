@@ -19,5 +19,9 @@ void finishField(QWidget *form);
 /// Lets a finger move the contents; a mouse keeps its own ways.
 void setTouchScrolling(QAbstractScrollArea *area);
 
+/// A mouse wheel over a number field or combo box of the form moves what scrolls, never the value: it may only have come under
+/// the pointer.
+void keepFromWheel(QWidget *form);
+
 /// A form in an area that scrolls on a small panel or when a language needs more room. Owns the form.
 QWidget *scrollingForm(QWidget *form);

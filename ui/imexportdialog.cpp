@@ -1,7 +1,7 @@
 #include "ui/imexportdialog.h"
 
 #include "nexo/manager_helper.h"
-#include "stack/recipe_import.h"
+#include "project/rules/recipe_places.h"
 #include "ui/exchange_table_model.h"
 #include "ui/form_style.h"
 #include "ui/long_work.h"
@@ -242,12 +242,18 @@ void ImExportDialog::importTicked()
     const palx::RecipeClash clash = onClash();
     const std::vector<palx::ImportStep> steps =
         palx::planImport(list->node(), content->node(), ticked, clash);
+    if (const QString problem = palx::whyNotImport(palx::currentRunRecovery(), list->node(), steps);
+        !problem.isEmpty())
+        return tellFault(problem);
+    const palx::KeptRecipes kept;
     bool isDone = false;
     palx::runInSlices(this, tr("Import recipes"), [&](palx::Progress &progress) {
         isDone = list && palx::importRecipes(list, content->node(), ticked, clash, progress);
     });
-    if (isDone)
+    if (isDone) {
         palx::finishImport();
+        kept.follow();
+    }
     if (!self)
         return;
     if (!isDone)
@@ -303,6 +309,12 @@ void ImExportDialog::tellFault(const QString &text)
 
 // ---------------------------------------------------------------- taking back
 
+QString ImExportDialog::takeBackProblem(ModuleObject *list)
+{
+    const palx::LastImport *import = palx::LastImport::of(list);
+    return import ? palx::whyNotTakeBack(palx::currentRunRecovery(), list->node(), *import) : QString();
+}
+
 bool ImExportDialog::takeBackLastImport(ModuleObject *list)
 {
     const QPointer<palx::LastImport> import = palx::LastImport::of(list);
@@ -314,14 +326,18 @@ bool ImExportDialog::takeBackLastImport(ModuleObject *list)
                                             .arg(import->removedCount())) ||
         !import)
         return false;
+    const palx::KeptRecipes kept;
     import->takeBack();
     palx::finishTakingBack();
+    kept.follow();
     return true;
 }
 
 void ImExportDialog::takeBack()
 {
     const QPointer<ImExportDialog> self(this);
+    if (const QString problem = list_ ? takeBackProblem(list_) : QString(); !problem.isEmpty())
+        return tellFault(problem);
     if (!list_ || !takeBackLastImport(list_) || !self)
         return;
     ui_->message->showMessage(tr("The last import was taken back."), State::Stopped);

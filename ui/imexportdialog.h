@@ -44,6 +44,8 @@ public:
 
     /// Takes the list's last import back after a question; false when the operator did not want it.
     static bool takeBackLastImport(orba::ModuleObject *list);
+    /// Why that cannot be done now; empty when it can.
+    static QString takeBackProblem(orba::ModuleObject *list);
 
 Q_SIGNALS:
     /// The work succeeded; a sentence for the operator, and whether it can be taken back.

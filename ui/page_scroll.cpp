@@ -2,9 +2,6 @@
 
 #include "ui/form_style.h"
 
-#include <QAbstractSpinBox>
-#include <QComboBox>
-#include <QEvent>
 #include <QScrollBar>
 
 PageScroll::PageScroll(QWidget *page)
@@ -15,20 +12,9 @@ PageScroll::PageScroll(QWidget *page)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWidget(page);
     setTouchScrolling(this);
-    for (QWidget *field : page->findChildren<QWidget *>())
-        if (qobject_cast<QAbstractSpinBox *>(field) || qobject_cast<QComboBox *>(field))
-            field->installEventFilter(this);
+    keepFromWheel(page);
     // With the bar beside it the page wants the same width as before.
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &QWidget::updateGeometry);
-}
-
-bool PageScroll::eventFilter(QObject *object, QEvent *event)
-{
-    const auto *field = qobject_cast<QWidget *>(object); // or a part of this scroll area itself
-    if (event->type() != QEvent::Wheel || !field || !widget()->isAncestorOf(field))
-        return QScrollArea::eventFilter(object, event);
-    event->ignore(); // goes on to what the field lies on
-    return true;
 }
 
 QSize PageScroll::minimumSizeHint() const

@@ -59,6 +59,9 @@ RunFrame::RunFrame(const palx::ControllerRecipes *recipes, QWidget *parent)
     : QWidget(parent), ui_(std::make_unique<Ui::RunFrame>()), recipes_(recipes)
 {
     ui_->setupUi(this);
+    QSizePolicy room = ui_->message->sizePolicy(); // or every press would move the buttons under the finger
+    room.setRetainSizeWhenHidden(true);
+    ui_->message->setSizePolicy(room);
     for (const LineSide side : palx::kLineSides)
         addCard(side);
     ui_->btnMake->setIcon(ix::xtheme::icon(ix::xtheme::Glyph::Add));

@@ -1,6 +1,7 @@
 #include "ui/run_side_card.h"
 
 #include "ix/xtheme.h"
+#include "ui/form_style.h"
 #include "ui_run_side_card.h"
 
 #include <QEvent>
@@ -59,6 +60,7 @@ RunSideCard::RunSideCard(LineSide side, QWidget *parent)
     : QFrame(parent), which_(side), ui_(std::make_unique<Ui::RunSideCard>())
 {
     ui_->setupUi(this);
+    keepFromWheel(this); // another recipe would be asked for at once
     setObjectName(side == LineSide::Left ? QStringLiteral("crdLeft") : QStringLiteral("crdRight"));
     ui_->btnReset->setIcon(ix::xtheme::icon(ix::xtheme::Glyph::TurnLeft));
     ui_->btnReset->setIconSize(QSize(32, 32));

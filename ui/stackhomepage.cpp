@@ -3,7 +3,7 @@
 #include "ix/clear_button.h"
 #include "ix/xtheme.h"
 #include "nexo/manager_helper.h"
-#include "project/rules/run_recovery.h"
+#include "project/rules/recipe_places.h"
 #include "stack/way_points.h"
 #include "ui/controller_dialog.h"
 #include "ui/current_recipe.h"
@@ -261,9 +261,8 @@ NameDialog *nameDialog(const QString &title, QPointer<ModuleObject> self, QWidge
         const QString problem =
             palx::recipeNameProblem(palx::stacksNode()->node(), name, self ? &self->node() : nullptr);
         const QString before = self ? self->getString("name") : name;
-        return problem.isEmpty() && name != before
-                   ? palx::whyNotRename(palx::currentRunRecovery(), before)
-                   : problem;
+        return problem.isEmpty() && name != before ? palx::whyNotRename(palx::currentRunRecovery(), before)
+                                                   : problem;
     };
     auto *dialog = new NameDialog(title, check, parent);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -344,7 +343,9 @@ void StackHomePage::deleteRecipe()
                                                     tr("Delete the recipe \"%1\"?").arg(name)) ||
         !stack || refused(whyNotDelete(name)))
         return;
+    const palx::KeptRecipes kept;
     removed_ = palx::removeStack(stack);
+    kept.follow();
     if (currentRecipe(module_)->value() == name) {
         currentRecipe(module_)->setValue(QString());
         Q_EMIT reFreshPageDate();
@@ -356,10 +357,14 @@ void StackHomePage::deleteRecipe()
 
 void StackHomePage::undoDelete()
 {
+    if (refused(palx::whyNotInsert(palx::currentRunRecovery(), palx::stacksNode()->node(), removed_.index)))
+        return;
+    const palx::KeptRecipes kept;
     ModuleObject *stack = palx::restoreStack(palx::stacksNode(), removed_);
     const QString was = removed_.node.getString(u"name");
     const QString name = stack->getString("name");
     removed_ = palx::RemovedStack();
+    kept.follow();
     listChanged(name);
     if (name != was)
         ui_->message->showMessage(tr("The recipe is back as \"%1\"; its name was taken.").arg(name),
@@ -389,7 +394,8 @@ void StackHomePage::openExport()
 
 void StackHomePage::undoImport()
 {
-    if (ImExportDialog::takeBackLastImport(palx::stacksNode()))
+    if (!refused(ImExportDialog::takeBackProblem(palx::stacksNode())) &&
+        ImExportDialog::takeBackLastImport(palx::stacksNode()))
         importChanged();
 }
 

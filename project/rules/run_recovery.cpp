@@ -125,11 +125,11 @@ void readCell(const Node &cell, const Node &variables, RunRecovery *run)
         run->isColumnUp = cell.getDouble(u"column.height") > lift / 2;
 }
 
-/// Whether programs stack a side or will, as they run.
+/// Whether programs stack a side, or will when they run.
 bool isServed(const RunRecovery &run, int side)
 {
-    return (run.isRunning || run.isPaused) &&
-           (run.served == side || run.sides[static_cast<std::size_t>(side)].isEnabled);
+    return run.sides[static_cast<std::size_t>(side)].isEnabled ||
+           ((run.isRunning || run.isPaused) && run.served == side);
 }
 
 } // namespace
@@ -222,7 +222,10 @@ QString whyNotRename(const RunRecovery &run, const QString &name)
     for (int i = 0; i < 2; ++i) {
         const SideRun &side = run.sides[static_cast<std::size_t>(i)];
         if (isServed(run, i) && (side.recipe == name || side.followed == name))
-            return Text::tr("Programs run with the recipe \"%1\". Stop them first!").arg(name);
+            return Text::tr("The %1 is stacked with the recipe \"%2\". Disable the side and let its pallet "
+                            "end, or stop the "
+                            "program!")
+                .arg(sideName(i), name);
         if (side.products > 0 && side.followed == name)
             return Text::tr("Products of the recipe \"%1\" lie on the %2!").arg(name, sideName(i));
     }
@@ -235,11 +238,10 @@ QString whyNotMove(const RunRecovery &run, const Node &stacks, const QString &na
         const QStringList names = sideRecipes(stacks, i == 0);
         const QString used = run.sides[static_cast<std::size_t>(i)].recipe;
         if (isServed(run, i) && names.contains(name) && names.indexOf(name) < names.indexOf(used))
-            return Text::tr(
-                       "Programs run with the recipe \"%1\", which stands behind this one: they would take "
-                       "another one. "
-                       "Stop them first!")
-                .arg(used);
+            return Text::tr("The %1 is stacked with the recipe \"%2\", which stands behind this one: another "
+                            "would take its "
+                            "place. Disable the side and let its pallet end, or stop the program!")
+                .arg(sideName(i), used);
     }
     return whyNotRename(run, name);
 }

@@ -203,10 +203,6 @@
         <source>The controller did not take the tool. The log may say why.</source>
         <translation>控制器未接受该工具。原因可查看日志。</translation>
     </message>
-    <message>
-        <source>Recipes would get other places, and the programs that run would take other ones. Stop them first!</source>
-        <translation>配方的位置会改变，正在运行的程序会取到别的配方。请先停止程序！</translation>
-    </message>
 </context>
 <context>
     <name>DirectionsFrame</name>
@@ -5266,14 +5262,6 @@ Pallet: %4</source>
         <translation>请先确认%1的层和件！</translation>
     </message>
     <message>
-        <source>Programs run with the recipe &quot;%1&quot;. Stop them first!</source>
-        <translation>程序正在使用配方“%1”。请先停止程序！</translation>
-    </message>
-    <message>
-        <source>Programs run with the recipe &quot;%1&quot;, which stands behind this one: they would take another one. Stop them first!</source>
-        <translation>程序正在使用排在此配方之后的“%1”：它们会取到别的配方。请先停止程序！</translation>
-    </message>
-    <message>
         <source>The lift column was stopped; go on with the start button of the cell!</source>
         <translation>升降柱已停止；请用单元的启动按钮继续！</translation>
     </message>
@@ -5288,6 +5276,18 @@ Pallet: %4</source>
     <message>
         <source>The product was lost; stop the program and confirm the piece!</source>
         <translation>产品已丢失；请停止程序并确认件号！</translation>
+    </message>
+    <message>
+        <source>Recipes would get other places, and the programs that run would take other ones. Stop them first!</source>
+        <translation>配方的位置会改变，正在运行的程序会取到别的配方。请先停止程序！</translation>
+    </message>
+    <message>
+        <source>The %1 is stacked with the recipe &quot;%2&quot;. Disable the side and let its pallet end, or stop the program!</source>
+        <translation>%1正在使用配方“%2”。请停用该侧并等托盘完成，或停止程序！</translation>
+    </message>
+    <message>
+        <source>The %1 is stacked with the recipe &quot;%2&quot;, which stands behind this one: another would take its place. Disable the side and let its pallet end, or stop the program!</source>
+        <translation>%1正在使用排在此配方之后的“%2”：别的配方会占用其位置。请停用该侧并等托盘完成，或停止程序！</translation>
     </message>
 </context>
 <context>

@@ -203,10 +203,6 @@
         <source>The controller did not take the tool. The log may say why.</source>
         <translation>コントローラがツールを受け取りませんでした。理由はログを見てください。</translation>
     </message>
-    <message>
-        <source>Recipes would get other places, and the programs that run would take other ones. Stop them first!</source>
-        <translation>レシピの順番が変わり、実行中のプログラムが別のレシピを取ります。先に停止してください！</translation>
-    </message>
 </context>
 <context>
     <name>DirectionsFrame</name>
@@ -5266,14 +5262,6 @@ Pallet: %4</source>
         <translation>先に%1の段と個を確認してください！</translation>
     </message>
     <message>
-        <source>Programs run with the recipe &quot;%1&quot;. Stop them first!</source>
-        <translation>プログラムがレシピ「%1」を使っています。先に停止してください！</translation>
-    </message>
-    <message>
-        <source>Programs run with the recipe &quot;%1&quot;, which stands behind this one: they would take another one. Stop them first!</source>
-        <translation>プログラムはこの後にあるレシピ「%1」を使っており、別のレシピを取ることになります。先に停止してください！</translation>
-    </message>
-    <message>
         <source>The lift column was stopped; go on with the start button of the cell!</source>
         <translation>昇降柱が停止しました。セルの起動ボタンで続けてください！</translation>
     </message>
@@ -5288,6 +5276,18 @@ Pallet: %4</source>
     <message>
         <source>The product was lost; stop the program and confirm the piece!</source>
         <translation>製品が失われました。プログラムを停止し、個を確認してください！</translation>
+    </message>
+    <message>
+        <source>Recipes would get other places, and the programs that run would take other ones. Stop them first!</source>
+        <translation>レシピの順番が変わり、実行中のプログラムが別のレシピを取ります。先に停止してください！</translation>
+    </message>
+    <message>
+        <source>The %1 is stacked with the recipe &quot;%2&quot;. Disable the side and let its pallet end, or stop the program!</source>
+        <translation>%1はレシピ「%2」を使用中です。側を無効にしてパレットの完了を待つか、プログラムを停止してください！</translation>
+    </message>
+    <message>
+        <source>The %1 is stacked with the recipe &quot;%2&quot;, which stands behind this one: another would take its place. Disable the side and let its pallet end, or stop the program!</source>
+        <translation>%1で使用中のレシピ「%2」はこの後にあり、別のレシピがその位置になります。側を無効にしてパレットの完了を待つか、プログラムを停止してください！</translation>
     </message>
 </context>
 <context>

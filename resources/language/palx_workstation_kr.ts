@@ -203,10 +203,6 @@
         <source>The controller did not take the tool. The log may say why.</source>
         <translation>컨트롤러가 툴을 받지 않았습니다. 이유는 로그에 있을 수 있습니다.</translation>
     </message>
-    <message>
-        <source>Recipes would get other places, and the programs that run would take other ones. Stop them first!</source>
-        <translation>레시피 순서가 바뀌어 실행 중인 프로그램이 다른 레시피를 쓰게 됩니다. 먼저 멈추십시오!</translation>
-    </message>
 </context>
 <context>
     <name>DirectionsFrame</name>
@@ -5266,14 +5262,6 @@ Pallet: %4</source>
         <translation>먼저 %1의 단과 개를 확인하십시오!</translation>
     </message>
     <message>
-        <source>Programs run with the recipe &quot;%1&quot;. Stop them first!</source>
-        <translation>프로그램이 레시피 &quot;%1&quot;을(를) 사용 중입니다. 먼저 멈추십시오!</translation>
-    </message>
-    <message>
-        <source>Programs run with the recipe &quot;%1&quot;, which stands behind this one: they would take another one. Stop them first!</source>
-        <translation>프로그램이 이 뒤에 있는 레시피 &quot;%1&quot;을(를) 사용 중이라 다른 레시피를 쓰게 됩니다. 먼저 멈추십시오!</translation>
-    </message>
-    <message>
         <source>The lift column was stopped; go on with the start button of the cell!</source>
         <translation>승강 기둥이 멈췄습니다. 셀의 시작 버튼으로 계속하십시오!</translation>
     </message>
@@ -5288,6 +5276,18 @@ Pallet: %4</source>
     <message>
         <source>The product was lost; stop the program and confirm the piece!</source>
         <translation>제품을 잃었습니다. 프로그램을 멈추고 개를 확인하십시오!</translation>
+    </message>
+    <message>
+        <source>Recipes would get other places, and the programs that run would take other ones. Stop them first!</source>
+        <translation>레시피 순서가 바뀌어 실행 중인 프로그램이 다른 레시피를 쓰게 됩니다. 먼저 멈추십시오!</translation>
+    </message>
+    <message>
+        <source>The %1 is stacked with the recipe &quot;%2&quot;. Disable the side and let its pallet end, or stop the program!</source>
+        <translation>%1에서 레시피 &quot;%2&quot;을(를) 사용 중입니다. 그 쪽을 끄고 팔레트를 마치게 하거나 프로그램을 멈추십시오!</translation>
+    </message>
+    <message>
+        <source>The %1 is stacked with the recipe &quot;%2&quot;, which stands behind this one: another would take its place. Disable the side and let its pallet end, or stop the program!</source>
+        <translation>%1에서 사용 중인 레시피 &quot;%2&quot;이(가) 이 뒤에 있어 다른 레시피가 그 자리에 옵니다. 그 쪽을 끄고 팔레트를 마치게 하거나 프로그램을 멈추십시오!</translation>
     </message>
 </context>
 <context>

@@ -203,10 +203,6 @@
         <source>The controller did not take the tool. The log may say why.</source>
         <translation>Контроллер не принял инструмент. Причина может быть в журнале.</translation>
     </message>
-    <message>
-        <source>Recipes would get other places, and the programs that run would take other ones. Stop them first!</source>
-        <translation>Рецепты сменили бы места, и работающие программы взяли бы другие. Сначала остановите программы!</translation>
-    </message>
 </context>
 <context>
     <name>DirectionsFrame</name>
@@ -5268,14 +5264,6 @@ Pallet: %4</source>
         <translation>Сначала подтвердите слой и изделие: %1!</translation>
     </message>
     <message>
-        <source>Programs run with the recipe &quot;%1&quot;. Stop them first!</source>
-        <translation>Программы работают с рецептом «%1». Сначала остановите их!</translation>
-    </message>
-    <message>
-        <source>Programs run with the recipe &quot;%1&quot;, which stands behind this one: they would take another one. Stop them first!</source>
-        <translation>Программы работают с рецептом «%1», который стоит после этого: они взяли бы другой. Сначала остановите их!</translation>
-    </message>
-    <message>
         <source>The lift column was stopped; go on with the start button of the cell!</source>
         <translation>Подъёмная колонна остановлена; продолжите кнопкой пуска ячейки!</translation>
     </message>
@@ -5290,6 +5278,18 @@ Pallet: %4</source>
     <message>
         <source>The product was lost; stop the program and confirm the piece!</source>
         <translation>Изделие потеряно; остановите программу и подтвердите изделие!</translation>
+    </message>
+    <message>
+        <source>Recipes would get other places, and the programs that run would take other ones. Stop them first!</source>
+        <translation>Рецепты сменили бы места, и работающие программы взяли бы другие. Сначала остановите программы!</translation>
+    </message>
+    <message>
+        <source>The %1 is stacked with the recipe &quot;%2&quot;. Disable the side and let its pallet end, or stop the program!</source>
+        <translation>Рецепт «%2» занят (%1). Выключите сторону и дайте закончить паллету или остановите программу!</translation>
+    </message>
+    <message>
+        <source>The %1 is stacked with the recipe &quot;%2&quot;, which stands behind this one: another would take its place. Disable the side and let its pallet end, or stop the program!</source>
+        <translation>Рецепт «%2» (%1) стоит после этого: его место занял бы другой. Выключите сторону и дайте закончить паллету или остановите программу!</translation>
     </message>
 </context>
 <context>

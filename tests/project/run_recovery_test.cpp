@@ -202,7 +202,8 @@ TEST(RunRecovery, RecipesThatAreUsedKeepTheirNameAndPlace)
         const char *fixedNames;
         const char *fixedPlaces;
     } cases[] = {
-        {"nothing runs", {"stopped", 1, {1, 1}, 0, {1, 1}, "Used"}, true, "", ""},
+        {"nothing runs", {"stopped", 1, {1, 1}, 0, {1, 1}, "Used"}, false, "", ""},
+        {"may start any time", {"stopped", 0, {1, 1}, 0, {1, 1}, ""}, true, "Used", "First Used"},
         {"stacks", {"running", 1, {1, 1}, 0, {1, 1}, "Used"}, false, "Used", "First Used"},
         {"waits for its turn",
          {"paused", 2, {1, 1}, 0, {1, 1}, "Last"},
@@ -211,7 +212,11 @@ TEST(RunRecovery, RecipesThatAreUsedKeepTheirNameAndPlace)
          "First Used Last"},
         {"is not wanted", {"running", 2, {1, 1}, 0, {1, 1}, "Used"}, false, "", ""},
         {"lies there", {"stopped", 0, {1, 2}, 1, {1, 2}, "Last"}, false, "Last", "Last"},
-        {"unknown", {"", 0, {1, 1}, 0, {1, 1}, "", false, false, false}, true, "", ""},
+        {"the cell tells nothing",
+         {"", 0, {1, 1}, 0, {1, 1}, "", false, false, false},
+         true,
+         "Used",
+         "First Used"},
     };
     for (const auto &c : cases) {
         Node variables = variablesOf(c.cell);

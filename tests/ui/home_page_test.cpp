@@ -95,13 +95,13 @@ TEST(HomePage, CopiesAndRenames)
     click(pages, "btnCopy");
     EXPECT_EQ(pages.center.findChild<NameDialog *>()->name(), "Box1");
     answerName(pages, "Crate");
-    EXPECT_EQ(shownNames(pages).join(' '), "Box Crate Bag");
+    EXPECT_EQ(shownNames(pages).join(' '), "Box Bag Crate");
     EXPECT_EQ(pages.home->chosenStack()->getString("name"), "Crate");
     click(pages, "btnRename");
     EXPECT_NE(answerName(pages, "Bag"), QString());
     click(pages, "btnRename");
     answerName(pages, "Case", "for bottles");
-    EXPECT_EQ(shownNames(pages).join(' '), "Box Case Bag");
+    EXPECT_EQ(shownNames(pages).join(' '), "Box Bag Case");
     EXPECT_EQ(palx::getStack("Case")->getString("desc"), "for bottles");
 }
 

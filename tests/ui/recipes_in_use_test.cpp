@@ -2,18 +2,24 @@
 
 #include "project/rules/first_project.h"
 #include "stack/recipe_edit.h"
+#include "stack/recipe_exchange.h"
 #include "stack/recipe_file.h"
+#include "support/scripted_files.h"
 #include "ui/controller_dialog.h"
+#include "ui/imexportdialog.h"
 #include "ui/name_dialog.h"
 #include "ui/page_fixture.h"
 #include "ui/robot_cell.h"
 #include "workstation/controller_sync.h"
 #include "workstation/plugin_node.h"
+#include "workstation/progress.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QRadioButton>
 #include <QTemporaryDir>
 
 namespace {
@@ -42,12 +48,16 @@ protected:
         options.workspaceFolder = folder.path();
         return options;
     }
-    /// The left side stacks its second recipe.
-    void runSecond()
+    /// The left side uses its second recipe.
+    void enableSecond(bool on)
     {
         palx::setValueOfPERSVar("palletIndexL", "1");
-        palx::setValueOfPERSVar("enableStackL", "1");
+        palx::setValueOfPERSVar("enableStackL", on ? "1" : "0");
         cell.settle();
+    }
+    void runSecond()
+    {
+        enableSecond(true);
         EXPECT_TRUE(xservice()->set(nullptr, "program.run", orba::Node()).isOk());
         xservice()->set(nullptr, "program.speed", nodeFromJson(R"({"factor":100})"));
         cell.pass(0.3);
@@ -81,6 +91,14 @@ protected:
             names << reply.value.at(i)->getString(u"name");
         return names.join(' ');
     }
+    /// Of the left side's recipe, by its programs' counting.
+    static qint64 place()
+    {
+        for (const orba::ModuleObject *each : m("quill.project.var._list")->cmobjs())
+            if (each->getString("name") == "palletIndexL")
+                return each->r("value.#0")->getInt();
+        return -1;
+    }
     static QString names()
     {
         QStringList names;
@@ -106,7 +124,7 @@ TEST_F(RecipesInUseTest, TheControllerLearnsANewName)
 {
     ASSERT_TRUE(isCompared("= 3"));
     EXPECT_EQ(rename("Used", "Crates"), "");
-    EXPECT_EQ(held(), "First Crates Cell right");
+    EXPECT_EQ(held(), "First Cell right Crates");
     EXPECT_TRUE(isCompared("= 3"));
 }
 
@@ -114,13 +132,14 @@ TEST_F(RecipesInUseTest, KeepTheirNameAndPlaceWhileProgramsRunAndProductsLieTher
 {
     ASSERT_TRUE(isCompared("= 3"));
     runSecond();
-    const char *running = "Programs run with the recipe \"Used\"";
+    const QString running = "The left pallet is stacked with the recipe \"Used\"";
     for (const char *recipe : {"Used", "First"}) { // the second one would come to the first place
         press(recipe, "btnDelete");
         EXPECT_TRUE(message().startsWith(running)) << qPrintable(message());
     }
-    EXPECT_EQ(rename("Used", "Crates"), QString::fromUtf8(running) + ". Stop them first!");
-    EXPECT_EQ(names(), "First Used Cell right");
+    EXPECT_EQ(rename("Used", "Crates"),
+              running + ". Disable the side and let its pallet end, or stop the program!");
+    EXPECT_EQ(names(), "First Cell right Used");
     pages.open("First", OpenRecipe::Pallet);
     EXPECT_FALSE(pages.field<QComboBox>("cmbPosition")->isEnabled());
     const auto *notice = pages.setup->wgt()->findChild<MessageBar *>();
@@ -131,18 +150,58 @@ TEST_F(RecipesInUseTest, KeepTheirNameAndPlaceWhileProgramsRunAndProductsLieTher
     cell.pass(1); // a product is set down
     EXPECT_GT(m("nexo.cell.pallets.#0")->getInt("count"), 0);
     EXPECT_TRUE(xservice()->set(nullptr, "program.stop", orba::Node()).isOk());
-    cell.settle();
+    enableSecond(false);
     EXPECT_EQ(rename("Used", "Crates"), "Products of the recipe \"Used\" lie on the left pallet!");
     EXPECT_FALSE(pages.field<QComboBox>("cmbPosition")->isEnabled());
     pages.open("First", OpenRecipe::Pallet);
     EXPECT_TRUE(pages.field<QComboBox>("cmbPosition")->isEnabled());
     EXPECT_EQ(rename("First", "Other"), "");
-    EXPECT_EQ(held(), "Other Used Cell right");
+    EXPECT_EQ(held(), "Other Cell right Used");
+}
+
+TEST_F(RecipesInUseTest, ImportsLeaveThemToTheSidesThatUseThem)
+{
+    const QString file = QDir(workspace.path()).filePath("recipes.xml");
+    palx::NoProgress nobody;
+    const orba::Node prototype =
+        *palx::templateStackOf(palx::stacksNode()->node(), palx::pluginNode()->node());
+    ASSERT_TRUE(
+        palx::writeExchangeFile(
+            palx::makeTempList(palx::stacksNode()->node(), &prototype, {true, false, false}), file, nobody)
+            .error.isEmpty());
+    const ScriptedFiles files({{file}, {file}});
+    const auto replaceFirst = [&] {
+        press("Used", "btnImport");
+        auto *dialog = pages.center.findChild<ImExportDialog *>();
+        dialog->openFile();
+        partOf<QRadioButton>(*dialog, "optReplace")->click();
+        partOf<QPushButton>(*dialog, "btnOk")->click();
+        const QString said = partOf<MessageBar>(*dialog, "message")->text();
+        delete dialog;
+        cell.settle();
+        return said;
+    };
+    enableSecond(true);
+    EXPECT_TRUE(replaceFirst().startsWith("The left pallet is stacked"));
+    EXPECT_EQ(names(), "First Cell right Used");
+    enableSecond(false);
+    replaceFirst(); // which stands last then
+    EXPECT_EQ(held(), "Cell right Used First");
+    EXPECT_EQ(place(), 0);
+    cell.presenter.answer(true);
+    partOf<QPushButton>(*pages.field<QListView>("lstRecipes")->parentWidget()->findChild<MessageBar *>(),
+                        "btnAction")
+        ->click();
+    cell.settle();
+    EXPECT_EQ(held(), "First Cell right Used");
+    EXPECT_EQ(place(), 1);
 }
 
 TEST_F(RecipesInUseTest, ProgramsThatRunGetNoListInAnotherOrder)
 {
-    palx::copyStack(palx::stacksNode()->cmobj(0), QStringLiteral("Between"));
+    orba::Node between = palx::stacksNode()->cmobj(0)->node();
+    between.ensure(u"name")->setString(QStringLiteral("Between"));
+    palx::restoreStack(palx::stacksNode(), {between, 1});
     ASSERT_TRUE(isCompared("\u2260 3"));
     runSecond();
     const auto push =
@@ -153,9 +212,9 @@ TEST_F(RecipesInUseTest, ProgramsThatRunGetNoListInAnotherOrder)
             return partOf<MessageBar>(*dialog, "message")->text();
         };
     EXPECT_TRUE(push().startsWith("Recipes would get other places")) << qPrintable(push());
-    EXPECT_EQ(held(), "First Used Cell right");
+    EXPECT_EQ(held(), "First Cell right Used");
     EXPECT_TRUE(xservice()->set(nullptr, "program.stop", orba::Node()).isOk());
     cell.settle();
     EXPECT_EQ(push(), "The controller took all 4 recipes.");
-    EXPECT_EQ(held(), "First Between Used Cell right");
+    EXPECT_EQ(held(), "First Between Cell right Used");
 }
