@@ -52,7 +52,7 @@ QStringList recipeWarnings(orba::ModuleObject *recipe)
     }
     const Node &plugin = palx::pluginNodeOf(stack);
     return warnings + palx::layerProblems(stack) + palx::untaughtPoints(stack, plugin) +
-           mixedTowards(recipe, plugin);
+           palx::lowWaypoints(stack, plugin) + mixedTowards(recipe, plugin);
 }
 
 QByteArray reviewsJson(const QVector<RecipeReview> &reviews)

@@ -2,6 +2,7 @@
 #include "pattern/plan_style.h"
 #include "pattern/recipe_picture.h"
 #include "pattern/stackpatternscene.h"
+#include "stack/recipe_patterns.h"
 
 #include <QPainter>
 

@@ -1,5 +1,6 @@
 #include "stack/recipe_layers.h"
 
+#include "stack/recipe_patterns.h"
 #include "stack/stack_check.h"
 
 #include <QCoreApplication>
@@ -22,12 +23,6 @@ int layerCount(const Node &stack)
 {
     const Node *layers = stack.find(u"layers");
     return layers ? layers->size() : 0;
-}
-
-const Node *patternOf(const Node &stack, const QString &name)
-{
-    const Node *patterns = stack.find(u"patterns");
-    return patterns ? patterns->child(QStringView(name)) : nullptr;
 }
 
 double layerHeight(const Node &stack, const LayerFacts &layer)
@@ -69,7 +64,7 @@ QString layerProblem(const Node &stack, const LayerFacts &layer, bool afterEmpty
         return LayerText::tr("has no pattern; this layer and those above it get no points");
     if (layer.pattern == kSheetPattern)
         return sheetProblem(stack);
-    if (!patternOf(stack, layer.pattern))
+    if (!findPattern(stack, layer.pattern))
         return LayerText::tr("uses the pattern \"%1\", which this recipe does not have").arg(layer.pattern);
     if (layer.products == 0)
         return LayerText::tr("uses the pattern \"%1\", which holds no products").arg(layer.pattern);
@@ -88,7 +83,7 @@ QVector<LayerFacts> layerFacts(const Node &stack)
         const QString path = QStringLiteral("layers.#%1.").arg(i);
         LayerFacts &layer = facts[i];
         layer.pattern = stack.getString(QString(path + QLatin1String("pattern")));
-        const Node *pattern = patternOf(stack, layer.pattern);
+        const Node *pattern = findPattern(stack, layer.pattern);
         layer.products = pattern ? pattern->size() : 0;
         reached = reached && !layer.pattern.isEmpty();
         layer.reached = reached;
@@ -161,7 +156,7 @@ orba::ModuleObject *insertLayer(orba::ModuleObject *stack, int index, const QStr
 bool setLayerPattern(orba::ModuleObject *stack, int index, const QString &pattern)
 {
     const bool known =
-        pattern == kSheetPattern || pattern == kEmptyPattern || patternOf(stack->node(), pattern);
+        pattern == kSheetPattern || pattern == kEmptyPattern || findPattern(stack->node(), pattern);
     if (!known || index < 0 || index >= layerCount(stack->node()))
         return false;
     const QString path = QStringLiteral("layers.#%1.pattern").arg(index);

@@ -19,12 +19,6 @@ struct PatternText
     Q_DECLARE_TR_FUNCTIONS(PatternText)
 };
 
-const Node *patternNode(const Node &stack, const QString &name)
-{
-    const Node *patterns = stack.find(u"patterns");
-    return patterns ? patterns->child(QStringView(name)) : nullptr;
-}
-
 ModuleObject *patternMobj(ModuleObject *stack, const QString &name)
 {
     return stack->r("patterns")->c(name);
@@ -160,6 +154,12 @@ QString proposePatternName(const Node &stack)
     return QStringLiteral("A%1").arg(number);
 }
 
+const Node *findPattern(const Node &stack, const QString &name)
+{
+    const Node *patterns = stack.find(u"patterns");
+    return patterns ? patterns->child(QStringView(name)) : nullptr;
+}
+
 QStringList patternNames(const Node &stack)
 {
     QStringList names;
@@ -276,7 +276,7 @@ bool moveItem(ModuleObject *stack, const QString &name, int from, int to)
 
 int otherSizedItems(const Node &stack, const QString &name)
 {
-    const Node *pattern = patternNode(stack, name);
+    const Node *pattern = findPattern(stack, name);
     const ItemSize size = productSize(stack);
     int count = 0;
     for (int i = 0; pattern && i < pattern->size(); ++i) {

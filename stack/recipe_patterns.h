@@ -34,6 +34,8 @@ PALX_API QString patternNameProblem(const orba::Node &stack, const QString &name
 /// The first free single letter from "A", then "A1", "A2", ...
 PALX_API QString proposePatternName(const orba::Node &stack);
 PALX_API QStringList patternNames(const orba::Node &stack);
+/// The items of a pattern; null when there is none of that name.
+PALX_API const orba::Node *findPattern(const orba::Node &stack, const QString &name);
 /// How many layers use the pattern.
 PALX_API int patternUse(const orba::Node &stack, const QString &name);
 

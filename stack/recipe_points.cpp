@@ -1,6 +1,7 @@
 #include "stack/recipe_points.h"
 
 #include "stack/place_frame.h"
+#include "stack/recipe_patterns.h"
 #include "stack/tool_record.h"
 #include "workstation/plugin_node.h"
 
@@ -84,6 +85,22 @@ QStringList unmeasuredTool(const Node &stack, const Node &plugin)
                      : PointText::tr("The recipe's tool is not measured, so the flange is taken for it.")};
 }
 
+/// Whether a product comes straight from above in a layer with others. The last layer has a ready height of its own.
+bool comesBetweenNeighbours(const Node &stack)
+{
+    const Node *layers = stack.find(u"layers");
+    for (int i = 0; layers && i < layers->size() - 1; ++i) {
+        const Node *pattern = findPattern(stack, layers->at(i)->getString(u"pattern"));
+        for (int k = 0; pattern && pattern->size() > 1 && k < pattern->size(); ++k) {
+            const Node &item = *pattern->at(k);
+            const bool isMiddle = item.getString(u"direction").compare(u"Middle", Qt::CaseInsensitive) == 0;
+            if (isMiddle || (item.getDouble(u"dx") == 0 && item.getDouble(u"dy") == 0))
+                return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 bool isTaught(const Node *point)
@@ -117,6 +134,20 @@ bool teachPoint(Node &point, const Node &robot, const PointFrame &frame)
     for (int i = 0; joints && i < near->size(); ++i)
         near->setNumber(i, joints->number(i));
     return true;
+}
+
+QStringList lowWaypoints(const Node &stack, const Node &plugin)
+{
+    const double ready = stack.getDouble(u"put.ready_h");
+    const double product = stack.getDouble(u"product_cfg.product.height");
+    if (ready >= product || isOnePointCalibrated(stack, plugin) || !comesBetweenNeighbours(stack))
+        return {};
+    return {
+        PointText::tr(
+            "The ready height of the place side, %1 mm, is less than the product's height, %2 mm: what comes "
+            "straight from above could hit the products beside its place.")
+            .arg(ready)
+            .arg(product)};
 }
 
 QStringList untaughtPoints(const Node &stack, const Node &plugin)

@@ -131,6 +131,7 @@ void PointsFrame::showState()
         texts << tr("The recipe or the shared settings were changed: generate the points again.");
     texts += palx::layerProblems(stack()->node());
     texts += palx::untaughtPoints(stack()->node(), palx::pluginNodeOf(stack()->node()));
+    texts += palx::lowWaypoints(stack()->node(), palx::pluginNodeOf(stack()->node()));
     const bool good = texts.isEmpty();
     showWarnings(ui_->lblState, good ? QStringList{tr("The points are up to date.")} : texts);
     ix::xtheme::setState(ui_->lblState, good ? State::None : State::Attention);

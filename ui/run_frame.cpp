@@ -66,6 +66,8 @@ RunFrame::RunFrame(const palx::ControllerRecipes *recipes, QWidget *parent)
         addCard(side);
     ui_->btnMake->setIcon(ix::xtheme::icon(ix::xtheme::Glyph::Add));
     connect(ui_->btnMake, &QPushButton::clicked, this, &RunFrame::makeProject);
+    if (recipes_)
+        connect(recipes_, &palx::ControllerRecipes::changed, this, &RunFrame::dropMismatch);
     refresh_.setSingleShot(true);
     connect(&refresh_, &QTimer::timeout, this, &RunFrame::refresh);
     for (const char *path : {"quill.project.cur_project", "nexo.r.connected",
@@ -179,6 +181,7 @@ const orba::Node *RunFrame::recipeOf(const RunSideCard *card) const
 
 void RunFrame::refuse(const QString &why)
 {
+    refused_ = nullptr;
     ui_->message->showMessage(why, State::Fault);
 }
 
@@ -186,6 +189,7 @@ void RunFrame::refuse(const QString &why)
 void RunFrame::ask(RunSideCard *card, const palx::VariableChanges &changes)
 {
     card->setWaiting(true);
+    refused_ = nullptr;
     ui_->message->showMessage(tr("Waiting for the controller."), State::Manual);
     palx::setValueOfPERSVar(changes, card, [this, card](const XReply &reply) {
         card->setWaiting(false);
@@ -208,9 +212,18 @@ void RunFrame::setEnabledSide(RunSideCard *card, bool on)
     if (problem.isEmpty())
         problem = palx::whyNotEnable(run, numberOf(card));
     if (problem.isEmpty())
-        ask(card, enablingChanges(card));
-    else
-        refuse(problem);
+        return ask(card, enablingChanges(card));
+    refuse(problem);
+    refused_ = recipeProblem(card).isEmpty() ? nullptr : card;
+}
+
+/// What was refused because of the recipes may be true no more.
+void RunFrame::dropMismatch()
+{
+    if (!refused_ || !recipeProblem(refused_).isEmpty())
+        return;
+    refused_ = nullptr;
+    ui_->message->clearMessage();
 }
 
 /// Why the side's recipe cannot be stacked.

@@ -73,6 +73,7 @@ private:
     const orba::Node *recipeOf(const RunSideCard *card) const;
     QString recipeProblem(const RunSideCard *card) const;
     static palx::VariableChanges enablingChanges(const RunSideCard *card);
+    void dropMismatch();
     QString recipeMismatch(const QString &name) const;
 
     std::unique_ptr<Ui::RunFrame> ui_;
@@ -82,6 +83,7 @@ private:
     QTimer refresh_;                               ///< one for all changes of a turn of the loop
     std::array<BrokenOff, 2> brokenOff_;
     QPointer<QDialog> dialog_;
+    const RunSideCard *refused_ = nullptr; ///< because of whose recipe the message says no
     bool hasLine_ = false;
     bool isStale_ = true; ///< the nodes that are followed are others now
 };

@@ -9,8 +9,10 @@ using orba::Node;
 
 namespace {
 
-constexpr int kNumbersOfBox =
-    10; // layer, piece, position [m], quaternion without its real part, errorMm, errorDeg
+// Layer, piece, position [m], quaternion without its real part, errorMm, errorDeg, half of the size [m]. A recipe may be edited
+// while its products lie there, which does not change them; without a size, as it was kept once, it is the recipe's.
+constexpr int kNumbersOfBox = 13;
+constexpr int kNumbersWithoutSize = 10;
 
 /// The numbers by which a resting box is kept.
 std::array<double, kNumbersOfBox> numbersOf(const Resting &box)
@@ -28,7 +30,10 @@ std::array<double, kNumbersOfBox> numbersOf(const Resting &box)
             turn.y(),
             turn.z(),
             box.errorMm,
-            box.errorDeg};
+            box.errorDeg,
+            box.body.block.half.x(),
+            box.body.block.half.y(),
+            box.body.block.half.z()};
 }
 
 Pose poseFrom(const Node &numbers)
@@ -137,11 +142,14 @@ void PalletPlace::restore(const Node &kept, std::shared_ptr<const RecipePlan> pl
     const Node *boxes = kept.child(QStringView(u"boxes"));
     for (int i = 0; boxes && i < boxes->size(); ++i) {
         const Node *numbers = boxes->at(i);
-        if (!numbers || numbers->size() != kNumbersOfBox)
+        const int count = numbers ? numbers->size() : 0;
+        if (count != kNumbersOfBox && count != kNumbersWithoutSize)
             continue; // edited by hand
         Body box{Body::Kind::Box, side_, static_cast<int>(numbers->number(0)),
                  static_cast<int>(numbers->number(1)), plan_->productAt(Pose::Identity())};
         box.block.pose = poseFrom(*numbers);
+        if (count == kNumbersOfBox)
+            box.block.half = Vector(numbers->number(10), numbers->number(11), numbers->number(12));
         addBox({box, numbers->number(8), numbers->number(9)});
     }
 }

@@ -3,6 +3,7 @@
 #include "pattern/rules/edit_turn.h"
 #include "pattern/rules/edit_write.h"
 #include "pattern/rules/stack_plan.h"
+#include "stack/recipe_patterns.h"
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #include "pattern/rules/stack_plan.h"
 
 #include "stack/recipe_layers.h"
+#include "stack/recipe_patterns.h"
 
 #include <algorithm>
 #include <cmath>
@@ -117,11 +118,6 @@ StackPlan readStackPlan(const Node &stack)
     readMargins(nodeAt(stack, u"wobj_margin"), &plan);
     readLayers(stack, &plan);
     return plan;
-}
-
-const Node *findPattern(const Node &stack, const QString &name)
-{
-    return nodeAt(stack, u"patterns").child(QStringView(name));
 }
 
 QRectF sheetRect(const QSizeF &sheet, const QSizeF &pallet)

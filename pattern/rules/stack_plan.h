@@ -60,8 +60,6 @@ constexpr double kMaxStackMm = 100000; ///< heights beyond are drawn there
 
 /// Never fails: what is missing is replaced by something that can be drawn.
 PALX_API StackPlan readStackPlan(const orba::Node &stack);
-/// The pattern that a layer of products names, or null.
-PALX_API const orba::Node *findPattern(const orba::Node &stack, const QString &name);
 
 /// Where a separator sheet of that size lies on the plan: in the middle of the pallet.
 PALX_API QRectF sheetRect(const QSizeF &sheet, const QSizeF &pallet);

@@ -88,7 +88,23 @@ void readCounters(const Node &variables, const Node &stacks, int side, SideRun *
                                            numberOf(variables, onSide("layerCount", side), 1)});
 }
 
-void readPallet(const Node &pallet, SideRun *run)
+/// Whether the first product that lies there has the size of the recipe's; true where nobody knows.
+bool isOfSize(const Node &pallet, const Node &stack)
+{
+    constexpr double kToleranceMm = 1;
+    const Node *boxes = pallet.child(u"boxes");
+    const Node *box = boxes ? boxes->at(0) : nullptr; // a block: place, turn, length, width, height
+    if (!box || box->size() < 7)
+        return true;
+    const auto isNear = [](double a, double b) { return std::abs(a - b) <= kToleranceMm; };
+    const double length = stack.getDouble(u"product_cfg.product.length");
+    const double width = stack.getDouble(u"product_cfg.product.width");
+    return isNear(box->number(6), stack.getDouble(u"product_cfg.product.height")) &&
+           isNear(box->number(4) + box->number(5), length + width) &&
+           isNear(std::max(box->number(4), box->number(5)), std::max(length, width));
+}
+
+void readPallet(const Node &pallet, const Node &stacks, SideRun *run)
 {
     run->products = static_cast<int>(pallet.getInt(u"count"));
     run->followed = pallet.getString(u"recipe");
@@ -97,6 +113,8 @@ void readPallet(const Node &pallet, SideRun *run)
         return;
     }
     run->isKnown = true;
+    const Node *stack = run->products > 0 ? recordOfName(stacks, run->recipe) : nullptr;
+    run->isOtherSize = stack && !isOfSize(pallet, *stack);
     run->lying = firstFrom(run->pieces, {static_cast<int>(pallet.getInt(u"layer", 1)),
                                          static_cast<int>(pallet.getInt(u"piece", 1))});
 }
@@ -146,7 +164,7 @@ RunRecovery readRunRecovery(const Node &cell, const Node &variables, const Node 
         SideRun &side = run.sides[static_cast<std::size_t>(i)];
         readCounters(variables, stacks, i, &side);
         if (pallets && pallets->at(i))
-            readPallet(*pallets->at(i), &side);
+            readPallet(*pallets->at(i), stacks, &side);
         side.isInterrupted = run.isCellKnown && !run.isRunning && !run.isPaused && run.served == i;
         propose(&side);
     }
@@ -158,7 +176,8 @@ bool needsConfirmation(const RunRecovery &run, int side)
     const SideRun &at = run.sides[static_cast<std::size_t>(side)];
     if (!run.isCellKnown || run.isRunning || run.isPaused || at.recipe.isEmpty())
         return false;
-    return at.isInterrupted || !at.foreign.isEmpty() || (at.isKnown && at.counted != at.lying);
+    return at.isInterrupted || !at.foreign.isEmpty() || at.isOtherSize ||
+           (at.isKnown && at.counted != at.lying);
 }
 
 QString whyNotConfirm(const RunRecovery &run, int side, PalletPiece piece)
@@ -172,6 +191,10 @@ QString whyNotConfirm(const RunRecovery &run, int side, PalletPiece piece)
         return Text::tr("Clear the gripper first!");
     if (!at.foreign.isEmpty())
         return Text::tr("Products of the recipe \"%1\" lie on the %2!").arg(at.foreign, sideName(side));
+    if (at.isOtherSize)
+        return Text::tr("The products on the %1 are not of the recipe's size. Take them off, or change the "
+                        "recipe back!")
+            .arg(sideName(side));
     if (at.isKnown && at.isFull)
         return Text::tr("The %1 is full; replace it first!").arg(sideName(side));
     if (piece.layer < 1 || piece.layer > at.pieces.size())
@@ -253,7 +276,8 @@ bool isMiscounted(const RunRecovery &run)
     const SideRun &at = run.sides[static_cast<std::size_t>(run.served)];
     const PalletPiece next =
         firstFrom(at.pieces, {at.counted.layer, at.counted.piece + 1}); // put down, not counted yet
-    return !at.foreign.isEmpty() || (at.isKnown && at.lying != at.counted && at.lying != next);
+    return !at.foreign.isEmpty() || at.isOtherSize ||
+           (at.isKnown && at.lying != at.counted && at.lying != next);
 }
 
 GoOn howToGoOn(const RunRecovery &run)

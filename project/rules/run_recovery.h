@@ -36,6 +36,7 @@ struct SideRun
     bool isEnabled = false;
     int products = 0;           ///< that lie there
     QString followed;           ///< recipe that the programs chose last; empty before the first
+    bool isOtherSize = false;   ///< the products that lie there are not of the size that the recipe says now
     bool isInterrupted = false; ///< the program broke off while it stacked this side
     QString foreign;            ///< recipe of the products that lie there, when it is another one
 };

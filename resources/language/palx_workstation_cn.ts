@@ -2563,6 +2563,10 @@ mm</translation>
         <source>The recipe&apos;s tool is not measured, so the flange is taken for it.</source>
         <translation>配方的工具未测量，因此以法兰代替。</translation>
     </message>
+    <message>
+        <source>The ready height of the place side, %1 mm, is less than the product&apos;s height, %2 mm: what comes straight from above could hit the products beside its place.</source>
+        <translation>放置侧的准备高度 %1 mm 小于产品高度 %2 mm：从正上方放下的产品可能碰到旁边的产品。</translation>
+    </message>
 </context>
 <context>
     <name>PointsFrame</name>
@@ -5288,6 +5292,10 @@ Pallet: %4</source>
     <message>
         <source>The %1 is stacked with the recipe &quot;%2&quot;, which stands behind this one: another would take its place. Disable the side and let its pallet end, or stop the program!</source>
         <translation>%1正在使用排在此配方之后的“%2”：别的配方会占用其位置。请停用该侧并等托盘完成，或停止程序！</translation>
+    </message>
+    <message>
+        <source>The products on the %1 are not of the recipe&apos;s size. Take them off, or change the recipe back!</source>
+        <translation>%1上的产品尺寸与配方不符。请取下产品或改回配方！</translation>
     </message>
 </context>
 <context>

@@ -2563,6 +2563,10 @@ mm</translation>
         <source>The recipe&apos;s tool is not measured, so the flange is taken for it.</source>
         <translation>レシピのツールが測定されていないため、フランジがツールとして扱われます。</translation>
     </message>
+    <message>
+        <source>The ready height of the place side, %1 mm, is less than the product&apos;s height, %2 mm: what comes straight from above could hit the products beside its place.</source>
+        <translation>置き側の準備高さ %1 mm が製品の高さ %2 mm より低く、真上から来る製品が隣の製品に当たるおそれがあります。</translation>
+    </message>
 </context>
 <context>
     <name>PointsFrame</name>
@@ -5288,6 +5292,10 @@ Pallet: %4</source>
     <message>
         <source>The %1 is stacked with the recipe &quot;%2&quot;, which stands behind this one: another would take its place. Disable the side and let its pallet end, or stop the program!</source>
         <translation>%1で使用中のレシピ「%2」はこの後にあり、別のレシピがその位置になります。側を無効にしてパレットの完了を待つか、プログラムを停止してください！</translation>
+    </message>
+    <message>
+        <source>The products on the %1 are not of the recipe&apos;s size. Take them off, or change the recipe back!</source>
+        <translation>%1の製品はレシピの寸法と違います。取り除くか、レシピを元に戻してください！</translation>
     </message>
 </context>
 <context>

@@ -2563,6 +2563,10 @@ mm</translation>
         <source>The recipe&apos;s tool is not measured, so the flange is taken for it.</source>
         <translation>레시피의 툴이 측정되지 않아 플랜지를 툴로 사용합니다.</translation>
     </message>
+    <message>
+        <source>The ready height of the place side, %1 mm, is less than the product&apos;s height, %2 mm: what comes straight from above could hit the products beside its place.</source>
+        <translation>놓기 쪽 준비 높이 %1 mm이(가) 제품 높이 %2 mm보다 낮아 바로 위에서 내려오는 제품이 옆 제품에 부딪힐 수 있습니다.</translation>
+    </message>
 </context>
 <context>
     <name>PointsFrame</name>
@@ -5288,6 +5292,10 @@ Pallet: %4</source>
     <message>
         <source>The %1 is stacked with the recipe &quot;%2&quot;, which stands behind this one: another would take its place. Disable the side and let its pallet end, or stop the program!</source>
         <translation>%1에서 사용 중인 레시피 &quot;%2&quot;이(가) 이 뒤에 있어 다른 레시피가 그 자리에 옵니다. 그 쪽을 끄고 팔레트를 마치게 하거나 프로그램을 멈추십시오!</translation>
+    </message>
+    <message>
+        <source>The products on the %1 are not of the recipe&apos;s size. Take them off, or change the recipe back!</source>
+        <translation>%1의 제품 크기가 레시피와 다릅니다. 제품을 치우거나 레시피를 되돌리십시오!</translation>
     </message>
 </context>
 <context>

@@ -2563,6 +2563,10 @@ mm</translation>
         <source>The recipe&apos;s tool is not measured, so the flange is taken for it.</source>
         <translation>Инструмент рецепта не измерен, вместо него берётся фланец.</translation>
     </message>
+    <message>
+        <source>The ready height of the place side, %1 mm, is less than the product&apos;s height, %2 mm: what comes straight from above could hit the products beside its place.</source>
+        <translation>Высота ожидания стороны укладки, %1 mm, меньше высоты изделия, %2 mm: то, что опускается прямо сверху, может задеть соседние изделия.</translation>
+    </message>
 </context>
 <context>
     <name>PointsFrame</name>
@@ -5290,6 +5294,10 @@ Pallet: %4</source>
     <message>
         <source>The %1 is stacked with the recipe &quot;%2&quot;, which stands behind this one: another would take its place. Disable the side and let its pallet end, or stop the program!</source>
         <translation>Рецепт «%2» (%1) стоит после этого: его место занял бы другой. Выключите сторону и дайте закончить паллету или остановите программу!</translation>
+    </message>
+    <message>
+        <source>The products on the %1 are not of the recipe&apos;s size. Take them off, or change the recipe back!</source>
+        <translation>Размер лежащих изделий не тот, что в рецепте (%1). Снимите их или верните рецепт!</translation>
     </message>
 </context>
 <context>

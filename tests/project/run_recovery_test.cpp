@@ -132,6 +132,35 @@ TEST(RunRecovery, ProposesAndAsks)
     }
 }
 
+TEST(RunRecovery, ProductsOfAnotherSizeAreNotStackedOn)
+{
+    const std::pair<const char *, bool> boxes[] = {
+        {"[[0, 0, 0, 0, 380, 260, 180]]", true},
+        {"[[0, 0, 0, 90, 260, 380, 180.4]]", true}, // lies the other way
+        {"[[0, 0, 0, 0, 380, 260, 100]]", false},
+        {"[[0, 0, 0, 0, 360, 280, 180]]", false},
+        {"[]", true},
+        {"[[1, 2]]", true},
+    };
+    Node list = stacks();
+    *list.find(u"#1")->ensure(u"product_cfg.product") =
+        nodeFromJson(R"({"length":380,"width":260,"height":180})");
+    for (const char *state : {"stopped", "paused"}) {
+        for (const auto &[lying, isOfSize] : boxes) {
+            const Cell cell{QLatin1String(state), 1, {1, 2}, 1, {1, 2}};
+            Node node = cellNode(cell);
+            *node.find(u"pallets.#0")->ensure(u"boxes") = nodeFromJson(lying);
+            const palx::RunRecovery run = palx::readRunRecovery(node, variablesOf(cell), list);
+            EXPECT_EQ(palx::isMiscounted(run), !isOfSize && run.isPaused) << lying;
+            if (run.isPaused)
+                continue;
+            EXPECT_EQ(palx::whyNotConfirm(run, 0, {1, 2}).startsWith("The products on the left pallet"),
+                      !isOfSize)
+                << lying;
+        }
+    }
+}
+
 TEST(RunRecovery, OnlyPiecesOfTheRecipeAreConfirmed)
 {
     const palx::RunRecovery run = read({});

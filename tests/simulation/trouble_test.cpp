@@ -122,7 +122,15 @@ TEST_F(Trouble, APowerCutKeepsWhatLiesAndWhatIsPersistent)
     EXPECT_EQ("the power was cut", line.runner().why());
     EXPECT_EQ(1, line.world().lostBoxes()) << "what was in the air";
     EXPECT_FALSE(isOn("DO2_6"));
+    orba::Node edited = *line.station().pallets().at(0); // which changes nothing of what lies there
+    const double height = edited.getDouble(u"product_cfg.product.height");
+    edited.find(u"product_cfg.product.height")->setDouble(height / 2);
+    EXPECT_EQ("", line.station().request("pallet.set.one", edited).refusal);
     line.restart();
+    EXPECT_NEAR(line.station().tree().find(u"nexo.cell.pallets.#0.boxes.#0")->number(6), height, 1e-6);
+    edited = *line.station().pallets().at(0);
+    edited.find(u"product_cfg.product.height")->setDouble(height);
+    EXPECT_EQ("", line.station().request("pallet.set.one", edited).refusal);
     const orba::Node &pallet = *line.station().tree().find(u"nexo.cell.pallets.#0");
     EXPECT_EQ(3, pallet.getInt(u"count"));
     EXPECT_EQ(1, pallet.getInt(u"layer"));

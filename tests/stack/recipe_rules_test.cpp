@@ -185,6 +185,38 @@ TEST(RecipePoints, NamesWhatGenerationWillMiss)
     }
 }
 
+TEST(RecipePoints, SayWhereACarriedProductIsTooLow)
+{
+    const char *const recipe =
+        R"({"product_cfg.product.height": 200, "layers": [{"pattern": "A"}, {"pattern": "A"}],
+        "patterns": {"A": [{"direction": "Top", "dx": 0, "dy": 30}, {"direction": "Middle", "dx": 9, "dy": 9}],
+                     "B": [{"direction": "Top", "dx": 0, "dy": 30}, {"direction": "Top", "dx": 0, "dy": 30}],
+                     "C": [{"direction": "Middle"}]}})";
+    const char *const onePoint = R"({"global_wobj": [{"calibration_method": 1}, {"calibration_method": 1}]})";
+    const struct
+    {
+        const char *stack, *plugin;
+        bool isLow;
+    } cases[] = {
+        {R"({"put.ready_h": 199})", "{}", true},
+        {R"({"put.ready_h": 200})", "{}", false},
+        {R"({"layers": [{"pattern": "A"}]})", "{}", false},
+        {R"({"layers": [{"pattern": "B"}, {"pattern": "A"}]})", "{}", false},
+        {R"({"layers": [{"pattern": "C"}, {"pattern": "C"}]})", "{}", false},
+        {R"({"patterns.B.#1.dy": 0, "layers": [{"pattern": "B"}, {"pattern": "B"}]})", "{}", true},
+        {R"({"use_global_wobj": true})", onePoint, false},
+        {"{}", onePoint, true},
+    };
+    for (const auto &c : cases) {
+        const std::unique_ptr<ModuleObject> plugin = makePluginTree();
+        ModuleObject *stack = addTestStack(plugin.get(), recipe);
+        applyPaths(stack->node(), c.stack);
+        applyPaths(plugin->node(), c.plugin);
+        EXPECT_EQ(!palx::lowWaypoints(stack->node(), plugin->node()).isEmpty(), c.isLow)
+            << c.stack << c.plugin;
+    }
+}
+
 TEST(RecipePoints, AreTaughtWhereTheRobotStands)
 {
     Node point = nodeFromJson(R"({"trans": [9.0, 9.0, 9.0], "conf": [7]})");

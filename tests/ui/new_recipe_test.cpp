@@ -93,7 +93,7 @@ TEST(NewRecipe, IsStackedInTheSimulatedCell)
     recipe.typePoint(Page::Waypoints, "grpPutEnter", 1250, -250, 600);
     recipe.typePoint(Page::Waypoints, "grpGetPoint", 1350, 0, 150);
     recipe.typePoint(Page::Waypoints, "grpGetEnter", 1150, 0, 650);
-    for (const auto &[field, height] : {std::pair{"spnPutReady", 150.0},
+    for (const auto &[field, height] : {std::pair{"spnPutReady", 250.0},
                                         {"spnPutApproach", 60.0},
                                         {"spnPutRetract", 180.0},
                                         {"spnPutExit", 320.0},

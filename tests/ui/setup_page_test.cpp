@@ -312,8 +312,11 @@ TEST(PointsFrame, SaysWhenPointsAreOutOfDate)
         "end": {"trans": [0.0, 0.0, 0.3]}})"));
     page.setup->pageDateRefresh();
     page.click(Points, "btnGenerate");
-    enter(page.at<QDoubleSpinBox>(Product, "spnHeight"), 111.0);
     auto *state = page.at<QLabel>(Points, "lblState");
+    EXPECT_TRUE(state->text().contains("ready height")) << state->text();
+    enter(page.at<QDoubleSpinBox>(Waypoints, "spnPutReady"), 120.0);
+    page.click(Points, "btnGenerate");
+    enter(page.at<QDoubleSpinBox>(Product, "spnHeight"), 111.0);
     EXPECT_TRUE(state->text().contains("generate")) << state->text();
     page.setup->undo();
     EXPECT_EQ(state->text(), "The points are up to date.");
