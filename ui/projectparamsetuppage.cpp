@@ -1,6 +1,8 @@
 #include "ui/projectparamsetuppage.h"
 
+#include "project/rules/program_template.h"
 #include "project/rules/project_record.h"
+#include "ui/recipe_frame.h"
 #include "ui_projectparamsetuppage.h"
 #include "workstation/plugin_node.h"
 
@@ -55,8 +57,11 @@ ProjectParamSetupPage::ProjectParamSetupPage(QWidget *parent)
     ui_->setupUi(this);
     connect(palx::triggerNode()->c("refresh_cmb"), &orba::ModuleObject::changed, this,
             &ProjectParamSetupPage::refreshCmb);
+    for (const QRadioButton *button : buttons(ui_->frameSchemeLayout))
+        connect(button, &QRadioButton::toggled, this, &ProjectParamSetupPage::showPrograms);
     refreshCmb();
     setDefault();
+    showPrograms();
 }
 
 ProjectParamSetupPage::~ProjectParamSetupPage() = default;
@@ -121,11 +126,24 @@ void ProjectParamSetupPage::dataToOrbaSaved(const QString &projectName) const
     palx::writeProjectParameters(projectName, values);
 }
 
+/// A project without programs would be made without a word.
+void ProjectParamSetupPage::showPrograms()
+{
+    palx::TemplateChoice choice;
+    choice.schemeLayout = getCheckedId(ui_->frameSchemeLayout);
+    const bool hasPrograms =
+        !palx::programTemplate(QStringLiteral("task0"), QStringLiteral("main"), choice).isEmpty();
+    showWarning(ui_->lblNoPrograms, hasPrograms ? QString()
+                                                : tr("There are no robot programs for this layout: they stay "
+                                                     "empty, and the robot does not move."));
+}
+
 void ProjectParamSetupPage::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui_->retranslateUi(this);
         refreshCmb();
+        showPrograms();
     }
     QWidget::changeEvent(event);
 }

@@ -38,5 +38,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void showPrograms();
+
     std::unique_ptr<Ui::ProjectParamSetupPage> ui_;
 };

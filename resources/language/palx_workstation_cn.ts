@@ -3072,6 +3072,14 @@ mm</translation>
         <source>empty</source>
         <translation>空</translation>
     </message>
+    <message>
+        <source>The scheme layout and the bollard, which is the lift column, choose the robot programs. The other choices are kept with the project.</source>
+        <translation>机器人程序由方案布局和升降柱决定。其他选择随项目保存。</translation>
+    </message>
+    <message>
+        <source>There are no robot programs for this layout: they stay empty, and the robot does not move.</source>
+        <translation>此方案布局没有机器人程序：程序为空，机器人不会动作。</translation>
+    </message>
 </context>
 <context>
     <name>RecipeEditing</name>

@@ -3072,6 +3072,14 @@ mm</translation>
         <source>empty</source>
         <translation>空</translation>
     </message>
+    <message>
+        <source>The scheme layout and the bollard, which is the lift column, choose the robot programs. The other choices are kept with the project.</source>
+        <translation>ロボットプログラムは構成と昇降柱で決まります。ほかの選択はプロジェクトとともに保存されます。</translation>
+    </message>
+    <message>
+        <source>There are no robot programs for this layout: they stay empty, and the robot does not move.</source>
+        <translation>この構成のロボットプログラムはありません。空のままで、ロボットは動きません。</translation>
+    </message>
 </context>
 <context>
     <name>RecipeEditing</name>

@@ -3072,6 +3072,14 @@ mm</translation>
         <source>empty</source>
         <translation>비어 있음</translation>
     </message>
+    <message>
+        <source>The scheme layout and the bollard, which is the lift column, choose the robot programs. The other choices are kept with the project.</source>
+        <translation>로봇 프로그램은 구성과 칼럼으로 정해집니다. 다른 선택은 프로젝트와 함께 보관됩니다.</translation>
+    </message>
+    <message>
+        <source>There are no robot programs for this layout: they stay empty, and the robot does not move.</source>
+        <translation>이 구성에는 로봇 프로그램이 없습니다. 비어 있어 로봇이 움직이지 않습니다.</translation>
+    </message>
 </context>
 <context>
     <name>RecipeEditing</name>

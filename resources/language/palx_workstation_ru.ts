@@ -3072,6 +3072,14 @@ mm</translation>
         <source>empty</source>
         <translation>пусто</translation>
     </message>
+    <message>
+        <source>The scheme layout and the bollard, which is the lift column, choose the robot programs. The other choices are kept with the project.</source>
+        <translation>Программы робота зависят от компоновки и колонны. Остальной выбор хранится с проектом.</translation>
+    </message>
+    <message>
+        <source>There are no robot programs for this layout: they stay empty, and the robot does not move.</source>
+        <translation>Для этой компоновки нет программ робота: они останутся пустыми, и робот не двинется.</translation>
+    </message>
 </context>
 <context>
     <name>RecipeEditing</name>

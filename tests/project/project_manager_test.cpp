@@ -41,10 +41,13 @@ protected:
 TEST_F(ProjectPage, AddsWhatWasChosen)
 {
     click("btnAdd");
+    click("rBtnDoubleLineBothSizes");
+    EXPECT_TRUE(find<QLabel>("lblNoPrograms")->text().startsWith("There are no robot programs"));
     find<QLineEdit>("edtName")->setText(QStringLiteral("Line 1"));
     for (const char *button : {"rBtnSingleLineBothSizes", "rBtnDepalletizing", "rBtnDoubleSuction",
                                "rBtnWithoutBollard", "rBtnWithoutClapboard"})
         click(button);
+    EXPECT_EQ(find<QLabel>("lblNoPrograms")->text(), "");
     auto *recipes = find<QComboBox>("cmbLeftRecipe");
     palx::stacksNode()->addUnnamed()->copyFrom(nodeFromJson(R"({"name": "Boxes", "pallet_position": 0})"));
     palx::triggerNode()->c("refresh_cmb")->trigger();
