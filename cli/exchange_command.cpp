@@ -171,8 +171,13 @@ int runImport(const ImportRequest &request)
     if (!read.error.isEmpty())
         return refuse(read.error);
     const std::vector<bool> all(palx::recipeIndexes(read.content).size(), true);
-    const Node recipes =
-        describe(read, palx::planImport(palx::stacksNode()->node(), read.content, all, request.onClash));
+    const std::vector<ImportStep> steps =
+        palx::planImport(palx::stacksNode()->node(), read.content, all, request.onClash);
+    const QString problem =
+        palx::whyNotImport(palx::currentRunRecovery(), palx::stacksNode()->node(), steps);
+    if (!problem.isEmpty())
+        return refuse(problem);
+    const Node recipes = describe(read, steps);
     const palx::KeptRecipes kept;
     palx::importRecipes(palx::stacksNode(), read.content, all, request.onClash, progress);
     palx::finishImport();

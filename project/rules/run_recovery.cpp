@@ -246,8 +246,7 @@ QString whyNotRename(const RunRecovery &run, const QString &name)
         const SideRun &side = run.sides[static_cast<std::size_t>(i)];
         if (isServed(run, i) && (side.recipe == name || side.followed == name))
             return Text::tr("The %1 is stacked with the recipe \"%2\". Disable the side and let its pallet "
-                            "end, or stop the "
-                            "program!")
+                            "end, or stop the program!")
                 .arg(sideName(i), name);
         if (side.products > 0 && side.followed == name)
             return Text::tr("Products of the recipe \"%1\" lie on the %2!").arg(name, sideName(i));
@@ -262,8 +261,8 @@ QString whyNotMove(const RunRecovery &run, const Node &stacks, const QString &na
         const QString used = run.sides[static_cast<std::size_t>(i)].recipe;
         if (isServed(run, i) && names.contains(name) && names.indexOf(name) < names.indexOf(used))
             return Text::tr("The %1 is stacked with the recipe \"%2\", which stands behind this one: another "
-                            "would take its "
-                            "place. Disable the side and let its pallet end, or stop the program!")
+                            "would take its place. Disable the side and let its pallet end, or stop the "
+                            "program!")
                 .arg(sideName(i), used);
     }
     return whyNotRename(run, name);

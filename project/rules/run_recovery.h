@@ -76,8 +76,9 @@ PALX_API orba::Node confirmedVariables(const RunRecovery &run, int side, PalletP
 
 /// Why the side may not be enabled, for the operator; empty when it may. While a program runs or is paused it may.
 PALX_API QString whyNotEnable(const RunRecovery &run, int side);
-/// Programs know a recipe by its name while they stack it, and by its place among those of its side for the next pallet. Why
-/// a recipe may not get another name, for the operator: a side that is enabled or being stacked uses it, or its products lie on a pallet. Empty when it may.
+/// Programs know a recipe by its name while they stack it, and by its place among those of its side for the next
+/// pallet. Why a recipe may not get another name, for the operator: a side that is enabled or being stacked uses
+/// it, or its products lie on a pallet. Empty when it may.
 PALX_API QString whyNotRename(const RunRecovery &run, const QString &name);
 /// Why a recipe may not leave its place, to be deleted or to go to the other side: the same, or a side would take
 /// another recipe from then on, because its own stands behind it.

@@ -207,8 +207,7 @@ QString enableProblem(const RunSide &side, const Node *stack)
         return noPoints();
     return pointsState(*stack) == PointsState::Outdated
                ? Text::tr("The recipe or the shared settings were changed after the points were made. "
-                          "Generate them again on the "
-                          "page \"Points\".")
+                          "Generate them again on the page \"Points\".")
                : QString();
 }
 
