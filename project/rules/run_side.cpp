@@ -205,6 +205,8 @@ QString enableProblem(const RunSide &side, const Node *stack)
         return Text::tr("The controller names a recipe that is not here.");
     if (pointLayers(*stack) == 0)
         return noPoints();
+    if (piecesBefore(*stack, pointLayers(*stack) + 1, 1, false) == 0)
+        return Text::tr("The recipe lays no products. Put some into the patterns of its layers.");
     return pointsState(*stack) == PointsState::Outdated
                ? Text::tr("The recipe or the shared settings were changed after the points were made. "
                           "Generate them again on the page \"Points\".")

@@ -89,8 +89,8 @@ PALX_API RunState runState(const RunSide &side, const orba::Node &program, const
 
 /// Why another recipe cannot be chosen now; empty when it can.
 PALX_API QString recipeChangeProblem(const RunSide &side);
-/// Why the side cannot be enabled: it has no recipe, or one whose points are missing or older than what it says of the
-/// products, so that the robot would set down others than it carries. Empty when it can.
+/// Why the side cannot be enabled: it has no recipe, or one without products, or one whose points are missing or older than
+/// what it says of the products, so that the robot would set down others than it carries. Empty when it can.
 PALX_API QString enableProblem(const RunSide &side, const orba::Node *stack);
 
 PALX_API VariableChanges enableChanges(LineSide side, bool on);

@@ -5305,6 +5305,10 @@ Pallet: %4</source>
         <source>The products on the %1 are not of the recipe&apos;s size. Take them off, or change the recipe back!</source>
         <translation>%1上的产品尺寸与配方不符。请取下产品或改回配方！</translation>
     </message>
+    <message>
+        <source>The recipe lays no products. Put some into the patterns of its layers.</source>
+        <translation>配方没有放置产品。请在其各层的垛型中添加产品。</translation>
+    </message>
 </context>
 <context>
     <name>xFileDialog</name>

@@ -5305,6 +5305,10 @@ Pallet: %4</source>
         <source>The products on the %1 are not of the recipe&apos;s size. Take them off, or change the recipe back!</source>
         <translation>%1の製品はレシピの寸法と違います。取り除くか、レシピを元に戻してください！</translation>
     </message>
+    <message>
+        <source>The recipe lays no products. Put some into the patterns of its layers.</source>
+        <translation>レシピには置く製品がありません。段のパターンに製品を入れてください。</translation>
+    </message>
 </context>
 <context>
     <name>xFileDialog</name>

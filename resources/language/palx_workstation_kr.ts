@@ -5305,6 +5305,10 @@ Pallet: %4</source>
         <source>The products on the %1 are not of the recipe&apos;s size. Take them off, or change the recipe back!</source>
         <translation>%1의 제품 크기가 레시피와 다릅니다. 제품을 치우거나 레시피를 되돌리십시오!</translation>
     </message>
+    <message>
+        <source>The recipe lays no products. Put some into the patterns of its layers.</source>
+        <translation>레시피에 놓을 제품이 없습니다. 단의 패턴에 제품을 넣으십시오.</translation>
+    </message>
 </context>
 <context>
     <name>xFileDialog</name>

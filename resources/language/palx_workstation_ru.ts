@@ -5307,6 +5307,10 @@ Pallet: %4</source>
         <source>The products on the %1 are not of the recipe&apos;s size. Take them off, or change the recipe back!</source>
         <translation>Размер лежащих изделий не тот, что в рецепте (%1). Снимите их или верните рецепт!</translation>
     </message>
+    <message>
+        <source>The recipe lays no products. Put some into the patterns of its layers.</source>
+        <translation>Рецепт не укладывает изделий. Добавьте их в схемы его слоёв.</translation>
+    </message>
 </context>
 <context>
     <name>xFileDialog</name>

@@ -309,6 +309,13 @@ TEST_F(RunPageTest, ARecipeIsStackedOnlyWithPointsOfItsOwnAndLiftsByItsProduct)
     press(LineSide::Left, "btnEnable");
     EXPECT_TRUE(message().contains("Generate them again")) << message();
     EXPECT_EQ(variable("enableStackL"), 0);
+    const orba::Node patterns = stack->c("patterns")->node();
+    for (orba::ModuleObject *pattern : stack->c("patterns")->cmobjs())
+        pattern->copyFrom(nodeFromJson("[]"));
+    palx::genPointsAndSaveToRC(stack, false);
+    press(LineSide::Left, "btnEnable");
+    EXPECT_TRUE(message().startsWith("The recipe lays no products")) << message();
+    stack->c("patterns")->copyFrom(patterns);
     palx::genPointsAndSaveToRC(stack, false);
     press(LineSide::Left, "btnEnable");
     EXPECT_EQ(variable("enableStackL"), 1);
