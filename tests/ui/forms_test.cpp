@@ -254,6 +254,12 @@ TEST(Forms, PagesFitThePanelsTheyAreMadeFor)
             EXPECT_FALSE(area->verticalScrollBar()->isVisible()) << frame->objectName() << size.width();
             EXPECT_FALSE(area->horizontalScrollBar()->isVisible()) << frame->objectName() << size.width();
         });
+        pages.setup->wgt()->findChild<MessageBar *>()->showMessage("A message", ix::xtheme::State::Attention);
+        eachFrame(pages, Parts::First, [&](RecipeFrame *frame, QScrollArea *area) {
+            QCoreApplication::processEvents();
+            EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << frame->objectName() << size.width();
+        });
+        EXPECT_EQ(pages.center.size(), size);
         EXPECT_EQ(pages.center.size(), size); // nothing pushed the window open
     }
 }
