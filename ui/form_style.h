@@ -24,4 +24,4 @@ void setTouchScrolling(QAbstractScrollArea *area);
 void keepFromWheel(QWidget *form);
 
 /// A form in an area that scrolls on a small panel or when a language needs more room. Owns the form.
-QWidget *scrollingForm(QWidget *form);
+PALX_API QWidget *scrollingForm(QWidget *form);

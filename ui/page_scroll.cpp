@@ -12,7 +12,6 @@ PageScroll::PageScroll(QWidget *page)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWidget(page);
     setTouchScrolling(this);
-    keepFromWheel(page);
     // With the bar beside it the page wants the same width as before.
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &QWidget::updateGeometry);
 }

@@ -203,18 +203,21 @@ void RunFrame::ask(RunSideCard *card, const palx::VariableChanges &changes)
 
 void RunFrame::setEnabledSide(RunSideCard *card, bool on)
 {
-    const palx::RunRecovery run = palx::currentRunRecovery();
     if (!on)
         return ask(card, palx::enableChanges(card->side(), false));
-    QString problem = recipeProblem(card);
-    if (problem.isEmpty() && palx::needsConfirmation(run, numberOf(card)))
+    if (const QString problem = recipeProblem(card); !problem.isEmpty()) {
+        refuse(problem);
+        refused_ = card;
+        return;
+    }
+    const palx::RunRecovery run = palx::currentRunRecovery();
+    if (palx::needsConfirmation(run, numberOf(card)))
         return recover(card, true);
+    const QString problem = palx::whyNotEnable(run, numberOf(card));
     if (problem.isEmpty())
-        problem = palx::whyNotEnable(run, numberOf(card));
-    if (problem.isEmpty())
-        return ask(card, enablingChanges(card));
-    refuse(problem);
-    refused_ = recipeProblem(card).isEmpty() ? nullptr : card;
+        ask(card, enablingChanges(card));
+    else
+        refuse(problem);
 }
 
 /// What was refused because of the recipes may be true no more.

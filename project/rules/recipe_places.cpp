@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
 namespace palx {
 
 namespace {
@@ -50,8 +52,12 @@ QString whyNotTakeBack(const RunRecovery &run, const orba::Node &stacks, const L
 
 QString whyNotInsert(const RunRecovery &run, const orba::Node &stacks, int place)
 {
+    bool isSeen[2] = {}; // who moves the first recipe of a side moves all behind it
     for (int i = place; i < stacks.size(); ++i) {
-        const QString problem = whyNotMove(run, stacks, stacks.getString(QStringLiteral("#%1.name").arg(i)));
+        const orba::Node *stack = stacks.at(i);
+        if (!stack || std::exchange(isSeen[stack->getInt(u"pallet_position") == 0], true))
+            continue;
+        const QString problem = whyNotMove(run, stacks, stack->getString(u"name"));
         if (!problem.isEmpty())
             return problem;
     }

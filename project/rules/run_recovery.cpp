@@ -34,16 +34,8 @@ QString onSide(const char *variable, int side)
 
 int numberOf(const Node &variables, const QString &name, int fallback)
 {
-    const Node *variable = recordOfName(variables, name);
-    const Node *value = variable ? variable->find(u"value.[0][0][0]") : nullptr;
+    const Node *value = valueOfVariable(variables, name);
     return value ? static_cast<int>(value->toInt()) : fallback;
-}
-
-bool isOn(const Node &variables, const QString &name)
-{
-    const Node *variable = recordOfName(variables, name);
-    const Node *value = variable ? variable->find(u"value.[0][0][0]") : nullptr;
-    return value && value->toBool();
 }
 
 QVector<int> piecesOfLayers(const Node &stack)
@@ -81,7 +73,8 @@ void readCounters(const Node &variables, const Node &stacks, int side, SideRun *
 {
     const QStringList names = sideRecipes(stacks, side == 0);
     run->recipe = names.value(numberOf(variables, onSide("palletIndex", side), 0));
-    run->isEnabled = isOn(variables, onSide("enableStack", side));
+    const Node *enabled = valueOfVariable(variables, onSide("enableStack", side));
+    run->isEnabled = enabled && enabled->toBool();
     if (const Node *stack = run->recipe.isEmpty() ? nullptr : recordOfName(stacks, run->recipe))
         run->pieces = piecesOfLayers(*stack);
     run->counted = firstFrom(run->pieces, {numberOf(variables, onSide("currentLayer", side), 1),
@@ -257,9 +250,11 @@ QString whyNotRename(const RunRecovery &run, const QString &name)
 QString whyNotMove(const RunRecovery &run, const Node &stacks, const QString &name)
 {
     for (int i = 0; i < 2; ++i) {
+        if (!isServed(run, i))
+            continue;
         const QStringList names = sideRecipes(stacks, i == 0);
         const QString used = run.sides[static_cast<std::size_t>(i)].recipe;
-        if (isServed(run, i) && names.contains(name) && names.indexOf(name) < names.indexOf(used))
+        if (names.contains(name) && names.indexOf(name) < names.indexOf(used))
             return Text::tr("The %1 is stacked with the recipe \"%2\", which stands behind this one: another "
                             "would take its place. Disable the side and let its pallet end, or stop the "
                             "program!")

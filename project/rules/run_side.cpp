@@ -39,9 +39,8 @@ public:
 private:
     const Node &valueOf(const QString &name) const
     {
-        static const Node none;
-        const Node *variable = recordOfName(variables_, name);
-        const Node *value = variable ? variable->find(u"value.[0][0][0]") : nullptr;
+        static const Node none{};
+        const Node *value = valueOfVariable(variables_, name);
         return value ? *value : none;
     }
     static int wholeNumber(const Node &value) { return static_cast<int>(value.toInt()); }
@@ -80,6 +79,12 @@ QString noPoints()
 }
 
 } // namespace
+
+const Node *valueOfVariable(const Node &variables, const QString &name)
+{
+    const Node *variable = recordOfName(variables, name);
+    return variable ? variable->find(u"value.[0][0][0]") : nullptr;
+}
 
 QString sideVariable(const char *stem, LineSide side)
 {

@@ -15,6 +15,9 @@ constexpr LineSide kLineSides[] = {LineSide::Left, LineSide::Right};
 /// "currentLayer" of the left side is "currentLayerL".
 PALX_API QString sideVariable(const char *stem, LineSide side);
 
+/// The value of a scalar of a project; null when it has none of that name.
+PALX_API const orba::Node *valueOfVariable(const orba::Node &variables, const QString &name);
+
 /// What one side is read from.
 struct PALX_API RunSource
 {

@@ -5,6 +5,7 @@
 #include "ui/controller_dialog.h"
 #include "ui/exchange_table_model.h"
 #include "ui/form_checks.h"
+#include "ui/form_style.h"
 #include "ui/hold_button.h"
 #include "ui/imexportdialog.h"
 #include "ui/imexportprojectdialog.h"
@@ -338,9 +339,10 @@ TEST(Forms, TheWheelMovesThePageAndNoValue)
     field->setValue(20);
     layout->addWidget(field);
     page->setMinimumHeight(2000);
-    PageScroll scroll(page);
-    scroll.resize(300, 200);
-    scroll.show();
+    const std::unique_ptr<QWidget> form(scrollingForm(page));
+    const auto *scroll = qobject_cast<QScrollArea *>(form.get());
+    form->resize(300, 200);
+    form->show();
     QCoreApplication::processEvents();
     auto *edit = field->findChild<QLineEdit *>();
     QWheelEvent wheel(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
@@ -349,5 +351,5 @@ TEST(Forms, TheWheelMovesThePageAndNoValue)
         &wheel); // as from the window system, or it would not go on to what lies below
     qApp->notify(edit, &wheel);
     EXPECT_EQ(field->value(), 20);
-    EXPECT_GT(scroll.verticalScrollBar()->value(), 0);
+    EXPECT_GT(scroll->verticalScrollBar()->value(), 0);
 }

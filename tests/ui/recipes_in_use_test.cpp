@@ -42,12 +42,6 @@ protected:
         palx::saveAllToRC(false);
         cell.settle();
     }
-    static controller::StationOptions stationIn(const QTemporaryDir &folder)
-    {
-        controller::StationOptions options;
-        options.workspaceFolder = folder.path();
-        return options;
-    }
     /// The left side uses its second recipe.
     void enableSecond(bool on)
     {
@@ -90,14 +84,6 @@ protected:
         for (int i = 0; i < reply.value.size(); ++i)
             names << reply.value.at(i)->getString(u"name");
         return names.join(' ');
-    }
-    /// Of the left side's recipe, by its programs' counting.
-    static qint64 place()
-    {
-        for (const orba::ModuleObject *each : m("quill.project.var._list")->cmobjs())
-            if (each->getString("name") == "palletIndexL")
-                return each->r("value.#0")->getInt();
-        return -1;
     }
     static QString names()
     {
@@ -187,14 +173,14 @@ TEST_F(RecipesInUseTest, ImportsLeaveThemToTheSidesThatUseThem)
     enableSecond(false);
     replaceFirst(); // which stands last then
     EXPECT_EQ(held(), "Cell right Used First");
-    EXPECT_EQ(place(), 0);
+    EXPECT_EQ(RobotCell::variable("palletIndexL"), 0);
     cell.presenter.answer(true);
     partOf<QPushButton>(*pages.field<QListView>("lstRecipes")->parentWidget()->findChild<MessageBar *>(),
                         "btnAction")
         ->click();
     cell.settle();
     EXPECT_EQ(held(), "First Cell right Used");
-    EXPECT_EQ(place(), 1);
+    EXPECT_EQ(RobotCell::variable("palletIndexL"), 1);
 }
 
 TEST_F(RecipesInUseTest, ProgramsThatRunGetNoListInAnotherOrder)

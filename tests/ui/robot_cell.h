@@ -9,6 +9,14 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QTemporaryDir>
+
+inline controller::StationOptions stationIn(const QTemporaryDir &folder)
+{
+    controller::StationOptions options;
+    options.workspaceFolder = folder.path();
+    return options;
+}
 
 /// A panel's host nodes and its link to a simulated controller, whose time the test turns.
 class RobotCell
@@ -45,6 +53,16 @@ public:
             move->giveSign();
             pass(0.1);
         }
+    }
+    /// A scalar of the current project; -1 when it has none of that name.
+    static qint64 variable(const QString &name)
+    {
+        for (const orba::ModuleObject *each : m("quill.project.var._list")->cmobjs())
+            if (each->getString("name") == name)
+                return each->r("value.#0")->getString() == QLatin1String("true")
+                           ? 1
+                           : each->r("value.#0")->getInt();
+        return -1;
     }
     const orba::Node &robot() { return *carrier->core().station().tree().find(u"nexo.robot"); }
     bool isMoving() { return robot().getBool(u"moving"); }

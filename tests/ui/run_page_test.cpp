@@ -27,13 +27,6 @@ using palx::LineSide;
 
 namespace {
 
-controller::StationOptions stationIn(const QTemporaryDir &folder)
-{
-    controller::StationOptions options;
-    options.workspaceFolder = folder.path();
-    return options;
-}
-
 class RunPageTest : public ::testing::Test
 {
 protected:
@@ -92,15 +85,7 @@ protected:
         cell.pass(seconds / 100);
         settle();
     }
-    static qint64 variable(const QString &name)
-    {
-        for (const orba::ModuleObject *each : m("quill.project.var._list")->cmobjs())
-            if (each->getString("name") == name)
-                return each->r("value.#0")->getString() == QLatin1String("true")
-                           ? 1
-                           : each->r("value.#0")->getInt();
-        return -1;
-    }
+    static qint64 variable(const QString &name) { return RobotCell::variable(name); }
     StartDialog *dialog() const
     {
         for (StartDialog *found : page->findChildren<StartDialog *>())
